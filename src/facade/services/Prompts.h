@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class QObject;
+
+namespace QV_DOC_CONTROLS {
+
+enum class Icon { None, Information, Exclamation, Question, Critical };
+
+struct Message {
+    Icon icon = Icon::None;
+    QString title, text;
+    bool operator==(const Message &) const = default;
+};
+/// One of several things.
+struct Choice {
+    QString title, text;
+    QStringList items;
+    int preset = 0;                             ///< index of the item offered first
+};
+struct FileQuestion {
+    QString title;
+    QString filter;                             ///< "name|pattern|name|pattern"
+    QString path;                               ///< file or folder proposed
+    QString suffix;                             ///< added when the user types none, e.g. "z3l"
+};
+
+/// The only door to the user: every message, question and file choice. The product puts boxes behind it, tests a
+/// script. `asker` is the window (or a widget in it) that the box belongs to; null = the active window.
+struct Prompts {
+    virtual ~Prompts() = default;
+    virtual void tell(const Message &, QObject *asker = nullptr) = 0;
+    virtual bool yesNo(const Message &, QObject *asker = nullptr) = 0;             ///< closing the box is No
+    virtual std::optional<int> choose(const Choice &, QObject *asker = nullptr) = 0; ///< empty = cancelled
+    virtual QString openFile(const FileQuestion &, QObject *asker = nullptr) = 0;  ///< empty = cancelled
+    virtual QString saveFile(const FileQuestion &, QObject *asker = nullptr) = 0;  ///< empty = cancelled; asks before replacing
+};
+
+Prompts &prompts();
+Prompts *setPrompts(Prompts *);                 ///< null = the library's boxes; returns what was set before
+void setDefaultPrompts(Prompts &(*make)());     ///< who makes the library's boxes; called once, at load
+
+} // namespace QV_DOC_CONTROLS
