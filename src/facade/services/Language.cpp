@@ -124,7 +124,7 @@ void addStringTables(const QString &folder)
 QString languageNameOf(int localeId)
 {
     const auto row = std::ranges::find(kLanguages, localeId, &LanguageRow::localeId);
-    return row == std::end(kLanguages) ? QString() : QString(QStringView(row->name));
+    return row == std::end(kLanguages) ? QString() : QString::fromUtf16(row->name);
 }
 
 QString txt(Text t)
