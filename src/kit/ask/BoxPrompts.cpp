@@ -1,0 +1,116 @@
+#include "kit/ask/BoxPrompts.h"
+
+#include "facade/services/Text.h"
+#include "kit/ask/ChoiceBox.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace QV_DOC_CONTROLS {
+namespace {
+
+QWidget *windowOf(QObject *asker)
+{
+    auto *const widget = qobject_cast<QWidget *>(asker);
+    return widget ? widget->window() : QApplication::activeWindow();
+}
+
+QMessageBox::Icon boxIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::Exclamation: return QMessageBox::Warning;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Critical: return QMessageBox::Critical;
+    case Icon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// A box whose text is shown as it is: names from a drawing may hold what looks like markup.
+struct Box : QMessageBox {
+    Box(const Message &m, QObject *asker) : QMessageBox(windowOf(asker))
+    {
+        setIcon(boxIcon(m.icon));
+        setWindowTitle(m.title);
+        setTextFormat(Qt::PlainText);
+        setText(m.text);
+    }
+};
+
+/// "name|pattern|name|pattern" as file dialogs want it.
+QStringList nameFilters(const QString &filter)
+{
+    const QStringList parts = filter.split(u'|');
+    QStringList out;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].section(u'(', 0, 0).trimmed();
+        QString patterns = parts[i + 1];
+        patterns.remove(u')').replace(u';', u' ');
+        out << (name.isEmpty() || name == patterns ? patterns : name + QStringLiteral(" (%1)").arg(patterns));
+    }
+    return out;
+}
+
+QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode mode)
+{
+    QFileDialog dialog(windowOf(asker), q.title);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setNameFilters(nameFilters(q.filter));
+    dialog.setDefaultSuffix(q.suffix);
+    const QFileInfo proposed(q.path);
+    if (proposed.isDir()) dialog.setDirectory(q.path);
+    else if (!q.path.isEmpty()) {
+        dialog.setDirectory(proposed.absolutePath());
+        dialog.selectFile(proposed.fileName());
+    }
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+Prompts &boxes()
+{
+    static BoxPrompts all;
+    return all;
+}
+[[maybe_unused]] const bool s_entered = (setDefaultPrompts(&boxes), true);
+
+} // namespace
+
+void BoxPrompts::tell(const Message &m, QObject *asker)
+{
+    Box box(m, asker);
+    box.setDefaultButton(box.addButton(txt(Text{2802, u"OK"}), QMessageBox::AcceptRole));
+    box.exec();
+}
+
+bool BoxPrompts::yesNo(const Message &m, QObject *asker)
+{
+    Box box(m, asker);
+    const QPushButton *yes = box.addButton(txt(Text{3206, u"Igen"}), QMessageBox::YesRole);
+    QPushButton *const no = box.addButton(txt(Text{3205, u"Nem"}), QMessageBox::NoRole);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+std::optional<int> BoxPrompts::choose(const Choice &c, QObject *asker)
+{
+    ChoiceBox box(c, windowOf(asker));
+    return box.exec() == QDialog::Accepted ? std::optional(box.chosen()) : std::nullopt;
+}
+
+QString BoxPrompts::openFile(const FileQuestion &q, QObject *asker)
+{
+    return askFile(q, asker, QFileDialog::AcceptOpen);
+}
+
+QString BoxPrompts::saveFile(const FileQuestion &q, QObject *asker)
+{
+    return askFile(q, asker, QFileDialog::AcceptSave);
+}
+
+} // namespace QV_DOC_CONTROLS
