@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTreeView>
+#include <QtTest/qtestdata.h>
 #include <QtTest/qtestkey.h>
 #include <QtTest/qtestmouse.h>
 

@@ -9,6 +9,7 @@
 #include <QAbstractItemModel>
 #include <QTreeView>
 #include <QtTest/qtestcase.h>
+#include <QtTest/qtestdata.h>
 #include <QtTest/qsignalspy.h>
 
 using namespace QV_DOC_CONTROLS;

@@ -5,6 +5,7 @@
 
 #include <QtTest/qsignalspy.h>
 #include <QtTest/qtestcase.h>
+#include <QtTest/qtestdata.h>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -37,10 +38,9 @@ struct Host final : ZolWDoc::HostServices {
     Runtime runtime;
     Settings own;
     Errors reporter;
-    LanguageRuntime *language() override { return &runtime; }
+    ZolWDoc::LanguageRuntime *language() override { return &runtime; }
     ZolWDoc::SettingsService *settings() override { return &own; }
     ZolWDoc::ErrorReporter *errors() override { return &reporter; }
-    using LanguageRuntime = ZolWDoc::LanguageRuntime;
 };
 
 } // namespace
