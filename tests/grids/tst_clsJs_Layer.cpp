@@ -8,9 +8,8 @@
 
 #include <QAbstractItemModel>
 #include <QTreeView>
-#include <QtTest/qtestcase.h>
-#include <QtTest/qtestdata.h>
-#include <QtTest/qsignalspy.h>
+#include <QTest>
+#include <QSignalSpy>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;

@@ -5,10 +5,11 @@
 #include <QStandardPaths>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 #ifdef QVDC_WITH_WIDGETS
 #include <QApplication>
+#include <QWidget>
 using Application = QApplication;
 #else
 #include <QCoreApplication>
