@@ -152,7 +152,8 @@ TOKEN = re.compile(r"""
 """, re.VERBOSE | re.DOTALL)
 Token = namedtuple("Token", "kind value line")
 SIMPLE = {"n": "\n", "t": "\t", "r": "\r", "a": "\a", "b": "\b", "f": "\f", "v": "\v"}
-C_ESCAPE = re.compile(r"\\(?:u([\da-fA-F]{4})|U([\da-fA-F]{8})|x([\da-fA-F]+)|([0-7]{1,3})|(\n)|(.))", re.DOTALL)
+C_ESCAPE = re.compile(r"\\(?:u([\da-fA-F]{4})|U([\da-fA-F]{8})|x([\da-fA-F]+)"
+                      r"|([0-7]{1,3})|(\n)|(.))", re.DOTALL)
 
 
 def c_text(literal):
