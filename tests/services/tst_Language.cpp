@@ -3,7 +3,6 @@
 #include "facade/services/Text.h"
 #include "support/Registry.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace QV_DOC_CONTROLS;
