@@ -4,17 +4,18 @@ namespace refhost::village {
 namespace {
 
 constexpr double kFrom = -374, kTo = 380, kBank = 1.8, kFieldEnd = -340, kBridgeHalf = 4.2;
+const double kOver = fieldLane(brook(kBridgeAt));      // u where the road crosses the brook
 
 } // namespace
 
 void draftBrook(Draft &d)
 {
     for (double side : {-1.0, 1.0}) {
-        d.line(401, along(brook, kFrom, kBridgeAt - kBridgeHalf, side * kBank, 12));
-        d.line(401, along(brook, kBridgeAt + kBridgeHalf, kTo, side * kBank, 12));
+        d.line(401, along(brook, kFrom, kOver - kBridgeHalf, side * kBank, 12));
+        d.line(401, along(brook, kOver + kBridgeHalf, kTo, side * kBank, 12));
     }
     for (double u = kFrom + 12; u < kTo - 70; u += 84) {       // the banks' upper edges, ticks down to the water
-        if (std::abs(u + 30 - kBridgeAt) < 48) continue;
+        if (std::abs(u + 30 - kOver) < 40) continue;
         d.line(408, along(brook, u, u + 60, kBank + 1.9, 8));
         d.line(408, along(brook, u + 68, u + 8, kBank + 1.9, 8));
     }
@@ -24,7 +25,7 @@ void draftBrook(Draft &d)
     }
     for (double u = kFrom + 20; u < kTo; u += d.dice.in(9, 26)) {
         const double side = d.dice.chance(0.5) ? 1 : -1;
-        if (std::abs(u - kBridgeAt) < 12) continue;
+        if (std::abs(u - kOver) < 12) continue;
         d.symbol(403, d.dice.chance(0.7) ? 11 : 14, {u, brook(u) + side * d.dice.in(6.4, 9)}, 0, std::round(d.dice.in(8, 14)) / 10);
     }
 }
@@ -39,15 +40,15 @@ void northFields(Draft &d)
     d.line(106, along(rim, kFrom, kTo));
     for (double u = kFrom; u < kTo - 20; ++nr) {
         const double to = std::min(kTo, u + d.dice.in(34, 66));
-        const double depth = 44 + 9 * std::sin(to / 60) - 0.1 * to;
+        const double depth = 44 + 9 * std::sin(to / 60) - 0.03 * to;
         d.line(106, {{to, rim(to)}, {to + 3, rim(to) + depth}});
-        d.line(106, {{u + 3, rim(u) + 44 + 9 * std::sin(u / 60) - 0.1 * u}, {to + 3, rim(to) + depth}});
+        d.line(106, {{u + 3, rim(u) + 44 + 9 * std::sin(u / 60) - 0.03 * u}, {to + 3, rim(to) + depth}});
         const Spot middle{(u + to) / 2, rim((u + to) / 2) + depth * 0.5};
         d.text(102, 1, middle, QStringLiteral("0%1").arg(nr), {1, 0});
         const bool vines = d.dice.chance(0.35);
         d.text(104, 2, middle + Spot{0, -5}, vines ? QStringLiteral("szőlő") : QStringLiteral("szántó"), {1, 0});
-        for (double row = u + 5; vines && row < to - 4; row += 6)
-            for (double v : {8.0, 16.0, 31.0}) d.symbol(403, 16, {row + 1, rim(row) + v});
+        for (double row = u + 5; vines && row < to - 4; row += 5)
+            for (double v : {6.0, 12.0, 18.0, 30.0, 36.0}) d.symbol(403, 16, {row + 1, rim(row) + v});
         u = to;
     }
 }
@@ -58,8 +59,8 @@ void draftFields(Draft &d)
 {
     northFields(d);
     const auto bank = [](double u) { return brook(u) - kHalfBrook; };
-    d.line(106, along(brook, kFrom, kBridgeAt - 6, -kHalfBrook));
-    d.line(106, along(brook, kBridgeAt + 6, kTo, -kHalfBrook));
+    d.line(106, along(brook, kFrom, kOver - 6, -kHalfBrook));
+    d.line(106, along(brook, kOver + 6, kTo, -kHalfBrook));
     int nr = 12;
     const char16_t *kinds[] = {u"szántó", u"szántó", u"rét", u"legelő", u"szántó"};
     for (double u = kFrom; u < kTo - 20;) {

@@ -113,7 +113,7 @@ void lane(Draft &d, const Lane &l)
 void fieldRoad(Draft &d)
 {
     const Course course = fieldLane;
-    const double top = lowerStreet(kBridgeAt) - kStreets[2].paved, bank = brook(kBridgeAt);
+    const double top = lowerStreet(kBridgeAt) - kStreets[2].paved, bank = brook(fieldLane(brook(kBridgeAt)));
     for (double side : {-1.9, 1.9}) {
         d.line(301, across(course, bank - 7, kRoadEnd, side));
         d.line(301, across(course, top, bank + 7, side));

@@ -111,7 +111,7 @@ void garden(Draft &d, const Plot &p, double from)
             d.text(104, 2, p.at(p.width() - 2.6, from + 3), QStringLiteral("b"), p.front());
         }
     }
-    const int trees = d.dice.below(4);
+    const int trees = 1 + d.dice.below(4);
     for (int i = 0; i < trees; ++i) {
         const double deep = d.dice.in(std::min(from + 2, p.depth() * 0.8), p.depth() * 0.95), t = deep / p.depth();
         const Spot at = between(between(p.frontLeft, p.backLeft, t), between(p.frontRight, p.backRight, t), d.dice.in(0.15, 0.85));

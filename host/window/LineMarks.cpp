@@ -5,6 +5,7 @@
 #include "window/SceneBuilder.h"
 
 #include <cmath>
+#include <iterator>
 #include <numeric>
 
 namespace refhost {
@@ -20,13 +21,36 @@ Polyline polylineOf(const QPolygonF &line)
     return out;
 }
 
-void appendDash(QPainterPath &to, const Polyline &dash, double dot)
+QPolygonF dashOf(const Polyline &points, double dot)
 {
     QPolygonF line;
-    for (const ZolWDoc::PointMm &p : dash) line.append({p.x, p.y});
+    for (const ZolWDoc::PointMm &p : points) line.append({p.x, p.y});
     const QPointF span = line.back() - line.front();
     if (line.size() == 2 && std::hypot(span.x(), span.y()) < dot) line = {line.front(), line.front() + QPointF(dot, 0)};
-    to.addPolygon(line);
+    return line;
+}
+
+/// Closes the part when it is large enough that a view may want to leave it out.
+void addTo(Pattern &to, const PatternPart &kind, const QPainterPath &path)
+{
+    constexpr int most = 400; // points of a part
+    const bool fresh = to.empty() || to.back().isDashes != kind.isDashes || to.back().path.elementCount() > most;
+    if (fresh) {
+        to.push_back(kind);
+        to.back().path.setFillRule(Qt::WindingFill);
+    }
+    to.back().path.addPath(path);
+}
+
+void addDashes(Pattern &to, const std::vector<QPolygonF> &lines, std::span<const double> pattern, double dot)
+{
+    for (const QPolygonF &line : lines)
+        for (const Polyline &dash : dashesOf(polylineOf(line), pattern)) {
+            if (dash.size() < 2) continue;
+            QPainterPath path;
+            path.addPolygon(dashOf(dash, dot));
+            addTo(to, {}, path);
+        }
 }
 
 /// The rule with its lengths in metres, as the lines are.
@@ -36,21 +60,19 @@ ZolWDoc::tPenStyleSi inMetres(ZolWDoc::tPenStyleSi rule, double metresPerMm)
     return rule;
 }
 
-Marks marksOf(const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyleSi &rule, const Resources &r)
+void addMarks(Pattern &to, const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyleSi &rule, const Resources &r)
 {
-    Marks marks;
     const ZolWDoc::tSid *symbol = r.symbols.find(rule.SidId);
-    if (!symbol) return marks;
+    if (!symbol) return;
     const SymbolShape shape = shapeOf(*symbol, r.glyphs.value(symbol->SidId));
-    marks.filled = !shape.stroked;
-    marks.width = shape.stroked ? shape.width * r.metresPerMm : 0;
-    marks.extent = shape.extent * r.metresPerMm;
-    marks.path.setFillRule(Qt::WindingFill);
+    PatternPart kind{.isDashes = false, .filled = !shape.stroked, .extent = shape.extent * r.metresPerMm};
+    kind.width = shape.stroked ? shape.width * r.metresPerMm : 0;
     const ZolWDoc::tPenStyleSi metric = inMetres(rule, r.metresPerMm);
+    Pattern marks; // of this rule alone, so that no part mixes two symbols
     for (const QPolygonF &line : lines)
         for (const Place &p : placesOf(polylineOf(line), metric))
-            marks.path.addPath(placed({p.at.x, p.at.y}, p.angle, r.metresPerMm, r.metresPerMm).map(shape.path));
-    return marks;
+            addTo(marks, kind, placed({p.at.x, p.at.y}, p.angle, r.metresPerMm, r.metresPerMm).map(shape.path));
+    std::ranges::move(marks, std::back_inserter(to));
 }
 
 } // namespace
@@ -60,14 +82,13 @@ Pattern madePattern(const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyl
     Pattern made;
     std::vector<double> pattern = type.Pattern;
     for (double &length : pattern) length *= r.metresPerMm;
-    for (const QPolygonF &line : lines)
-        for (const Polyline &dash : dashesOf(polylineOf(line), pattern))
-            if (dash.size() > 1) appendDash(made.dashes, dash, kDotMm * r.metresPerMm);
+    if (!pattern.empty()) addDashes(made, lines, pattern, kDotMm * r.metresPerMm);
     for (qint16 nr : type.Slots)
-        if (const ZolWDoc::tPenStyleSi *rule = nr ? r.symbolizations.find(nr) : nullptr) {
-            Marks marks = marksOf(lines, *rule, r);
-            if (!marks.path.isEmpty()) made.marks.push_back(std::move(marks));
-        }
+        if (const ZolWDoc::tPenStyleSi *rule = nr ? r.symbolizations.find(nr) : nullptr) addMarks(made, lines, *rule, r);
+    for (PatternPart &part : made) {
+        const double reach = std::max(part.width, double(type.Size) * r.metresPerMm);
+        part.box = part.path.controlPointRect().adjusted(-reach, -reach, reach, reach);
+    }
     return made;
 }
 

@@ -69,18 +69,26 @@ private:
         const bool marked = reach * m_view.pxPerMetre >= kLeastSymbol;
         for (const Chunk &c : b.chunks) {
             if (!seen(c.box, b.key.width + reach)) continue;
-            setStroke(colorOf(b.key.pen), b.key.width, dashed ? Qt::FlatCap : Qt::RoundCap);
-            if (type.PenDown) m_painter.drawPath(dashed ? m_scene.patternOf(c, type).dashes : c.path);
-            if (marked) paintMarks(m_scene.patternOf(c, type), colorOf(b.key.pen));
+            if (type.PenDown && !dashed) {
+                setStroke(colorOf(b.key.pen), b.key.width, Qt::RoundCap);
+                m_painter.drawPath(c.path);
+            }
+            if (dashed || marked) paintParts(m_scene.patternOf(c, type), b, {dashed && type.PenDown, marked});
         }
     }
-    void paintMarks(const Pattern &pattern, const QColor &color)
+    struct Wanted {
+        bool dashes, marks;
+    };
+    void paintParts(const Pattern &pattern, const Batch &b, Wanted wanted)
     {
-        for (const Marks &m : pattern.marks) {
-            if (m.extent * m_view.pxPerMetre < kLeastSymbol / 2) continue;
-            if (m.filled) setFill(color);
-            else setStroke(color, m.width, Qt::RoundCap);
-            m_painter.drawPath(m.path);
+        const QColor color = colorOf(b.key.pen);
+        for (const PatternPart &part : pattern) {
+            if (!(part.isDashes ? wanted.dashes : wanted.marks) || !part.box.intersects(m_visible)) continue;
+            if (!part.isDashes && part.extent * m_view.pxPerMetre < kLeastSymbol / 2) continue;
+            if (part.filled) setFill(color);
+            else if (part.isDashes) setStroke(color, b.key.width, Qt::FlatCap);
+            else setStroke(color, part.width, Qt::RoundCap);
+            m_painter.drawPath(part.path);
         }
     }
     void paintTexts(const TextTile &tile)

@@ -23,18 +23,17 @@ struct BatchKey {
     auto operator<=>(const BatchKey &) const = default;
 };
 
-/// Symbols along lines, all of one symbol.
-struct Marks {
+/// Some neighbouring dashes, or symbols along lines that are all of one symbol.
+struct PatternPart {
+    QRectF box;
     QPainterPath path;
-    bool filled = false;
-    double width = 0;        ///< of strokes, metres
+    bool isDashes = true;    ///< stroked with the line's own width
+    bool filled = false;     ///< of symbols: filled, else stroked
+    double width = 0;        ///< of a symbol's strokes, metres
     double extent = 0;       ///< of one symbol, metres
 };
 /// The dashes and symbols of a chunk's lines; made when they are first large enough to be seen.
-struct Pattern {
-    QPainterPath dashes;
-    std::vector<Marks> marks;
-};
+using Pattern = std::vector<PatternPart>;
 
 /// The part of a batch that lies in one tile of the drawing. Local metres.
 struct Chunk {
