@@ -140,25 +140,25 @@ LanguageHub &LanguageHub::instance()
     return hub;
 }
 
-void LanguageHub::follow()
+void LanguageHub::connectToRuntime()
 {
     ZolWDoc::LanguageRuntime &runtime = languageRuntime();
-    if (m_runtime != &runtime) {
-        if (m_runtime) disconnect(m_runtime, nullptr, this, nullptr);
-        m_runtime = &runtime;
-        connect(&runtime, &ZolWDoc::LanguageRuntime::LanguageChanged, this, &LanguageHub::apply);
-        connect(&runtime, &QObject::destroyed, this, [this] { m_runtime = nullptr; });
-    }
-    const QString component = QStringLiteral("QV_DOC_CONTROLS");
-    const int own = runtime.componentLanguage(component);
-    const int wanted = own ? own : runtime.currentLanguage();
-    if (wanted) setLanguage(wanted, component);
+    if (m_runtime == &runtime) return;
+    if (m_runtime) disconnect(m_runtime, nullptr, this, nullptr);
+    m_runtime = &runtime;
+    connect(&runtime, &QObject::destroyed, this, [this] { m_runtime = nullptr; });
+    connect(&runtime, &ZolWDoc::LanguageRuntime::LanguageChanged, this, [this] {
+        takeOver();
+        emit LanguageChanged();
+    });
 }
 
-void LanguageHub::apply()
+void LanguageHub::takeOver()
 {
-    follow();
-    emit LanguageChanged();
+    const QString component = QStringLiteral("QV_DOC_CONTROLS");
+    const int own = languageRuntime().componentLanguage(component);
+    const int wanted = own ? own : languageRuntime().currentLanguage();
+    if (wanted) setLanguage(wanted, component);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -27,8 +27,8 @@ class LanguageHub : public QObject {
     Q_OBJECT
 public:
     static LanguageHub &instance();
-    void follow();                              ///< connects to the host's runtime and takes over its language
-    void apply();                               ///< asks the runtime again and raises LanguageChanged
+    void connectToRuntime();                    ///< to the host's present one; LanguageChanged comes from it
+    void takeOver();                            ///< the runtime's language becomes the library's, when it has one
 signals:
     void LanguageChanged();                     // published spelling
 private:

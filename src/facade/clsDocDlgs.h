@@ -1,0 +1,44 @@
+#pragma once
+
+#include "facade/contract/ZOLW_Doc.h"
+
+#include <QObject>
+#include <QString>
+
+namespace QV_DOC_CONTROLS {
+
+/// The library's front door: every dialog for picking or editing a resource of a drawing is one call here.
+///
+/// A call named b... blocks until its dialog is closed and returns true when the user confirmed; a record passed in is
+/// the first choice and, on true, the result; on false it is unchanged. An error of the document reaches the caller as
+/// the exception that the document threw, with the dialog gone. Nothing is kept between calls but the properties;
+/// title and language are shared by all objects of the process.
+class clsDocDlgs : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool WarnInvisibleCurrentLayer READ WarnInvisibleCurrentLayer WRITE setWarnInvisibleCurrentLayer)
+    Q_PROPERTY(QString sAppTitle READ sAppTitle WRITE setsAppTitle)
+    Q_PROPERTY(bool AutomaticItemSelection READ AutomaticItemSelection WRITE setAutomaticItemSelection)
+public:
+    clsDocDlgs();
+
+    bool WarnInvisibleCurrentLayer() const { return m_warnInvisible; }
+    void setWarnInvisibleCurrentLayer(bool on) { m_warnInvisible = on; } ///< asks before an invisible layer becomes current
+    void TearDown() {}                                  ///< does nothing, on purpose; as every class of the library has it
+    QString sAppTitle() const;
+    void setsAppTitle(const QString &title);            ///< of every message box; "ZOLDocDlgs" when never set
+
+    bool bSelect_Lay(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tLay &lay);
+
+    bool AutomaticItemSelection() const { return m_automatic; }
+    void setAutomaticItemSelection(bool on) { m_automatic = on; }
+    ZolWDoc::DocumentList *oDocList() const { return m_docList; }
+    void setoDocList(ZolWDoc::DocumentList *list) { m_docList = list; } ///< the host's; null = none
+    void ml_RuntimeSupport_LanguageChanged() {}         ///< the façade keeps no captions; published spelling
+
+private:
+    bool m_warnInvisible = false;
+    bool m_automatic = true;
+    ZolWDoc::DocumentList *m_docList = nullptr;
+};
+
+} // namespace QV_DOC_CONTROLS

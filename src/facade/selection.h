@@ -1,0 +1,10 @@
+#pragma once
+
+#include "facade/contract/ZOLW_Doc.h"
+
+namespace QV_DOC_CONTROLS {
+
+/// Picks one layer in a new selection dialog; true = confirmed, `lay` is the chosen one.
+bool selectLayer(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLay &lay, bool warnInvisible);
+
+} // namespace QV_DOC_CONTROLS

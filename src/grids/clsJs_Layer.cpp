@@ -1,0 +1,103 @@
+#include "grids/clsJs_Layer.h"
+
+namespace QV_DOC_CONTROLS {
+
+using namespace ZolWDoc;
+
+clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") {}
+clsJs_Layer::~clsJs_Layer() { TearDown(); }
+
+void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
+{
+    TearDown();
+    attach(doc, itemGrid);
+    itemGrid.setMultiSelection(!singleSelection);
+    m_groupGrid = groupGrid;
+    if (!groupGrid) return;
+    readGroups();
+    groupGrid->setSource(&m_groupRows);
+    groupGrid->setMultiSelection(!singleSelection);
+    groupGrid->setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+    groupGrid->setVisible(m_showGroups);
+    groupGrid->setCurrentRow(0);
+    connect(groupGrid, &Grid::currentRowMoved, this, [this](int row) { relay().guard([&] { chooseGroup(row); }); });
+}
+
+void clsJs_Layer::TearDown()
+{
+    if (m_groupGrid) {
+        disconnect(m_groupGrid, nullptr, this, nullptr);
+        m_groupGrid->setSource(nullptr);
+        m_groupGrid = nullptr;
+    }
+    m_groupRows.setGroups({});
+    m_members.clear(), m_inGroup.clear();
+    m_group = GroupRows::kAll;
+    TableManager::TearDown();
+}
+
+void clsJs_Layer::ml_RuntimeSupport_LanguageChanged()
+{
+    TableManager::ml_RuntimeSupport_LanguageChanged();
+    m_groupRows.readCaptions();
+    if (m_groupGrid) m_groupGrid->captionsChanged();
+}
+
+void clsJs_Layer::readGroups()
+{
+    m_groupRows.setGroups(document()->layers().groups());
+    m_members = document()->layers().members();
+}
+
+void clsJs_Layer::chooseGroup(int row)
+{
+    if (row < 0) return;
+    m_group = m_groupRows.groupAt(row);
+    m_inGroup.clear();
+    for (const tLayMember &m : m_members)
+        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
+    showAgain();
+}
+
+bool clsJs_Layer::fits(const tLay &lay) const
+{
+    return (m_group == GroupRows::kAll || m_inGroup.contains(lay.LayId)) && (!m_onlyVisible || lay.Visible);
+}
+
+void clsJs_Layer::setbShowGroups(bool on)
+{
+    m_showGroups = on;
+    if (m_groupGrid) m_groupGrid->setVisible(on);
+}
+
+void clsJs_Layer::setbShowVisibleItems(bool on)
+{
+    m_onlyVisible = on;
+    showAgain();
+}
+
+void clsJs_Layer::setCurrentLayer(qint16 layId)
+{
+    if (layId != m_current) m_previous = std::exchange(m_current, layId);
+    if (m_automatic) selectById(layId);
+}
+
+qint16 clsJs_Layer::previousLayer()
+{
+    if (document() && !document()->layers().find(m_previous)) m_previous = m_current;
+    return m_previous;
+}
+
+qint16 clsJs_Layer::numberOf(qint16 layId) const
+{
+    const auto lay = document() ? document()->layers().find(layId) : std::nullopt;
+    return lay ? lay->gNr : qint16(-1);
+}
+
+void clsJs_Layer::raiseSelection(int count)
+{
+    qint32 selectedRows = count;
+    emit SelectedChanched(selectedRows, currentRecord().value_or(tLay{}));
+}
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "facade/services/Prompts.h"
+#include "facade/services/Text.h"
+#include "kit/grid/GridSource.h"
+
+#include <type_traits>
+
+namespace QV_DOC_CONTROLS {
+
+/// What the user is told when a value is refused.
+struct Refusal {
+    Icon icon;
+    Text title, text;
+};
+
+/// One column of a table: bound to a member of its record by address; "must be unique" is data too. `Names` is what the
+/// table looks up once per fill, to show identifiers by name and to offer them as choices.
+template <class Rec, class Names> struct Column {
+    const char *key;                                    ///< published, kept as spelt
+    Text caption;
+    QVariant (*get)(const Rec &);
+    bool (*put)(Rec &, const QVariant &);               ///< false = no value of this column: the edit is dropped
+    QString (*shown)(const Rec &, const Names &);
+    CellKind kind;
+    Text longCaption{};
+    bool canEdit = false;
+    std::optional<Refusal> taken{};                     ///< set: shown when another row has the value
+    std::vector<GridChoice> (*choices)(const Names &) = nullptr;
+
+    constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
+    constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
+    constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
+    constexpr Column color() const { auto c = *this; c.kind = CellKind::Color; return c; }
+    constexpr Column named(QString (*by)(const Rec &, const Names &), std::vector<GridChoice> (*offer)(const Names &)) const
+    {
+        auto c = *this;
+        c.kind = CellKind::List, c.shown = by, c.choices = offer;
+        return c;
+    }
+};
+
+template <class R, class T> R ownerOf(T R::*);  // declared only: names the record of a member
+
+template <class T> constexpr CellKind kindOf()
+{
+    if constexpr (std::is_same_v<T, bool>) return CellKind::Check;
+    else return std::is_arithmetic_v<T> ? CellKind::Number : CellKind::Text;
+}
+
+/// Takes over an edited value; text that is no whole number of the member's range is no value of a number column.
+template <class T> bool assign(T &member, const QVariant &value)
+{
+    if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {
+        bool isNumber = false;
+        const qlonglong n = value.toString().trimmed().toLongLong(&isNumber);
+        if (!isNumber || n < std::numeric_limits<T>::min() || n > std::numeric_limits<T>::max()) return false;
+        member = T(n);
+    } else {
+        member = value.value<T>();
+    }
+    return true;
+}
+
+template <class T> QString textOf(const T &value)
+{
+    if constexpr (std::is_same_v<T, QString>) return value;
+    else if constexpr (std::is_same_v<T, bool>) return {};
+    else return QString::number(value);
+}
+
+/// The column that shows and edits member M.
+template <auto M, class Names> constexpr auto field(const char *key, Text caption)
+{
+    using Rec = decltype(ownerOf(M));
+    using T = std::remove_cvref_t<decltype(std::declval<Rec>().*M)>;
+    return Column<Rec, Names>{key, caption,
+                              [](const Rec &r) { return QVariant::fromValue(r.*M); },
+                              [](Rec &r, const QVariant &v) { return assign(r.*M, v); },
+                              [](const Rec &r, const Names &) { return textOf(r.*M); },
+                              kindOf<T>()};
+}
+
+} // namespace QV_DOC_CONTROLS

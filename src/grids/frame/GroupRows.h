@@ -1,0 +1,30 @@
+#pragma once
+
+#include "facade/contract/Records.h"
+#include "kit/grid/GridSource.h"
+
+namespace QV_DOC_CONTROLS {
+
+/// The group list beside a table: the pseudo-group "MIND", which stands for all records, and the table's groups.
+class GroupRows final : public GridSource {
+public:
+    static constexpr qint16 kAll = -1;                  ///< identifier of the pseudo-group
+    GroupRows() { readCaptions(); }
+    void setGroups(std::vector<ZolWDoc::tGroup> groups) { m_groups = std::move(groups); }
+    const std::vector<ZolWDoc::tGroup> &groups() const { return m_groups; }
+    qint16 groupAt(int row) const { return row <= 0 ? kAll : m_groups[size_t(row - 1)].GroupId; }
+    void readCaptions();
+
+    const std::vector<GridColumn> &columns() const override { return m_columns; }
+    int rowCount() const override { return int(m_groups.size()) + 1; }
+    qint64 rowId(int row) const override { return groupAt(row); }
+    QVariant value(int row, int column) const override { return text(row, column); }
+    QString text(int row, int column) const override;
+    bool edit(int row, int column, const QVariant &value) override;
+
+private:
+    std::vector<ZolWDoc::tGroup> m_groups;
+    std::vector<GridColumn> m_columns;
+};
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,157 @@
+#pragma once
+
+#include "facade/services/Language.h"
+#include "facade/services/Services.h"
+#include "grids/frame/ColorStyles.h"
+#include "grids/frame/Column.h"
+#include "grids/frame/GridManager.h"
+#include "kit/grid/Grid.h"
+
+namespace QV_DOC_CONTROLS {
+
+/// The records of one table behind a grid, typed by its table.
+template <class Table> class TableManager : public GridManager, protected GridSource {
+public:
+    using Record = typename Table::Record;
+
+    explicit TableManager(const char *type) : GridManager(type) { readCaptions(); }
+    void setAllowEdit(bool on) override
+    {
+        GridManager::setAllowEdit(on);
+        if (m_grid) m_grid->setAllowEdit(on);
+    }
+    void TearDown() override
+    {
+        if (!m_grid) return;
+        QObject::disconnect(m_grid, nullptr, this, nullptr);
+        QObject::disconnect(&LanguageHub::instance(), nullptr, this, nullptr);
+        m_grid->setSource(nullptr);
+        m_grid = nullptr, m_doc = nullptr;
+        m_all.clear(), m_shown.clear();
+    }
+    void ml_RuntimeSupport_LanguageChanged() override
+    {
+        readCaptions();
+        if (m_grid) m_grid->captionsChanged();
+    }
+    /// Reads the whole table again; current row and selection stay with their records. Throws the host's error.
+    void fill()
+    {
+        if (!m_doc) return;
+        auto all = Table::role(*m_doc).readAll();
+        auto names = Table::namesOf(*m_doc);
+        m_grid->refill([&] {
+            m_all = std::move(all), m_names = std::move(names);
+            showWhatFits();
+        });
+        raiseCurrentRow();
+    }
+    /// Makes the record with this identifier the grid's current row; false when it is not shown.
+    bool selectById(qint16 id)
+    {
+        const int row = m_grid ? m_grid->rowWithId(id) : -1;
+        if (row >= 0) m_grid->setCurrentRow(row);
+        return row >= 0;
+    }
+    std::vector<Record> selected() const  ///< in grid order
+    {
+        std::vector<Record> out;
+        if (m_grid)
+            for (int r : m_grid->selectedRows()) out.push_back(recordAt(r));
+        return out;
+    }
+    std::optional<Record> currentRecord() const
+    {
+        const int row = m_grid ? m_grid->currentRow() : -1;
+        return row < 0 ? std::nullopt : std::optional(recordAt(row));
+    }
+
+protected:
+    void attach(ZolWDoc::ZOLW_Doc &doc, Grid &grid)
+    {
+        m_doc = &doc, m_grid = &grid;
+        buildColorStyles(grid, doc);
+        grid.setAllowEdit(AllowEdit());
+        grid.setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+        m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
+        showWhatFits();
+        grid.setSource(this);
+        QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
+        QObject::connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        QObject::connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
+                         [this] { ml_RuntimeSupport_LanguageChanged(); });
+    }
+    virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
+    virtual void raiseSelection(int count) { Q_UNUSED(count) }
+    virtual bool fits(const Record &) const { return true; } ///< whether the row is listed
+    ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
+    Grid *grid() const { return m_grid; }
+    const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
+    void showAgain() { if (m_grid) m_grid->refill([this] { showWhatFits(); }); } ///< fits() answers otherwise now
+
+    // --- the grid's view of the records
+    const std::vector<GridColumn> &columns() const override { return m_columns; }
+    int rowCount() const override { return int(m_shown.size()); }
+    qint64 rowId(int row) const override { return Table::id(recordAt(row)); }
+    QVariant value(int row, int c) const override { return Table::columns[c].get(recordAt(row)); }
+    QString text(int row, int c) const override { return Table::columns[c].shown(recordAt(row), m_names); }
+    RowStyles styles(int row) const override { return Table::styles(recordAt(row)); }
+    std::vector<GridChoice> choices(int c) const override
+    {
+        return Table::columns[c].choices ? Table::columns[c].choices(m_names) : std::vector<GridChoice>{};
+    }
+    bool edit(int row, int c, const QVariant &value) override
+    {
+        bool stored = false;
+        relay().guard([&] { stored = tryEdit(row, c, value); });
+        return stored;
+    }
+
+private:
+    const Record &recordAt(int row) const { return m_all[size_t(m_shown[size_t(row)])]; }
+
+    void showWhatFits()
+    {
+        m_shown.clear();
+        for (int i = 0; i < int(m_all.size()); ++i)
+            if (fits(m_all[size_t(i)])) m_shown.push_back(i);
+    }
+    void readCaptions()
+    {
+        m_columns.clear();
+        for (const auto &c : Table::columns)
+            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption), c.longCaption.id ? txt(c.longCaption) : QString(),
+                                 c.kind, c.canEdit, 0});
+    }
+    void raiseCurrentRow()
+    {
+        if (const auto now = currentRecord()) raiseCurrent(*now);
+    }
+    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed "10" is text.
+    bool tryEdit(int row, int c, const QVariant &value)
+    {
+        const auto &column = Table::columns[c];
+        Record edited = recordAt(row);
+        if (!m_doc || !column.put(edited, value)) return false;
+        const QVariant now = column.get(edited);
+        if (now == column.get(recordAt(row))) return false;
+        const auto has = [&](const Record &r) { return Table::id(r) != Table::id(edited) && column.get(r) == now; };
+        if (column.taken && std::ranges::any_of(m_all, has)) {
+            prompts().tell({column.taken->icon, txt(column.taken->title), txt(column.taken->text)}, m_grid);
+            return false;
+        }
+        inCommand(*m_doc, txt(column.caption), [&] { Table::role(*m_doc).update(edited); });
+        m_all[size_t(m_shown[size_t(row)])] = edited;
+        if (row == m_grid->currentRow()) raiseCurrent(edited);
+        return true;
+    }
+
+    ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
+    Grid *m_grid = nullptr;                             ///< the form's, until TearDown()
+    std::vector<Record> m_all;
+    std::vector<int> m_shown;                           ///< rows of the grid as indexes into m_all
+    typename Table::Names m_names;
+    std::vector<GridColumn> m_columns;
+};
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,41 @@
+#include "kit/forms/WindowSize.h"
+
+#include "facade/services/Services.h"
+#include "kit/forms/Twips.h"
+
+#include <QFontMetrics>
+#include <QScreen>
+
+namespace QV_DOC_CONTROLS {
+namespace {
+
+const QString kApplication = QStringLiteral("ZolWOp");
+const QString kSection = QStringLiteral("Settings");
+QString keyOf(const QString &form, const char *suffix) { return kApplication + form + QLatin1String(suffix); }
+
+int storedPixels(const QWidget &window, const QString &key, int fallback)
+{
+    bool isNumber = false;
+    const int twips = settingsStore().read(kApplication, kSection, key, {}).toInt(&isNumber);
+    return isNumber && twips > 0 ? pixelsOf(twips, window) : fallback;
+}
+
+} // namespace
+
+void restoreSize(QWidget &window, const QString &form)
+{
+    const QFontMetrics letters(window.font());
+    const QSize usual(letters.averageCharWidth() * 120, letters.height() * 28);
+    const QSize wanted(storedPixels(window, keyOf(form, "-Width"), usual.width()),
+                       storedPixels(window, keyOf(form, "-Height"), usual.height()));
+    const QScreen *const screen = window.screen();
+    window.resize(screen ? wanted.boundedTo(screen->availableSize()) : wanted);
+}
+
+void keepSizeOf(const QWidget &window, const QString &form)
+{
+    settingsStore().write(kApplication, kSection, keyOf(form, "-Width"), QString::number(twipsOf(window.width(), window)));
+    settingsStore().write(kApplication, kSection, keyOf(form, "-Height"), QString::number(twipsOf(window.height(), window)));
+}
+
+} // namespace QV_DOC_CONTROLS

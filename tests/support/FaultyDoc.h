@@ -1,0 +1,118 @@
+#pragma once
+
+#include "facade/contract/ZOLW_Doc.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <stdexcept>
+
+namespace tests {
+
+/// The error that a FaultyDoc throws on demand.
+struct HostError : std::runtime_error {
+    explicit HostError(const QString &call) : std::runtime_error(call.toStdString()) {}
+};
+
+/// Counts and fails the calls of a document.
+struct CallLog {
+    QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
+    int failAt = -1;                ///< the call with this index throws HostError
+    QString failNext;               ///< the next call of this name throws HostError
+    void on(const char *name)
+    {
+        calls << QLatin1String(name);
+        const bool wanted = failNext == calls.last();
+        if (wanted) failNext.clear();
+        if (wanted || calls.size() - 1 == failAt) throw HostError(calls.last());
+    }
+    QStringList writes() const      ///< calls that change the document
+    {
+        return calls.filter(QRegularExpression(QStringLiteral("add|update|remove|write|make|rename|renumber|discard")));
+    }
+};
+
+/// Layers through the log.
+struct FaultyLayers final : ZolWDoc::LayerRole {
+    FaultyLayers(ZolWDoc::LayerRole &of, CallLog &to) : real(of), log(to) {}
+    ZolWDoc::LayerRole &real;
+    CallLog &log;
+    using Rec = ZolWDoc::tLay;
+
+    std::vector<Rec> readAll() const override { return log.on("layers.readAll"), real.readAll(); }
+    int count() const override { return log.on("layers.count"), real.count(); }
+    std::optional<Rec> find(qint16 id) const override { return log.on("layers.find"), real.find(id); }
+    qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
+    void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
+    int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
+    std::optional<Rec> findByNumber(qint16 n) const override { return log.on("layers.findByNumber"), real.findByNumber(n); }
+    bool remove(qint16 id, bool orphans) override { return log.on("layers.remove"), real.remove(id, orphans); }
+    void makeCurrent(const Rec &r) override { log.on("layers.makeCurrent"), real.makeCurrent(r); }
+    qint16 currentId() const override { return log.on("layers.currentId"), real.currentId(); }
+    std::vector<ZolWDoc::tGroup> groups() const override { return log.on("layers.groups"), real.groups(); }
+    void writeGroups(std::span<const ZolWDoc::tGroup> g) override { log.on("layers.writeGroups"), real.writeGroups(g); }
+    std::vector<ZolWDoc::tLayMember> members() const override { return log.on("layers.members"), real.members(); }
+    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override { log.on("layers.writeMembers"), real.writeMembers(m); }
+    void writeAll(std::span<const Rec> all) override { log.on("layers.writeAll"), real.writeAll(all); }
+    qint32 fileVersion() const override { return log.on("layers.fileVersion"), real.fileVersion(); }
+    void renameFromFile(const QString &p) override { log.on("layers.renameFromFile"), real.renameFromFile(p); }
+    void renumberFromFile(const QString &p) override { log.on("layers.renumberFromFile"), real.renumberFromFile(p); }
+};
+
+/// A table with the common role only, through the log.
+template <class Role, class Rec> struct FaultyTable : Role {
+    FaultyTable(Role &of, CallLog &to, const char *called) : real(of), log(to), name(called) {}
+    Role &real;
+    CallLog &log;
+    std::string name;
+    void on(const char *call) const { log.on((name + '.' + call).c_str()); }
+
+    std::vector<Rec> readAll() const override { return on("readAll"), real.readAll(); }
+    int count() const override { return on("count"), real.count(); }
+    std::optional<Rec> find(qint16 id) const override { return on("find"), real.find(id); }
+    qint16 add(const Rec &r) override { return on("add"), real.add(r); }
+    void update(const Rec &r) override { on("update"), real.update(r); }
+    bool remove(qint16 id) override { return on("remove"), real.remove(id); }
+    int uses(qint16 id) const override { return on("uses"), real.uses(id); }
+};
+struct FaultyTextTypes final : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd> {
+    using FaultyTable::FaultyTable;
+    ZolWDoc::GroupRole &groups() override { return on("groups"), real.groups(); }
+    void renumber(qint16 from, qint16 to) override { on("renumber"), real.renumber(from, to); }
+    qint16 takeOver(const ZolWDoc::tTxd &t) override { return on("takeOver"), real.takeOver(t); }
+};
+struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> { using FaultyTable::FaultyTable; };
+struct FaultyPens final : ZolWDoc::PenColorRole {
+    FaultyPens(ZolWDoc::PenColorRole &of, CallLog &to) : real(of), log(to) {}
+    ZolWDoc::PenColorRole &real;
+    CallLog &log;
+    ZolWDoc::PenColorTable read() const override { return log.on("penColors.read"), real.read(); }
+    void write(const ZolWDoc::PenColorTable &t) override { log.on("penColors.write"), real.write(t); }
+    ZolWDoc::Palette palette() const override { return log.on("penColors.palette"), real.palette(); }
+};
+
+/// A real document whose calls are logged and fail on demand.
+class FaultyDoc final : public ZolWDoc::ZOLW_Doc {
+public:
+    explicit FaultyDoc(ZolWDoc::ZOLW_Doc &real) : m_real(real) {}
+    CallLog log;
+
+    ZolWDoc::LayerRole &layers() override { return m_layers; }
+    ZolWDoc::TextTypeRole &textTypes() override { return m_textTypes; }
+    ZolWDoc::LineTypeRole &lineTypes() override { return m_lineTypes; }
+    ZolWDoc::PenColorRole &penColors() override { return m_pens; }
+    ZolWDoc::SymbolRole &symbols() override { return m_real.symbols(); }
+    ZolWDoc::SymbolizationRole &lineSymbolizations() override { return m_real.lineSymbolizations(); }
+    ZolWDoc::PointRole &points() override { return m_real.points(); }
+    ZolWDoc::KhRole &khItems() override { return m_real.khItems(); }
+    void redrawAll() override { log.on("redrawAll"), m_real.redrawAll(); }
+
+private:
+    ZolWDoc::ZOLW_Doc &m_real;
+    FaultyLayers m_layers{m_real.layers(), log};
+    FaultyTextTypes m_textTypes{m_real.textTypes(), log, "textTypes"};
+    FaultyLineTypes m_lineTypes{m_real.lineTypes(), log, "lineTypes"};
+    FaultyPens m_pens{m_real.penColors(), log};
+};
+
+} // namespace tests

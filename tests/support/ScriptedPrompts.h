@@ -1,0 +1,40 @@
+#pragma once
+
+#include "facade/services/Prompts.h"
+
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+namespace tests {
+
+/// What a test expects the user to be asked, in order, and what the user answers. An unexpected box fails the test
+/// and is answered as if it was closed; a box that never came fails it at the end.
+class ScriptedPrompts final : public QV_DOC_CONTROLS::Prompts {
+public:
+    struct Step {
+        const char *kind;                       ///< "tell", "yesNo", "choose", "openFile", "saveFile"
+        QString title, text;                    ///< to the letter; of a file question the text is the filter
+        QVariant answer{};
+        QV_DOC_CONTROLS::Icon icon = QV_DOC_CONTROLS::Icon::None;
+        std::function<void()> meanwhile{};      ///< happens while the box is open
+    };
+    ScriptedPrompts(std::vector<Step> steps = {});
+    ~ScriptedPrompts() override;
+    int asked() const { return m_next; }
+
+    void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
+    bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
+    std::optional<int> choose(const QV_DOC_CONTROLS::Choice &, QObject *) override;
+    QString openFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override;
+    QString saveFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override;
+
+private:
+    QVariant next(const char *kind, const QString &title, const QString &text, QV_DOC_CONTROLS::Icon icon);
+    std::vector<Step> m_steps;
+    int m_next = 0;
+    QV_DOC_CONTROLS::Prompts *m_before;
+};
+
+} // namespace tests
