@@ -29,10 +29,11 @@ template <class Rec> struct TableSql {
 /// Writes the columns of records that differ from what is stored; most updates change one of many.
 template <class Rec> class RowUpdate {
 public:
-    RowUpdate(Database &db, const TableFacts<Rec> &facts) : m_db(db), m_facts(facts) {}
+    /// `always`: columns written even where they seem the same, one bit for each field.
+    RowUpdate(Database &db, const TableFacts<Rec> &facts, quint32 always) : m_db(db), m_facts(facts), m_always(always) {}
     void write(const Rec &stored, const Rec &wanted)
     {
-        quint32 columns = 0;
+        quint32 columns = m_always;
         for (size_t i = 1; i < m_facts.fields.size(); ++i)
             if (m_facts.fields[i].type && !m_facts.fields[i].same(stored, wanted)) columns |= 1u << i;
         if (columns == 0) return;
@@ -55,6 +56,7 @@ private:
     }
     Database &m_db;
     const TableFacts<Rec> &m_facts;
+    quint32 m_always;
     quint32 m_columns = 0;
     std::optional<Statement> m_statement;
 };
@@ -113,8 +115,7 @@ public:
         written = 0;
         Write write(m_db);
         if (!updatedAsTheyCome(rows)) {
-            park(rows);
-            store(rows);
+            store(rows, park(rows));
         }
         changed();
         write.keep();
@@ -199,10 +200,10 @@ private:
         std::ranges::sort(stored, {}, m_facts.id);
         return stored;
     }
-    void store(std::span<const Rec> rows)
+    void store(std::span<const Rec> rows, quint32 always = 0)
     {
         std::vector<Rec> stored = storedFor(rows);
-        RowUpdate<Rec> update(m_db, m_facts);
+        RowUpdate<Rec> update(m_db, m_facts, always);
         for (const Rec &r : rows) {
             const auto old = std::ranges::lower_bound(stored, r.*m_facts.id, {}, m_facts.id);
             if (old == stored.end() || (*old).*m_facts.id != r.*m_facts.id) failUnknown(r.*m_facts.id);
@@ -223,14 +224,18 @@ private:
         attempt.keep();
         return true;
     }
-    /// Takes the unique values of the rows out of the way.
-    void park(std::span<const Rec> rows)
+    /// Takes the unique values of the rows out of the way; the columns that must be written now.
+    quint32 park(std::span<const Rec> rows)
     {
+        quint32 parked = 0;
         for (const UniqueColumn &u : m_facts.unique.subspan(1)) {
-            const QString sql = QStringLiteral("UPDATE %1 SET %2=char(1)||id WHERE id=?")
-                                    .arg(table(), QString::fromLatin1(u.column));
-            for (const Rec &r : rows) change(m_db, sql, int(r.*m_facts.id));
+            for (size_t i = 0; i < m_facts.fields.size(); ++i)
+                if (qstrcmp(m_facts.fields[i].column, u.column) == 0) parked |= 1u << i;
+            Statement s(m_db, QStringLiteral("UPDATE %1 SET %2=char(1)||id WHERE id=?")
+                                  .arg(table(), QString::fromLatin1(u.column)));
+            for (const Rec &r : rows) s.exec(int(r.*m_facts.id));
         }
+        return parked;
     }
     struct Taken : DocumentError {
         using DocumentError::DocumentError;

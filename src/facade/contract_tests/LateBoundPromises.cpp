@@ -2,15 +2,25 @@
 
 #include "facade/contract/DrawingObjects.h"
 
-#include <QMetaObject>
+#include <QMetaMethod>
 
 #include <cmath>
 
 namespace ZolWDoc::contract {
 namespace {
 
+/// Asked first, because Qt writes a warning about a call to a member that is not there.
+void requireMember(ZOLW_Doc &doc, const char *name)
+{
+    const QMetaObject *const type = doc.lateBound()->metaObject();
+    for (int i = 0; i < type->methodCount(); ++i)
+        if (type->method(i).name() == name) return;
+    throw Broken(QStringLiteral("there is no member of the name ") + QLatin1String(name));
+}
+
 bool lineTypeByName(ZOLW_Doc &doc, int id, tPenStyle &style)
 {
+    requireMember(doc, "bGetPenStyle");
     bool known = false;
     hold(QMetaObject::invokeMethod(doc.lateBound(), "bGetPenStyle", Qt::DirectConnection, Q_RETURN_ARG(bool, known),
                                    Q_ARG(int, id), Q_ARG(ZolWDoc::tPenStyle *, &style)),
@@ -20,6 +30,7 @@ bool lineTypeByName(ZOLW_Doc &doc, int id, tPenStyle &style)
 
 DrawingObjects drawn(ZOLW_Doc &doc, const LineElement &line)
 {
+    requireMember(doc, "ElRec2ObjLst");
     DrawingObjects objects;
     hold(QMetaObject::invokeMethod(doc.lateBound(), "ElRec2ObjLst", Qt::DirectConnection,
                                    Q_RETURN_ARG(ZolWDoc::DrawingObjects, objects), Q_ARG(ZolWDoc::LineElement, line)),
