@@ -31,8 +31,12 @@ std::vector<tLay> manyLayers(int n)
 {
     std::vector<tLay> all;
     for (int i = 0; i < n; ++i)
-        all.push_back({.gNr = qint16(i + 10), .Name = QStringLiteral("Layer of the survey %1").arg(i), .PenStyleId = 1,
-                       .ScrColor = qint16(i % 256), .PenColorId = qint16(i % 256), .TxdId = 1});
+        all.push_back({.gNr = qint16(i + 10),
+                       .Name = QStringLiteral("Layer of the survey %1").arg(i),
+                       .PenStyleId = 1,
+                       .ScrColor = qint16(i % 256),
+                       .PenColorId = qint16(i % 256),
+                       .TxdId = 1});
     return all;
 }
 
@@ -71,15 +75,22 @@ int main(int argc, char **argv)
         for (tLay &l : all) l.gNr = qint16(32767 - l.gNr);
     });
     all = doc->layers().readAll();
-    timed("find 10,000 layers by identifier", 5, [&] { for (int i = 0; i < 10000; ++i) doc->layers().find(ids[size_t(i)]); });
-    timed("find 10,000 layers by number", 5, [&] { for (int i = 0; i < 10000; ++i) doc->layers().findByNumber(qint16(i + 10)); });
-    timed("1,000 single durable updates", 3, [&] { for (int i = 0; i < 1000; ++i) doc->layers().update(all[size_t(i)]); });
+    timed("find 10,000 layers by identifier", 5, [&] {
+        for (int i = 0; i < 10000; ++i) doc->layers().find(ids[size_t(i)]);
+    });
+    timed("find 10,000 layers by number", 5, [&] {
+        for (int i = 0; i < 10000; ++i) doc->layers().findByNumber(qint16(i + 10));
+    });
+    timed("1,000 single durable updates", 3, [&] {
+        for (int i = 0; i < 1000; ++i) doc->layers().update(all[size_t(i)]);
+    });
     timed("uses of 32,000 layers", 3, [&] { doc->layers().usesAll(ids); });
     const auto elements = manyElements(100000);
     timed("add 100,000 elements of 6 vertices", 1, [&] { doc->addElements(elements); });
     timed("read 100,000 elements", 5, [&] { doc->elements(); });
     timed("save a copy", 2, [&] { doc->saveCopyAs(folder.filePath(QStringLiteral("copy.qvd"))); });
     timed("open the copy", 3, [&] { SqliteDoc::open(folder.filePath(QStringLiteral("copy.qvd"))); });
-    timed("remove 32,000 layers with their elements", 1, [&] { doc->layers().removeAll(ids, true, written); });
+    timed("remove 32,000 layers with their elements", 1,
+          [&] { doc->layers().removeAll(ids, true, written); });
     return 0;
 }

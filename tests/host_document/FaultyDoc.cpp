@@ -86,7 +86,10 @@ struct FaultyGroups : GroupRole {
     FaultyGroups(State &state, GroupRole &role) : s(state), real(role) {}
     std::vector<tGroup> readAll() const override { return real.readAll(); }
     qint16 add(const QString &name) override { return real.add(name); }
-    void rename(qint16 id, const QString &name) override { if (!s.is(Fault::GroupRenameForgotten)) real.rename(id, name); }
+    void rename(qint16 id, const QString &name) override
+    {
+        if (!s.is(Fault::GroupRenameForgotten)) real.rename(id, name);
+    }
     bool remove(qint16 id) override { return real.remove(id) || s.is(Fault::GroupRemoveForced); }
 };
 
@@ -95,8 +98,14 @@ struct FaultyLayers : Table<tLay, LayerRole> {
     using Table::remove;
     using Table::removeAll;
     std::optional<tLay> findByNumber(qint16 n) const override { return real.findByNumber(n); }
-    bool remove(qint16 id, bool orphans) override { return real.remove(id, orphans || s.is(Fault::OrphansAlwaysGo)); }
-    void removeAll(std::span<const qint16> ids, bool orphans, int &looked) override { real.removeAll(ids, orphans, looked); }
+    bool remove(qint16 id, bool orphans) override
+    {
+        return real.remove(id, orphans || s.is(Fault::OrphansAlwaysGo));
+    }
+    void removeAll(std::span<const qint16> ids, bool orphans, int &looked) override
+    {
+        real.removeAll(ids, orphans, looked);
+    }
     void makeCurrent(const tLay &l) override { if (!s.is(Fault::CurrentForgotten)) real.makeCurrent(l); }
     qint16 currentId() const override { return real.currentId(); }
     std::vector<tGroup> groups() const override { return real.groups(); }
@@ -163,7 +172,10 @@ struct FaultyExtras : RevisionRole, RestoreRole, CommandScopeRole, ChangeScopeRo
     State &s;
     std::vector<tLay> before;
     explicit FaultyExtras(State &state) : s(state) {}
-    quint64 revision(TableKind k) const override { return s.is(Fault::RevisionStays) ? 1 : s.doc->revisions()->revision(k); }
+    quint64 revision(TableKind k) const override
+    {
+        return s.is(Fault::RevisionStays) ? 1 : s.doc->revisions()->revision(k);
+    }
 
     template <class Rec> void bring(TableRole<Rec> &table, const Rec &r)
     {

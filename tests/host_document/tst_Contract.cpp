@@ -82,8 +82,10 @@ private slots:
     {
         QFETCH(int, fault);
         QFETCH(QString, foundIn);
-        const auto findings = checkContract([&] { return tests::faulty(tests::Fault(fault)); }, {.onlyRole = foundIn});
-        QVERIFY2(std::ranges::count(findings, foundIn, &ContractFinding::role) > 0, qPrintable(toText(findings)));
+        const auto findings =
+            checkContract([&] { return tests::faulty(tests::Fault(fault)); }, {.onlyRole = foundIn});
+        QVERIFY2(std::ranges::count(findings, foundIn, &ContractFinding::role) > 0,
+                 qPrintable(toText(findings)));
     }
     void theFaultlessWrapperIsFoundFaultless()
     {

@@ -36,18 +36,23 @@ private slots:
         QTest::addColumn<QString>("dashes");
         const QString whole = QStringLiteral("0 0, 10 0");
         QTest::newRow("continuous") << kStraight << QList<double>{} << whole;
-        QTest::newRow("last dash is cut") << kStraight << QList<double>{3, 2} << QStringLiteral("0 0, 3 0 | 5 0, 8 0");
-        QTest::newRow("ends in a dash") << kStraight << QList<double>{4, 2} << QStringLiteral("0 0, 4 0 | 6 0, 10 0");
+        QTest::newRow("last dash is cut")
+            << kStraight << QList<double>{3, 2} << QStringLiteral("0 0, 3 0 | 5 0, 8 0");
+        QTest::newRow("ends in a dash")
+            << kStraight << QList<double>{4, 2} << QStringLiteral("0 0, 4 0 | 6 0, 10 0");
         QTest::newRow("dots") << kStraight << QList<double>{0, 5} << QStringLiteral("0 0, 0 0 | 5 0, 5 0");
-        QTest::newRow("around a corner") << kCorner << QList<double>{6, 1} << QStringLiteral("0 0, 4 0, 4 2 | 4 3, 4 4");
-        QTest::newRow("odd") << kStraight << QList<double>{3, 1, 2} << QStringLiteral("0 0, 3 0 | 4 0, 6 0 | 9 0, 10 0");
+        QTest::newRow("around a corner")
+            << kCorner << QList<double>{6, 1} << QStringLiteral("0 0, 4 0, 4 2 | 4 3, 4 4");
+        QTest::newRow("odd") << kStraight << QList<double>{3, 1, 2}
+                             << QStringLiteral("0 0, 3 0 | 4 0, 6 0 | 9 0, 10 0");
         QTest::newRow("negative") << kStraight << QList<double>{3, -1} << whole;
         QTest::newRow("no length") << kStraight << QList<double>{0, 0} << whole;
         QTest::newRow("too fine") << kStraight << QList<double>{1e-9, 1e-9} << whole;
         QTest::newRow("longer than the line") << kStraight << QList<double>{50, 1} << whole;
         QTest::newRow("doubled points") << Polyline{{0, 0}, {0, 0}, {10, 0}} << QList<double>{6, 2}
                                         << QStringLiteral("0 0, 6 0 | 8 0, 10 0");
-        QTest::newRow("a point") << Polyline{{1, 1}, {1, 1}} << QList<double>{1, 1} << QStringLiteral("1 1, 1 1");
+        QTest::newRow("a point") << Polyline{{1, 1}, {1, 1}} << QList<double>{1, 1}
+                                 << QStringLiteral("1 1, 1 1");
     }
     void dashesFollowThePattern()
     {
@@ -62,7 +67,8 @@ private slots:
         QTest::addColumn<Polyline>("line");
         QTest::addColumn<tPenStyleSi>("rule");
         QTest::addColumn<QString>("places");
-        const auto row = [](const char *name, const Polyline &line, const tPenStyleSi &rule, const char *places) {
+        const auto row = [](const char *name, const Polyline &line, const tPenStyleSi &rule,
+                            const char *places) {
             QTest::newRow(name) << line << rule << QString::fromLatin1(places);
         };
         row("by length", kStraight, {.Align = 0, .DistrLength = 4}, "4 0@0 8 0@0");
@@ -76,8 +82,10 @@ private slots:
         row("start", kCorner, {.Align = 4, .Rotation = 30}, "0 0@30");
         row("end", kCorner, {.Align = 5, .OffsetY = 1, .OffsetX = 2}, "3 6@90");
         row("copies in the middle", kStraight, {.Align = 2, .MultiDist = 2, .Multi = 3}, "3 0@0 5 0@0 7 0@0");
-        row("copies inwards", kStraight, {.Align = 3, .MultiDist = 1, .Multi = 2}, "0 0@0 1 0@0 10 0@0 9 0@0");
-        row("copies beyond the end", Polyline{{0, 0}, {1, 0}}, {.Align = 4, .MultiDist = 3, .Multi = 2}, "0 0@0 3 0@0");
+        row("copies inwards", kStraight, {.Align = 3, .MultiDist = 1, .Multi = 2},
+            "0 0@0 1 0@0 10 0@0 9 0@0");
+        row("copies beyond the end", Polyline{{0, 0}, {1, 0}}, {.Align = 4, .MultiDist = 3, .Multi = 2},
+            "0 0@0 3 0@0");
         row("unknown", kStraight, {.Align = 7}, "");
     }
     void placesFollowTheRule()

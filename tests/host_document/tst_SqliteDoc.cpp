@@ -60,12 +60,27 @@ std::vector<Element> oneOfEachKind()
     all[0] = {.kind = ElementKind::Point, .layId = 1, .vertices = {{650000.123456789, 240000.987654321}}};
     all[1] = {.kind = ElementKind::Line, .layId = 1, .penStyleId = 1, .penColorId = 255,
               .vertices = {{0, 0, -0.5}, {1, 0}, {1, 1, 1e-9}}, .closed = true};
-    all[2] = {.kind = ElementKind::Ellipse, .vertices = {{5, 5}, {2, 1}}, .ratio = 0.25, .from = 0.1, .to = 3};
-    all[3] = {.kind = ElementKind::Fill, .layId = 1, .vertices = {{0, 0}, {9, 0}, {9, 9}, {1, 1}, {2, 1}, {2, 2}},
-              .rings = {0, 3}, .closed = true};
-    all[4] = {.kind = ElementKind::Text, .layId = 1, .txdId = 1, .vertices = {{1, 1}}, .rotation = 33.3, .size = 1.5,
-              .align = 30, .text = QStringLiteral("Árvíztűrő\n1203/2")};
-    all[5] = {.kind = ElementKind::Symbol, .layId = 1, .sidId = 1, .vertices = {{2, 2}}, .rotation = -90, .scale = -2};
+    all[2] = {
+        .kind = ElementKind::Ellipse, .vertices = {{5, 5}, {2, 1}}, .ratio = 0.25, .from = 0.1, .to = 3};
+    all[3] = {.kind = ElementKind::Fill,
+              .layId = 1,
+              .vertices = {{0, 0}, {9, 0}, {9, 9}, {1, 1}, {2, 1}, {2, 2}},
+              .rings = {0, 3},
+              .closed = true};
+    all[4] = {.kind = ElementKind::Text,
+              .layId = 1,
+              .txdId = 1,
+              .vertices = {{1, 1}},
+              .rotation = 33.3,
+              .size = 1.5,
+              .align = 30,
+              .text = QStringLiteral("Árvíztűrő\n1203/2")};
+    all[5] = {.kind = ElementKind::Symbol,
+              .layId = 1,
+              .sidId = 1,
+              .vertices = {{2, 2}},
+              .rotation = -90,
+              .scale = -2};
     return all;
 }
 
@@ -80,7 +95,8 @@ private:
 private slots:
     void cleanup()
     {
-        for (const QString &name : QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden)) QFile::remove(m_folder.filePath(name));
+        for (const QString &name : QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden))
+            QFile::remove(m_folder.filePath(name));
     }
 
     void anEmptyDrawingWorksAtOnce()
@@ -103,9 +119,14 @@ private slots:
     {
         QTest::addColumn<QString>("damage");
         QTest::addColumn<QString>("says");
-        for (const auto &[damage, says] : {std::pair("newer", "újabb változata"), {"foreign", "másik program"}, {"text", "nem rajz"},
-                                           {"empty", "nem rajz"}, {"truncated", "sérült"}, {"scrambled", "sérült"},
-                                           {"no table", "sérült"}, {"newer with log", "újabb változata"}})
+        for (const auto &[damage, says] : {std::pair("newer", "újabb változata"),
+                                           {"foreign", "másik program"},
+                                           {"text", "nem rajz"},
+                                           {"empty", "nem rajz"},
+                                           {"truncated", "sérült"},
+                                           {"scrambled", "sérült"},
+                                           {"no table", "sérült"},
+                                           {"newer with log", "újabb változata"}})
             QTest::newRow(damage) << QString::fromLatin1(damage) << QString::fromUtf8(says);
     }
     void refusedFilesStayAsTheyAre()
@@ -225,8 +246,10 @@ private slots:
         QVERIFY(!errorOf([&] { doc->saveCopyAs(file("no folder/x.qvd")); }).isEmpty());
         const auto open = SqliteDoc::create(file("open.qvd"));
         open->setInfo({});
-        QVERIFY(errorOf([&] { doc->saveCopyAs(file("open.qvd")); }).contains(QStringLiteral("meg van nyitva")));
-        QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden), QStringList());
+        QVERIFY(
+            errorOf([&] { doc->saveCopyAs(file("open.qvd")); }).contains(QStringLiteral("meg van nyitva")));
+        QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden),
+                 QStringList());
     }
 
     // --- rules of this host
@@ -234,7 +257,8 @@ private slots:
     void valuesMayChangePlacesInOneCall()
     {
         const auto doc = inMemory();
-        std::vector<tLay> all{{.gNr = 0, .Name = QStringLiteral("b")}, {.gNr = 3, .Name = QStringLiteral("c")}};
+        std::vector<tLay> all{{.gNr = 0, .Name = QStringLiteral("b")},
+                              {.gNr = 3, .Name = QStringLiteral("c")}};
         std::vector<qint16> ids;
         doc->layers().addAll(all, ids);
         all = doc->layers().readAll();
@@ -303,18 +327,24 @@ private slots:
         QTest::addColumn<QString>("error");
         const QString start = QStringLiteral("1 Alapréteg, 2 b, 3 c");
         const auto row = [&](const char *name, const char *act, const QByteArray &text, const QString &layers,
-                             const QString &error = {}) { QTest::newRow(name) << QString::fromLatin1(act) << text << layers << error; };
-        row("names", "rename", "\xef\xbb\xbf# list\n\n1\tő út\r\n2 ; b b\n3;c", QStringLiteral("1 ő út, 2 b b, 3 c"));
+                             const QString &error = {}) {
+            QTest::newRow(name) << QString::fromLatin1(act) << text << layers << error;
+        };
+        row("names", "rename", "\xef\xbb\xbf# list\n\n1\tő út\r\n2 ; b b\n3;c",
+            QStringLiteral("1 ő út, 2 b b, 3 c"));
         row("names exchanged", "rename", "2 c\n3 b\n", QStringLiteral("1 Alapréteg, 2 c, 3 b"));
         row("central european", "rename", "2 \xf5r", QStringLiteral("1 Alapréteg, 2 őr, 3 c"));
         row("name taken", "rename", "2 x\n3 Alapréteg\n", start, QStringLiteral("Hibás sor: 2, ez a név"));
         row("unknown number", "rename", "# x\n7 x\n", start, QStringLiteral("Hibás sor: 2, nincs ilyen"));
         row("no name", "rename", "2\n", start, QStringLiteral("Hibás sor: 1, sorszámot és nevet"));
         row("numbers exchanged", "renumber", "1 2\n2;3\n3\t1", QStringLiteral("2 Alapréteg, 3 b, 1 c"));
-        row("number taken", "renumber", "1 3\n", start, QStringLiteral("Hibás sor: 1, ez a sorszám már foglalt"));
-        row("number twice", "renumber", "1 4\n1 5\n", start, QStringLiteral("Hibás sor: 2, ez a sorszám már szerepelt"));
+        row("number taken", "renumber", "1 3\n", start,
+            QStringLiteral("Hibás sor: 1, ez a sorszám már foglalt"));
+        row("number twice", "renumber", "1 4\n1 5\n", start,
+            QStringLiteral("Hibás sor: 2, ez a sorszám már szerepelt"));
         row("too great a number", "renumber", "1 32768\n", start, QStringLiteral("Hibás sor: 1, régi és új"));
-        row("added", "add", "10 tíz\n11;tizenegy réteg", start + QStringLiteral(", 10 tíz, 11 tizenegy réteg"));
+        row("added", "add", "10 tíz\n11;tizenegy réteg",
+            start + QStringLiteral(", 10 tíz, 11 tizenegy réteg"));
         row("added twice", "add", "10 x\n11 x\n", start, QStringLiteral("Hibás sor: 2, ez a név"));
         row("added number in use", "add", "3 x\n", start, QStringLiteral("Hibás sor: 1, ez a sorszám"));
     }
@@ -346,12 +376,14 @@ private slots:
         if (samples.isEmpty()) QSKIP("QVDC_SAMPLES is not set");
         QFile f(samples + QStringLiteral("/gpl/aci256.gpl"));
         QVERIFY2(f.open(QIODevice::ReadOnly), qPrintable(f.fileName()));
-        static const QRegularExpression color(QStringLiteral("^\\s*(\\d+)\\s+(\\d+)\\s+(\\d+)\\s+ACI (\\d+)"));
+        static const QRegularExpression color(
+            QStringLiteral("^\\s*(\\d+)\\s+(\\d+)\\s+(\\d+)\\s+ACI (\\d+)"));
         int compared = 0, apart = 0, darkest = 0;
         for (const QString &line : QString::fromUtf8(f.readAll()).split(u'\n')) {
             const auto m = color.match(line);
             if (!m.hasMatch() || m.captured(4).toInt() >= 250) continue; // every program has its own greys
-            const quint32 rgb = m.captured(1).toUInt() << 16 | m.captured(2).toUInt() << 8 | m.captured(3).toUInt();
+            const quint32 rgb =
+                m.captured(1).toUInt() << 16 | m.captured(2).toUInt() << 8 | m.captured(3).toUInt();
             const uint index = m.captured(4).toUInt();
             const bool differs = refhost::cadPalette()[index] != rgb;
             (index % 10 == 7 || index % 10 == 9 ? darkest : apart) += differs;

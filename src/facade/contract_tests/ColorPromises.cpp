@@ -50,7 +50,8 @@ void penRevisionFollows(ZOLW_Doc &doc)
     if (!doc.revisions()) return;
     const quint64 before = doc.revisions()->revision(TableKind::PenColors);
     doc.penColors().write(somePens());
-    hold(doc.revisions()->revision(TableKind::PenColors) != before, QStringLiteral("the revision stays after a write"));
+    hold(doc.revisions()->revision(TableKind::PenColors) != before,
+         QStringLiteral("the revision stays after a write"));
 }
 
 void choicesAreDistinct(ZOLW_Doc &doc)
@@ -58,7 +59,8 @@ void choicesAreDistinct(ZOLW_Doc &doc)
     for (int mode : {1, 2}) {
         QSet<qint16> ids;
         for (const tKh &item : doc.khItems().items(mode)) {
-            hold(!ids.contains(item.KhId), QStringLiteral("an identifier stands twice in mode ") + shown(mode));
+            hold(!ids.contains(item.KhId),
+                 QStringLiteral("an identifier stands twice in mode ") + shown(mode));
             hold(!item.Text.isEmpty(), QStringLiteral("an item has no text in mode ") + shown(mode));
             ids.insert(item.KhId);
         }

@@ -44,7 +44,8 @@ std::vector<ContractFinding> checkContract(const FreshDocument &fresh, const Con
 {
     std::vector<ContractFinding> findings;
     for (const Promise &promise : allPromises()) {
-        if (!promise.role.startsWith(options.onlyRole) || (promise.optional && !options.optionalRoles)) continue;
+        if (!promise.role.startsWith(options.onlyRole) || (promise.optional && !options.optionalRoles))
+            continue;
         const QString seen = brokenBy(fresh, promise);
         if (!seen.isNull()) findings.push_back({promise.role, promise.text, seen});
     }

@@ -7,7 +7,10 @@ namespace {
 
 GroupRole &groupsOf(ZOLW_Doc &doc, const tTxd *) { return doc.textTypes().groups(); }
 GroupRole &groupsOf(ZOLW_Doc &doc, const tSid *) { return doc.symbols().groups(); }
-template <class Rec> GroupRole &groups(ZOLW_Doc &doc) { return groupsOf(doc, static_cast<const Rec *>(nullptr)); }
+template <class Rec> GroupRole &groups(ZOLW_Doc &doc)
+{
+    return groupsOf(doc, static_cast<const Rec *>(nullptr));
+}
 
 template <class Rec> Rec inGroup(ZOLW_Doc &doc, int n, qint16 group)
 {
@@ -22,8 +25,10 @@ template <class Rec> Rec inGroup(ZOLW_Doc &doc, int n, qint16 group)
 template <class Rec> void groupsAreListed(ZOLW_Doc &doc)
 {
     const auto before = groups<Rec>(doc).readAll();
-    const qint16 a = groups<Rec>(doc).add(QStringLiteral("Csoport ő")), b = groups<Rec>(doc).add(QStringLiteral("B"));
-    hold(a != b && std::ranges::count(before, a, &tGroup::GroupId) == 0, QStringLiteral("an identifier was given twice"));
+    const qint16 a = groups<Rec>(doc).add(QStringLiteral("Csoport ő")),
+                 b = groups<Rec>(doc).add(QStringLiteral("B"));
+    hold(a != b && std::ranges::count(before, a, &tGroup::GroupId) == 0,
+         QStringLiteral("an identifier was given twice"));
     const auto now = groups<Rec>(doc).readAll();
     same(int(now.size()), int(before.size()) + 2, "groups");
     same(int(std::ranges::count(now, tGroup{a, QStringLiteral("Csoport ő")})), 1, "the new group");
@@ -39,8 +44,10 @@ template <class Rec> void renameCarries(ZOLW_Doc &doc)
     const Rec other = stored<Rec>(doc, 2);
     groups<Rec>(doc).rename(id, QStringLiteral("új név"));
     r.GroupName = QStringLiteral("új név");
-    hold(sample<Rec>().table(doc).find(r.*sample<Rec>().id) == r, QStringLiteral("the record does not carry the new name"));
-    hold(sample<Rec>().table(doc).find(other.*sample<Rec>().id) == other, QStringLiteral("a record of another group changed"));
+    hold(sample<Rec>().table(doc).find(r.*sample<Rec>().id) == r,
+         QStringLiteral("the record does not carry the new name"));
+    hold(sample<Rec>().table(doc).find(other.*sample<Rec>().id) == other,
+         QStringLiteral("a record of another group changed"));
 }
 
 template <class Rec> void fullGroupStays(ZOLW_Doc &doc)
@@ -69,7 +76,8 @@ template <class Rec> void discardBringsGroupsBack(ZOLW_Doc &doc)
 template <class Rec> void append(Promises &all)
 {
     const QString role = QLatin1String(sample<Rec>().role) + QStringLiteral(": groups");
-    all.push_back({role, QStringLiteral("groups have their own identifiers and names"), groupsAreListed<Rec>});
+    all.push_back(
+        {role, QStringLiteral("groups have their own identifiers and names"), groupsAreListed<Rec>});
     all.push_back({role, QStringLiteral("records carry the new name of their group"), renameCarries<Rec>});
     all.push_back({role, QStringLiteral("a group that holds records is not removed"), fullGroupStays<Rec>});
     all.push_back({role, QStringLiteral("discard brings groups back"), discardBringsGroupsBack<Rec>, true});

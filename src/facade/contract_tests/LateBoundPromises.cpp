@@ -22,8 +22,9 @@ bool lineTypeByName(ZOLW_Doc &doc, int id, tPenStyle &style)
 {
     requireMember(doc, "bGetPenStyle");
     bool known = false;
-    hold(QMetaObject::invokeMethod(doc.lateBound(), "bGetPenStyle", Qt::DirectConnection, Q_RETURN_ARG(bool, known),
-                                   Q_ARG(int, id), Q_ARG(ZolWDoc::tPenStyle *, &style)),
+    hold(QMetaObject::invokeMethod(doc.lateBound(), "bGetPenStyle", Qt::DirectConnection,
+                                   Q_RETURN_ARG(bool, known), Q_ARG(int, id),
+                                   Q_ARG(ZolWDoc::tPenStyle *, &style)),
          QStringLiteral("bGetPenStyle cannot be called by its name"));
     return known;
 }
@@ -33,7 +34,8 @@ DrawingObjects drawn(ZOLW_Doc &doc, const LineElement &line)
     requireMember(doc, "ElRec2ObjLst");
     DrawingObjects objects;
     hold(QMetaObject::invokeMethod(doc.lateBound(), "ElRec2ObjLst", Qt::DirectConnection,
-                                   Q_RETURN_ARG(ZolWDoc::DrawingObjects, objects), Q_ARG(ZolWDoc::LineElement, line)),
+                                   Q_RETURN_ARG(ZolWDoc::DrawingObjects, objects),
+                                   Q_ARG(ZolWDoc::LineElement, line)),
          QStringLiteral("ElRec2ObjLst cannot be called by its name"));
     return objects;
 }
@@ -44,8 +46,10 @@ void lineTypeIsTold(ZOLW_Doc &doc)
     const tPenStyle p = stored<tPenStyle>(doc, 1);
     tPenStyle told;
     hold(lineTypeByName(doc, p.iPenStyleId, told) && told == p, QStringLiteral("another line type is told"));
-    hold(!lineTypeByName(doc, unusedId<tPenStyle>(doc), told), QStringLiteral("an unknown line type is told"));
-    hold(!lineTypeByName(doc, 65536 + p.iPenStyleId, told), QStringLiteral("a number of more than 16 bits is cut"));
+    hold(!lineTypeByName(doc, unusedId<tPenStyle>(doc), told),
+         QStringLiteral("an unknown line type is told"));
+    hold(!lineTypeByName(doc, 65536 + p.iPenStyleId, told),
+         QStringLiteral("a number of more than 16 bits is cut"));
 }
 
 double drawnLength(const DrawingObjects &objects)
@@ -67,7 +71,8 @@ void lineIsDrawn(ZOLW_Doc &doc)
     DrawingObjects whole = drawn(doc, line);
     same(int(whole.strokes.size()), 1, "strokes of a continuous line");
     hold(std::abs(drawnLength(whole) - 50) < 1e-6, QStringLiteral("a continuous line has another length"));
-    hold(std::abs(whole.strokes[0].width - double(p.Size)) < 1e-6, QStringLiteral("the stroke has another thickness"));
+    hold(std::abs(whole.strokes[0].width - double(p.Size)) < 1e-6,
+         QStringLiteral("the stroke has another thickness"));
     p.Pattern = {4, 1};
     doc.lineTypes().update(p);
     whole = drawn(doc, line);
@@ -85,8 +90,10 @@ void lineIsDrawn(ZOLW_Doc &doc)
 void appendLateBoundPromises(Promises &all)
 {
     const QString role = QStringLiteral("members by name");
-    all.push_back({role, QStringLiteral("bGetPenStyle tells the line type of an identifier"), lineTypeIsTold, true});
-    all.push_back({role, QStringLiteral("ElRec2ObjLst draws a line with its thickness and pattern"), lineIsDrawn, true});
+    all.push_back(
+        {role, QStringLiteral("bGetPenStyle tells the line type of an identifier"), lineTypeIsTold, true});
+    all.push_back({role, QStringLiteral("ElRec2ObjLst draws a line with its thickness and pattern"),
+                   lineIsDrawn, true});
 }
 
 } // namespace ZolWDoc::contract

@@ -58,12 +58,14 @@ void groupsAreWritten(ZOLW_Doc &doc)
         return g == now.end() ? qint16(-1) : g->GroupId;
     };
     const qint16 road = idOf(QStringLiteral("Úthálózat")), water = idOf(QStringLiteral("Víz"));
-    hold(road > 0 && water > 0 && road != water, QStringLiteral("new groups got no identifiers of their own"));
+    hold(road > 0 && water > 0 && road != water,
+         QStringLiteral("new groups got no identifiers of their own"));
     for (tGroup &g : now)
         if (g.GroupId == road) g.GroupName = QStringLiteral("Utak");
     std::erase_if(now, [&](const tGroup &g) { return g.GroupId == water; });
     doc.layers().writeGroups(now);
-    hold(doc.layers().groups() == now, QStringLiteral("renaming one group and leaving one out gives other groups"));
+    hold(doc.layers().groups() == now,
+         QStringLiteral("renaming one group and leaving one out gives other groups"));
 }
 
 /// A new group with two layers, both also in the group they came into.
@@ -73,7 +75,8 @@ std::vector<tLayMember> twoInANewGroup(ZOLW_Doc &doc, const tLay &a, const tLay 
     groups.push_back({-1, QStringLiteral("group of the test")});
     doc.layers().writeGroups(groups);
     groups = doc.layers().groups();
-    const qint16 id = std::ranges::find(groups, QStringLiteral("group of the test"), &tGroup::GroupName)->GroupId;
+    const qint16 id =
+        std::ranges::find(groups, QStringLiteral("group of the test"), &tGroup::GroupName)->GroupId;
     auto members = doc.layers().members();
     members.push_back({id, a.LayId});
     members.push_back({id, b.LayId});
@@ -93,10 +96,13 @@ void membersAreWritten(ZOLW_Doc &doc)
 {
     const tLay a = stored<tLay>(doc, 1), b = stored<tLay>(doc, 2);
     const auto members = twoInANewGroup(doc, a, b);
-    hold(alike(doc.layers().members(), members), QStringLiteral("other memberships are read than were written"));
+    hold(alike(doc.layers().members(), members),
+         QStringLiteral("other memberships are read than were written"));
     doc.layers().remove(a.LayId);
-    same(int(std::ranges::count(doc.layers().members(), a.LayId, &tLayMember::LayId)), 0, "memberships of a removed layer");
-    same(int(std::ranges::count(doc.layers().members(), b.LayId, &tLayMember::LayId)), 2, "memberships of the other one");
+    same(int(std::ranges::count(doc.layers().members(), a.LayId, &tLayMember::LayId)), 0,
+         "memberships of a removed layer");
+    same(int(std::ranges::count(doc.layers().members(), b.LayId, &tLayMember::LayId)), 2,
+         "memberships of the other one");
 }
 
 void discardBringsGroupsBack(ZOLW_Doc &doc)
@@ -153,7 +159,8 @@ void removeAllTakesLayers(ZOLW_Doc &doc)
     const qint16 ids[] = {a.LayId, c.LayId};
     doc.layers().removeAll(ids, true, looked);
     same(looked, 2, "layers looked at");
-    hold(!doc.layers().find(a.LayId) && !doc.layers().find(c.LayId), QStringLiteral("a removed layer is still found"));
+    hold(!doc.layers().find(a.LayId) && !doc.layers().find(c.LayId),
+         QStringLiteral("a removed layer is still found"));
     hold(doc.layers().find(b.LayId) == b, QStringLiteral("another layer is gone"));
 }
 

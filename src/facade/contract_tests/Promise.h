@@ -21,7 +21,8 @@ inline QString shown(int n) { return QString::number(n); }
 /// Two numbers that must agree.
 inline void same(int seen, int promised, const char *what)
 {
-    hold(seen == promised, QStringLiteral("%1: %2 instead of %3").arg(QLatin1String(what)).arg(seen).arg(promised));
+    hold(seen == promised,
+         QStringLiteral("%1: %2 instead of %3").arg(QLatin1String(what)).arg(seen).arg(promised));
 }
 template <class Act> void mustThrow(Act act, const char *what)
 {

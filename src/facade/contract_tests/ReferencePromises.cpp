@@ -19,11 +19,13 @@ template <class Rec> void holdUsed(ZOLW_Doc &doc, qint16 target, By by, const QS
     std::vector<qint16> refused;
     int looked = -1;
     table.removeAll(ids, refused, looked);
-    hold(refused == std::vector<qint16>{target} && looked == 2, QStringLiteral("removeAll did not refuse exactly the used one"));
+    hold(refused == std::vector<qint16>{target} && looked == 2,
+         QStringLiteral("removeAll did not refuse exactly the used one"));
     hold(table.find(target).has_value(), QStringLiteral("a used record is gone"));
     if (!doc.usage()) return;
     const auto users = doc.usage()->usersOf(sample<Rec>().kind, target);
-    hold(users == std::vector<UsageRole::Usage>{{by, 1, user}}, QStringLiteral("usersOf does not name the one user"));
+    hold(users == std::vector<UsageRole::Usage>{{by, 1, user}},
+         QStringLiteral("usersOf does not name the one user"));
 }
 
 void layerUsesTextType(ZOLW_Doc &doc)
@@ -45,7 +47,8 @@ void layerUsesLineType(ZOLW_Doc &doc)
     l.LayId = doc.layers().add(l);
     holdUsed<tPenStyle>(doc, p.iPenStyleId, By::Layers, l.Name);
     doc.layers().remove(l.LayId);
-    hold(doc.lineTypes().remove(p.iPenStyleId), QStringLiteral("it cannot be removed without its user either"));
+    hold(doc.lineTypes().remove(p.iPenStyleId),
+         QStringLiteral("it cannot be removed without its user either"));
 }
 
 void symbolizationUsesSymbol(ZOLW_Doc &doc)
@@ -68,7 +71,8 @@ void slotUsesSymbolization(ZOLW_Doc &doc)
     holdUsed<tPenStyleSi>(doc, si.Nr, By::LineTypes, p.Name);
     p.Slots = {0, 0};
     doc.lineTypes().update(p);
-    hold(doc.lineSymbolizations().remove(si.Nr), QStringLiteral("it cannot be removed from an empty slot either"));
+    hold(doc.lineSymbolizations().remove(si.Nr),
+         QStringLiteral("it cannot be removed from an empty slot either"));
 }
 
 void textTypeRenumbers(ZOLW_Doc &doc)
@@ -82,7 +86,8 @@ void textTypeRenumbers(ZOLW_Doc &doc)
     mustThrow([&] { doc.textTypes().renumber(old, other.TxdId); }, "renumbering to a number in use");
     t.TxdId = 32767;
     doc.textTypes().renumber(old, t.TxdId);
-    hold(doc.textTypes().find(32767) == t && !doc.textTypes().find(old), QStringLiteral("the record did not move"));
+    hold(doc.textTypes().find(32767) == t && !doc.textTypes().find(old),
+         QStringLiteral("the record did not move"));
     same(doc.layers().find(l.LayId)->TxdId, 32767, "text type of the layer that referred to it");
     same(doc.textTypes().uses(32767), 1, "uses after renumbering");
     hold(doc.textTypes().find(other.TxdId) == other, QStringLiteral("another text type changed"));
@@ -100,8 +105,10 @@ void symbolRenumbers(ZOLW_Doc &doc)
     mustThrow([&] { doc.symbolRenumber()->renumber(old, other.SidId); }, "renumbering to a number in use");
     s.SidId = 32767;
     doc.symbolRenumber()->renumber(old, 32767);
-    hold(doc.symbols().find(32767) == s && !doc.symbols().find(old), QStringLiteral("the record did not move"));
-    same(doc.lineSymbolizations().find(si.Nr)->SidId, 32767, "symbol of the line symbolization that referred to it");
+    hold(doc.symbols().find(32767) == s && !doc.symbols().find(old),
+         QStringLiteral("the record did not move"));
+    same(doc.lineSymbolizations().find(si.Nr)->SidId, 32767,
+         "symbol of the line symbolization that referred to it");
     same(doc.symbols().highestId(), 32767, "highest symbol number");
 }
 
@@ -116,7 +123,8 @@ void discardTakesRenumberingBack(ZOLW_Doc &doc)
     doc.symbolRenumber()->renumber(s.SidId, 32767);
     doc.changeScopes()->discardChanges(TableKind::Symbols);
     hold(doc.symbols().find(s.SidId) == s, QStringLiteral("the symbol has not its old number"));
-    hold(doc.lineSymbolizations().find(si.Nr) == si, QStringLiteral("the reference still says the other number"));
+    hold(doc.lineSymbolizations().find(si.Nr) == si,
+         QStringLiteral("the reference still says the other number"));
 }
 
 void takeOverFindsItsPlace(ZOLW_Doc &doc)
@@ -130,14 +138,16 @@ void takeOverFindsItsPlace(ZOLW_Doc &doc)
     hold(taken && second && !taken->Name.isEmpty() && taken->Name != second->Name,
          QStringLiteral("the records have no names of their own"));
     hold(taken->Size_mm == 7 && !taken->GroupName.isEmpty(), QStringLiteral("size or group is missing"));
-    hold(doc.textTypes().find(first.TxdId) == first, QStringLiteral("the record that had the number changed"));
+    hold(doc.textTypes().find(first.TxdId) == first,
+         QStringLiteral("the record that had the number changed"));
 }
 
 void symbolNames(ZOLW_Doc &doc)
 {
     const tSid s = stored<tSid>(doc, 1);
     hold(doc.symbols().nameExists(s.ShortName), QStringLiteral("the name of a symbol does not exist"));
-    hold(!doc.symbols().nameExists(QStringLiteral("no such name")), QStringLiteral("a name exists that no symbol has"));
+    hold(!doc.symbols().nameExists(QStringLiteral("no such name")),
+         QStringLiteral("a name exists that no symbol has"));
     hold(doc.symbols().highestId() >= s.SidId, QStringLiteral("the highest number is not the highest"));
 }
 
@@ -156,7 +166,8 @@ void appendReferencePromises(Promises &all)
     add("text types", "a record taken over gets a number, a name and a group", takeOverFindsItsPlace);
     add("symbols", "names and the highest number are told", symbolNames);
     add("symbols: renumber", "references follow a renumbering", symbolRenumbers, true);
-    add("symbols: change scope", "discard takes a renumbering back with its references", discardTakesRenumberingBack, true);
+    add("symbols: change scope", "discard takes a renumbering back with its references",
+        discardTakesRenumberingBack, true);
 }
 
 } // namespace ZolWDoc::contract

@@ -9,7 +9,8 @@ void commandKeepsItsWrites(ZOLW_Doc &doc)
     tLay l;
     inCommand(doc, QStringLiteral("outer"), [&] {
         inCommand(doc, QStringLiteral("inner"), [&] { l = stored<tLay>(doc, 1); });
-        hold(doc.layers().find(l.LayId) == l, QStringLiteral("a write of the inner command is not seen in the outer one"));
+        hold(doc.layers().find(l.LayId) == l,
+             QStringLiteral("a write of the inner command is not seen in the outer one"));
         l.Name = QStringLiteral("renamed");
         doc.layers().update(l);
     });
@@ -43,7 +44,8 @@ void refusedWriteHarmsNothing(ZOLW_Doc &doc)
         first.Visible = !first.Visible;
         doc.layers().update(first);
     });
-    hold(doc.layers().find(first.LayId) == first, QStringLiteral("a refused write took other writes of its command back"));
+    hold(doc.layers().find(first.LayId) == first,
+         QStringLiteral("a refused write took other writes of its command back"));
 }
 
 void spanAndCommandMix(ZOLW_Doc &doc)
@@ -58,7 +60,8 @@ void spanAndCommandMix(ZOLW_Doc &doc)
     });
     doc.changeScopes()->discardChanges(TableKind::LineTypes);
     hold(doc.lineTypes().readAll() == before, QStringLiteral("the line types are not as they were"));
-    hold(doc.layers().find(l.LayId) == l, QStringLiteral("the discard of one table took a change of another back"));
+    hold(doc.layers().find(l.LayId) == l,
+         QStringLiteral("the discard of one table took a change of another back"));
 }
 
 void spansAreApart(ZOLW_Doc &doc)
@@ -70,7 +73,8 @@ void spansAreApart(ZOLW_Doc &doc)
     const tPenStyle p = stored<tPenStyle>(doc, 1);
     const tPenStyleSi si = stored<tPenStyleSi>(doc, 1);
     scopes->discardChanges(TableKind::LineTypes);
-    hold(scopes->changesOpen(TableKind::LineSymbolizations), QStringLiteral("the span of another table was closed"));
+    hold(scopes->changesOpen(TableKind::LineSymbolizations),
+         QStringLiteral("the span of another table was closed"));
     scopes->commitChanges(TableKind::LineSymbolizations);
     hold(!doc.lineTypes().find(p.iPenStyleId), QStringLiteral("the discarded line type is still there"));
     hold(doc.lineSymbolizations().find(si.Nr) == si, QStringLiteral("the kept line symbolization is gone"));

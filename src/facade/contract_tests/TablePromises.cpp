@@ -85,7 +85,8 @@ template <class Rec> void removeTakesOne(ZOLW_Doc &doc)
     const Rec stays = stored<Rec>(doc, 1), goes = stored<Rec>(doc, 2);
     const int count = s.table(doc).count();
     same(s.table(doc).uses(goes.*s.id), 0, "uses of a new record");
-    hold(!s.table(doc).remove(unusedId<Rec>(doc)), QStringLiteral("removal of an unknown identifier says true"));
+    hold(!s.table(doc).remove(unusedId<Rec>(doc)),
+         QStringLiteral("removal of an unknown identifier says true"));
     hold(s.table(doc).remove(goes.*s.id), QStringLiteral("removal of a free record says false"));
     hold(!s.table(doc).find(goes.*s.id), QStringLiteral("the removed record is still found"));
     hold(!s.table(doc).remove(goes.*s.id), QStringLiteral("removing it again says true"));
@@ -113,8 +114,8 @@ template <class Rec> void addAllStores(ZOLW_Doc &doc)
 }
 
 /// The rows before `written` are as wanted, those after it as they were.
-template <class Rec>
-void requireWritten(ZOLW_Doc &doc, const std::vector<Rec> &before, const std::vector<Rec> &wanted, int written)
+template <class Rec> void requireWritten(ZOLW_Doc &doc, const std::vector<Rec> &before,
+                                         const std::vector<Rec> &wanted, int written)
 {
     for (size_t i = 0; i < before.size(); ++i)
         requireStored(doc, int(i) < written ? wanted[i] : before[i], "a row of updateAll");
@@ -165,7 +166,8 @@ template <class Rec> void removeAllTakes(ZOLW_Doc &doc)
     same(looked, 3, "identifiers looked at");
     hold(refused == std::vector<qint16>{unknown}, QStringLiteral("refused are not exactly the unknown ones"));
     same(s.table(doc).count(), count - 2, "count");
-    hold(!s.table(doc).find(ids[0]) && !s.table(doc).find(ids[2]), QStringLiteral("a removed record is still found"));
+    hold(!s.table(doc).find(ids[0]) && !s.table(doc).find(ids[2]),
+         QStringLiteral("a removed record is still found"));
     requireStored(doc, rows[3], "another record");
 }
 
@@ -256,7 +258,9 @@ template <class Rec> void append(Promises &all)
 {
     const Sample<Rec> &s = sample<Rec>();
     const QString role = QLatin1String(s.role);
-    const auto add = [&](const char *text, void (*run)(ZOLW_Doc &)) { all.push_back({role, QLatin1String(text), run}); };
+    const auto add = [&](const char *text, void (*run)(ZOLW_Doc &)) {
+        all.push_back({role, QLatin1String(text), run});
+    };
     add("add stores a copy under an identifier that was free", addStores<Rec>);
     add("no identifier is given twice", identifiersDiffer<Rec>);
     add("an unknown identifier is not found", unknownIsNotFound<Rec>);
