@@ -25,7 +25,7 @@ int storedPixels(const QWidget &window, const QString &key, int fallback)
 void restoreSize(QWidget &window, const QString &form)
 {
     const QFontMetrics letters(window.font());
-    const QSize usual(letters.averageCharWidth() * 120, letters.height() * 28);
+    const QSize usual(letters.averageCharWidth() * 160, letters.height() * 28);
     const QSize wanted(storedPixels(window, keyOf(form, "-Width"), usual.width()),
                        storedPixels(window, keyOf(form, "-Height"), usual.height()));
     const QScreen *const screen = window.screen();
