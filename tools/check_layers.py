@@ -13,7 +13,7 @@ BELOW = {
     "src/facade/services": ("src/facade/contract",),
     "src/rules": CORE[:2],
     "src/kit": ("src/facade/services",),
-    "src/contract_tests": ("src/facade/contract",),
+    "src/facade/contract_tests": ("src/facade/contract",),
     "src/fonts": (*CORE, "src/kit"),
     "src/grids": (*CORE, "src/kit", "src/fonts"),
     "src/controls": (*CORE, "src/kit", "src/fonts"),
@@ -47,7 +47,7 @@ def room_of(path):
 
 def resolved(root, name):
     """Path of a project header, looked for where the compiler does; None = not the project's."""
-    for base in ("src", "host", "docs/examples", "tests", "benchmarks"):
+    for base in ("src", "host", "apps", "docs/examples", "tests", "benchmarks"):
         if (root / base / name).is_file():
             return f"{base}/{name}"
     return None
