@@ -9,6 +9,7 @@
 
 #ifdef QVDC_WITH_WIDGETS
 #include <QApplication>
+#include <QWidget>
 using Application = QApplication;
 #else
 #include <QCoreApplication>

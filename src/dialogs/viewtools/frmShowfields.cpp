@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -90,12 +91,21 @@ void frmShowfields::connectControls()
     connect(lstVisible, &QListWidget::itemDoubleClicked, cmdRemove, &QPushButton::click);
     connect(cmdUp, &QPushButton::clicked, this, [this] { step(-1); });
     connect(cmdDown, &QPushButton::clicked, this, [this] { step(1); });
+    connectKey(Qt::ALT | Qt::Key_Up, *cmdUp, -1);
+    connectKey(Qt::ALT | Qt::Key_Down, *cmdDown, 1);
     for (QListWidget *list : {lstAvail, lstVisible}) {
         connect(list, &QListWidget::currentRowChanged, this, &frmShowfields::followLists);
         connect(list->model(), &QAbstractItemModel::rowsInserted, this, &frmShowfields::followLists);
         connect(list->model(), &QAbstractItemModel::rowsRemoved, this, &frmShowfields::followLists);
         connect(list->model(), &QAbstractItemModel::rowsMoved, this, &frmShowfields::followLists);
     }
+}
+
+/// A shortcut of its own: a button's would take its time to look pressed, and keys repeat faster.
+void frmShowfields::connectKey(const QKeySequence &keys, QPushButton &button, int by)
+{
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, by] { step(by); });
+    button.setToolTip(keys.toString(QKeySequence::NativeText));
 }
 
 void frmShowfields::ShowFields(AbstractGrid &grid, bool &confirmed)
@@ -164,8 +174,6 @@ void frmShowfields::readCaptions()
     cmdRemove->setText(keyed[3]);
     cmdUp->setText(txt(Text{21203, u"Fel"}));
     cmdDown->setText(txt(Text{21204, u"Le"}));
-    cmdUp->setShortcut(Qt::ALT | Qt::Key_Up);   // setText() takes it away
-    cmdDown->setShortcut(Qt::ALT | Qt::Key_Down);
     lstAvail->setAccessibleName(avail);
     lstVisible->setAccessibleName(visible);
     for (QListWidget *list : {lstAvail, lstVisible})

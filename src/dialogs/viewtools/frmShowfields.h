@@ -3,9 +3,9 @@
 #include "dialogs/viewtools/ViewToolDialog.h"
 #include "kit/grid/AbstractGrid.h"
 
+class QKeySequence;
 class QLabel;
 class QListWidget;
-class QListWidgetItem;
 
 namespace QV_DOC_CONTROLS {
 
@@ -31,6 +31,7 @@ private:
     QPushButton *makeButton(const char *name, const char *icon);
     void arrange();
     void connectControls();
+    void connectKey(const QKeySequence &keys, QPushButton &button, int by);
     void fill();
     void readCaptions() override;
     void move(QListWidget &from, QListWidget &to);

@@ -13,7 +13,10 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 bool isLine(const Tool &row) { return std::strcmp(row.name, kToolLine) == 0; }
+bool tellsAll(const Tool &row) { return row.caption.id != 0; }
 bool isOn(const Tool &row, const char *band) { return std::strcmp(row.band, band) == 0; }
+
+bool isSame(const Tool &a, const Tool &b) { return std::strcmp(a.name, b.name) == 0; }
 
 } // namespace
 
@@ -21,7 +24,7 @@ ToolSet::ToolSet(std::span<const Tool> rows, ErrorRelay &relay, QWidget *owner)
     : QObject(owner), m_rows(rows), m_relay(relay)
 {
     for (const Tool &row : rows)
-        if (!isLine(row) && !tool(row.name)) makeTool(row);
+        if (tellsAll(row)) makeTool(row);
     for (const Tool &row : rows)
         if (*row.opens) popUp(row.opens);       // all of its tools are made by now
     retranslate();
@@ -103,24 +106,26 @@ void ToolSet::setChecked(const char *name, bool on)
 
 void ToolSet::retranslate()
 {
-    QHash<QAction *, QString> captions;
     QHash<QByteArray, QString> taken;           // access keys by band
     for (const Tool &row : m_rows) {
-        if (isLine(row)) continue;
+        if (!tellsAll(row)) continue;
         QAction *const action = tool(row.name);
-        QString &caption = captions[action];    // a second row of a tool takes over what the first one says
-        if (caption.isEmpty()) caption = withAccessKeys({txt(row.caption)}, keysBeside(action, taken)).first();
-        taken[row.band] += accessKeyOf(caption);
-        action->setText(caption);
+        const QString caption = txt(row.caption);
+        action->setText(withAccessKeys({caption}, keysBeside(row.name, taken)).first());
+        for (const Tool &place : m_rows)
+            if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        const QString plain = QString(caption).remove(QStringLiteral("..."));
+        action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
     }
 }
 
 /// Access keys already given on any of the tool's bands.
-QString ToolSet::keysBeside(QAction *action, const QHash<QByteArray, QString> &taken) const
+QString ToolSet::keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const
 {
     QString keys;
     for (const Tool &row : m_rows)
-        if (tool(row.name) == action) keys += taken.value(row.band);
+        if (std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
     return keys;
 }
 

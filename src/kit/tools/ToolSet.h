@@ -42,7 +42,7 @@ private:
     void makeTool(const Tool &row);
     QMenu *menuOf(const char *band);            ///< perhaps not filled yet
     template <class Band> void addTo(Band &band, const char *name);
-    QString keysBeside(QAction *action, const QHash<QByteArray, QString> &taken) const;
+    QString keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const;
     QWidget *owner() const;
 
     std::span<const Tool> m_rows;
