@@ -16,6 +16,8 @@ private slots:
         QTest::newRow("first letters") << QStringList{"Új", "Másolás", "Törlés"} << ""
                                        << QStringList{"Ú&j", "&Másolás", "&Törlés"};
         QTest::newRow("digits") << QStringList{"1. szempont", "2. szempont"} << "" << QStringList{"&1. szempont", "&2. szempont"};
+        QTest::newRow("a number before all else") << QStringList{"Criteriul 1", "Criteriul 2"} << ""
+                                                  << QStringList{"Criteriul &1", "Criteriul &2"};
         QTest::newRow("a later word before the inside") << QStringList{"Select all", "Sort by"} << ""
                                                         << QStringList{"&Select all", "Sort &by"};
         QTest::newRow("inside when no beginning is left") << QStringList{"Sort", "Save"} << "" << QStringList{"&Sort", "S&ave"};

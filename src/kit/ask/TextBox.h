@@ -10,6 +10,7 @@ namespace QV_DOC_CONTROLS {
 
 /// A line of text: what is asked, the proposed answer selected, OK and Cancel.
 class TextBox final : public QDialog {
+    Q_OBJECT
 public:
     TextBox(const TextQuestion &, QWidget *owner);
     QString answer() const;

@@ -6,14 +6,21 @@ namespace {
 bool canBeKey(QChar c) { return c.unicode() < 128 && c.isLetterOrNumber(); }
 bool startsWord(const QString &s, qsizetype i) { return i == 0 || !s[i - 1].isLetterOrNumber(); }
 
+/// How well a place suits: a number tells most, then the beginning of a word; 3 = not at all.
+int rankOf(const QString &caption, qsizetype i, const QString &taken)
+{
+    if (!canBeKey(caption[i]) || taken.contains(caption[i].toUpper())) return 3;
+    return !startsWord(caption, i) ? 2 : caption[i].isDigit() ? 0 : 1;
+}
+
 /// Where the caption's key stands best among the keys that are free; -1 = nowhere.
 qsizetype placeOfKey(const QString &caption, const QString &taken)
 {
-    for (const bool atStart : {true, false})
-        for (qsizetype i = 0; i < caption.size(); ++i)
-            if (canBeKey(caption[i]) && startsWord(caption, i) == atStart && !taken.contains(caption[i].toUpper()))
-                return i;
-    return -1;
+    qsizetype best = -1;
+    int bestRank = 3;
+    for (qsizetype i = 0; i < caption.size(); ++i)
+        if (const int rank = rankOf(caption, i, taken); rank < bestRank) best = i, bestRank = rank;
+    return best;
 }
 
 } // namespace

@@ -24,7 +24,7 @@ constexpr IconRow kIcons[] = {
     // paper
     {"printPreview", "M7.5 14.5h-5v-13h6l3 3v1.5M8.5 1.5v3h3M7.5 10a2.5 2.5 0 1 0 5 0a2.5 2.5 0 1 0 -5 0M11.9 11.9L14.5 14.5"},
     {"print", "M4.5 5.5v-4h7v4M4.5 11.5h-3v-6h13v6h-3M4.5 9.5h7v5h-7z"},
-    {"pageSetup", "M2.5 1.5h11v13h-11zM5.5 1.5v13M2.5 4.5h11M2.5 11.5h11M10.5 1.5v13"},
+    {"pageSetup", "M2.5 1.5h11v13h-11zM5.5 4.5h5v7h-5z"},
     // selection
     {"selectAll", "M1.5 1.5h13v13h-13zM4.5 8l2.5 2.8l4.5 -5.3"},
     {"unselectAll", "M1.5 4.5v-3h3M6.7 1.5h2.6M11.5 1.5h3v3M14.5 6.7v2.6M14.5 11.5v3h-3M9.3 14.5h-2.6M4.5 14.5h-3v-3M1.5 9.3v-2.6"},

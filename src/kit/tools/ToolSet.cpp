@@ -82,7 +82,10 @@ QMenu *ToolSet::menuOf(const char *band)
 QMenu *ToolSet::popUp(const char *band)
 {
     QMenu *const menu = menuOf(band);
-    if (menu->isEmpty()) addTo(*menu, band);
+    if (menu->isEmpty()) {
+        addTo(*menu, band);
+        retranslate();
+    }
     return menu;
 }
 
@@ -120,12 +123,12 @@ void ToolSet::retranslate()
     }
 }
 
-/// Access keys already given on any of the tool's bands.
+/// Access keys already given on any menu that shows the tool; tool bars have none.
 QString ToolSet::keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const
 {
     QString keys;
     for (const Tool &row : m_rows)
-        if (std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
+        if (m_popUps.contains(row.band) && std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
     return keys;
 }
 

@@ -1,3 +1,4 @@
+#include "dialogs/viewtools/ViewTools.h"
 #include "facade/services/Language.h"
 #include "kit/forms/AccessKeys.h"
 #include "kit/tools/Icons.h"
