@@ -3,8 +3,7 @@
 #include "facade/services/Text.h"
 #include "support/Registry.h"
 
-#include <QtTest/qsignalspy.h>
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -37,10 +36,9 @@ struct Host final : ZolWDoc::HostServices {
     Runtime runtime;
     Settings own;
     Errors reporter;
-    LanguageRuntime *language() override { return &runtime; }
+    ZolWDoc::LanguageRuntime *language() override { return &runtime; }
     ZolWDoc::SettingsService *settings() override { return &own; }
     ZolWDoc::ErrorReporter *errors() override { return &reporter; }
-    using LanguageRuntime = ZolWDoc::LanguageRuntime;
 };
 
 } // namespace
