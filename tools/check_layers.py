@@ -29,7 +29,7 @@ BELOW = {
     "docs/examples": (),
 }
 # The one thing of the contract that the widgets of the kit may see: drawings as data, no record.
-ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h",)}
+ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h", "src/rules/GridState.h")}
 OUTSIDE = ("host", "apps", "docs/examples")     # they use what any user of the library would
 GPL_ROOMS = ("host/import", "host/fonts")
 GPL_NAMES = re.compile(r"^(dxflib/|dl_\w+\.h$|hersheyfont)")
