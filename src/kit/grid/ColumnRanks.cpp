@@ -25,7 +25,7 @@ bool ColumnRanks::buildOn()
 {
     if (m_ready) return true;
     if (m_cells->sortsByNumber(m_column)) return buildFromNumbers(), true;
-    if (m_keys.size() < size_t(m_cells->rowCount())) return sortChunk(), false;
+    if (m_keys.size() < size_t(m_cells->cellRows())) return sortChunk(), false;
     if (mergeRuns(true)) return false;
     buildFromTexts();
     return true;
@@ -34,7 +34,7 @@ bool ColumnRanks::buildOn()
 void ColumnRanks::buildFromNumbers()
 {
     struct Entry { double number; qint32 row; };
-    std::vector<Entry> all(size_t(m_cells->rowCount()));
+    std::vector<Entry> all(size_t(m_cells->cellRows()));
     for (size_t r = 0; r < all.size(); ++r) all[r] = {orLowest(m_cells->number(int(r), m_column)), qint32(r)};
     if (!std::ranges::is_sorted(all, {}, &Entry::number)) std::ranges::sort(all, {}, &Entry::number);
     m_rank.resize(all.size());
@@ -48,8 +48,8 @@ void ColumnRanks::buildFromNumbers()
 /// Keys for the next rows, sorted as a run of their own; runs of equal length join, so that no step gets long.
 void ColumnRanks::sortChunk()
 {
-    const size_t begin = m_keys.size(), end = std::min(begin + kChunk, size_t(m_cells->rowCount()));
-    m_keys.reserve(size_t(m_cells->rowCount()));
+    const size_t begin = m_keys.size(), end = std::min(begin + kChunk, size_t(m_cells->cellRows()));
+    m_keys.reserve(size_t(m_cells->cellRows()));
     for (size_t r = begin; r < end; ++r) {
         m_keys.push_back(m_collator->sortKey(m_cells->text(int(r), m_column)));
         m_order.push_back(qint32(r));
@@ -92,16 +92,16 @@ int ColumnRanks::compare(int a, int b) const
     return x < y ? -1 : x > y ? 1 : 0;
 }
 
-/// Takes the row out of its rank, which goes when it was its last one.
-int ColumnRanks::leave(int row)
+/// Takes the row out of its rank, which goes when it was its last one; returns whether it stayed.
+bool ColumnRanks::leave(int row)
 {
     const int rank = std::exchange(m_rank[size_t(row)], -1);
-    if (m_sample[size_t(rank)] != row) return rank;
+    if (m_sample[size_t(rank)] != row) return true;
     const auto other = std::ranges::find(m_rank, rank);
-    if (other != m_rank.end()) return m_sample[size_t(rank)] = qint32(other - m_rank.begin()), rank;
+    if (other != m_rank.end()) return m_sample[size_t(rank)] = qint32(other - m_rank.begin()), true;
     m_sample.erase(m_sample.begin() + rank);
     for (qint32 &r : m_rank) r -= r > rank;
-    return rank;
+    return false;
 }
 
 void ColumnRanks::enter(int row, int rank, bool isNew)
@@ -113,12 +113,15 @@ void ColumnRanks::enter(int row, int rank, bool isNew)
     m_rank[size_t(row)] = rank;
 }
 
-void ColumnRanks::rowEdited(int row)
+bool ColumnRanks::rowEdited(int row)
 {
-    leave(row);
+    const int old = of(row);
+    const bool shared = leave(row);
     const auto at = std::ranges::lower_bound(m_sample, 0, {}, [&](int sample) { return compare(sample, row); });
     const bool isNew = at == m_sample.end() || compare(*at, row) != 0;
-    enter(row, int(at - m_sample.begin()), isNew);
+    const int rank = int(at - m_sample.begin());
+    enter(row, rank, isNew);
+    return rank != old || !shared || isNew;
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -21,7 +21,8 @@ public:
     void finish() { while (!buildOn()) {} }
     int of(int row) const { return m_rank[size_t(row)]; }   ///< ready only
     int count() const { return int(m_sample.size()); }
-    void rowEdited(int row);                    ///< ready only; the other rows are as they were
+    /// Ready only; the other rows are as they were. Returns false when the row is still equal to the same rows.
+    bool rowEdited(int row);
 
 private:
     struct Run { size_t begin, end; };          ///< of m_order, sorted
@@ -30,7 +31,7 @@ private:
     void buildFromTexts();
     void sortChunk();
     bool mergeRuns(bool all);
-    int leave(int row);
+    bool leave(int row);
     void enter(int row, int rank, bool isNew);
     int compare(int a, int b) const;
 

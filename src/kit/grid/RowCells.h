@@ -8,7 +8,7 @@ namespace QV_DOC_CONTROLS {
 class RowCells {
 public:
     virtual ~RowCells() = default;
-    virtual int rowCount() const = 0;
+    virtual int cellRows() const = 0;
     virtual bool sortsByNumber(int column) const = 0;
     virtual double number(int row, int column) const = 0;   ///< NaN = no number; sorts before every number
     virtual QString text(int row, int column) const = 0;    ///< as shown

@@ -22,10 +22,17 @@ void RowEngine::setLocale(const QLocale &locale)
     m_ranks.clear();
 }
 
-void RowEngine::refill()
+void RowEngine::restart()
+{
+    m_groups.clear(), m_sorts.clear();
+    setAllExpanded(true);
+    refill({});
+}
+
+void RowEngine::refill(std::vector<bool> fitting)
 {
     m_ranks.clear();
-    m_fits.clear();
+    m_fits = std::move(fitting);
     rebuild();
 }
 
@@ -61,7 +68,7 @@ bool RowEngine::prepare(int column)
 /// A counting sort for each key, the least one first: stable, so rows of equal keys stay in the source's order.
 void RowEngine::sortRows()
 {
-    m_order.resize(size_t(m_cells->rowCount()));
+    m_order.resize(size_t(m_cells->cellRows()));
     std::iota(m_order.begin(), m_order.end(), 0);
     std::vector<SortKey> keys = m_groups;
     keys.insert(keys.end(), m_sorts.begin(), m_sorts.end());
@@ -79,10 +86,11 @@ void RowEngine::sortRows()
 
 bool RowEngine::before(int a, int b)
 {
-    for (const SortKey &key : m_sorts) {
-        const ColumnRanks &rank = ranks(key.column);
-        if (const int d = rank.of(a) - rank.of(b)) return (d < 0) == (key.order == SortOrder::Ascending);
-    }
+    for (const auto *keys : {&m_groups, &m_sorts})
+        for (const SortKey &key : *keys) {
+            const ColumnRanks &rank = ranks(key.column);
+            if (const int d = rank.of(a) - rank.of(b)) return (d < 0) == (key.order == SortOrder::Ascending);
+        }
     return a < b;
 }
 
@@ -92,31 +100,60 @@ void RowEngine::rebuild()
     m_shown.clear();
     findBands();
     listLines();
+    m_stale = false;
 }
 
 void RowEngine::rowEdited(int row, bool fits)
 {
     for (auto rank = m_ranks.begin(); rank != m_ranks.end();) {
-        if (rank->second.isReady()) rank->second.rowEdited(row), ++rank;
-        else rank = m_ranks.erase(rank);
+        if (!rank->second.isReady()) { rank = m_ranks.erase(rank); continue; }
+        const bool changed = rank->second.rowEdited(row);
+        m_stale |= changed && std::ranges::find(m_groups, rank->first, &SortKey::column) != m_groups.end();
+        ++rank;
     }
-    if (!m_fits.empty()) m_fits[size_t(row)] = fits;
+    if (m_fits.empty() || m_fits[size_t(row)] == fits) return;
+    m_fits[size_t(row)] = fits;
+    m_stale = true;
 }
 
-std::optional<RowEngine::Move> RowEngine::place(int row)
+bool RowEngine::isInPlace(int row)
 {
+    const auto at = std::ranges::find(m_order, row);
+    return (at == m_order.begin() || before(at[-1], row)) && (at + 1 == m_order.end() || before(row, at[1]));
+}
+
+/// Where the row belongs in `rows`, which are in order but for the row itself, at `at`; counted without it.
+int RowEngine::placeIn(const std::vector<qint32> &rows, int row, int at)
+{
+    int low = 0, high = int(rows.size()) - 1;
+    while (low < high) {
+        const int mid = (low + high) / 2;
+        if (before(rows[size_t(mid < at ? mid : mid + 1)], row)) low = mid + 1;
+        else high = mid;
+    }
+    return low;
+}
+
+std::optional<RowEngine::Move> RowEngine::targetOf(int row)
+{
+    if (m_stale) return std::nullopt;
     const int from = lineOf(row);
-    if (!m_groups.empty() || from < 0 || !isShown(row)) return std::nullopt;
-    const auto moveIn = [&](std::vector<qint32> &rows) {
-        rows.erase(std::ranges::find(rows, row));
-        const auto at = std::ranges::upper_bound(rows, row, [this](int a, int b) { return before(a, b); });
-        return int(rows.insert(at, row) - rows.begin());
+    if (isInPlace(row)) return Move{from, from};
+    if (!m_groups.empty() || from < 0) return std::nullopt;
+    return Move{from, placeIn(m_lines, row, from)};
+}
+
+void RowEngine::place(int row, const Move &move)
+{
+    const auto moved = [row](std::vector<qint32> &rows, int from, int to) {
+        rows.erase(rows.begin() + from);
+        rows.insert(rows.begin() + to, row);
     };
-    moveIn(m_order);
-    moveIn(m_shown);
-    const int to = moveIn(m_lines);
-    if (from != to) m_lineOf.clear();
-    return Move{from, to};
+    const int at = int(std::ranges::find(m_order, row) - m_order.begin());
+    moved(m_order, at, placeIn(m_order, row, at));
+    moved(m_shown, move.from, move.to);
+    moved(m_lines, move.from, move.to);
+    m_lineOf.clear();
 }
 
 void RowEngine::openBands(int fromLevel, int at, std::vector<int> &open)
@@ -184,7 +221,7 @@ void RowEngine::listLines()
 int RowEngine::lineOf(int row) const
 {
     if (m_lineOf.empty()) {
-        m_lineOf.assign(size_t(m_cells->rowCount()), -1);
+        m_lineOf.assign(size_t(m_cells->cellRows()), -1);
         for (int i = 0; i < lines(); ++i)
             if (rowAt(i) >= 0) m_lineOf[size_t(rowAt(i))] = i;
     }
@@ -197,14 +234,21 @@ int RowEngine::lineOfBand(int b) const
     return found == m_lines.end() ? -1 : int(found - m_lines.begin());
 }
 
-std::vector<int> RowEngine::closedBandsOver(int row) const
+std::vector<int> RowEngine::bandsOver(int row) const
 {
-    std::vector<int> closed;
+    std::vector<int> over;
     const int at = int(std::ranges::find(m_shown, row) - m_shown.begin());
     for (int b = 0; b < bandCount(); ++b) {
         const Band &band = m_bands[size_t(b)];
-        if (!band.expanded && at >= band.begin && at < band.begin + band.count) closed.push_back(b);
+        if (at >= band.begin && at < band.begin + band.count) over.push_back(b);
     }
+    return over;
+}
+
+std::vector<int> RowEngine::closedBandsOver(int row) const
+{
+    std::vector<int> closed = bandsOver(row);
+    std::erase_if(closed, [this](int b) { return m_bands[size_t(b)].expanded; });
     return closed;
 }
 

@@ -31,15 +31,17 @@ public:
 
     explicit RowEngine(const RowCells &cells) : m_cells(&cells) { setLocale(QLocale::c()); }
     void setLocale(const QLocale &locale);                  ///< order of texts; digits count as numbers
-    void refill();                                          ///< other rows: ranks and filter are void, states stay
+    void restart();                                         ///< another table: no keys, no filter, no states
+    void refill(std::vector<bool> fitting);                 ///< other rows of the table, see setFitting()
     void setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts);
     void setFitting(std::vector<bool> rows);                ///< by row; empty = all
     const std::vector<SortKey> &groupLevels() const { return m_groups; }
     const std::vector<SortKey> &sortKeys() const { return m_sorts; }
 
-    /// Takes note of the row's values; call place() or rebuild() before the next look at lines. Only that row changed.
+    /// Takes note of one row's values. Its line stays until place() or rebuild().
     void rowEdited(int row, bool fits);
-    std::optional<Move> place(int row);                     ///< ungrouped and still shown; empty = rebuild()
+    std::optional<Move> targetOf(int row);                  ///< of an edited row; empty = it takes a rebuild()
+    void place(int row, const Move &move);
     void rebuild();
 
     bool prepare(int column);                               ///< one step of a column's ranks; true = ready
@@ -55,7 +57,8 @@ public:
     int bandCount() const { return int(m_bands.size()); }
     int firstRowOf(int b) const { return m_shown[size_t(m_bands[size_t(b)].begin)]; }
     int lineOfBand(int b) const;                            ///< -1 = inside a collapsed one
-    std::vector<int> closedBandsOver(int row) const;        ///< the outermost first
+    std::vector<int> bandsOver(int row) const;              ///< the outermost first
+    std::vector<int> closedBandsOver(int row) const;
 
     Span toggled(int b) const;                              ///< lines that come or go when the band is toggled
     void toggle(int b);
@@ -65,7 +68,9 @@ public:
 private:
     ColumnRanks &ranks(int column);
     void sortRows();
-    bool before(int a, int b);
+    bool before(int a, int b);                              ///< in the order of every row
+    bool isInPlace(int row);
+    int placeIn(const std::vector<qint32> &rows, int row, int at);
     void findBands();
     void openBands(int fromLevel, int at, std::vector<int> &open);
     void listLines();
@@ -77,7 +82,8 @@ private:
     QCollator m_collator;
     std::vector<SortKey> m_groups, m_sorts;
     std::map<int, ColumnRanks> m_ranks;                     ///< by column, as far as needed
-    std::vector<bool> m_fits;
+    std::vector<bool> m_fits;                               ///< by row; empty = all
+    bool m_stale = false;                                   ///< an edit changed bands, or what fits
     std::vector<qint32> m_order;                            ///< every row
     std::vector<qint32> m_shown;                            ///< those that fit, in order
     std::vector<Band> m_bands;                              ///< each before the ones inside it

@@ -6,8 +6,13 @@ namespace QV_DOC_CONTROLS {
 
 void RowFilter::reset(int rows, Fold fold)
 {
-    m_rows = rows;
     m_fold = std::move(fold);
+    refill(rows);
+}
+
+void RowFilter::refill(int rows)
+{
+    m_rows = rows;
     m_texts = {}, m_ends = {};
     m_edited.clear();
 }
@@ -37,7 +42,7 @@ void RowFilter::rowEdited(int row)
 {
     constexpr size_t kMany = 64;
     if (row >= int(m_ends.size())) return;                  // not folded yet
-    if (m_edited.size() >= kMany) return reset(m_rows, std::move(m_fold));
+    if (m_edited.size() >= kMany) return refill(m_rows);
     m_folder.clear();
     m_fold(row, m_folder);
     const auto known = std::ranges::find(m_edited, row, &std::pair<int, std::string>::first);

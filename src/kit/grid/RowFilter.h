@@ -11,7 +11,8 @@ class RowFilter {
 public:
     using Fold = std::function<void(int row, FilterRule::RowFolder &)>;     ///< adds the cells of the searched columns
 
-    void reset(int rows, Fold fold);                        ///< other rows or columns
+    void reset(int rows, Fold fold);                        ///< other columns
+    void refill(int rows);                                  ///< other rows
     bool prepare(int rows);                                 ///< folds so many more; true = all are
     void rowEdited(int row);
     std::vector<bool> fitting(const FilterRule &rule);      ///< by row; empty for an empty rule: all
