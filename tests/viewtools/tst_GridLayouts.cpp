@@ -1,6 +1,8 @@
 #include "facade/services/Language.h"
 #include "grids/frame/FindInColumn.h"
 #include "grids/frame/GridLayouts.h"
+#include "kit/ask/ErrorRelay.h"
+#include "kit/grid/Grid.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
@@ -9,55 +11,76 @@
 using namespace QV_DOC_CONTROLS;
 using tests::ScriptedPrompts;
 
+namespace {
+
+struct Streets final : GridSource {
+    std::vector<GridColumn> all{{QStringLiteral("Nr"), QStringLiteral("Szám"), {}, CellKind::Number, false, 800},
+                                {QStringLiteral("Name"), QStringLiteral("Név"), {}, CellKind::Text, false, 3000}};
+    QStringList names{"Telek", "Út", "Patak"};
+    const std::vector<GridColumn> &columns() const override { return all; }
+    int rowCount() const override { return int(names.size()); }
+    qint64 rowId(int row) const override { return row; }
+    QVariant value(int row, int c) const override { return c ? QVariant(names[row]) : QVariant(row + 1); }
+    QString text(int row, int c) const override { return value(row, c).toString(); }
+    bool edit(int, int, const QVariant &) override { return false; }
+};
+
+} // namespace
+
 class tst_GridLayouts : public QObject {
     Q_OBJECT
-    struct Seen {
-        GridState now;
-        GridState state() const { return now; }
-        void setState(const GridState &s) { now = s; }
-    };
 private slots:
     void init() { setLanguage(Hungarian, {}); }
 
     void aLayoutBelongsToItsLanguage()
     {
-        const Seen builtIn{{{{QStringLiteral("gNr"), 800}, {QStringLiteral("Name"), 3000}}, {}, {}, 0}};
-        Seen grid = builtIn;
-        QVERIFY(!loadGridLayout(grid, QStringLiteral("jsTest")));
-        grid.now.view = 1;
-        grid.now.columns[1].visible = false;
-        const GridState worked = grid.now;
-        saveGridLayout(grid, QStringLiteral("jsTest"));
+        const QString layout = QStringLiteral("jsTest");
+        Streets streets;
+        Grid builtIn;
+        builtIn.setSource(&streets);
+        const GridState before = builtIn.state();
+        QVERIFY(!loadGridLayout(builtIn, layout));
+        QCOMPARE(builtIn.state(), before);
+
+        Grid grid;
+        grid.setSource(&streets);
+        grid.setView(GridView::Card);
+        grid.showColumns(std::vector{1});
+        grid.setSortKeys(std::vector{SortKey{1, SortOrder::Descending}});
+        grid.setGroupLevels(std::vector{SortKey{0, SortOrder::Ascending}});
+        saveGridLayout(grid, layout);
 
         setLanguage(English, {});
-        grid = builtIn;
-        QVERIFY(!loadGridLayout(grid, QStringLiteral("jsTest")));
-        QCOMPARE(grid.now, builtIn.now);
+        QVERIFY(!loadGridLayout(builtIn, layout));
+        QCOMPARE(builtIn.state(), before);
         setLanguage(Hungarian, {});
-        QVERIFY(loadGridLayout(grid, QStringLiteral("jsTest")));
-        QCOMPARE(grid.now, worked);
+        QVERIFY(loadGridLayout(builtIn, layout));
+        QCOMPARE(builtIn.state(), grid.state());
+        QVERIFY(builtIn.state() != before);
     }
 
     void findAsksGoesOrSaysThatThereIsNone_data()
     {
         QTest::addColumn<QVariant>("answer");
-        QTest::addColumn<QStringList>("looked");
-        QTest::newRow("found") << QVariant(QStringLiteral("Út")) << QStringList{"Út"};
-        QTest::newRow("not found") << QVariant(QStringLiteral("9 %1")) << QStringList{"9 %1"};
-        QTest::newRow("empty answer") << QVariant(QString()) << QStringList();
-        QTest::newRow("cancelled") << QVariant() << QStringList();
+        QTest::addColumn<int>("row");
+        QTest::newRow("found") << QVariant(QStringLiteral("Patak")) << 2;
+        QTest::newRow("not found") << QVariant(QStringLiteral("9 %1")) << 0;
+        QTest::newRow("empty answer") << QVariant(QString()) << 0;
+        QTest::newRow("cancelled") << QVariant() << 0;
     }
     void findAsksGoesOrSaysThatThereIsNone()
     {
         QFETCH(QVariant, answer);
-        QFETCH(QStringList, looked);
-        const bool missed = looked == QStringList{"9 %1"};
+        QFETCH(int, row);
+        Streets streets;
+        Grid grid;
+        grid.setSource(&streets);
+        grid.setCurrentRow(0);
         std::vector<ScriptedPrompts::Step> steps{{"text", "Keresés", "A keresett érték:|Telek", answer}};
-        if (missed) steps.push_back({"tell", "ZOL", "Nincs 9 %1 érték!", {}, Icon::Information});
+        if (answer == QStringLiteral("9 %1")) steps.push_back({"tell", "ZOL", "Nincs 9 %1 érték!", {}, Icon::Information});
         ScriptedPrompts user(steps);
-        QStringList asked;
-        findInColumn(QStringLiteral("Telek"), [&](const QString &value) { return asked << value, !missed; }, ErrorRelay(), nullptr);
-        QCOMPARE(asked, looked);
+        findInColumn(grid, streets, 1, ErrorRelay());
+        QCOMPARE(grid.currentRow(), row);
     }
 };
 QVDC_TEST(tst_GridLayouts)
