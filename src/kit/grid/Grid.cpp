@@ -14,6 +14,7 @@
 #include <QDrag>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QTimerEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -332,7 +333,7 @@ void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColu
 void Grid::setPictureSize(QSize size)
 {
     m_delegate->setPictureSize(size);
-    m_table->scheduleDelayedItemsLayout();
+    m_table->doItemsLayout();
     if (m_cards) m_cards->doItemsLayout();
 }
 
