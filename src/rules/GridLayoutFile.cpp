@@ -57,8 +57,8 @@ std::optional<GridState::Level> levelFrom(const QJsonObject &row)
 }
 
 /// Every entry of an array; nothing when it is no array, one entry is damaged or a key comes twice.
-template <class Entry>
-std::optional<std::vector<Entry>> entriesFrom(const QJsonValue &value, std::optional<Entry> (*read)(const QJsonObject &))
+template <class Entry> std::optional<std::vector<Entry>>
+entriesFrom(const QJsonValue &value, std::optional<Entry> (*read)(const QJsonObject &))
 {
     if (!value.isArray()) return {};
     std::vector<Entry> out;
@@ -76,7 +76,8 @@ std::optional<std::vector<Entry>> entriesFrom(const QJsonValue &value, std::opti
 bool isOurs(const QJsonObject &root, const QString &table)
 {
     const auto version = numberFrom(root[kVersionName], kVersion);
-    return root[kFormName].toString() == kForm && version && *version >= 1 && root[kTableName].toString() == table;
+    return root[kFormName].toString() == kForm && version && *version >= 1
+           && root[kTableName].toString() == table;
 }
 
 /// Columns that the file does not know follow the column that stands before them in the built-in order.
@@ -89,7 +90,8 @@ void addMissing(std::vector<GridState::Column> &columns, std::span<const GridSta
     }
 }
 
-template <class Entry> void dropUnknown(std::vector<Entry> &entries, std::span<const GridState::Column> builtIn)
+template <class Entry>
+void dropUnknown(std::vector<Entry> &entries, std::span<const GridState::Column> builtIn)
 {
     std::erase_if(entries, [&](const Entry &e) {
         return std::ranges::find(builtIn, e.key, &GridState::Column::key) == builtIn.end();

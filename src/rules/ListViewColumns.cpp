@@ -15,7 +15,10 @@ constexpr double kWidest = 144000;      ///< twips, 100 inches
 QString countKey(const QString &key) { return QStringLiteral("ColumnCount") + key; }
 QString viewModeKey(const QString &key) { return QStringLiteral("ViewMode") + key; }
 QString widthKey(const QString &key, int number) { return key + QString::number(number); }
-QString captionKey(const QString &key, int number) { return QStringLiteral("Text") + key + QString::number(number); }
+QString captionKey(const QString &key, int number)
+{
+    return QStringLiteral("Text") + key + QString::number(number);
+}
 
 /// A stored number; nothing when the text is none.
 std::optional<int> numberFrom(const QString &text, double most)
@@ -32,7 +35,8 @@ void saveListViewColumns(ZolWDoc::SettingsStore &store, const QString &applicati
                          const ListViewColumns &list)
 {
     if (application.isEmpty()) return;
-    const int before = numberFrom(store.read(application, kSection, countKey(key), {}), kMostColumns).value_or(0);
+    const int before =
+        numberFrom(store.read(application, kSection, countKey(key), {}), kMostColumns).value_or(0);
     for (int n = 1; n <= before; ++n) {
         store.remove(application, kSection, widthKey(key, n));
         store.remove(application, kSection, captionKey(key, n));

@@ -22,13 +22,13 @@ struct ListViewColumns {
     bool operator==(const ListViewColumns &) const = default;
 };
 
-/// Stores view mode, widths and captions under `key`; entries of columns that are no more are removed. An empty
-/// application name does nothing.
+/// Stores view mode, widths and captions under `key`; entries of columns that are no more are removed. An
+/// empty application name does nothing.
 void saveListViewColumns(ZolWDoc::SettingsStore &store, const QString &application, const QString &key,
                          const ListViewColumns &list);
 
-/// Gives columns the stored width where the stored caption is still theirs, so that a column set in another language or
-/// of other columns keeps its own widths.
+/// Gives columns the stored width where the stored caption is still theirs, so that a column set in another
+/// language or of other columns keeps its own widths.
 void loadListViewColumns(const ZolWDoc::SettingsStore &store, const QString &application, const QString &key,
                          ListViewColumns &list);
 

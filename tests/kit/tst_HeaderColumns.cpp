@@ -28,7 +28,8 @@ private slots:
         list.header()->resizeSection(1, wide);
         list.header()->hideSection(2);
         saveListViewColumns(*list.header(), QStringLiteral("Pens"), QStringLiteral("ZolWOp"), 3);
-        QCOMPARE(services.memory.values[QStringLiteral("ZolWOp/Settings/Pens2")], QString::number(twipsOf(wide, list)));
+        QCOMPARE(services.memory.values[QStringLiteral("ZolWOp/Settings/Pens2")],
+                 QString::number(twipsOf(wide, list)));
 
         QTreeWidget later;
         later.setHeaderLabels({QStringLiteral("Number"), QStringLiteral("Név"), QStringLiteral("Szín")});

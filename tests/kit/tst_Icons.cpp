@@ -66,8 +66,10 @@ private slots:
         for (const IconRow &a : iconRows())
             for (const IconRow &b : iconRows())
                 if (&a < &b)
-                    QVERIFY2(likeness(drawn(a.name, 32), drawn(b.name, 32)) < 0.95,
-                             qPrintable(QStringLiteral("%1 and %2").arg(QLatin1String(a.name), QLatin1String(b.name))));
+                    QVERIFY2(
+                        likeness(drawn(a.name, 32), drawn(b.name, 32)) < 0.95,
+                        qPrintable(
+                            QStringLiteral("%1 and %2").arg(QLatin1String(a.name), QLatin1String(b.name))));
     }
 
     void picturesFollowThePaletteAndTheMode()
@@ -79,7 +81,9 @@ private slots:
         dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x50, 0x51, 0x52));
         dark.setColor(QPalette::Active, QPalette::HighlightedText, QColor(0x10, 0x11, 0x12));
         QApplication::setPalette(dark);
-        const auto colorOf = [&](QIcon::Mode mode) { return icon.pixmap(64, 64, mode).toImage().pixelColor(32, 58).name(); };
+        const auto colorOf = [&](QIcon::Mode mode) {
+            return icon.pixmap(64, 64, mode).toImage().pixelColor(32, 58).name();
+        };
         const QStringList seen{colorOf(QIcon::Normal), colorOf(QIcon::Disabled), colorOf(QIcon::Selected)};
         QApplication::setPalette(before);
         QCOMPARE(seen, QStringList({"#f0f1f2", "#505152", "#101112"}));

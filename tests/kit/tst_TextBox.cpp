@@ -23,7 +23,8 @@ private slots:
         QTest::addColumn<QString>("answer"); // null = cancelled
         const auto type = [](const char *text, Qt::Key end) {
             return Act([=](TextBox &box) {
-                for (const QChar c : QString::fromLatin1(text)) QTest::sendKeyEvent(QTest::Click, box.focusWidget(), Qt::Key_A, c, {});
+                for (const QChar c : QString::fromLatin1(text))
+                    QTest::sendKeyEvent(QTest::Click, box.focusWidget(), Qt::Key_A, c, {});
                 QTest::keyClick(box.focusWidget(), end);
             });
         };
@@ -31,7 +32,8 @@ private slots:
         QTest::newRow("typing replaces the proposal") << type("7x", Qt::Key_Return) << QStringLiteral("7x");
         QTest::newRow("nothing is an answer") << type("", Qt::Key_Delete) << QStringLiteral("");
         QTest::newRow("escape") << type("7", Qt::Key_Escape) << QString();
-        QTest::newRow("cancel") << Act([](TextBox &box) { child<QPushButton>(box, "cmdCancel").click(); }) << QString();
+        QTest::newRow("cancel") << Act([](TextBox &box) { child<QPushButton>(box, "cmdCancel").click(); })
+                                << QString();
     }
     void theAnswerIsWhatStandsInTheLine()
     {
@@ -39,12 +41,14 @@ private slots:
         QFETCH(QString, answer);
         const auto watch = whileModal<TextBox>([&](TextBox &box) {
             QCOMPARE(box.windowTitle(), QStringLiteral("Keresés"));
-            QCOMPARE(child<QLineEdit>(box, "txtAnswer").accessibleName(), QStringLiteral("A keresett érték:"));
+            QCOMPARE(child<QLineEdit>(box, "txtAnswer").accessibleName(),
+                     QStringLiteral("A keresett érték:"));
             act(box);
             if (box.isVisible()) box.accept();
         });
         BoxPrompts boxes;
-        const auto given = boxes.text({QStringLiteral("Keresés"), QStringLiteral("A keresett érték:"), QStringLiteral("12")}, nullptr);
+        const auto given = boxes.text(
+            {QStringLiteral("Keresés"), QStringLiteral("A keresett érték:"), QStringLiteral("12")}, nullptr);
         QCOMPARE(given.has_value(), !answer.isNull());
         QCOMPARE(given.value_or(QString()), answer);
     }

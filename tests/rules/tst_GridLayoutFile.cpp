@@ -15,7 +15,9 @@ class tst_GridLayoutFile : public QObject {
 private:
     using Columns = std::vector<GridState::Column>;
     const QString m_table = QStringLiteral("jsLayer");
-    const Columns m_builtIn{{QStringLiteral("gNr"), 800}, {QStringLiteral("Name"), 3000}, {QStringLiteral("Visible"), 0},
+    const Columns m_builtIn{{QStringLiteral("gNr"), 800},
+                            {QStringLiteral("Name"), 3000},
+                            {QStringLiteral("Visible"), 0},
                             {QStringLiteral("ColS"), 600, false}};
     const GridState m_state{{{QStringLiteral("Name"), 2500}, {QStringLiteral("gNr"), 810, false},
                              {QStringLiteral("ColS"), 600}, {QStringLiteral("Visible"), 400}},
@@ -27,9 +29,13 @@ private:
         if (!state) return QStringLiteral("refused");
         QString out;
         for (const auto &c : state->columns)
-            out += QStringLiteral("%1%2:%3 ").arg(c.visible ? QString() : QStringLiteral("!"), c.key).arg(c.width);
-        for (const auto &l : state->sort) out += QStringLiteral("sort %1%2 ").arg(l.descending ? u"-" : u"+", l.key);
-        for (const auto &l : state->groups) out += QStringLiteral("group %1%2 ").arg(l.descending ? u"-" : u"+", l.key);
+            out += QStringLiteral("%1%2:%3 ")
+                       .arg(c.visible ? QString() : QStringLiteral("!"), c.key)
+                       .arg(c.width);
+        for (const auto &l : state->sort)
+            out += QStringLiteral("sort %1%2 ").arg(l.descending ? u"-" : u"+", l.key);
+        for (const auto &l : state->groups)
+            out += QStringLiteral("group %1%2 ").arg(l.descending ? u"-" : u"+", l.key);
         return out + QStringLiteral("view %1").arg(state->view);
     }
     static QByteArray contentOf(const QString &path)
@@ -53,7 +59,8 @@ private slots:
             << "Name:2500 !gNr:810 New:0 ColS:600 Visible:400 sort -gNr sort +Name group +Visible view 2";
         QTest::newRow("columns are new, first and last")
             << QStringList{"New", "gNr", "Name", "Visible", "ColS", "Last"}
-            << "New:0 Name:2500 !gNr:810 ColS:600 Last:0 Visible:400 sort -gNr sort +Name group +Visible view 2";
+            << "New:0 Name:2500 !gNr:810 ColS:600 Last:0 Visible:400 sort -gNr sort +Name group +Visible "
+               "view 2";
         QTest::newRow("columns are gone, one a sort key, one a group")
             << QStringList{"Name", "ColS"} << "Name:2500 ColS:600 sort +Name view 2";
         QTest::newRow("no column is left") << QStringList{} << "view 2";
@@ -71,7 +78,8 @@ private slots:
         GridState part = m_state;
         part.columns = {{QStringLiteral("Name"), 2500}};
         QCOMPARE(dump(layoutFrom(layoutBytes(m_table, part), m_table, m_builtIn)),
-                 QStringLiteral("gNr:800 Name:2500 Visible:0 !ColS:600 sort -gNr sort +Name group +Visible view 2"));
+                 QStringLiteral(
+                     "gNr:800 Name:2500 Visible:0 !ColS:600 sort -gNr sort +Name group +Visible view 2"));
     }
 
     void aFileCutAnywhereIsRefused()
@@ -79,10 +87,12 @@ private slots:
         const QByteArray whole = layoutBytes(m_table, m_state);
         QVERIFY(whole.endsWith("}\n"));
         for (qsizetype n = 0; n < whole.size() - 1; ++n)
-            if (layoutFrom(whole.left(n), m_table, m_builtIn)) QFAIL(qPrintable(QStringLiteral("taken with %1 bytes").arg(n)));
+            if (layoutFrom(whole.left(n), m_table, m_builtIn))
+                QFAIL(qPrintable(QStringLiteral("taken with %1 bytes").arg(n)));
     }
 
-    /// A byte of another file or a bad disk: refused, or a layout that could have been saved, never anything between.
+    /// A byte of another file or a bad disk: refused, or a layout that could have been saved, never anything
+    /// between.
     void aFileWithAnyByteReplacedIsRefusedOrSound()
     {
         const QByteArray whole = layoutBytes(m_table, m_state);
@@ -101,14 +111,16 @@ private slots:
         QTest::addColumn<QByteArray>("from");
         QTest::addColumn<QByteArray>("to");
         QTest::newRow("another table") << QByteArray("jsLayer") << QByteArray("jsTxd");
-        QTest::newRow("another form") << QByteArray("qv-doc-controls grid layout") << QByteArray("some other thing");
+        QTest::newRow("another form")
+            << QByteArray("qv-doc-controls grid layout") << QByteArray("some other thing");
         QTest::newRow("newer version") << QByteArray("\"version\": 1") << QByteArray("\"version\": 2");
         QTest::newRow("no version") << QByteArray("\"version\": 1") << QByteArray("\"vers\": 1");
         QTest::newRow("version zero") << QByteArray("\"version\": 1") << QByteArray("\"version\": 0");
         QTest::newRow("unknown view") << QByteArray("\"view\": 2") << QByteArray("\"view\": 3");
         QTest::newRow("view as text") << QByteArray("\"view\": 2") << QByteArray("\"view\": \"2\"");
         QTest::newRow("width below zero") << QByteArray("\"width\": 2500") << QByteArray("\"width\": -1");
-        QTest::newRow("width beyond reason") << QByteArray("\"width\": 2500") << QByteArray("\"width\": 2500000");
+        QTest::newRow("width beyond reason")
+            << QByteArray("\"width\": 2500") << QByteArray("\"width\": 2500000");
         QTest::newRow("broken width") << QByteArray("\"width\": 2500") << QByteArray("\"width\": 2.5");
         QTest::newRow("column without key") << QByteArray("\"key\": \"ColS\"") << QByteArray("\"key\": \"\"");
         QTest::newRow("column twice") << QByteArray("\"key\": \"ColS\"") << QByteArray("\"key\": \"Name\"");
@@ -167,7 +179,8 @@ private slots:
         other.groups.clear();
         saveLayout(path, m_table, other);
         QCOMPARE(loadLayout(path, m_table, m_builtIn), std::optional(other));
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{"jsLayer-hun.jgl"}); // nothing half-written
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+                 QStringList{"jsLayer-hun.jgl"}); // nothing half-written
     }
 
     void aSaveThatFailsKeepsTheOldFileAndSaysNothing()

@@ -24,10 +24,12 @@ private slots:
     void savingWritesThePublishedNames()
     {
         MemoryStore store;
-        saveListViewColumns(store, m_app, m_key, {3, {{QStringLiteral("Szám"), 900}, {QStringLiteral("Név"), 2400}}});
-        QCOMPARE(store.dump(), QStringList({"ZolWOp/Settings/ColumnCountPens=2", "ZolWOp/Settings/Pens1=900",
-                                            "ZolWOp/Settings/Pens2=2400", "ZolWOp/Settings/TextPens1=Szám",
-                                            "ZolWOp/Settings/TextPens2=Név", "ZolWOp/Settings/ViewModePens=3"}));
+        saveListViewColumns(store, m_app, m_key,
+                            {3, {{QStringLiteral("Szám"), 900}, {QStringLiteral("Név"), 2400}}});
+        QCOMPARE(store.dump(),
+                 QStringList({"ZolWOp/Settings/ColumnCountPens=2", "ZolWOp/Settings/Pens1=900",
+                              "ZolWOp/Settings/Pens2=2400", "ZolWOp/Settings/TextPens1=Szám",
+                              "ZolWOp/Settings/TextPens2=Név", "ZolWOp/Settings/ViewModePens=3"}));
     }
 
     void columnsThatAreNoMoreDisappear_data()
@@ -63,8 +65,10 @@ private slots:
         QTest::newRow("same columns") << list("Szám", "Név") << "7 Szám:900 Név:2400";
         QTest::newRow("one was renamed") << list("Szám", "Name") << "7 Szám:900 Name:200";
         QTest::newRow("other order") << list("Név", "Szám") << "7 Név:100 Szám:200";
-        QTest::newRow("a column more") << ListViewColumns{7, {{QStringLiteral("Szám"), 100}, {QStringLiteral("Név"), 200},
-                                                              {QStringLiteral("Szín"), 300}}}
+        QTest::newRow("a column more") << ListViewColumns{7,
+                                                          {{QStringLiteral("Szám"), 100},
+                                                           {QStringLiteral("Név"), 200},
+                                                           {QStringLiteral("Szín"), 300}}}
                                        << "7 Szám:900 Név:2400 Szín:300";
         QTest::newRow("a column less") << ListViewColumns{7, {{QStringLiteral("Szám"), 100}}} << "7 Szám:900";
     }
@@ -72,7 +76,8 @@ private slots:
     {
         QFETCH(ListViewColumns, list);
         MemoryStore store;
-        saveListViewColumns(store, m_app, m_key, {3, {{QStringLiteral("Szám"), 900}, {QStringLiteral("Név"), 2400}}});
+        saveListViewColumns(store, m_app, m_key,
+                            {3, {{QStringLiteral("Szám"), 900}, {QStringLiteral("Név"), 2400}}});
         loadListViewColumns(store, m_app, m_key, list);
         QTEST(dump(list), "dumped");
     }

@@ -24,7 +24,8 @@ struct PlainGrid final : QV_DOC_CONTROLS::AbstractGrid {
     {
         QStringList out;
         for (const auto &k : keys)
-            out << (k.order == QV_DOC_CONTROLS::SortOrder::Ascending ? u'+' : u'-') + QString::number(k.column);
+            out << (k.order == QV_DOC_CONTROLS::SortOrder::Ascending ? u'+' : u'-')
+                       + QString::number(k.column);
         return out.join(u' ');
     }
     static Keys keys(const QString &dumped)
@@ -57,7 +58,10 @@ struct PlainGrid final : QV_DOC_CONTROLS::AbstractGrid {
         groups.assign(levels.begin(), levels.end());
         written << QStringLiteral("group ") + dump(groups);
     }
-    void setAllExpanded(bool expanded) override { written << (expanded ? QStringLiteral("expand") : QStringLiteral("collapse")); }
+    void setAllExpanded(bool expanded) override
+    {
+        written << (expanded ? QStringLiteral("expand") : QStringLiteral("collapse"));
+    }
 };
 
 } // namespace tests

@@ -14,8 +14,9 @@ using tests::ScriptedPrompts;
 namespace {
 
 struct Streets final : GridSource {
-    std::vector<GridColumn> all{{QStringLiteral("Nr"), QStringLiteral("Szám"), {}, CellKind::Number, false, 800},
-                                {QStringLiteral("Name"), QStringLiteral("Név"), {}, CellKind::Text, false, 3000}};
+    std::vector<GridColumn> all{
+        {QStringLiteral("Nr"), QStringLiteral("Szám"), {}, CellKind::Number, false, 800},
+        {QStringLiteral("Name"), QStringLiteral("Név"), {}, CellKind::Text, false, 3000}};
     QStringList names{"Telek", "Út", "Patak"};
     const std::vector<GridColumn> &columns() const override { return all; }
     int rowCount() const override { return int(names.size()); }
@@ -77,7 +78,8 @@ private slots:
         grid.setSource(&streets);
         grid.setCurrentRow(0);
         std::vector<ScriptedPrompts::Step> steps{{"text", "Keresés", "A keresett érték:|Telek", answer}};
-        if (answer == QStringLiteral("9 %1")) steps.push_back({"tell", "ZOL", "Nincs 9 %1 érték!", {}, Icon::Information});
+        if (answer == QStringLiteral("9 %1"))
+            steps.push_back({"tell", "ZOL", "Nincs 9 %1 érték!", {}, Icon::Information});
         ScriptedPrompts user(steps);
         findInColumn(grid, streets, 1, ErrorRelay());
         QCOMPARE(grid.currentRow(), row);

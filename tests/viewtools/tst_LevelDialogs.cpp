@@ -56,11 +56,13 @@ private slots:
         QTest::addColumn<QString>("after");
         QTest::newRow("nothing set") << "" << QList<Act>{} << "(Nincs) [(Nincs)] [(Nincs)] [(Nincs)]" << "";
         QTest::newRow("as it was") << "-1 +0" << QList<Act>{} << "Név- Szám+ (Nincs) [(Nincs)]" << "-1 +0";
-        QTest::newRow("all four") << "-1 +0 +4 -2" << QList<Act>{} << "Név- Szám+ Látható+ Szín-" << "-1 +0 +4 -2";
+        QTest::newRow("all four") << "-1 +0 +4 -2" << QList<Act>{} << "Név- Szám+ Látható+ Szín-"
+                                  << "-1 +0 +4 -2";
         QTest::newRow("ascending by default") << "" << QList<Act>{choose(0, "Név")}
                                               << "Név+ (Nincs) [(Nincs)] [(Nincs)]" << "+1";
         QTest::newRow("one key, the second level open, the third closed")
-            << "" << QList<Act>{choose(0, "Név"), descending(0)} << "Név- (Nincs) [(Nincs)] [(Nincs)]" << "-1";
+            << "" << QList<Act>{choose(0, "Név"), descending(0)} << "Név- (Nincs) [(Nincs)] [(Nincs)]"
+            << "-1";
         QTest::newRow("a level more") << "+1" << QList<Act>{choose(1, "Szín"), descending(1)}
                                       << "Név+ Szín- (Nincs) [(Nincs)]" << "+1 -2";
         QTest::newRow("another column keeps the order") << "-1 +0" << QList<Act>{choose(0, "Szín")}
@@ -101,7 +103,8 @@ private slots:
     {
         QTest::addColumn<Act>("leave");
         QTest::newRow("cancel") << Act([](LevelDialog &d) { d.cmdCancel->click(); });
-        QTest::newRow("escape") << Act([](LevelDialog &d) { QTest::keyClick(d.focusWidget(), Qt::Key_Escape); });
+        QTest::newRow("escape") << Act(
+            [](LevelDialog &d) { QTest::keyClick(d.focusWidget(), Qt::Key_Escape); });
         QTest::newRow("close box") << Act([](LevelDialog &d) { d.close(); });
     }
     void whateverIsNoOkLeavesTheGridAlone()

@@ -31,7 +31,8 @@ using tests::whileModal;
 
 namespace {
 
-constexpr std::pair<int, const char *> kLanguages[] = {{Hungarian, "hu"}, {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}};
+constexpr std::pair<int, const char *> kLanguages[] = {
+    {Hungarian, "hu"}, {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}};
 
 QPalette darkPalette()
 {
@@ -68,11 +69,14 @@ void lookAt(const QDialog &d)
         const QString caption = captionOf(*w);
         const auto *label = qobject_cast<const QLabel *>(w);
         if (!caption.isEmpty() && !(label && label->wordWrap()))
-            QVERIFY2(w->width() >= w->minimumSizeHint().width() && w->height() >= w->minimumSizeHint().height(),
+            QVERIFY2(w->width() >= w->minimumSizeHint().width()
+                         && w->height() >= w->minimumSizeHint().height(),
                      qPrintable(d.objectName() + u' ' + caption));
-        if (label && label->wordWrap()) QVERIFY2(label->heightForWidth(label->width()) <= label->height(), qPrintable(caption));
+        if (label && label->wordWrap())
+            QVERIFY2(label->heightForWidth(label->width()) <= label->height(), qPrintable(caption));
         if (const auto *list = qobject_cast<const QComboBox *>(w))
-            QVERIFY2(list->width() >= list->sizeHint().width(), qPrintable(d.objectName() + u' ' + list->objectName()));
+            QVERIFY2(list->width() >= list->sizeHint().width(),
+                     qPrintable(d.objectName() + u' ' + list->objectName()));
         const QChar key = accessKeyOf(caption);
         if (key.isNull()) continue;
         QVERIFY2(!keys.contains(key), qPrintable(d.objectName() + u' ' + caption));
@@ -81,7 +85,10 @@ void lookAt(const QDialog &d)
 }
 
 struct Names final : EntrySource {
-    QStringList entries() const override { return {txt(Text{3299, u"Rétegnév"}), QStringLiteral("Telekhatár"), QStringLiteral("Út")}; }
+    QStringList entries() const override
+    {
+        return {txt(Text{3299, u"Rétegnév"}), QStringLiteral("Telekhatár"), QStringLiteral("Út")};
+    }
 };
 
 } // namespace
@@ -110,8 +117,9 @@ private slots:
             keepPicture(d.grab(), d.objectName() + u'-' + QLatin1String(QTest::currentDataTag()));
             d.reject();
         };
-        PlainGrid grid({txt(Text{3411, u"Sorszám"}), txt(Text{3299, u"Rétegnév"}), txt(Text{3307, u"Látható"}),
-                        txt(Text{3305, u"Vonaltípus"}), txt(Text{3306, u"Láthatóság"})});
+        PlainGrid grid({txt(Text{3411, u"Sorszám"}), txt(Text{3299, u"Rétegnév"}),
+                        txt(Text{3307, u"Látható"}), txt(Text{3305, u"Vonaltípus"}),
+                        txt(Text{3306, u"Láthatóság"})});
         grid.sort = grid.groups = PlainGrid::keys(QStringLiteral("-3 +1"));
         grid.shown = {1, 0, 4};
         bool confirmed = false;
@@ -130,7 +138,8 @@ private slots:
 
     void toolsOnBarAndMenu()
     {
-        if (qEnvironmentVariableIsEmpty("QVDC_PICTURES")) QSKIP("only for the eye: set QVDC_PICTURES to a folder");
+        if (qEnvironmentVariableIsEmpty("QVDC_PICTURES"))
+            QSKIP("only for the eye: set QVDC_PICTURES to a folder");
         for (const auto &[id, name] : kLanguages) {
             setLanguage(id, {});
             QWidget window;
@@ -148,7 +157,8 @@ private slots:
 
     void iconsOnOneSheet()
     {
-        if (qEnvironmentVariableIsEmpty("QVDC_PICTURES")) QSKIP("only for the eye: set QVDC_PICTURES to a folder");
+        if (qEnvironmentVariableIsEmpty("QVDC_PICTURES"))
+            QSKIP("only for the eye: set QVDC_PICTURES to a folder");
         const QPalette before = QApplication::palette();
         for (const bool dark : {false, true}) {
             QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
@@ -164,7 +174,8 @@ private slots:
                     toolIcon(row.name).paint(&painter, QRect(x, at.y(), side, side));
                     x += side + 14;
                 }
-                toolIcon(row.name).paint(&painter, QRect(x, at.y(), 16, 16), Qt::AlignCenter, QIcon::Disabled);
+                toolIcon(row.name).paint(&painter, QRect(x, at.y(), 16, 16), Qt::AlignCenter,
+                                         QIcon::Disabled);
                 painter.setPen(QApplication::palette().color(QPalette::WindowText));
                 painter.drawText(at + QPoint(0, 82), QLatin1String(row.name));
                 ++n;

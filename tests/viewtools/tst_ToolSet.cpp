@@ -24,7 +24,8 @@ namespace {
 struct Window : QWidget {
     QStringList log;
     bool grouped = true;
-    ErrorRelay relay{[this](std::exception_ptr error) { log << QStringLiteral("error ") + messageOf(error); }};
+    ErrorRelay relay{
+        [this](std::exception_ptr error) { log << QStringLiteral("error ") + messageOf(error); }};
     ToolSet tools{kViewTools, relay, this};
     QToolBar *bar = tools.toolBar("mnuBar");
     QLineEdit *line = new QLineEdit(this);
@@ -69,11 +70,15 @@ private slots:
     void bandsShowTheirRowsInOrder()
     {
         Window w;
-        QCOMPARE(dump(*w.bar), QStringLiteral("miFind miShowFields miSort miGroupBy miCollapseAll miExpandAll - miView_Table "
-                                              "miView_Card miView_CardMin - miShowGroups miHideGroups miPrintPreview"));
-        QCOMPARE(dump(*w.tools.popUp("bndPopUp_ViewStyle")), QStringLiteral("miView_Table miView_Card miView_CardMin"));
+        QCOMPARE(
+            dump(*w.bar),
+            QStringLiteral("miFind miShowFields miSort miGroupBy miCollapseAll miExpandAll - miView_Table "
+                           "miView_Card miView_CardMin - miShowGroups miHideGroups miPrintPreview"));
+        QCOMPARE(dump(*w.tools.popUp("bndPopUp_ViewStyle")),
+                 QStringLiteral("miView_Table miView_Card miView_CardMin"));
         QCOMPARE(w.tools.tool("miViewStyle")->menu(), w.tools.popUp("bndPopUp_ViewStyle"));
-        QCOMPARE(w.tools.popUp("bndPopUp_View")->actions().first(), w.tools.tool("miFind")); // one tool on both bands
+        QCOMPARE(w.tools.popUp("bndPopUp_View")->actions().first(),
+                 w.tools.tool("miFind")); // one tool on both bands
     }
 
     void aToolRunsItsCommandWhenItCan()
@@ -128,7 +133,9 @@ private slots:
         w.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&w));
         w.line->setFocus();
-        const auto button = [&](const char *name) { return qobject_cast<QToolButton *>(w.bar->widgetForAction(w.tools.tool(name))); };
+        const auto button = [&](const char *name) {
+            return qobject_cast<QToolButton *>(w.bar->widgetForAction(w.tools.tool(name)));
+        };
         QTest::mouseClick(button("miSort"), Qt::LeftButton);
         QVERIFY(w.line->hasFocus());
         QTest::keyClick(w.line, Qt::Key_Tab);
@@ -162,7 +169,8 @@ private slots:
         setLanguage(language, {});
         w.tools.retranslate();
         QCOMPARE(QString(w.tools.tool("miSort")->text()).remove(u'&'), txt(Text{20164, u"Rendezés..."}));
-        QCOMPARE(w.tools.tool("miSort")->toolTip(), txt(Text{2814, u"Rendezés"}) + QStringLiteral(" (Ctrl+Shift+S)"));
+        QCOMPARE(w.tools.tool("miSort")->toolTip(),
+                 txt(Text{2814, u"Rendezés"}) + QStringLiteral(" (Ctrl+Shift+S)"));
         for (const char *band : {"bndPopUp_View", "bndPopUp_ViewStyle"}) {
             QString keys;
             for (const QAction *a : w.tools.popUp(band)->actions()) {

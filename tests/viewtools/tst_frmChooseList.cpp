@@ -42,7 +42,8 @@ private slots:
             QTest::mouseDClick(d.lstKh->viewport(), Qt::LeftButton, {}, at);
         }) << 1;
         QTest::newRow("cancel") << three << Act([](frmChooseList &d) { d.cmdCancel->click(); }) << -1;
-        QTest::newRow("escape") << three << Act([](frmChooseList &d) { QTest::keyClick(&d, Qt::Key_Escape); }) << -1;
+        QTest::newRow("escape") << three << Act([](frmChooseList &d) { QTest::keyClick(&d, Qt::Key_Escape); })
+                                << -1;
         QTest::newRow("nothing to choose from") << QStringList() << Act([](frmChooseList &d) {
             d.cmdOk->click(); // disabled
             d.reject();

@@ -33,7 +33,10 @@ private:
     {
         return [=](frmShowfields &d) { (d.*list)->setCurrentRow(row); };
     }
-    static Act click(QPushButton *const frmShowfields::*button) { return [=](frmShowfields &d) { (d.*button)->click(); }; }
+    static Act click(QPushButton *const frmShowfields::*button)
+    {
+        return [=](frmShowfields &d) { (d.*button)->click(); };
+    }
     static Act doubleClick(QListWidget *const frmShowfields::*list, int row)
     {
         return [=](frmShowfields &d) {
@@ -63,18 +66,25 @@ private slots:
         QTest::addColumn<QString>("written");
         // of columns A B C D E, the grid shows D, A, C
         QTest::newRow("as it was") << QList<Act>{} << "*B E|*D A C" << "show 3 0 2";
-        QTest::newRow("add goes to the end") << QList<Act>{click(&F::cmdAdd)} << "*E| D A C*B" << "show 3 0 2 1";
+        QTest::newRow("add goes to the end") << QList<Act>{click(&F::cmdAdd)} << "*E| D A C*B"
+                                             << "show 3 0 2 1";
         QTest::newRow("add all") << QList<Act>{click(&F::cmdAdd), click(&F::cmdAdd), click(&F::cmdAdd)}
                                  << "| D A C B*E" << "show 3 0 2 1 4";
-        QTest::newRow("double click adds") << QList<Act>{doubleClick(&F::lstAvail, 1)} << "*B| D A C*E" << "show 3 0 2 4";
+        QTest::newRow("double click adds") << QList<Act>{doubleClick(&F::lstAvail, 1)} << "*B| D A C*E"
+                                           << "show 3 0 2 4";
         QTest::newRow("remove") << QList<Act>{current(&F::lstVisible, 1), click(&F::cmdRemove)}
                                 << " B E*A| D*C" << "show 3 2";
-        QTest::newRow("double click removes") << QList<Act>{doubleClick(&F::lstVisible, 0)} << " B E*D|*A C" << "show 0 2";
-        QTest::newRow("remove all") << QList<Act>{click(&F::cmdRemove), click(&F::cmdRemove), click(&F::cmdRemove)}
-                                    << " B E D A*C|" << "show ";
-        QTest::newRow("up") << QList<Act>{current(&F::lstVisible, 2), click(&F::cmdUp)} << "*B E| D*C A" << "show 3 2 0";
+        QTest::newRow("double click removes") << QList<Act>{doubleClick(&F::lstVisible, 0)} << " B E*D|*A C"
+                                              << "show 0 2";
+        QTest::newRow("remove all") << QList<Act>{click(&F::cmdRemove), click(&F::cmdRemove),
+                                                  click(&F::cmdRemove)}
+                                    << " B E D A*C|"
+                                    << "show ";
+        QTest::newRow("up") << QList<Act>{current(&F::lstVisible, 2), click(&F::cmdUp)} << "*B E| D*C A"
+                            << "show 3 2 0";
         QTest::newRow("up at the top") << QList<Act>{click(&F::cmdUp)} << "*B E|*D A C" << "show 3 0 2";
-        QTest::newRow("down twice") << QList<Act>{click(&F::cmdDown), click(&F::cmdDown)} << "*B E| A C*D" << "show 0 2 3";
+        QTest::newRow("down twice") << QList<Act>{click(&F::cmdDown), click(&F::cmdDown)} << "*B E| A C*D"
+                                    << "show 0 2 3";
         QTest::newRow("down at the bottom") << QList<Act>{current(&F::lstVisible, 2), click(&F::cmdDown)}
                                             << "*B E| D A*C" << "show 3 0 2";
         QTest::newRow("by keys") << QList<Act>{key(Qt::Key_Down), key(Qt::Key_Down), key(Qt::Key_Up)}

@@ -38,8 +38,9 @@ LevelDialog::LevelDialog(const char *form, QWidget *owner)
     QWidget *before = nullptr;
     for (int level = 0; level < kMaxLevels; ++level) {
         column->addWidget(makeLevel(level));
-        for (QWidget *w : {static_cast<QWidget *>(cboGroups[level]), static_cast<QWidget *>(optOrder[2 * level]),
-                           static_cast<QWidget *>(optOrder[2 * level + 1])}) {
+        for (QWidget *w :
+             {static_cast<QWidget *>(cboGroups[level]), static_cast<QWidget *>(optOrder[2 * level]),
+              static_cast<QWidget *>(optOrder[2 * level + 1])}) {
             if (before) setTabOrder(before, w);
             before = w;
         }
@@ -80,7 +81,8 @@ void LevelDialog::fill(const AbstractGrid &grid, std::span<const SortKey> keys)
         const QSignalBlocker quiet(list);
         list->clear();
         list->addItem(txt(kNone), 0);
-        for (int c = 0; c < int(grid.columns().size()); ++c) list->addItem(columnEntry(grid, c), entryData(c));
+        for (int c = 0; c < int(grid.columns().size()); ++c)
+            list->addItem(columnEntry(grid, c), entryData(c));
     }
     const auto used = keys.first(std::min<size_t>(keys.size(), kMaxLevels));
     for (size_t level = 0; level < used.size(); ++level) {
@@ -96,14 +98,16 @@ std::vector<SortKey> LevelDialog::keys() const
     for (int level = 0; level < kMaxLevels; ++level) {
         const int column = columnOf(cboGroups[level]->currentData());
         if (column < 0) continue;
-        out.push_back({column, optOrder[2 * level]->isChecked() ? SortOrder::Ascending : SortOrder::Descending});
+        out.push_back(
+            {column, optOrder[2 * level]->isChecked() ? SortOrder::Ascending : SortOrder::Descending});
     }
     return out;
 }
 
 void LevelDialog::clearAll() { cboGroups[0]->setCurrentIndex(0); } // the levels below follow
 
-/// Levels below one without a column are closed and lose theirs; a level without a column has no order to choose.
+/// Levels below one without a column are closed and lose theirs; a level without a column has no order to
+/// choose.
 void LevelDialog::followLists()
 {
     bool open = true;

@@ -14,14 +14,15 @@ namespace QV_DOC_CONTROLS {
 
 /// Four levels, each a column and its order: what sorting and grouping have in common.
 ///
-/// A level can be set only when the one above it is; one without a column takes the levels below it along to "(None)".
-/// A column serves one level: the other lists show it and do not offer it, for a second key of the same column would
-/// order nothing.
+/// A level can be set only when the one above it is; one without a column takes the levels below it along to
+/// "(None)". A column serves one level: the other lists show it and do not offer it, for a second key of the
+/// same column would order nothing.
 class LevelDialog : public ViewToolDialog {
     Q_OBJECT
 public:
     std::array<QComboBox *, kMaxLevels> cboGroups{};            // published names
-    std::array<QRadioButton *, 2 * kMaxLevels> optOrder{};      ///< of level n: 2n ascending, 2n + 1 descending
+    /// Of level n: 2n ascending, 2n + 1 descending
+    std::array<QRadioButton *, 2 * kMaxLevels> optOrder{};
     QPushButton *const cmdClearAll;
 
     void TearDown() override { m_grid = nullptr; }

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace QV_DOC_CONTROLS {
 
-/// What the view tools do to a grid, for a command table. Grid and owner, the window of its dialogs, outlive it.
+/// What the view tools do to a grid, for a command table. Grid and owner, the window of its dialogs, outlive
+/// it.
 class ViewCommands {
 public:
     ViewCommands(AbstractGrid &grid, QWidget *owner) : m_grid(grid), m_owner(owner) {}

@@ -11,8 +11,9 @@
 namespace QV_DOC_CONTROLS {
 
 ViewToolDialog::ViewToolDialog(const char *form, QWidget *owner)
-    : QDialog(owner ? owner->window() : QApplication::activeWindow()), m_identity(form), m_buttons(okCancelButtons(*this)),
-      cmdOk(m_buttons->button(QDialogButtonBox::Ok)), cmdCancel(m_buttons->button(QDialogButtonBox::Cancel))
+    : QDialog(owner ? owner->window() : QApplication::activeWindow()), m_identity(form),
+      m_buttons(okCancelButtons(*this)), cmdOk(m_buttons->button(QDialogButtonBox::Ok)),
+      cmdCancel(m_buttons->button(QDialogButtonBox::Cancel))
 {
     setObjectName(QLatin1String(form));
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,

@@ -9,8 +9,8 @@ class QPushButton;
 
 namespace QV_DOC_CONTROLS {
 
-/// What the view tools share: made for one call, modal over its owner, closed by OK or Cancel, in the language of the
-/// moment. Nothing is written before the user confirmed.
+/// What the view tools share: made for one call, modal over its owner, closed by OK or Cancel, in the
+/// language of the moment. Nothing is written before the user confirmed.
 class ViewToolDialog : public QDialog {
     Q_OBJECT
 public:

@@ -9,7 +9,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-frmChooseList::frmChooseList(QWidget *owner) : ViewToolDialog("frmChooseList", owner), lstKh(new QListWidget(this))
+frmChooseList::frmChooseList(QWidget *owner)
+    : ViewToolDialog("frmChooseList", owner), lstKh(new QListWidget(this))
 {
     lstKh->setObjectName(QStringLiteral("lstKh"));
     lstKh->setUniformItemSizes(true);

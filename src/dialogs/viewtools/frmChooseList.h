@@ -21,7 +21,8 @@ public:
     explicit frmChooseList(QWidget *owner = nullptr);
     ~frmChooseList() override { TearDown(); }
     void TearDown() override { m_source = nullptr; }
-    bool getIndex(const EntrySource &source, qint32 &index); ///< index of the entry, from 0; -1 and false = cancelled
+    /// Index of the entry, from 0; -1 and false = cancelled
+    bool getIndex(const EntrySource &source, qint32 &index);
 
     QListWidget *const lstKh;                   // published name
 

@@ -12,8 +12,10 @@ class frmGroupBy final : public LevelDialog {
 public:
     explicit frmGroupBy(QWidget *owner = nullptr);
     ~frmGroupBy() override { TearDown(); }
-    bool GroupGrid(AbstractGrid &grid);         ///< true = confirmed, the grid has the chosen levels; else it is untouched
-    bool GroupGrid2(AbstractGrid &grid);        ///< the same without the state of groups, which stays as it is
+    /// True = confirmed, the grid has the chosen levels; else it is untouched
+    bool GroupGrid(AbstractGrid &grid);
+    /// The same without the state of groups, which stays as it is
+    bool GroupGrid2(AbstractGrid &grid);
 
     QComboBox *const cboState;                  ///< entry 0 opens every group, 1 closes them
     QLabel *const lblState;

@@ -27,9 +27,10 @@ int columnAt(const QListWidget &list, int row) { return columnOf(list.item(row)-
 } // namespace
 
 frmShowfields::frmShowfields(QWidget *owner)
-    : ViewToolDialog("frmShowfields", owner), lstAvail(makeList("lstAvail")), lstVisible(makeList("lstVisible")),
-      cmdAdd(makeButton("cmdAdd", "moveRight")), cmdRemove(makeButton("cmdRemove", "moveLeft")),
-      cmdUp(makeButton("cmdUp", "moveUp")), cmdDown(makeButton("cmdDown", "moveDown")), lblCaption(new QLabel(this)),
+    : ViewToolDialog("frmShowfields", owner), lstAvail(makeList("lstAvail")),
+      lstVisible(makeList("lstVisible")), cmdAdd(makeButton("cmdAdd", "moveRight")),
+      cmdRemove(makeButton("cmdRemove", "moveLeft")), cmdUp(makeButton("cmdUp", "moveUp")),
+      cmdDown(makeButton("cmdDown", "moveDown")), lblCaption(new QLabel(this)),
       m_availTitle(new QLabel(this)), m_visibleTitle(new QLabel(this))
 {
     lblCaption->setObjectName(QStringLiteral("lblCaption"));
@@ -79,7 +80,8 @@ void frmShowfields::arrange()
     column->addWidget(lblCaption);
     column->addLayout(cells, 1);
     column->addWidget(buttons());
-    const std::initializer_list<QWidget *> order = {lstAvail, cmdAdd, cmdRemove, lstVisible, cmdUp, cmdDown, buttons()};
+    const std::initializer_list<QWidget *> order = {lstAvail, cmdAdd,  cmdRemove, lstVisible,
+                                                    cmdUp,    cmdDown, buttons()};
     for (auto w = order.begin() + 1; w != order.end(); ++w) setTabOrder(*(w - 1), *w);
 }
 

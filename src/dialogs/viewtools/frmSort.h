@@ -10,7 +10,8 @@ class frmSort final : public LevelDialog {
 public:
     explicit frmSort(QWidget *owner = nullptr);
     ~frmSort() override { TearDown(); }
-    bool SortGrid(AbstractGrid &grid);          ///< true = confirmed, the grid has the chosen keys; else it is untouched
+    /// True = confirmed, the grid has the chosen keys; else it is untouched
+    bool SortGrid(AbstractGrid &grid);
 private:
     void readCaptions() override;
 };

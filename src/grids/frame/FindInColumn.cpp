@@ -12,10 +12,13 @@ void findInColumn(Grid &grid, const GridSource &source, int column, const ErrorR
 {
     const int row = grid.currentRow();
     const QString proposed = row < 0 ? QString() : source.text(row, column);
-    const auto value = prompts().text({txt(Text{3030, u"Keresés"}), txt(Text{3031, u"A keresett érték:"}), proposed}, &grid);
+    const auto value =
+        prompts().text({txt(Text{3030, u"Keresés"}), txt(Text{3031, u"A keresett érték:"}), proposed}, &grid);
     relay.checkpoint();
     if (!value || value->isEmpty() || grid.find(column, *value)) return;
-    prompts().tell({Icon::Information, productName(), join(Text{3029, u"Nincs "}, *value, Text{3028, u" érték!"})}, &grid);
+    prompts().tell(
+        {Icon::Information, productName(), join(Text{3029, u"Nincs "}, *value, Text{3028, u" érték!"})},
+        &grid);
 }
 
 } // namespace QV_DOC_CONTROLS

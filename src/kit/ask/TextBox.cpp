@@ -9,7 +9,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-TextBox::TextBox(const TextQuestion &q, QWidget *owner) : QDialog(owner), m_line(new QLineEdit(q.preset, this))
+TextBox::TextBox(const TextQuestion &q, QWidget *owner)
+    : QDialog(owner), m_line(new QLineEdit(q.preset, this))
 {
     setWindowTitle(q.title);
     auto *const text = new QLabel(q.text, this);

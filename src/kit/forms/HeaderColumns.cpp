@@ -21,7 +21,8 @@ ListViewColumns columnsOf(const QHeaderView &header)
 
 } // namespace
 
-void saveListViewColumns(const QHeaderView &header, const QString &key, const QString &application, int viewMode)
+void saveListViewColumns(const QHeaderView &header, const QString &key, const QString &application,
+                         int viewMode)
 {
     ListViewColumns list = columnsOf(header);
     list.viewMode = viewMode;
@@ -35,7 +36,8 @@ void loadListViewColumns(QHeaderView &header, const QString &key, const QString 
     loadListViewColumns(settingsStore(), application, key, list);
     for (int i = 0; i < header.count(); ++i) {
         const int width = list.columns[size_t(i)].width; // 0 = it was hidden
-        if (width > 0 && width != own.columns[size_t(i)].width) header.resizeSection(i, pixelsOf(width, header));
+        if (width > 0 && width != own.columns[size_t(i)].width)
+            header.resizeSection(i, pixelsOf(width, header));
     }
 }
 

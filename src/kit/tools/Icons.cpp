@@ -23,11 +23,11 @@ QColor colorOf(QIcon::Mode mode)
 
 QByteArray pictureOf(const IconRow &row, const QColor &color)
 {
-    const QByteArray name = color.name().toLatin1();
+    const QByteArray ink = color.name().toLatin1();
+    const QByteArray stroke = "stroke-width='1.2' stroke-linecap='round' stroke-linejoin='round'";
     return "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 16 16'>"
-           "<path fill='" + name + "' stroke='none' d='" + row.areas + "'/>"
-           "<path fill='none' stroke='" + name + "' stroke-width='1.2' stroke-linecap='round' stroke-linejoin='round' d='"
-           + row.lines + "'/></svg>";
+           "<path stroke='none' fill='" + ink + "' d='" + row.areas + "'/>"
+           "<path fill='none' stroke='" + ink + "' " + stroke + " d='" + row.lines + "'/></svg>";
 }
 
 /// Draws a row anew for every size, scale and colour asked for: it follows the palette without being told.

@@ -12,7 +12,8 @@ struct IconRow {
 };
 std::span<const IconRow> iconRows();
 
-/// The picture of an idea in the palette's text colour, sharp at any size and scale. Null when there is no such row.
+/// The picture of an idea in the palette's text colour, sharp at any size and scale. Null when there is no
+/// such row.
 QIcon toolIcon(const char *name);
 
 } // namespace QV_DOC_CONTROLS

@@ -10,8 +10,8 @@ enum class Check : qint8 {
     OneOf,                                      ///< one of the tools of its band is on
 };
 
-/// One tool on one band: a row of data. A tool that stands on several bands has a row for each; one of them has a
-/// caption and says everything, the others only the place.
+/// One tool on one band: a row of data. A tool that stands on several bands has a row for each; one of them
+/// has a caption and says everything, the others only the place.
 struct Tool {
     const char *band;                           ///< published
     const char *name;                           ///< published; "-" = a line between tools

@@ -19,7 +19,8 @@ std::vector<QWidget *> ToolBand::usable() const
 {
     std::vector<QWidget *> out;
     for (QAction *action : actions())
-        if (auto *button = qobject_cast<QToolButton *>(widgetForAction(action)); button && action->isEnabled())
+        if (auto *button = qobject_cast<QToolButton *>(widgetForAction(action));
+            button && action->isEnabled())
             if (action->isVisible()) out.push_back(button);
     return out;
 }
@@ -38,7 +39,8 @@ void ToolBand::actionEvent(QActionEvent *event)
 void ToolBand::placeTabStop()
 {
     bool first = true;                          // a click leaves the focus where it is, in the table
-    for (QWidget *button : usable()) button->setFocusPolicy(std::exchange(first, false) ? Qt::TabFocus : Qt::NoFocus);
+    for (QWidget *button : usable())
+        button->setFocusPolicy(std::exchange(first, false) ? Qt::TabFocus : Qt::NoFocus);
 }
 
 bool ToolBand::eventFilter(QObject *watched, QEvent *event)

@@ -4,7 +4,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// A tool bar for the keyboard too: Tab comes to its first usable tool, the arrow keys, Home and End go along it.
+/// A tool bar for the keyboard too: Tab comes to its first usable tool, the arrow keys, Home and End go along
+/// it.
 class ToolBand final : public QToolBar {
     Q_OBJECT
 public:
