@@ -3,7 +3,7 @@ include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/QvDocControls)
 
 set(exported QvDocContract QvDocServices)
-foreach(target QvDocControls QvDocContractTests)
+foreach(target QvDocRules QvDocControls QvDocContractTests)
     if(TARGET ${target})
         list(APPEND exported ${target})
     endif()

@@ -12,13 +12,13 @@ from collections import Counter, namedtuple
 from pathlib import Path
 
 LANGUAGES = ("hu", "ro", "vi", "en")
-FIRST_HOST_ID = 30000
+FIRST_HOST_ID = 30000                           # below: texts of the library
 CODE_FOLDERS = ("src", "host", "apps", "designer")
 CODE_SUFFIXES = {".h", ".cpp", ".hpp", ".inl"}
 ALL = ("ro", "vi", "en")
 
 _QUOTED = "the English text is given without it"
-_ORDINAL = "the Hungarian piece leans on the number with an ordinal dot, the others name the table after a blank"
+_ORDINAL = "the Hungarian piece begins with the dot of the number before it, the others with a blank"
 # (language, id): why the blanks at the ends may differ from the Hungarian text
 BLANKS_DIFFER = {
     ("en", 3014): _QUOTED,
@@ -38,8 +38,6 @@ def finding(path, line, what, better):
     findings.append((str(path), line, f"{path}:{line}: {what} – {better}"))
 
 
-# --- tables ---------------------------------------------------------------------------------------------------
-
 def unescaped(raw):
     """The text of a table line, or None when a backslash is followed by anything but n, t or a backslash."""
     if re.search(r"\\(?![nt\\])", re.sub(r"\\\\", "", raw)):
@@ -56,16 +54,19 @@ def read_table(path, in_range):
         finding(path, 1, f"cannot be read ({error})", "write the table as UTF-8 text")
         return table
     if not content.endswith("\n"):
-        finding(path, content.count("\n") + 1, "the last line has no line end", "end every line with a line feed")
+        finding(path, content.count("\n") + 1, "the last line has no line end",
+                "end every line with a line feed")
     for number, line in enumerate(content.removesuffix("\n").split("\n"), 1):
         match = re.fullmatch(r"([1-9]\d*)\t(.*)", line, re.ASCII | re.DOTALL)
         if not match:
-            finding(path, number, "not of the form identifier, tab, text", "write id<TAB>text, no blank lines")
+            finding(path, number, "not of the form identifier, tab, text",
+                    "write id<TAB>text, no blank lines")
             continue
         text_id = int(match[1])
         check_line(path, number, match[2])
         if text_id in table:
-            finding(path, number, f"identifier {text_id} is there twice", f"keep one (first in line {table[text_id].line})")
+            finding(path, number, f"identifier {text_id} is there twice",
+                    f"keep one (first in line {table[text_id].line})")
         elif text_id < last:
             finding(path, number, f"identifier {text_id} after {last}", "sort the lines by identifier")
         if not in_range(text_id):
@@ -82,14 +83,14 @@ def check_line(path, number, raw):
     if not raw.strip():
         finding(path, number, "empty text", "write the text, or take the identifier out of all tables")
     if any(unicodedata.category(c) == "Cc" for c in raw):
-        finding(path, number, "control character (tab, carriage return ...) in the text", r"write \t or \n, no others")
+        finding(path, number, "control character (tab, carriage return ...) in the text",
+                r"write \t or \n, no others")
     if unicodedata.normalize("NFC", raw) != raw:
         finding(path, number, "letters with separate accents", "store the text in normal form C")
     if path.stem == "ro" and re.search("[şţŞŢ]", raw):
-        finding(path, number, "s or t with a cedilla", "use the Romanian letters with a comma below: ș ț Ș Ț")
+        finding(path, number, "s or t with a cedilla",
+                "use the Romanian letters with a comma below: ș ț Ș Ț")
 
-
-# --- one language against Hungarian ---------------------------------------------------------------------------
 
 def end_blanks(text):
     return len(text) - len(text.lstrip()), len(text) - len(text.rstrip())
@@ -104,12 +105,14 @@ def placeholders(text):
 
 
 RULES = (
-    ("blanks at the ends differ from the Hungarian text", "give it the same blanks", end_blanks, BLANKS_DIFFER),
+    ("blanks at the ends differ from the Hungarian text", "give it the same blanks",
+     end_blanks, BLANKS_DIFFER),
     ('"…", "..." or ".." differ from the Hungarian text', "use the same dots", dots, DOTS_DIFFER),
     ("placeholders differ from the Hungarian text", "keep every placeholder", placeholders, {}),
     ("line breaks differ from the Hungarian text", r"keep every \n", lambda t: t.count("\n"), {}),
     ("tabs differ from the Hungarian text", r"keep every \t", lambda t: t.count("\t"), {}),
-    ('the number of "|" differs from the Hungarian text', 'keep every "|"', lambda t: t.count("|"), {}),
+    ('the number of "|" differs from the Hungarian text', 'keep every "|"',
+     lambda t: t.count("|"), {}),
 )
 
 
@@ -121,22 +124,22 @@ def compare_tables(folder, tables):
             finding(path, 1 + sum(known < text_id for known in table), f"identifier {text_id} is missing",
                     f"translate \"{hungarian[text_id].text}\" and put it here")
         for text_id in sorted(table.keys() - hungarian.keys()):
-            finding(path, table[text_id].line, f"identifier {text_id} is not in hu.tsv", "add it there or drop it here")
+            finding(path, table[text_id].line, f"identifier {text_id} is not in hu.tsv",
+                    "add it there or drop it here")
         for text_id in sorted(table.keys() & hungarian.keys()):
-            compare_texts(path, language, text_id, (hungarian[text_id], table[text_id]))
+            compare_texts(path, (language, text_id), hungarian[text_id].text, table[text_id])
 
 
-def compare_texts(path, language, text_id, entries):
-    hungarian, other = entries
+def compare_texts(path, key, hungarian, other):
     for what, better, measure, exceptions in RULES:
-        same = measure(hungarian.text) == measure(other.text)
-        excepted = (language, text_id) in exceptions
-        if same == excepted:
-            finding(path, other.line, f"{text_id}: " + (f"an exception is listed, but not: {what}" if same else what),
-                    "drop the exception from tools/check_texts.py" if same else better)
+        same = measure(hungarian) == measure(other.text)
+        excepted = key in exceptions
+        if excepted and same:
+            finding(path, other.line, f"{key[1]}: an exception is listed, but not true: {what}",
+                    "drop the exception from tools/check_texts.py")
+        elif not excepted and not same:
+            finding(path, other.line, f"{key[1]}: {what}", better)
 
-
-# --- code -----------------------------------------------------------------------------------------------------
 
 TOKEN = re.compile(r"""
       (?P<comment> //(?:\\\n|[^\n])* | /\*.*?\*/ )
@@ -149,7 +152,8 @@ TOKEN = re.compile(r"""
 """, re.VERBOSE | re.DOTALL)
 Token = namedtuple("Token", "kind value line")
 SIMPLE = {"n": "\n", "t": "\t", "r": "\r", "a": "\a", "b": "\b", "f": "\f", "v": "\v"}
-C_ESCAPE = re.compile(r"\\(?:u([0-9a-fA-F]{4})|U([0-9a-fA-F]{8})|x([0-9a-fA-F]+)|([0-7]{1,3})|(\n)|(.))", re.DOTALL)
+C_ESCAPE = re.compile(r"\\(?:u([\da-fA-F]{4})|U([\da-fA-F]{8})|x([\da-fA-F]+)"
+                      r"|([0-7]{1,3})|(\n)|(.))", re.DOTALL)
 
 
 def c_text(literal):
@@ -198,7 +202,8 @@ def texts_of(source):
             end += 1
         trailing_comma = end < len(all_tokens) and all_tokens[end][:2] == ("other", ",")
         end += trailing_comma
-        closed = end < len(all_tokens) and all_tokens[end][:2] == ("other", "}" if opening.value == "{" else ")")
+        closing = ("other", "}" if opening.value == "{" else ")")
+        closed = end < len(all_tokens) and all_tokens[end][:2] == closing
         if closed and any(p.kind == "u" for p in pieces):
             yield number.line, number, "".join(p.value for p in pieces)
 
@@ -216,12 +221,15 @@ def check_code(path, tables):
         text_id = int(number.value.replace("'", ""))
         folder = "strings" if text_id < FIRST_HOST_ID else "host/strings"
         if path.parts[0] == "src" and text_id >= FIRST_HOST_ID:
-            finding(path, line, f"identifier {text_id} of the host in the library", f"take one below {FIRST_HOST_ID}")
+            finding(path, line, f"identifier {text_id} of the host in the library",
+                    f"take one below {FIRST_HOST_ID}")
         entry = tables.get(folder, {}).get("hu", {}).get(text_id)
         if entry is None:
-            finding(path, line, f"identifier {text_id} (\"{text}\") is in no table", f"add it to the tables in {folder}/")
+            finding(path, line, f"identifier {text_id} (\"{text}\") is in no table",
+                    f"add it to the tables in {folder}/")
         elif entry.text != text:
-            finding(path, line, f"{text_id} is \"{text}\" here, \"{entry.text}\" in {folder}/hu.tsv:{entry.line}",
+            finding(path, line,
+                    f"{text_id} is \"{text}\" here, \"{entry.text}\" in {folder}/hu.tsv:{entry.line}",
                     "write the table's text to the letter, or take the right identifier")
 
 
@@ -247,7 +255,8 @@ def main():
         check_code(path, tables)
     for *_, message in sorted(set(findings)):
         print(message)
-    print(f"{len(set(findings))} findings" if findings else "texts: all tables and sources agree", file=sys.stderr)
+    verdict = f"{len(set(findings))} findings" if findings else "texts: all tables and sources agree"
+    print(verdict, file=sys.stderr)
     return 1 if findings else 0
 
 

@@ -106,9 +106,9 @@ TinyDoc::TinyDoc()
         return int(std::ranges::count(m_symbolizations.rows, id, &tPenStyleSi::SidId));
     };
     m_symbolizations.references = [this](qint16 nr) {
-        std::ptrdiff_t slots = 0;
-        for (const tPenStyle &s : m_lineTypes.rows) slots += std::ranges::count(s.Slots, nr);
-        return int(slots);
+        std::ptrdiff_t carried = 0;
+        for (const tPenStyle &s : m_lineTypes.rows) carried += std::ranges::count(s.Slots, nr);
+        return int(carried);
     };
 }
 

@@ -11,7 +11,11 @@ namespace {
 const QString kLowest = QStringLiteral("(SELECT id FROM layers ORDER BY nr LIMIT 1)");
 }
 
-std::optional<tLay> Layers::findByNumber(qint16 gNr) const { return findBy(QStringLiteral(" WHERE nr=?"), int(gNr)); }
+std::optional<tLay> Layers::findByNumber(qint16 gNr) const
+{
+    const int id = numberOf(m_db, QStringLiteral("SELECT id FROM layers WHERE nr=?"), 0, int(gNr));
+    return id ? find(qint16(id)) : std::nullopt;
+}
 
 void Layers::added(const std::vector<qint16> &) { joinSystemGroup(); }
 

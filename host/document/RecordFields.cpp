@@ -62,7 +62,8 @@ template <auto M> constexpr auto field(const char *column, const char *type)
     using Rec = decltype(ownerOf(M));
     using T = decltype(typeOf(M));
     return Field<Rec>{column, type, [](const Rec &r) { return Value<T>::in(r.*M); },
-                      [](Rec &r, const QVariant &v) { r.*M = Value<T>::out(v); }};
+                      [](Rec &r, const QVariant &v) { r.*M = Value<T>::out(v); },
+                      [](const Rec &a, const Rec &b) { return a.*M == b.*M; }};
 }
 
 constexpr Field<tLay> kLayers[] = {

@@ -15,6 +15,7 @@ template <class Rec> struct Field {
     const char *type;                       ///< type and constraints; null = read only, `column` is an expression
     QVariant (*get)(const Rec &);
     void (*put)(Rec &, const QVariant &);
+    bool (*same)(const Rec &, const Rec &);
 };
 
 /// A column whose values no two rows share, and what to say when one is already taken; the value follows the text.

@@ -8,25 +8,55 @@
 
 namespace refhost {
 
-/// The statements of one table, built once from its fields.
+/// The statements of one table, built from its fields.
 template <class Rec> struct TableSql {
-    QString select, insert, update;
+    QString all, byId, insert;
     TableSql(const TableFacts<Rec> &f)
     {
-        QStringList read, stored, marks, sets;
+        QStringList read, stored, marks;
         for (const Field<Rec> &field : f.fields) {
-            const QString column = QString::fromLatin1(field.column);
-            read << column;
-            if (!field.type) continue;
-            stored << column;
-            marks << QStringLiteral("?");
-            sets << column + QStringLiteral("=?");
+            read << QString::fromLatin1(field.column);
+            if (field.type) stored << read.back(), marks << QStringLiteral("?");
         }
         const QString table = QString::fromLatin1(f.table);
-        select = QStringLiteral("SELECT %1 FROM %2").arg(read.join(u','), table);
+        const QString select = QStringLiteral("SELECT %1 FROM %2").arg(read.join(u','), table);
+        all = select + QStringLiteral(" ORDER BY id");
+        byId = select + QStringLiteral(" WHERE id=?");
         insert = QStringLiteral("INSERT INTO %1(%2) VALUES(%3)").arg(table, stored.join(u','), marks.join(u','));
-        update = QStringLiteral("UPDATE %1 SET %2 WHERE id=?").arg(table, sets.mid(1).join(u','));
     }
+};
+
+/// Writes the columns of records that differ from what is stored; most updates change one of many.
+template <class Rec> class RowUpdate {
+public:
+    RowUpdate(Database &db, const TableFacts<Rec> &facts) : m_db(db), m_facts(facts) {}
+    void write(const Rec &stored, const Rec &wanted)
+    {
+        quint32 columns = 0;
+        for (size_t i = 1; i < m_facts.fields.size(); ++i)
+            if (m_facts.fields[i].type && !m_facts.fields[i].same(stored, wanted)) columns |= 1u << i;
+        if (columns == 0) return;
+        if (columns != m_columns) prepare(columns);
+        int place = 0;
+        for (size_t i = 1; i < m_facts.fields.size(); ++i)
+            if (columns >> i & 1) m_statement->bind(place++, m_facts.fields[i].get(wanted));
+        m_statement->bind(place, int(wanted.*m_facts.id));
+        m_statement->exec();
+    }
+private:
+    void prepare(quint32 columns)
+    {
+        QStringList sets;
+        for (size_t i = 1; i < m_facts.fields.size(); ++i)
+            if (columns >> i & 1) sets << QString::fromLatin1(m_facts.fields[i].column) + QStringLiteral("=?");
+        m_columns = columns;
+        m_statement.emplace(m_db, QStringLiteral("UPDATE %1 SET %2 WHERE id=?")
+                                      .arg(QString::fromLatin1(m_facts.table), sets.join(u',')));
+    }
+    Database &m_db;
+    const TableFacts<Rec> &m_facts;
+    quint32 m_columns = 0;
+    std::optional<Statement> m_statement;
 };
 
 /// The common role over one table. Every write call is one transaction: when it throws, nothing of it was written.
@@ -38,12 +68,12 @@ public:
     {
         std::vector<Rec> all;
         all.reserve(size_t(count()));
-        Statement s(m_db, m_sql.select + QStringLiteral(" ORDER BY id"));
+        Statement s(m_db, m_sql.all);
         for (s.exec(); s.next();) all.push_back(recordOf(s));
         return all;
     }
     int count() const override { return numberOf(m_db, QStringLiteral("SELECT count(*) FROM ") + table(), 0); }
-    std::optional<Rec> find(qint16 id) const override { return findBy(QStringLiteral(" WHERE id=?"), int(id)); }
+    std::optional<Rec> find(qint16 id) const override { return firstOf(m_sql.byId, int(id)); }
     int uses(qint16 id) const override { return usesOf(m_db, m_facts.kind, id); }
     std::vector<int> usesAll(std::span<const qint16> ids) const override { return usesOfAll(m_db, m_facts.kind, ids); }
 
@@ -59,10 +89,11 @@ public:
         std::vector<qint16> given;
         Write write(m_db);
         Identifiers numbers(m_db, table());
+        Statement insertion(m_db, m_sql.insert);
         for (const Rec &r : rows) {
             Rec stored = completed(r);
             stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
-            insert(stored);
+            insert(insertion, stored);
             given.push_back(stored.*m_facts.id);
         }
         numbers.keep();
@@ -81,9 +112,9 @@ public:
     {
         written = 0;
         Write write(m_db);
-        if (rows.size() == 1 || !updatedAsTheyCome(rows)) {
-            if (rows.size() > 1) park(rows);
-            for (const Rec &r : rows) store(r);
+        if (!updatedAsTheyCome(rows)) {
+            park(rows);
+            store(rows);
         }
         changed();
         write.keep();
@@ -115,7 +146,8 @@ public:
     {
         Write write(m_db);
         Rec stored = completed(r);
-        insert(stored);
+        Statement insertion(m_db, m_sql.insert);
+        insert(insertion, stored);
         Identifiers::note(m_db, table(), r.*m_facts.id);
         added(std::vector<qint16>{r.*m_facts.id});
         changed();
@@ -132,11 +164,10 @@ protected:
     {
         throw DocumentError(QV_DOC_CONTROLS::join(m_facts.unknown, int(id)));
     }
-    std::optional<Rec> findBy(const QString &condition, const QVariant &value) const
+    std::optional<Rec> firstOf(const QString &sql, int value) const
     {
-        Statement s(m_db, m_sql.select + condition);
-        s.bind(0, value);
-        s.exec();
+        Statement s(m_db, sql);
+        s.exec(value);
         if (!s.next()) return {};
         return recordOf(s);
     }
@@ -151,31 +182,42 @@ private:
         for (const Field<Rec> &field : m_facts.fields) field.put(r, s.value(column++));
         return r;
     }
-    void insert(const Rec &r)
+    void insert(Statement &s, const Rec &r)
     {
-        Statement s(m_db, m_sql.insert);
         int place = 0;
         for (const Field<Rec> &field : m_facts.fields)
             if (field.type) s.bind(place++, field.get(r));
         named(r, [&] { s.exec(); });
     }
-    void store(const Rec &r)
+    /// What is stored under the identifiers of the rows, in the order of identifiers.
+    std::vector<Rec> storedFor(std::span<const Rec> rows) const
     {
-        const Rec stored = completed(r);
-        Statement s(m_db, m_sql.update);
-        int place = 0;
-        for (const Field<Rec> &field : m_facts.fields.subspan(1))
-            if (field.type) s.bind(place++, field.get(stored));
-        s.bind(place, int(r.*m_facts.id));
-        named(r, [&] { s.exec(); });
-        if (s.touched() == 0) failUnknown(r.*m_facts.id);
+        if (rows.size() > 16) return readAll();
+        std::vector<Rec> stored;
+        for (const Rec &r : rows)
+            if (auto found = find(r.*m_facts.id)) stored.push_back(std::move(*found));
+        std::ranges::sort(stored, {}, m_facts.id);
+        return stored;
+    }
+    void store(std::span<const Rec> rows)
+    {
+        std::vector<Rec> stored = storedFor(rows);
+        RowUpdate<Rec> update(m_db, m_facts);
+        for (const Rec &r : rows) {
+            const auto old = std::ranges::lower_bound(stored, r.*m_facts.id, {}, m_facts.id);
+            if (old == stored.end() || (*old).*m_facts.id != r.*m_facts.id) failUnknown(r.*m_facts.id);
+            const Rec wanted = completed(r);
+            named(r, [&] { update.write(*old, wanted); });
+            *old = wanted;
+        }
     }
     bool updatedAsTheyCome(std::span<const Rec> rows)
     {
         Write attempt(m_db);
         try {
-            for (const Rec &r : rows) store(r);
+            store(rows);
         } catch (const Taken &) {
+            if (rows.size() == 1) throw;
             return false;
         }
         attempt.keep();

@@ -11,10 +11,8 @@
 
 #include <QPushButton>
 #include <QSplitter>
+#include <QTest>
 #include <QTreeView>
-#include <QtTest/qtestdata.h>
-#include <QtTest/qtestkey.h>
-#include <QtTest/qtestmouse.h>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;

@@ -8,9 +8,7 @@
 
 #include <QAbstractItemModel>
 #include <QTreeView>
-#include <QtTest/qtestcase.h>
-#include <QtTest/qtestdata.h>
-#include <QtTest/qsignalspy.h>
+#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -163,10 +161,11 @@ private slots:
         const int rows[] = {1, 2};
         grid.setCurrentRow(2);
         grid.selectRows(rows);
-        QSignalSpy raised(&js, &clsJs_Layer::CurrentChanced);
+        int raised = 0;
+        connect(&js, &clsJs_Layer::CurrentChanced, this, [&] { ++raised; });
         m_doc->layers().remove(layer(1).LayId, true);
         js.fill();
-        QCOMPARE(raised.count(), 1);
+        QCOMPARE(raised, 1);
         QCOMPARE(js.selectedLayers(), (tLayArr{layer(2), layer(3)}));
         QCOMPARE(js.currentRecord()->gNr, qint16(3));
     }

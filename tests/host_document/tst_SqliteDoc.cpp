@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 using namespace ZolWDoc;
 using refhost::DocumentError;

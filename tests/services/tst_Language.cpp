@@ -3,9 +3,7 @@
 #include "facade/services/Text.h"
 #include "support/Registry.h"
 
-#include <QtTest/qsignalspy.h>
-#include <QtTest/qtestcase.h>
-#include <QtTest/qtestdata.h>
+#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 

@@ -43,7 +43,7 @@ void GridPage::TearDown()
 
 void GridPage::retranslate()
 {
-    gridGroups->setTitle(txt(Text{20904, u"Rétegcsoportok"}));
+    gridGroups->setTitle(txt(Text{20155, u"Rétegcsoportok"}));
     gridItems->setTitle(txt(Text{3283, u"Rétegek"}));
 }
 

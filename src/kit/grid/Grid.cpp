@@ -14,10 +14,10 @@
 #include <QDrag>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTimerEvent>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
@@ -332,16 +332,16 @@ void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColu
 void Grid::setPictureSize(QSize size)
 {
     m_delegate->setPictureSize(size);
-    m_table->scheduleDelayedItemsLayout();
+    m_table->doItemsLayout();
     if (m_cards) m_cards->doItemsLayout();
 }
 
 void Grid::dragOut()
 {
-    QMimeData *const data = m_source ? m_source->dragData(selectedRows()) : nullptr;
-    if (!data) return;
+    QMimeData *const rows = m_source ? m_source->dragData(selectedRows()) : nullptr;
+    if (!rows) return;
     auto *const drag = new QDrag(activeView()); // Qt's after exec()
-    drag->setMimeData(data);
+    drag->setMimeData(rows);
     drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
 }
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
 #include <memory>
