@@ -273,7 +273,10 @@ void Grid::selectRows(std::span<const int> rows)
     m_selection->setRows(rows);
     updateCounts();
 }
-void Grid::selectAll() { activeView()->selectAll(); }
+void Grid::selectAll()
+{
+    if (m_model->rowCount() > 0) activeView()->selectAll();
+}
 
 void Grid::setTitle(const QString &name)
 {

@@ -4,6 +4,7 @@
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/GridCards.h"
 #include "kit/grid/GridHeader.h"
+#include "kit/grid/GridInput.h"
 #include "kit/grid/GridModel.h"
 #include "kit/grid/GridSelection.h"
 #include "kit/grid/GridTable.h"
