@@ -14,11 +14,10 @@
 #include <QDrag>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QTimerEvent>
-#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTimerEvent>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
@@ -274,7 +273,10 @@ void Grid::selectRows(std::span<const int> rows)
     m_selection->setRows(rows);
     updateCounts();
 }
-void Grid::selectAll() { activeView()->selectAll(); }
+void Grid::selectAll()
+{
+    if (m_model->rowCount() > 0) activeView()->selectAll();
+}
 
 void Grid::setTitle(const QString &name)
 {
@@ -339,10 +341,10 @@ void Grid::setPictureSize(QSize size)
 
 void Grid::dragOut()
 {
-    QMimeData *const data = m_source ? m_source->dragData(selectedRows()) : nullptr;
-    if (!data) return;
+    QMimeData *const rows = m_source ? m_source->dragData(selectedRows()) : nullptr;
+    if (!rows) return;
     auto *const drag = new QDrag(activeView()); // Qt's after exec()
-    drag->setMimeData(data);
+    drag->setMimeData(rows);
     drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
 }
 

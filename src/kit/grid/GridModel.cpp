@@ -234,9 +234,9 @@ QVariant GridModel::accessibleText(int row, int c) const
     const QString shown = m_source->text(row, c);
     switch (col.kind) {
     case CellKind::Check:
-        return col.caption + u' ' + (m_source->value(row, c).toBool() ? txt(Text{21008, u"bekapcsolva"})
-                                                                     : txt(Text{21009, u"kikapcsolva"}));
-    case CellKind::Color: return join(Text{21010, u"szín "}, shown);
+        return col.caption + u' ' + (m_source->value(row, c).toBool() ? txt(Text{20176, u"bekapcsolva"})
+                                                                     : txt(Text{20177, u"kikapcsolva"}));
+    case CellKind::Color: return join(Text{20175, u"szín "}, shown);
     case CellKind::Picture: return join(Text{21011, u"kép "}, shown);
     default: return shown;
     }

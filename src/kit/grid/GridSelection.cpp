@@ -101,7 +101,7 @@ void GridSelection::select(const QItemSelection &selection, SelectionFlags comma
     if (!(command & Select)) return;
     const RowEngine &engine = m_model.engine();
     for (const QItemSelectionRange &range : selection)
-        for (int line = range.top(); range.height() > 1 && line <= range.bottom(); ++line) {
+        for (int line = range.top(); line <= range.bottom(); ++line) {
             const int b = engine.bandAt(line);
             if (b < 0 || engine.band(b).expanded) continue;
             const auto rows = std::span(engine.shownRows()).subspan(size_t(engine.band(b).begin), size_t(engine.band(b).count));
