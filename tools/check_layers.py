@@ -28,8 +28,8 @@ BELOW = {
     "designer": ("src/facade/contract", "src/facade/services", "src/controls"),
     "docs/examples": (),
 }
-# The one thing of the contract that the widgets of the kit may see: drawings as data, no record.
-ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h",)}
+# What the widgets of the kit may see of the rooms beside: drawings and the state of a view as data, no record.
+ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h", "src/rules/GridState.h", "src/rules/ListViewColumns.h")}
 OUTSIDE = ("host", "apps", "docs/examples")     # they use what any user of the library would
 GPL_ROOMS = ("host/import", "host/fonts")
 GPL_NAMES = re.compile(r"^(dxflib/|dl_\w+\.h$|hersheyfont)")

@@ -42,6 +42,12 @@ std::optional<int> ScriptedPrompts::choose(const Choice &c, QObject *)
     return answer.isValid() ? std::optional(answer.toInt()) : std::nullopt;
 }
 
+std::optional<QString> ScriptedPrompts::text(const TextQuestion &q, QObject *)
+{
+    const QVariant answer = next("text", q.title, q.text + u'|' + q.preset, Icon::None);
+    return answer.isValid() ? std::optional(answer.toString()) : std::nullopt;
+}
+
 QString ScriptedPrompts::openFile(const FileQuestion &q, QObject *)
 {
     return next("openFile", q.title, q.filter, Icon::None).toString();

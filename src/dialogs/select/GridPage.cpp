@@ -43,8 +43,8 @@ void GridPage::TearDown()
 
 void GridPage::retranslate()
 {
-    gridGroups->setAccessibleName(txt(Text{20155, u"Rétegcsoportok"}));
-    gridItems->setAccessibleName(txt(Text{3283, u"Rétegek"}));
+    gridGroups->setTitle(txt(Text{20155, u"Rétegcsoportok"}));
+    gridItems->setTitle(txt(Text{3283, u"Rétegek"}));
 }
 
 void GridPage::arrange(const ResourceKind &kind)

@@ -2,6 +2,7 @@
 
 #include "facade/services/Text.h"
 #include "kit/ask/ChoiceBox.h"
+#include "kit/ask/TextBox.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -119,6 +120,12 @@ std::optional<int> BoxPrompts::choose(const Choice &c, QObject *asker)
 {
     ChoiceBox box(c, windowOf(asker));
     return box.exec() == QDialog::Accepted ? std::optional(box.chosen()) : std::nullopt;
+}
+
+std::optional<QString> BoxPrompts::text(const TextQuestion &q, QObject *asker)
+{
+    TextBox box(q, windowOf(asker));
+    return box.exec() == QDialog::Accepted ? std::optional(box.answer()) : std::nullopt;
 }
 
 QString BoxPrompts::openFile(const FileQuestion &q, QObject *asker)

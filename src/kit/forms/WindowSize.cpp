@@ -22,10 +22,10 @@ int storedPixels(const QWidget &window, const QString &key, int fallback)
 
 } // namespace
 
-void restoreSize(QWidget &window, const QString &form)
+void restoreSize(QWidget &window, const QString &form, QSize usual)
 {
     const QFontMetrics letters(window.font());
-    const QSize usual(letters.averageCharWidth() * 160, letters.height() * 28);
+    if (!usual.isValid()) usual = {letters.averageCharWidth() * 160, letters.height() * 28};
     const QSize wanted(storedPixels(window, keyOf(form, "-Width"), usual.width()),
                        storedPixels(window, keyOf(form, "-Height"), usual.height()));
     const QScreen *const screen = window.screen();
