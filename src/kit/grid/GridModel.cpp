@@ -114,7 +114,7 @@ bool GridModel::placeRow(int row)
 {
     const auto target = m_engine.targetOf(row);
     if (!target) return false;
-    if (target->from == target->to) return true;
+    if (target->from == target->to) return m_engine.place(row, *target), true;
     beginMoveRows({}, target->from, target->from, {}, target->to + (target->to > target->from));
     m_engine.place(row, *target);
     endMoveRows();

@@ -151,6 +151,7 @@ void RowEngine::place(int row, const Move &move)
     };
     const int at = int(std::ranges::find(m_order, row) - m_order.begin());
     moved(m_order, at, placeIn(m_order, row, at));
+    if (move.from == move.to) return;                   // among the shown ones it stays
     moved(m_shown, move.from, move.to);
     moved(m_lines, move.from, move.to);
     m_lineOf.clear();
