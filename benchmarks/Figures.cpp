@@ -72,8 +72,15 @@ int printMatching(const std::string &word)
 } // namespace
 } // namespace benchmarks
 
+/// What the offscreen platform says of itself at every window is no news.
+static void tellWhatMatters(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
 int main(int argc, char **argv)
 {
+    qInstallMessageHandler(tellWhatMatters);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QTemporaryDir home; // the settings of the user who measures play no part
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));

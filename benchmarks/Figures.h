@@ -29,7 +29,8 @@ struct Figure {
     std::string name;                           ///< "room.what.size"; what a WORD is looked for in
     std::string unit;
     Bound bound;
-    std::function<double()> measure;            ///< runs with an application; what it throws ends the program with 1
+    std::function<double()> measure;            ///< runs with an application; what it throws ends the program
+                                                ///< with 1
 };
 std::vector<Figure> &figures();
 bool figure(std::string name, std::string unit, Bound bound, std::function<double()> measure);

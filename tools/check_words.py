@@ -17,7 +17,7 @@ WORDS = (
     (r"\bfriend\s+(class|struct)\s+(::)?(tst_\w*|\w*Test\w*)", EVERYWHERE, (), "test through the public surface"),
     (r"\b(SIGNAL|SLOT)\s*\(", EVERYWHERE, (), "connect(sender, &Sender::event, ...)"),
     (r"\bQHeaderView::saveState\b|\bheader\(\)\s*->\s*(save|restore)State\b", EVERYWHERE, (), "the layout file of kit/grid"),
-    (r"#\s*include\s*<(QtWidgets|QtCore|QtTest|QtGui|QTest|bits/stdc\+\+\.h)>", EVERYWHERE, (), "the single headers that are used"),
+    (r"#\s*include\s*<(QtWidgets|QtCore|QtTest|QtGui|bits/stdc\+\+\.h)>", EVERYWHERE, (), "the single headers that are used"),
     (r"\busing\s+namespace\s+std\b", EVERYWHERE, (), "std:: at each name"),
     (r"\b(handle|process|do)[A-Z]\w*\s*\(", house.PRODUCT, (), "a name that says the result or the act"),
     (r"\b(?!Q)\w*(Helper|Utils?)\b", house.PRODUCT, (), "name the thing, or make it a free function where it is used"),

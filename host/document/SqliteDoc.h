@@ -2,6 +2,7 @@
 
 #include "document/Elements.h"
 
+#include "facade/contract/HostServices.h"
 #include "facade/contract/ZOLW_Doc.h"
 
 #include <functional>

@@ -5,7 +5,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 

@@ -34,7 +34,7 @@ struct CallLog {
 
 /// Layers through the log.
 struct FaultyLayers final : ZolWDoc::LayerRole {
-    FaultyLayers(ZolWDoc::LayerRole &real, CallLog &log) : real(real), log(log) {}
+    FaultyLayers(ZolWDoc::LayerRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::LayerRole &real;
     CallLog &log;
     using Rec = ZolWDoc::tLay;
@@ -61,7 +61,7 @@ struct FaultyLayers final : ZolWDoc::LayerRole {
 
 /// A table with the common role only, through the log.
 template <class Role, class Rec> struct FaultyTable : Role {
-    FaultyTable(Role &real, CallLog &log, const char *name) : real(real), log(log), name(name) {}
+    FaultyTable(Role &of, CallLog &to, const char *called) : real(of), log(to), name(called) {}
     Role &real;
     CallLog &log;
     std::string name;
@@ -83,7 +83,7 @@ struct FaultyTextTypes final : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd>
 };
 struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> { using FaultyTable::FaultyTable; };
 struct FaultyPens final : ZolWDoc::PenColorRole {
-    FaultyPens(ZolWDoc::PenColorRole &real, CallLog &log) : real(real), log(log) {}
+    FaultyPens(ZolWDoc::PenColorRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::PenColorRole &real;
     CallLog &log;
     ZolWDoc::PenColorTable read() const override { return log.on("penColors.read"), real.read(); }

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 namespace tests {
 

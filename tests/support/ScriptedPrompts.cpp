@@ -1,6 +1,6 @@
 #include "support/ScriptedPrompts.h"
 
-#include <QtTest/qtestcase.h>
+#include <QTest>
 
 #include <cstring>
 

@@ -43,7 +43,7 @@ void GridPage::TearDown()
 
 void GridPage::retranslate()
 {
-    gridGroups->setAccessibleName(txt(Text{20904, u"Rétegcsoportok"}));
+    gridGroups->setAccessibleName(txt(Text{20155, u"Rétegcsoportok"}));
     gridItems->setAccessibleName(txt(Text{3283, u"Rétegek"}));
 }
 

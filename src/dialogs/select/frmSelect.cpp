@@ -95,8 +95,8 @@ void frmSelect::confirmLayer()
     if (chosen.empty()) return reject();
     const tLay &first = chosen.front();
     if (m_warnInvisible && !first.Visible) {
-        const QString question = join(first.gNr, QStringLiteral(" "), Text{20042, u"Kikapcsolt réteget választott!"},
-                                      QStringLiteral("\n"), Text{20043, u"Megerősíti?"});
+        const QString question = join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
+                                      QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
         const bool confirmed = prompts().yesNo({Icon::Question, appTitle(), question}, this);
         m_relay.checkpoint();
         m_ok = confirmed;

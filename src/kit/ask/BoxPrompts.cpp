@@ -55,11 +55,23 @@ QStringList nameFilters(const QString &filter)
     return out;
 }
 
+/// The labels of Qt's own file dialog follow our language, not the system's.
+void nameParts(QFileDialog &dialog, bool opens)
+{
+    dialog.setLabelText(QFileDialog::LookIn, txt(Text{20178, u"Hely:"}));
+    dialog.setLabelText(QFileDialog::FileName, txt(Text{20179, u"Fájlnév:"}));
+    dialog.setLabelText(QFileDialog::FileType, txt(Text{20180, u"Fájltípus:"}));
+    dialog.setLabelText(QFileDialog::Accept, opens ? txt(Text{20181, u"Megnyitás"}) : txt(Text{20182, u"Mentés"}));
+    dialog.setLabelText(QFileDialog::Reject, txt(Text{2801, u"Mégse"}));
+}
+
 QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode mode)
 {
     QFileDialog dialog(windowOf(asker), q.title);
+    const bool opens = mode == QFileDialog::AcceptOpen;
     dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked below, in our language
     dialog.setNameFilters(nameFilters(q.filter));
     dialog.setDefaultSuffix(q.suffix);
     const QFileInfo proposed(q.path);
@@ -68,7 +80,13 @@ QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode m
         dialog.setDirectory(proposed.absolutePath());
         dialog.selectFile(proposed.fileName());
     }
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    nameParts(dialog, opens);
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString path = dialog.selectedFiles().value(0);
+        const QString question = QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
+        if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Question, q.title, question}, asker)) return path;
+    }
+    return {};
 }
 
 Prompts &boxes()

@@ -56,7 +56,7 @@ QString messageOf(std::exception_ptr error)
     } catch (const std::exception &e) {
         return QString::fromUtf8(e.what());
     } catch (...) {
-        return txt(Text{20900, u"Ismeretlen hiba a rajzban."});
+        return txt(Text{20173, u"Ismeretlen hiba a rajzban."});
     }
 }
 

@@ -69,8 +69,8 @@ QVariant GridModel::accessibleText(const QModelIndex &index) const
     const QString text = m_source->text(index.row(), index.column());
     if (c.kind == CellKind::Check)
         return c.caption + u' ' + (m_source->value(index.row(), index.column()).toBool()
-                                       ? txt(Text{20901, u"bekapcsolva"}) : txt(Text{20902, u"kikapcsolva"}));
-    if (c.kind == CellKind::Color) return join(Text{20903, u"szín "}, text);
+                                       ? txt(Text{20176, u"bekapcsolva"}) : txt(Text{20177, u"kikapcsolva"}));
+    if (c.kind == CellKind::Color) return join(Text{20175, u"szín "}, text);
     return text;
 }
 

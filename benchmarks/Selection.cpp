@@ -1,0 +1,95 @@
+#include "Figures.h"
+
+#include "dialogs/select/frmSelect.h"
+#include "document/SqliteDoc.h"
+#include "facade/clsDocDlgs.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include <map>
+
+using namespace benchmarks;
+using namespace QV_DOC_CONTROLS;
+
+namespace {
+
+/// A document in memory with so many layers, made once.
+refhost::SqliteDoc &documentWith(int layers)
+{
+    static std::map<int, std::unique_ptr<refhost::SqliteDoc>> made;
+    if (made.empty()) qAddPostRoutine([] { made.clear(); }); // the driver goes with the application
+    auto &doc = made[layers];
+    if (doc) return *doc;
+    doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    std::vector<ZolWDoc::tLay> rows;
+    for (int i = doc->layers().count(); i < layers; ++i)
+        rows.push_back({.gNr = qint16(i + 1), .Name = QStringLiteral("Réteg %1").arg(i + 1), .Visible = i % 3 != 0,
+                        .ScrColor = qint16(i % 256), .PrnColor = qint16(i % 7), .PenColorId = qint16(i % 256)});
+    std::vector<qint16> ids;
+    doc->layers().addAll(rows, ids);
+    return *doc;
+}
+
+/// Ends a run: the dialog is rejected as soon as its grid has painted for the first time.
+struct FirstPaint final : QObject {
+    Clock::time_point painted;
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::UpdateRequest && qobject_cast<frmSelect *>(object)) {
+            object->removeEventFilter(this);
+            object->event(event); // paints
+            painted = Clock::now();
+            static_cast<frmSelect *>(object)->reject();
+            return true;
+        }
+        return false;
+    }
+};
+
+/// What the document itself takes to answer the calls of one opening.
+double readingTime(ZolWDoc::ZOLW_Doc &doc)
+{
+    const auto start = Clock::now();
+    keep(doc.penColors().read()), keep(doc.penColors().palette());
+    keep(doc.layers().readAll()), keep(doc.lineTypes().readAll()), keep(doc.textTypes().readAll());
+    keep(doc.layers().groups()), keep(doc.layers().members());
+    return nanosecondsSince(start) / 1e6;
+}
+
+/// Milliseconds from the call to the first picture, the document's own reading apart.
+double openingOnce(refhost::SqliteDoc &doc)
+{
+    FirstPaint watch;
+    qApp->installEventFilter(&watch);
+    ZolWDoc::tLay lay;
+    const double reading = readingTime(doc);
+    const auto start = Clock::now();
+    clsDocDlgs().bSelect_Lay(doc, lay);
+    qApp->removeEventFilter(&watch);
+    return std::max(std::chrono::duration<double, std::milli>(watch.painted - start).count() - reading, 0.001);
+}
+double openingTime(int layers)
+{
+    return medianOf([&doc = documentWith(layers)] { return openingOnce(doc); });
+}
+double openingToEmpty(int layers)
+{
+    return medianOf([&doc = documentWith(layers), &empty = documentWith(1)] {
+        const double base = openingOnce(empty);
+        return openingOnce(doc) / base;
+    });
+}
+
+bool enter(int layers)
+{
+    const std::string name = "select.layers." + std::to_string(layers);
+    figure(name + ".reading", "ms", unbounded(), [layers] {
+        return medianOf([&doc = documentWith(layers)] { return readingTime(doc); });
+    });
+    figure(name + ".open", "ms", unbounded(), [layers] { return openingTime(layers); });
+    return figure(name + ".open.to.empty", "x", unbounded(), [layers] { return openingToEmpty(layers); });
+}
+const bool s_entered = enter(400) && enter(5000) && enter(32000);
+
+} // namespace

@@ -1,0 +1,48 @@
+#include "TinyDoc.h"
+
+#include "facade/clsDocDlgs.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdio>
+#include <memory>
+
+/// What a user would press, once the dialog has the keyboard.
+static void pressInDialog(std::initializer_list<int> keys)
+{
+    auto *const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, keys = std::vector(keys)] {
+        if (!QApplication::activeModalWidget() || !QApplication::focusWidget()) return;
+        timer->deleteLater();
+        timer->stop();
+        for (int key : keys) {
+            QWidget *const target = QApplication::focusWidget();
+            if (!target) return;
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier), release(QEvent::KeyRelease, key, Qt::NoModifier);
+            QApplication::sendEvent(target, &press);
+            QApplication::sendEvent(target, &release);
+        }
+    });
+    timer->start(0);
+}
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    example::TinyDoc doc;
+    for (const auto &[number, name] : {std::pair(10, "Buildings"), std::pair(20, "Roads"), std::pair(30, "Water")}) {
+        ZolWDoc::tLay lay;
+        lay.gNr = qint16(number);
+        lay.Name = QString::fromLatin1(name);
+        doc.layers().add(lay);
+    }
+    QV_DOC_CONTROLS::clsDocDlgs dialogs;
+    ZolWDoc::tLay lay = doc.layers().readAll().front();
+    pressInDialog({Qt::Key_Down, Qt::Key_Return});
+    if (!dialogs.bSelect_Lay(doc, lay)) return 1;
+    std::printf("picked %d %s\n", lay.gNr, qPrintable(lay.Name));
+    std::printf("current %d\n", doc.layers().find(doc.layers().currentId()).value().gNr);
+}

@@ -1,0 +1,188 @@
+#include "facade/services/Language.h"
+#include "grids/clsJs_Layer.h"
+#include "kit/grid/Grid.h"
+#include "support/FaultyDoc.h"
+#include "support/LayerDoc.h"
+#include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
+
+#include <QAbstractItemModel>
+#include <QTreeView>
+#include <QTest>
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+using tests::ScriptedPrompts;
+
+class tst_clsJs_Layer : public QObject {
+    Q_OBJECT
+private:
+    std::unique_ptr<refhost::SqliteDoc> m_doc;
+    tLay layer(qint16 number) { return *m_doc->layers().findByNumber(number); }
+    static bool type(Grid &grid, int row, const char *key, const QVariant &value)
+    {
+        const auto *const column = std::ranges::find(LayerTable::columns, std::string_view(key),
+                                                     [](const auto &c) { return std::string_view(c.key); });
+        QAbstractItemModel &model = *grid.table()->model();
+        return model.setData(model.index(row, int(column - std::begin(LayerTable::columns))), value);
+    }
+
+private slots:
+    void init()
+    {
+        setLanguage(Hungarian, {});
+        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
+                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
+                                 {.gNr = 3, .Name = QStringLiteral("C")}});
+    }
+
+    void editsAreCheckedThenWritten_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QVariant>("typed");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("after");
+        const QString same = QStringLiteral("1 A, 2 B, 3 C");
+        QTest::newRow("free name") << QByteArray("Name") << QVariant("Út") << "" << "" << "1 Út, 2 B, 3 C";
+        QTest::newRow("taken name") << QByteArray("Name") << QVariant("B") << "Rétegnév" << "Létező rétegnév !" << same;
+        QTest::newRow("own name again") << QByteArray("Name") << QVariant("A") << "" << "" << same;
+        QTest::newRow("free number") << QByteArray("gNr") << QVariant("32767") << "" << "" << "32767 A, 2 B, 3 C";
+        QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám" << "Létező rétegsorszám !" << same;
+        QTest::newRow("no number") << QByteArray("gNr") << QVariant("tíz") << "" << "" << same;
+        QTest::newRow("no whole number") << QByteArray("gNr") << QVariant("2.5") << "" << "" << same;
+        QTest::newRow("beyond 16 bits") << QByteArray("gNr") << QVariant("32768") << "" << "" << same;
+    }
+    void editsAreCheckedThenWritten()
+    {
+        QFETCH(QByteArray, key);
+        QFETCH(QVariant, typed);
+        QFETCH(QString, title);
+        QFETCH(QString, message);
+        QFETCH(QString, after);
+        std::vector<ScriptedPrompts::Step> boxes;
+        if (!message.isEmpty()) boxes.push_back({"tell", title, message, {}, Icon::Information});
+        ScriptedPrompts user(boxes);
+        Grid grid;
+        clsJs_Layer js;
+        js.setAllowEdit(true);
+        js.init(*m_doc, grid, nullptr, true);
+        QCOMPARE(type(grid, 0, key.constData(), typed), after != QStringLiteral("1 A, 2 B, 3 C"));
+        QCOMPARE(tests::dump(*m_doc), after);
+    }
+    void nothingIsEditedUnlessAllowed()
+    {
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, true);
+        QVERIFY(!js.AllowEdit());
+        QVERIFY(!type(grid, 0, "Name", QStringLiteral("X")));
+        QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 A, 2 B, 3 C"));
+    }
+    void anEditThatTheHostRefusesIsToldOnAFormWithoutADialog()
+    {
+        tests::FaultyDoc faulty(*m_doc);
+        ScriptedPrompts user({{"tell", appTitle(), QStringLiteral("layers.update"), {}, Icon::Exclamation}});
+        Grid grid;
+        clsJs_Layer js;
+        js.setAllowEdit(true);
+        js.init(faulty, grid, nullptr, true);
+        faulty.log.failNext = QStringLiteral("layers.update");
+        QVERIFY(!type(grid, 0, "Name", QStringLiteral("X")));
+        QCOMPARE(grid.table()->model()->index(0, 1).data().toString(), QStringLiteral("A"));
+    }
+
+    void previousLayerFollowsUntilItIsDeleted()
+    {
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, true);
+        QCOMPARE(js.currentLayer(), qint16(-1));
+        const qint16 a = layer(1).LayId, b = layer(2).LayId;
+        js.setCurrentLayer(a);
+        js.setCurrentLayer(a);
+        js.setCurrentLayer(b);
+        QCOMPARE(js.previousLayer(), a);
+        QCOMPARE(grid.currentRow(), 1);                 // automatic item selection
+        m_doc->layers().remove(a, true);
+        QCOMPARE(js.numberOf(a), qint16(-1));
+        QCOMPARE(js.previousLayer(), b);
+        js.setAutomaticItemSelection(false);
+        js.setCurrentLayer(layer(3).LayId);
+        QCOMPARE(grid.currentRow(), 1);
+    }
+
+    void rowsCarryTheirColoursAndTheirVisibility()
+    {
+        PenColorTable pens = m_doc->penColors().read();
+        pens.pen(7).ScrColor = 1;
+        m_doc->penColors().write(pens);
+        tLay a = layer(1);
+        a.ScrColor = 7, a.PrnColor = 0;
+        m_doc->layers().update(a);
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, true);
+        const GridStyles &styles = grid.formatStyles();
+        QCOMPARE(styles.find(QStringLiteral("7ColorId")).background.rgb() & 0xFFFFFF, m_doc->penColors().palette()[1]);
+        QCOMPARE(styles.find(QStringLiteral("0ColorId")).background, QColor(0, 0, 0));
+        QCOMPARE(styles.find(QStringLiteral("0ColorId")).text, QColor(255, 255, 255));
+        QVERIFY(styles.contains(QStringLiteral("255ColorId")) && !styles.contains(QStringLiteral("256ColorId")));
+        QCOMPARE(LayerTable::styles(layer(1)).row, QStringLiteral("OddRow"));
+        QCOMPARE(LayerTable::styles(layer(2)).row, QStringLiteral("Grayed"));
+        QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));
+    }
+
+    void theGroupListNarrowsTheGrid()
+    {
+        Grid grid, groups;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, &groups, false);
+        const auto shown = [&] {
+            QStringList names;
+            for (int r = 0; r < grid.table()->model()->rowCount(); ++r)
+                names << grid.table()->model()->index(r, 1).data().toString();
+            return names.join(u' ');
+        };
+        QCOMPARE(groups.table()->model()->index(0, 0).data().toString(), QStringLiteral("MIND"));
+        groups.setCurrentRow(2);                        // "Utak": even numbers
+        QCOMPARE(shown(), QStringLiteral("B"));
+        groups.setCurrentRow(0);
+        QCOMPARE(shown(), QStringLiteral("A B C"));
+        js.setbShowVisibleItems(true);
+        QCOMPARE(shown(), QStringLiteral("A C"));
+    }
+
+    void aRefillKeepsCurrentRowAndSelectionWithTheirLayers()
+    {
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, false);
+        const int rows[] = {1, 2};
+        grid.setCurrentRow(2);
+        grid.selectRows(rows);
+        int raised = 0;
+        connect(&js, &clsJs_Layer::CurrentChanced, this, [&] { ++raised; });
+        m_doc->layers().remove(layer(1).LayId, true);
+        js.fill();
+        QCOMPARE(raised, 1);
+        QCOMPARE(js.selectedLayers(), (tLayArr{layer(2), layer(3)}));
+        QCOMPARE(js.currentRecord()->gNr, qint16(3));
+    }
+
+    void afterTearDownItIsInert()
+    {
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, true);
+        js.TearDown();
+        js.TearDown();
+        js.fill();
+        QVERIFY(!js.selectById(layer(1).LayId));
+        QVERIFY(js.selectedLayers().empty() && !js.currentRecord());
+        QCOMPARE(grid.table()->model()->rowCount(), 0);
+    }
+};
+
+QVDC_TEST(tst_clsJs_Layer)
+#include "tst_clsJs_Layer.moc"

@@ -1,0 +1,74 @@
+// Saves a picture of every dialog in its states, in each language and palette, for the eye: pictures FOLDER
+#include "facade/services/Language.h"
+#include "facade/clsDocDlgs.h"
+#include "dialogs/select/frmSelect.h"
+#include "document/SqliteDoc.h"
+#include "grids/clsJs_Layer.h"
+#include "support/LayerDoc.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPalette>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace QV_DOC_CONTROLS;
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette p(QColor(53, 53, 53));
+    p.setColor(QPalette::Base, QColor(35, 35, 35));
+    p.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    p.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    for (auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        p.setColor(role, Qt::white);
+        p.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
+    }
+    return p;
+}
+
+std::unique_ptr<refhost::SqliteDoc> sample()
+{
+    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    const char *const names[] = {"Földrészlet határ", "Lakóépület", "Melléképület", "Kerítés", "Út burkolatszél",
+                                 "Vezeték – gáz", "Vezeték – víz", "Szintvonal", "Patak", "Alappont"};
+    for (qint16 i = 0; i < 40; ++i)
+        doc->layers().add({.gNr = qint16(101 + i), .Name = QString::fromUtf8(names[i % 10]) + QStringLiteral(" %1").arg(i / 10),
+                           .Visible = i % 4 != 3, .PenStyleId = 1, .ScrColor = qint16(i * 6), .PrnColor = qint16(i),
+                           .PenColorId = qint16(i * 6), .TxdId = 1, .ElByLayer = i % 2 == 0});
+    return doc;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    app.setStyle(QStringLiteral("Fusion"));
+    const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("out");
+    QDir().mkpath(folder);
+    const QPalette light = app.palette();
+    clsDocDlgs dialogs;
+    const auto doc = sample();
+    for (const auto &[language, suffix] : {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}}) {
+        for (const bool dark : {false, true}) {
+            setLanguage(language, {});
+            app.setPalette(dark ? darkPalette() : light);
+            QTimer::singleShot(0, &app, [&] {
+                auto *const dialog = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
+                const QString path = folder + QStringLiteral("/select-%1-%2.png").arg(QLatin1String(suffix), dark ? "dark" : "light");
+                dialog->grab().save(path);
+                std::printf("%s\n", qPrintable(path));
+                dialog->reject();
+            });
+            ZolWDoc::tLay lay = doc->layers().readAll()[3];
+            dialogs.bSelect_Lay(*doc, lay);
+        }
+    }
+    return 0;
+}
