@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPrinter>
 #include <QPushButton>
@@ -75,6 +76,7 @@ void frmPreview::build()
     QPushButton *const printing = add("cmdPrint", {3346, u"Nyomtatás"}, &frmPreview::print);
     QPushButton *const closing = add("cmdClose", {3344, u"Bezárás"}, &frmPreview::reject);
     printing->setDefault(true);
+    m_page->installEventFilter(this);
     m_pageLabel->setBuddy(m_page);
     m_zoomLabel->setBuddy(m_zoom);
     m_note->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -104,8 +106,6 @@ void frmPreview::connectAll()
     const auto key = [this](QKeySequence keys, void (frmPreview::*run)()) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
     };
-    key(Qt::Key_PageDown, &frmPreview::nextPage);
-    key(Qt::Key_PageUp, &frmPreview::previousPage);
     key(QKeySequence::Print, &frmPreview::print);
     key(QKeySequence::Save, &frmPreview::askPdf);
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this, &frmPreview::ml_RuntimeSupport_LanguageChanged);
@@ -140,11 +140,14 @@ void frmPreview::ml_RuntimeSupport_LanguageChanged()
 void frmPreview::layOutSheet()
 {
     if (!m_grid) return;
-    grPrev->setSheet(nullptr);
-    m_sheet = std::make_unique<SheetPainter>(*m_grid, m_titles(), m_paper);
-    m_page->setRange(1, m_sheet->pageCount());
-    m_page->setSuffix(QStringLiteral(" / %1").arg(m_sheet->pageCount()));
-    grPrev->setSheet(m_sheet.get());
+    auto sheet = std::make_unique<SheetPainter>(*m_grid, m_titles(), m_paper);
+    {
+        const QSignalBlocker quiet(m_page);
+        m_page->setRange(1, sheet->pageCount());
+        m_page->setSuffix(QStringLiteral(" / %1").arg(sheet->pageCount()));
+    }
+    grPrev->setSheet(sheet.get());          // tells its page
+    m_sheet = std::move(sheet);
 }
 
 void frmPreview::showPages(const SheetSource &grid, Titles titles, QWidget *owner)
@@ -170,6 +173,22 @@ void frmPreview::followPage(int page)
         if (c.button->objectName() == QLatin1String("cmdPrevious")) c.button->setEnabled(page > 0);
         if (c.button->objectName() == QLatin1String("cmdNext")) c.button->setEnabled(page + 1 < grPrev->pageCount());
     }
+}
+
+void frmPreview::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_PageDown) nextPage();
+    else if (event->key() == Qt::Key_PageUp) previousPage();
+    else QDialog::keyPressEvent(event);
+}
+
+/// In the box too the keys turn pages, instead of adding ten to the number.
+bool frmPreview::eventFilter(QObject *watched, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (watched != m_page || (key != Qt::Key_PageDown && key != Qt::Key_PageUp)) return QDialog::eventFilter(watched, event);
+    keyPressEvent(static_cast<QKeyEvent *>(event));
+    return true;
 }
 
 void frmPreview::nextPage() { grPrev->nextPage(); }

@@ -34,6 +34,10 @@ public:
 
     SheetPreview *const grPrev;                 // published name
 
+protected:
+    void keyPressEvent(QKeyEvent *) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Command {
         QPushButton *button;

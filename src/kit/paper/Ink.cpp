@@ -1,5 +1,6 @@
 #include "kit/paper/Ink.h"
 
+#include <array>
 #include <cmath>
 
 namespace QV_DOC_CONTROLS {
@@ -7,12 +8,21 @@ namespace {
 
 constexpr double kReadable = 3.0;   ///< contrast that large or bold letters need
 
-double linear(double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); }
-
-double luminanceOf(QColor c)
+/// Brightness of a colour's part as the eye takes it, 0 to 1; a table, because a print asks for every swatch.
+double linear(int part)
 {
-    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+    static const std::array<double, 256> table = [] {
+        std::array<double, 256> all;
+        for (size_t i = 0; i < all.size(); ++i) {
+            const double share = double(i) / 255;
+            all[i] = share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+        }
+        return all;
+    }();
+    return table[size_t(part)];
 }
+
+double luminanceOf(QColor c) { return 0.2126 * linear(c.red()) + 0.7152 * linear(c.green()) + 0.0722 * linear(c.blue()); }
 
 } // namespace
 
@@ -24,6 +34,7 @@ double contrastOf(QColor a, QColor b)
 
 QColor inkOn(QColor ground, QColor wanted)
 {
+    if (!ground.isValid() && !wanted.isValid()) return QColor::fromRgb(kInk);
     const QColor under = ground.isValid() ? ground : QColor::fromRgb(kPaper);
     if (wanted.isValid() && contrastOf(under, wanted) >= kReadable) return wanted;
     const QColor black = QColor::fromRgb(kInk), white = QColor::fromRgb(kPaper);

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QFont>
+#include <QList>
+#include <QPointF>
+#include <QRawFont>
 #include <QStringList>
 
 #include <vector>
@@ -25,11 +28,25 @@ public:
     /// At most `most` lines, broken between words where there is a place; the last is elided when the text goes on.
     QStringList lines(const QString &text, double room, int most) const;
 
+    struct Glyphs {
+        QList<quint32> indexes;
+        QList<QPointF> places;                          ///< origins, whole units: shorter files
+    };
+    /// Adds the glyphs of a text that begins at `at`. False, and nothing added, when its letters need shaping or
+    /// another font: such a text is drawn as text.
+    bool addGlyphs(const QString &text, QPointF at, Glyphs &to) const;
+    const QRawFont &rawFont() const { return m_raw; }
+
 private:
-    double advanceOf(QChar letter) const;
+    struct Letter {
+        float advance = -1;                             ///< negative = not measured yet
+        quint32 glyph = 0;                              ///< 0 = to be shaped
+    };
+    const Letter &letterOf(QChar letter) const;
     QFont m_font;
+    QRawFont m_raw;
     double m_lineHeight, m_ascent;
-    mutable std::vector<float> m_advances;              ///< by code unit; negative = not measured yet
+    mutable std::vector<Letter> m_letters;              ///< by code unit
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -44,12 +44,19 @@ SheetLayout::SheetLayout(const SheetSource &source, bool withHeader, const QPage
     breakPages(source);
 }
 
-/// As on the screen, but a caption's words are never cut.
+/// As on the screen, but wide enough for its caption, which is never cut.
 std::vector<double> SheetLayout::wantedWidths() const
 {
+    constexpr double kStep = 1.06;
+    const auto cut = [this](const QString &caption, double room) {
+        return m_boldFont->lines(caption, room, kMostCaptionLines + 1).size() > kMostCaptionLines;
+    };
     std::vector<double> widths;
-    for (const SheetSource::Column &c : m_columns)
-        widths.push_back(std::max(c.width * m_unitsPerPixel, m_boldFont->widestWord(c.caption) + 2 * m_pad));
+    for (const SheetSource::Column &c : m_columns) {
+        double room = std::max(c.width * m_unitsPerPixel - 2 * m_pad, m_boldFont->widestWord(c.caption));
+        while (cut(c.caption, room) && room < m_area.width()) room *= kStep;
+        widths.push_back(room + 2 * m_pad);
+    }
     return widths;
 }
 

@@ -11,7 +11,8 @@ namespace {
 /// What would end a cell or begin a quotation is quoted, as spreadsheets expect it.
 QString quoted(const QString &cell)
 {
-    const bool breaks = cell.contains(u'\t') || cell.contains(u'\n') || cell.contains(u'\r') || cell.startsWith(u'"');
+    const auto ends = [](QChar c) { return c == u'\t' || c == u'\n' || c == u'\r'; };
+    const bool breaks = cell.startsWith(u'"') || std::ranges::any_of(cell, ends);
     if (!breaks) return cell;
     return u'"' + QString(cell).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
@@ -25,19 +26,18 @@ QString wordsOf(const SheetSource::Cell &cell)
 
 QString marked(const QString &text)
 {
-    return text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"));
+    return text.toHtmlEscaped().replace(u'\n', QLatin1String("<br>"));
 }
 
-QString styleOf(const SheetSource::Cell &cell, const SheetSource::Column &column)
+void addStyle(QString &to, const SheetSource::Cell &cell, const SheetSource::Column &column)
 {
     // A name such as "1-2" must not turn into a date: only what stands on the right is a number.
     const bool number = column.alignment & Qt::AlignRight;
-    QString style = number ? QStringLiteral("text-align:right") : QStringLiteral("mso-number-format:'\\@'");
-    if (cell.background.isValid()) style += QStringLiteral(";background:") + cell.background.name();
+    to += number ? QLatin1String("text-align:right") : QLatin1String("mso-number-format:'\\@'");
+    if (cell.background.isValid()) (to += QLatin1String(";background:")) += cell.background.name();
     const QColor wanted = cell.grayed && !cell.background.isValid() ? QColor::fromRgb(kGrayInk) : cell.color;
     const QColor ink = inkOn(cell.background, wanted);
-    if (ink != QColor::fromRgb(kInk)) style += QStringLiteral(";color:") + ink.name();
-    return style;
+    if (ink != QColor::fromRgb(kInk)) (to += QLatin1String(";color:")) += ink.name();
 }
 
 /// Both forms of the table, grown row by row.
@@ -62,18 +62,22 @@ struct Forms {
     }
     void addRecord(const SheetSource::Row &row)
     {
-        QStringList cells;
-        html += QStringLiteral("<tr>");
+        html += QLatin1String("<tr>");
         for (size_t c = 0; c < columns.size(); ++c) {
-            const SheetSource::Cell cell = c < row.cells.size() ? row.cells[c] : SheetSource::Cell{};
+            const SheetSource::Cell &cell = c < row.cells.size() ? row.cells[c] : none;
             const QString words = wordsOf(cell);
-            cells << quoted(words);
-            html += QStringLiteral("<td style=\"") + styleOf(cell, columns[c]) + QStringLiteral("\">") + marked(words)
-                  + QStringLiteral("</td>");
+            if (c > 0) text += u'\t';
+            text += quoted(words);
+            html += QLatin1String("<td style=\"");
+            addStyle(html, cell, columns[c]);
+            html += QLatin1String("\">");
+            html += marked(words);
+            html += QLatin1String("</td>");
         }
-        text += cells.join(u'\t') + u'\n';
-        html += QStringLiteral("</tr>\n");
+        text += u'\n';
+        html += QLatin1String("</tr>\n");
     }
+    const SheetSource::Cell none;           ///< where a row is shorter than the table
     std::vector<SheetSource::Column> columns;
     QString text, html;
 };
