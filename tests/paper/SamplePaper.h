@@ -39,7 +39,8 @@ inline QRect insideOf(const QV_DOC_CONTROLS::SheetLayout &layout, int row, int c
     const auto &edges = layout.strip(0).edges;
     double top = layout.bodyTop();
     for (int r = 0; r < row; ++r) top += layout.rowHeight(r);
-    const QRectF cell(QPointF(edges[size_t(column)], top), QPointF(edges[size_t(column) + 1], top + layout.rowHeight(row)));
+    const QRectF cell(QPointF(edges[size_t(column)], top),
+                      QPointF(edges[size_t(column) + 1], top + layout.rowHeight(row)));
     const QRectF pixels(cell.topLeft() * kPixelsPerUnit, cell.size() * kPixelsPerUnit);
     return pixels.toAlignedRect().adjusted(3, 3, -3, -3);
 }
@@ -48,7 +49,8 @@ inline int darkestIn(const QImage &image, const QRect &area)
 {
     int darkest = 255;
     for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x) darkest = std::min(darkest, qGray(image.pixel(x, y)));
+        for (int x = area.left(); x <= area.right(); ++x)
+            darkest = std::min(darkest, qGray(image.pixel(x, y)));
     return darkest;
 }
 inline int brightestIn(const QImage &image, const QRect &area)

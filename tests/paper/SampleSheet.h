@@ -24,7 +24,8 @@ struct SampleSheet : QV_DOC_CONTROLS::SheetSource {
         rows.push_back(std::move(row));
         return rows.back();
     }
-    /// One row per letter: '0'..'3' a band of that level, 'r' a record, 'w' a record whose first text is too long.
+    /// One row per letter: '0'..'3' a band of that level, 'r' a record, 'w' a record whose first text is too
+    /// long.
     void outline(const QString &letters)
     {
         for (QChar c : letters) {

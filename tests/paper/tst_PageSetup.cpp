@@ -19,14 +19,20 @@ namespace {
 
 void store(const char *key, const char *value)
 {
-    settingsStore().write(QStringLiteral("ZolWOp"), QStringLiteral("Settings"), QLatin1String(key), QLatin1String(value));
+    settingsStore().write(QStringLiteral("ZolWOp"), QStringLiteral("Settings"), QLatin1String(key),
+                          QLatin1String(value));
 }
 
 QString dump(const QPageLayout &layout)
 {
     const QMarginsF m = layout.margins(QPageLayout::Millimeter);
-    return QStringLiteral("%1 %2 %3 %4 %5 %6").arg(layout.pageSize().key(), layout.orientation() == QPageLayout::Landscape
-        ? QStringLiteral("L") : QStringLiteral("P")).arg(m.left()).arg(m.top()).arg(m.right()).arg(m.bottom());
+    return QStringLiteral("%1 %2 %3 %4 %5 %6")
+        .arg(layout.pageSize().key(),
+             layout.orientation() == QPageLayout::Landscape ? QStringLiteral("L") : QStringLiteral("P"))
+        .arg(m.left())
+        .arg(m.top())
+        .arg(m.right())
+        .arg(m.bottom());
 }
 
 } // namespace
@@ -43,10 +49,13 @@ private slots:
         QTest::addColumn<QString>("left");          // empty = fine
         QTest::newRow("no margins") << int(QPageSize::A4) << false << QMarginsF() << QString();
         QTest::newRow("just enough") << int(QPageSize::A4) << false << QMarginsF(80, 0, 80, 0) << QString();
-        QTest::newRow("too wide") << int(QPageSize::A4) << false << QMarginsF(80, 0, 81, 0) << QStringLiteral("49 × 297");
+        QTest::newRow("too wide") << int(QPageSize::A4) << false << QMarginsF(80, 0, 81, 0)
+                                  << QStringLiteral("49 × 297");
         QTest::newRow("turned") << int(QPageSize::A4) << true << QMarginsF(80, 0, 81, 0) << QString();
-        QTest::newRow("too high") << int(QPageSize::A5) << true << QMarginsF(0, 50, 0, 60) << QStringLiteral("210 × 38");
-        QTest::newRow("more than the paper") << int(QPageSize::A5) << false << QMarginsF(100, 0, 100, 0) << QStringLiteral("0 × 210");
+        QTest::newRow("too high") << int(QPageSize::A5) << true << QMarginsF(0, 50, 0, 60)
+                                  << QStringLiteral("210 × 38");
+        QTest::newRow("more than the paper")
+            << int(QPageSize::A5) << false << QMarginsF(100, 0, 100, 0) << QStringLiteral("0 × 210");
     }
     void marginsMustLeaveRoom()
     {
@@ -65,7 +74,8 @@ private slots:
         QTest::addColumn<QByteArray>("value");
         QTest::addColumn<QString>("page");
         const QString usual = QStringLiteral("A4 P 15 15 15 15");
-        QTest::newRow("a change") << QByteArray("PageMarginTop") << QByteArray("22.5") << QStringLiteral("A3 L 10 22.5 10 10");
+        QTest::newRow("a change") << QByteArray("PageMarginTop") << QByteArray("22.5")
+                                  << QStringLiteral("A3 L 10 22.5 10 10");
         QTest::newRow("no such paper") << QByteArray("PagePaper") << QByteArray("Papyrus") << usual;
         QTest::newRow("nothing stored") << QByteArray("PagePaper") << QByteArray("") << usual;
         QTest::newRow("below the range") << QByteArray("PageMarginLeft") << QByteArray("-1") << usual;
@@ -82,7 +92,8 @@ private slots:
     }
     void aPrinterRaisesMarginsBelowItsReach()
     {
-        QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {2, 20, 20, 20}, QPageLayout::Millimeter);
+        QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {2, 20, 20, 20},
+                           QPageLayout::Millimeter);
         layout.setMinimumMargins({5, 5, 5, 12});
         layout.setMode(QPageLayout::FullPageMode);
         layout.setMargins({2, 20, 20, 3});

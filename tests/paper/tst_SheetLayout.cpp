@@ -35,7 +35,8 @@ QString dump(const SheetLayout &layout, const QString &outline)
 SampleSheet columns(int count, int width)
 {
     SampleSheet sheet;
-    for (int c = 0; c < count; ++c) sheet.columns.push_back({QStringLiteral("C%1").arg(c), c == 0 ? 40 : width});
+    for (int c = 0; c < count; ++c)
+        sheet.columns.push_back({QStringLiteral("C%1").arg(c), c == 0 ? 40 : width});
     sheet.record({QStringLiteral("1")});
     return sheet;
 }
@@ -123,7 +124,8 @@ private slots:
         const QStringList lines = layout.boldFont().lines(caption, room + 1, 99);
         QVERIFY(lines.size() <= SheetLayout::kMostCaptionLines);
         QVERIFY(lines.size() * layout.boldFont().lineHeight() <= layout.captionsHeight());
-        for (const QString &line : lines) QVERIFY(QFontMetricsF(layout.boldFont().font()).horizontalAdvance(line) <= room + 1);
+        for (const QString &line : lines)
+            QVERIFY(QFontMetricsF(layout.boldFont().font()).horizontalAdvance(line) <= room + 1);
     }
     void longTextsTakeTwoLinesAndSayThatTheyGoOn()
     {
@@ -135,7 +137,8 @@ private slots:
         QVERIFY(text.startsWith(lines[0]));
         QVERIFY(lines[1].endsWith(u'…'));
         for (const QString &line : lines) QVERIFY(QFontMetricsF(font.font()).horizontalAdvance(line) <= room);
-        QCOMPARE(font.lines(QStringLiteral("a\nb"), room, 2), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        QCOMPARE(font.lines(QStringLiteral("a\nb"), room, 2),
+                 QStringList({QStringLiteral("a"), QStringLiteral("b")}));
     }
     void manyRowsFillTheirPagesByCount()
     {

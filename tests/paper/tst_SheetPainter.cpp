@@ -28,7 +28,9 @@ QPalette darkPalette()
 
 SampleSheet smallTable()
 {
-    SampleSheet sheet({{QStringLiteral("Number"), 60, Qt::AlignRight}, {QStringLiteral("Name"), 90}, {QStringLiteral("On"), 40}});
+    SampleSheet sheet({{QStringLiteral("Number"), 60, Qt::AlignRight},
+                       {QStringLiteral("Name"), 90},
+                       {QStringLiteral("On"), 40}});
     sheet.band(0, QStringLiteral("Visible: yes (2)"));
     sheet.record({QStringLiteral("1"), QStringLiteral("Road"), {}}).cells[2].check = 1;
     sheet.record({QStringLiteral("2"), QStringLiteral("Wall"), {}}).cells[2].check = 0;
@@ -58,7 +60,9 @@ private slots:
     {
         const SampleSheet sheet = smallTable();
         const QPalette before = QApplication::palette();
-        const auto print = [&] { return pictureOf(SheetPainter(sheet, {QStringLiteral("Layers")}, sheetOf(120, 80)), 0); };
+        const auto print = [&] {
+            return pictureOf(SheetPainter(sheet, {QStringLiteral("Layers")}, sheetOf(120, 80)), 0);
+        };
         const QImage light = print();
         QApplication::setPalette(darkPalette());
         const QImage dark = print();
@@ -90,7 +94,9 @@ private slots:
     void cellsShowSwatchChecksGrayAndKeepTheirTextInside()
     {
         SampleSheet sheet({{QStringLiteral("A"), 60}, {QStringLiteral("B"), 60}, {QStringLiteral("C"), 60}});
-        auto &row = sheet.record({QStringLiteral("long words that never fit in here at all ").repeated(3), {}, QStringLiteral("7")});
+        auto &row = sheet.record({QStringLiteral("long words that never fit in here at all ").repeated(3),
+                                  {},
+                                  QStringLiteral("7")});
         row.cells[2].background = Qt::red;
         sheet.record({QStringLiteral("gray"), {}, {}}).cells[0].grayed = true;
         auto &checks = sheet.record({{}, {}, {}});
@@ -121,15 +127,17 @@ private slots:
         QFETCH(bool, withCount);
         SampleSheet sheet({{QStringLiteral("A"), 100}});
         sheet.outline(QString(100, u'r'));
-        const SheetPainter painter(sheet, {QStringLiteral("T"), QStringLiteral("p. "), QStringLiteral(" oldal"), withCount},
-                                   sheetOf(100, 200));
+        const SheetPainter painter(
+            sheet, {QStringLiteral("T"), QStringLiteral("p. "), QStringLiteral(" oldal"), withCount},
+            sheetOf(100, 200));
         QCOMPARE(painter.pageCount(), 3);
         QTEST(painter.footerOf(1), "second");
         for (int p = 0; p < 3; ++p) { // captions above and footer below stand on each page alike
             const QImage page = pictureOf(painter, p);
             const auto &l = painter.layout();
             const auto band = [&](double top, double bottom) {
-                return QRect(0, int(top * kPixelsPerUnit), page.width(), int((bottom - top) * kPixelsPerUnit));
+                return QRect(0, int(top * kPixelsPerUnit), page.width(),
+                             int((bottom - top) * kPixelsPerUnit));
             };
             QVERIFY(darkestIn(page, band(l.captionsTop(), l.bodyTop()).adjusted(0, 2, 0, -2)) < 80);
             QVERIFY(darkestIn(page, band(l.bodyBottom(), l.area().bottom()).adjusted(0, 2, 0, 0)) < 80);
@@ -149,14 +157,17 @@ private slots:
         old.write("older");
         old.close();
 
-        const auto stop = [](SheetOutput &o) { return o.start() && o.printNext() ? OutputResult::Stopped : OutputResult::Failed; };
+        const auto stop = [](SheetOutput &o) {
+            return o.start() && o.printNext() ? OutputResult::Stopped : OutputResult::Failed;
+        };
         QCOMPARE(savePdf(painter, path, error, stop), OutputResult::Stopped);
         QCOMPARE(contentOf(path), QByteArray("older"));
         QCOMPARE(savePdf(painter, path, error), OutputResult::Done);
         QVERIFY(contentOf(path).startsWith("%PDF-"));
         QCOMPARE(pagesIn(contentOf(path)), 3);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("a.pdf")));
-        QCOMPARE(savePdf(painter, folder.filePath(QStringLiteral("no/such/a.pdf")), error), OutputResult::Failed);
+        QCOMPARE(savePdf(painter, folder.filePath(QStringLiteral("no/such/a.pdf")), error),
+                 OutputResult::Failed);
         QVERIFY(!error.isEmpty());
     }
     void aRangeOfPagesIsPrinted()

@@ -14,7 +14,9 @@ namespace {
 
 SampleSheet table()
 {
-    SampleSheet sheet({{QStringLiteral("No"), 60, Qt::AlignRight}, {QStringLiteral("Layer\tname"), 90}, {QStringLiteral("On"), 40}});
+    SampleSheet sheet({{QStringLiteral("No"), 60, Qt::AlignRight},
+                       {QStringLiteral("Layer\tname"), 90},
+                       {QStringLiteral("On"), 40}});
     sheet.band(1, QStringLiteral("Visible (2)"));
     auto &road = sheet.record({QStringLiteral("1"), QStringLiteral("Road <a&b>"), {}});
     road.cells[2].check = 1;
@@ -41,7 +43,8 @@ private slots:
     void onlyTheRowsAskedForAreCopied()
     {
         const int rows[] = {2, 1};
-        QCOMPARE(copySheet(table(), rows)->text().section(u'\n', 1), QStringLiteral("2\t\"\"\"W\"\"\nall\"\tNo\n1\tRoad <a&b>\tYes\n"));
+        QCOMPARE(copySheet(table(), rows)->text().section(u'\n', 1),
+                 QStringLiteral("2\t\"\"\"W\"\"\nall\"\tNo\n1\tRoad <a&b>\tYes\n"));
     }
     void htmlIsATableThatKeepsNamesAndColours()
     {

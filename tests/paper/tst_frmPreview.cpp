@@ -124,7 +124,11 @@ private slots:
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("out.pdf"));
         ScriptedPrompts user({
-            {"yesNo", {}, QStringLiteral("Ezen a gépen nincs telepített nyomtató.\nMenti inkább PDF-fájlba?"), true, Icon::Question},
+            {"yesNo",
+             {},
+             QStringLiteral("Ezen a gépen nincs telepített nyomtató.\nMenti inkább PDF-fájlba?"),
+             true,
+             Icon::Question},
             {"saveFile", QStringLiteral("Mentés PDF-be"), QStringLiteral("PDF-fájl (*.pdf)|*.pdf"), path},
         });
         preview([&](frmPreview &f) {
@@ -138,8 +142,12 @@ private slots:
         const QString path = QStringLiteral("/proc/no/such/folder/out.pdf");
         ScriptedPrompts user({
             {"saveFile", QStringLiteral("Mentés PDF-be"), QStringLiteral("PDF-fájl (*.pdf)|*.pdf"), path},
-            {"tell", {}, QStringLiteral("A PDF-fájl nem írható: /proc/no/such/folder/out.pdf\nNo such file or directory\n"
-                "Válasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt."), {}, Icon::Exclamation},
+            {"tell",
+             {},
+             QStringLiteral("A PDF-fájl nem írható: /proc/no/such/folder/out.pdf\nNo such file or directory\n"
+                            "Válasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt."),
+             {},
+             Icon::Exclamation},
         });
         preview([](frmPreview &f) { child<QPushButton>(f, "cmdSavePdf").click(); });
     }
@@ -160,7 +168,8 @@ private slots:
         SheetOutput output(painter, writer, 0, painter.pageCount() - 1);
         QVERIFY(output.start());
         OutputProgress progress(output, nullptr);
-        if (stop) QTimer::singleShot(0, &progress, [&] { child<QPushButton>(progress, "cmdCancel").click(); });
+        if (stop)
+            QTimer::singleShot(0, &progress, [&] { child<QPushButton>(progress, "cmdCancel").click(); });
         QCOMPARE(progress.run(), stop ? OutputResult::Stopped : OutputResult::Done);
         QCOMPARE(output.done(), !stop);
     }

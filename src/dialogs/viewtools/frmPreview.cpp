@@ -29,6 +29,7 @@ namespace {
 
 constexpr Text kCaption{3133, u"Nyomtatási kép"};
 const QString kForm = QStringLiteral("frmPreview");
+constexpr QSize kUsualLetters(130, 50); ///< a page in it can be recognised
 
 } // namespace
 
@@ -84,8 +85,9 @@ void frmPreview::build()
     for (QWidget *box : {static_cast<QWidget *>(m_page), static_cast<QWidget *>(m_zoom)}) quietWheel(*box);
 
     auto *const looking = new QHBoxLayout;
-    for (QWidget *w : {static_cast<QWidget *>(previous), static_cast<QWidget *>(next), static_cast<QWidget *>(m_pageLabel),
-                       static_cast<QWidget *>(m_page), static_cast<QWidget *>(m_zoomLabel), static_cast<QWidget *>(m_zoom)})
+    for (QWidget *w : {static_cast<QWidget *>(previous), static_cast<QWidget *>(next),
+                       static_cast<QWidget *>(m_pageLabel), static_cast<QWidget *>(m_page),
+                       static_cast<QWidget *>(m_zoomLabel), static_cast<QWidget *>(m_zoom)})
         looking->addWidget(w);
     looking->addStretch();
     auto *const doing = new QHBoxLayout;
@@ -100,15 +102,18 @@ void frmPreview::build()
 void frmPreview::connectAll()
 {
     connect(grPrev, &SheetPreview::currentPageMoved, this, &frmPreview::followPage);
-    connect(grPrev, &SheetPreview::zoomChanged, this, [this](double zoom) { m_zoom->setCurrentIndex(m_zoom->findData(zoom)); });
+    connect(grPrev, &SheetPreview::zoomChanged, this,
+            [this](double zoom) { m_zoom->setCurrentIndex(m_zoom->findData(zoom)); });
     connect(m_page, &QSpinBox::valueChanged, this, [this](int page) { grPrev->goToPage(page - 1); });
-    connect(m_zoom, &QComboBox::activated, this, [this] { grPrev->setZoom(m_zoom->currentData().toDouble()); });
+    connect(m_zoom, &QComboBox::activated, this,
+            [this] { grPrev->setZoom(m_zoom->currentData().toDouble()); });
     const auto key = [this](QKeySequence keys, void (frmPreview::*run)()) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
     };
     key(QKeySequence::Print, &frmPreview::print);
     key(QKeySequence::Save, &frmPreview::askPdf);
-    connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this, &frmPreview::ml_RuntimeSupport_LanguageChanged);
+    connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
+            &frmPreview::ml_RuntimeSupport_LanguageChanged);
 }
 
 void frmPreview::fillZooms()
@@ -116,7 +121,8 @@ void frmPreview::fillZooms()
     m_zoom->clear();
     m_zoom->addItem(txt(Text{21404, u"Teljes oldal"}), SheetPreview::kWholePage);
     m_zoom->addItem(txt(Text{21405, u"Oldalszélesség"}), SheetPreview::kPageWidth);
-    for (double step : SheetPreview::zoomSteps()) m_zoom->addItem(QStringLiteral("%1 %").arg(qRound(step * 100)), step);
+    for (double step : SheetPreview::zoomSteps())
+        m_zoom->addItem(QStringLiteral("%1 %").arg(qRound(step * 100)), step);
     m_zoom->setCurrentIndex(m_zoom->findData(grPrev->zoom()));
 }
 
@@ -153,11 +159,12 @@ void frmPreview::layOutSheet()
 void frmPreview::showPages(const SheetSource &grid, Titles titles, QWidget *owner)
 {
     const Trace trace("frmPreview", "showPages");
-    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow()) setParent(over, windowFlags());
+    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow())
+        setParent(over, windowFlags());
     m_grid = &grid;
     m_titles = std::move(titles);
     m_paper = storedPageSetup();
-    restoreSize(*this, kForm);
+    restoreSize(*this, kForm, kUsualLetters);
     layOutSheet();
     grPrev->setFocus();
     exec();
@@ -171,7 +178,8 @@ void frmPreview::followPage(int page)
     m_page->setValue(page + 1);
     for (const Command &c : m_commands) {
         if (c.button->objectName() == QLatin1String("cmdPrevious")) c.button->setEnabled(page > 0);
-        if (c.button->objectName() == QLatin1String("cmdNext")) c.button->setEnabled(page + 1 < grPrev->pageCount());
+        if (c.button->objectName() == QLatin1String("cmdNext"))
+            c.button->setEnabled(page + 1 < grPrev->pageCount());
     }
 }
 
@@ -186,7 +194,8 @@ void frmPreview::keyPressEvent(QKeyEvent *event)
 bool frmPreview::eventFilter(QObject *watched, QEvent *event)
 {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
-    if (watched != m_page || (key != Qt::Key_PageDown && key != Qt::Key_PageUp)) return QDialog::eventFilter(watched, event);
+    if (watched != m_page || (key != Qt::Key_PageDown && key != Qt::Key_PageUp))
+        return QDialog::eventFilter(watched, event);
     keyPressEvent(static_cast<QKeyEvent *>(event));
     return true;
 }
@@ -206,8 +215,8 @@ void frmPreview::print()
 {
     if (!m_sheet) return;
     if (!hasPrinter()) {
-        const QString question = join(Text{21410, u"Ezen a gépen nincs telepített nyomtató."}, QStringLiteral("\n"),
-                                      Text{21411, u"Menti inkább PDF-fájlba?"});
+        const QString question = join(Text{21410, u"Ezen a gépen nincs telepített nyomtató."},
+                                      QStringLiteral("\n"), Text{21411, u"Menti inkább PDF-fájlba?"});
         if (prompts().yesNo({Icon::Question, appTitle(), question}, this)) askPdf();
         return;
     }
@@ -230,8 +239,10 @@ void frmPreview::printOn(QPrinter &printer)
         if (result == OutputResult::Done) continue;
         printer.abort();
         if (result == OutputResult::Failed)
-            prompts().tell({Icon::Exclamation, appTitle(),
-                            join(Text{21412, u"A nyomtató nem nyomtatja ki az oldalakat: "}, printer.printerName())}, this);
+            prompts().tell(
+                {Icon::Exclamation, appTitle(),
+                 join(Text{21412, u"A nyomtató nem nyomtatja ki az oldalakat: "}, printer.printerName())},
+                this);
         return;
     }
 }
@@ -265,12 +276,16 @@ void frmPreview::writePdf(const SheetPainter &sheet, const QString &path)
     const QString shown = QDir::toNativeSeparators(path);
     QString error;
     m_note->clear();
-    const OutputResult result = savePdf(sheet, path, error, [this](SheetOutput &output) { return runShown(output, this); });
+    const OutputResult result =
+        savePdf(sheet, path, error, [this](SheetOutput &output) { return runShown(output, this); });
     if (result == OutputResult::Done) m_note->setText(join(Text{21409, u"Elkészült: "}, shown));
     if (result != OutputResult::Failed) return;
-    prompts().tell({Icon::Exclamation, appTitle(),
-                    join(Text{21414, u"A PDF-fájl nem írható: "}, shown, QStringLiteral("\n"), error, QStringLiteral("\n"),
-                         Text{21415, u"Válasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt."})}, this);
+    prompts().tell(
+        {Icon::Exclamation, appTitle(),
+         join(Text{21414, u"A PDF-fájl nem írható: "}, shown, QStringLiteral("\n"), error,
+              QStringLiteral("\n"),
+              Text{21415, u"Válasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt."})},
+        this);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -16,8 +16,8 @@ namespace QV_DOC_CONTROLS {
 
 class SheetPreview;
 
-/// The print preview of a grid: its pages as they will be printed, with page setup, print and PDF. Changes nothing in
-/// the grid. Made anew for every call.
+/// The print preview of a grid: its pages as they will be printed, with page setup, print and PDF. Changes
+/// nothing in the grid. Made anew for every call.
 class frmPreview final : public QDialog {
     Q_OBJECT
 public:

@@ -22,7 +22,10 @@ double linear(int part)
     return table[size_t(part)];
 }
 
-double luminanceOf(QColor c) { return 0.2126 * linear(c.red()) + 0.7152 * linear(c.green()) + 0.0722 * linear(c.blue()); }
+double luminanceOf(QColor c)
+{
+    return 0.2126 * linear(c.red()) + 0.7152 * linear(c.green()) + 0.0722 * linear(c.blue());
+}
 
 } // namespace
 

@@ -13,7 +13,8 @@ inline constexpr QRgb kCaptionFill = 0xffe6e6e6;
 
 double contrastOf(QColor a, QColor b);              ///< 1 (same) to 21 (black on white)
 
-/// The colour that letters get on that ground (invalid = paper): `wanted` when it can be read there, or black or white.
+/// The colour that letters get on that ground (invalid = paper): `wanted` when it can be read there, or black
+/// or white.
 QColor inkOn(QColor ground, QColor wanted);
 
 } // namespace QV_DOC_CONTROLS

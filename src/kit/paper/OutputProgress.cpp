@@ -58,7 +58,8 @@ void OutputProgress::printSome()
 {
     m_failed = !printFor(m_output, kTickMs);
     m_bar->setValue(m_output.printed());
-    m_page->setText(join(Text{21403, u"Oldal:"}, QStringLiteral(" "), m_output.printed(), QStringLiteral("/"), m_output.pages()));
+    m_page->setText(join(Text{21403, u"Oldal:"}, QStringLiteral(" "), m_output.printed(), QStringLiteral("/"),
+                         m_output.pages()));
     if (!m_failed && !m_output.done()) return;
     m_timer.stop();
     if (m_failed) reject();

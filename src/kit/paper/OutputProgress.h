@@ -10,7 +10,8 @@ class QProgressBar;
 
 namespace QV_DOC_CONTROLS {
 
-/// Prints what is left of an output, some pages at a time, and shows how far it is. Cancel stops it between two pages.
+/// Prints what is left of an output, some pages at a time, and shows how far it is. Cancel stops it between
+/// two pages.
 class OutputProgress final : public QDialog {
     Q_OBJECT
 public:

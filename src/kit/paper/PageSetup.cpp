@@ -24,7 +24,10 @@ const QString kTurnedKey = QStringLiteral("PageLandscape");
 constexpr std::array kMarginKeys = {"PageMarginLeft", "PageMarginTop", "PageMarginRight", "PageMarginBottom"};
 
 QString stored(const QString &key) { return settingsStore().read(kApplication, kSection, key, {}); }
-void store(const QString &key, const QString &value) { settingsStore().write(kApplication, kSection, key, value); }
+void store(const QString &key, const QString &value)
+{
+    settingsStore().write(kApplication, kSection, key, value);
+}
 
 QPageLayout usualSetup()
 {
@@ -54,7 +57,8 @@ QString paperName(const QPageSize &paper)
          + QStringLiteral(" × ") + rounded(mm.height()) + QStringLiteral(" mm)");
 }
 
-QPageLayout pageLayoutOf(QPageSize::PageSizeId paper, QPageLayout::Orientation turned, const QMarginsF &margins)
+QPageLayout pageLayoutOf(QPageSize::PageSizeId paper, QPageLayout::Orientation turned,
+                         const QMarginsF &margins)
 {
     // In full-page mode margins are taken as they are, even those that leave nothing: refusalFor() says so.
     QPageLayout layout(QPageSize(paper), turned, QMarginsF(), QPageLayout::Millimeter);
@@ -69,9 +73,10 @@ QString refusalFor(const QPageLayout &layout)
     const QSizeF left = layout.fullRect(QPageLayout::Millimeter).size().shrunkBy(margins);
     if (left.width() >= kLeastPrintable && left.height() >= kLeastPrintable) return {};
     const auto rounded = [](double length) { return QString::number(qRound(std::max(length, 0.0))); };
-    return join(Text{21440, u"A margók között csak "}, rounded(left.width()), QStringLiteral(" × "), rounded(left.height()),
-                Text{21441, u" mm marad; legalább "}, rounded(kLeastPrintable), QStringLiteral(" × "),
-                rounded(kLeastPrintable), Text{21442, u" mm kell. Csökkentse a margókat, vagy válasszon nagyobb papírt!"});
+    return join(Text{21440, u"A margók között csak "}, rounded(left.width()), QStringLiteral(" × "),
+                rounded(left.height()), Text{21441, u" mm marad; legalább "}, rounded(kLeastPrintable),
+                QStringLiteral(" × "), rounded(kLeastPrintable),
+                Text{21442, u" mm kell. Csökkentse a margókat, vagy válasszon nagyobb papírt!"});
 }
 
 QPageLayout withinReach(QPageLayout layout)
@@ -93,7 +98,8 @@ QPageLayout storedPageSetup()
         margins[i] = stored(QLatin1String(kMarginKeys[i])).toDouble(&isNumber);
         if (!isNumber || !(margins[i] >= 0 && margins[i] <= kMostMargin)) return usualSetup();
     }
-    const auto turned = stored(kTurnedKey) == QStringLiteral("1") ? QPageLayout::Landscape : QPageLayout::Portrait;
+    const auto turned = stored(kTurnedKey) == QStringLiteral("1") ? QPageLayout::Landscape
+                                                                  : QPageLayout::Portrait;
     const QPageLayout layout = pageLayoutOf(*paper, turned, {margins[0], margins[1], margins[2], margins[3]});
     return refusalFor(layout).isEmpty() ? layout : usualSetup();
 }

@@ -140,7 +140,8 @@ void PageSetupDialog::retranslate()
 QPageLayout PageSetupDialog::page() const
 {
     const auto turned = m_landscape->isChecked() ? QPageLayout::Landscape : QPageLayout::Portrait;
-    const QMarginsF margins(m_margins[0]->value(), m_margins[1]->value(), m_margins[2]->value(), m_margins[3]->value());
+    const QMarginsF margins(m_margins[0]->value(), m_margins[1]->value(), m_margins[2]->value(),
+                            m_margins[3]->value());
     return pageLayoutOf(QPageSize::PageSizeId(m_paper->currentData().toInt()), turned, margins);
 }
 

@@ -16,8 +16,8 @@ namespace QV_DOC_CONTROLS {
 
 class PageThumbnail;
 
-/// Paper size, how it is turned, and margins; needs no printer. Margins that leave too little are told in place, and OK
-/// waits for better ones. What was confirmed is remembered for the user.
+/// Paper size, how it is turned, and margins; needs no printer. Margins that leave too little are told in
+/// place, and OK waits for better ones. What was confirmed is remembered for the user.
 class PageSetupDialog final : public QDialog {
     Q_OBJECT
 public:

@@ -15,13 +15,17 @@ QFont onPaper(QFont font, double points)
     return font;
 }
 
-bool isBreak(QChar c) { return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator; }
+bool isBreak(QChar c)
+{
+    return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
 
 /// Letters of scripts that are written one after the other as they come; marks upon them need shaping.
 bool standsAlone(QChar c)
 {
     constexpr char16_t kFirstOther = 0x0590; // Hebrew; Latin, Greek and Cyrillic are below it
-    const bool plain = c < kFirstOther || (c >= QChar(0x1E00) && c <= QChar(0x1EFF)) || (c >= QChar(0x2010) && c <= QChar(0x22FF));
+    const bool plain = c < kFirstOther || (c >= QChar(0x1E00) && c <= QChar(0x1EFF))
+                       || (c >= QChar(0x2010) && c <= QChar(0x22FF));
     return plain && !c.isMark() && (c.isPrint() || c == u' ') && c.category() != QChar::Other_Format;
 }
 
@@ -39,10 +43,12 @@ const PaperFont::Letter &PaperFont::letterOf(QChar letter) const
 {
     Letter &known = m_letters[letter.unicode()];
     if (known.advance >= 0) return known;
-    known.advance = letter.isSurrogate() ? float(m_font.pixelSize()) / 2 : float(QFontMetricsF(m_font).horizontalAdvance(letter));
+    known.advance = letter.isSurrogate() ? float(m_font.pixelSize()) / 2
+                                         : float(QFontMetricsF(m_font).horizontalAdvance(letter));
     quint32 glyph = 0;
     int found = 1;
-    if (standsAlone(letter) && m_raw.glyphIndexesForChars(&letter, 1, &glyph, &found) && found == 1) known.glyph = glyph;
+    if (standsAlone(letter) && m_raw.glyphIndexesForChars(&letter, 1, &glyph, &found) && found == 1)
+        known.glyph = glyph;
     return known;
 }
 

@@ -10,7 +10,8 @@ namespace {
 
 constexpr double kHairline = kUnitsPerInch / 288.0; ///< a quarter of a point
 constexpr double kCheckPerLine = 0.72;              ///< side of a check box in line heights
-constexpr QRgb kBandFills[] = {0xffdcdcdc, 0xffe8e8e8, 0xfff0f0f0, 0xfff6f6f6}; ///< by level, the outermost darkest
+/// By level, the outermost darkest.
+constexpr QRgb kBandFills[] = {0xffdcdcdc, 0xffe8e8e8, 0xfff0f0f0, 0xfff6f6f6};
 
 double startOf(Qt::Alignment alignment, const QRectF &box, double width)
 {
@@ -22,7 +23,8 @@ double startOf(Qt::Alignment alignment, const QRectF &box, double width)
 } // namespace
 
 RowPainter::RowPainter(QPainter &painter, const SheetLayout &layout, const SheetLayout::Strip &strip)
-    : m_painter(painter), m_layout(layout), m_strip(strip), m_ink(kInk), m_top(layout.captionsTop()), m_columnsTop(m_top)
+    : m_painter(painter), m_layout(layout), m_strip(strip), m_ink(kInk), m_top(layout.captionsTop()),
+      m_columnsTop(m_top)
 {
 }
 
@@ -60,7 +62,8 @@ void RowPainter::text(const QString &text, const PaperFont &font, const QRectF &
 
 void RowPainter::captions()
 {
-    const QRectF all(m_strip.edges.front(), m_top, m_strip.edges.back() - m_strip.edges.front(), m_layout.captionsHeight());
+    const QRectF all(m_strip.edges.front(), m_top, m_strip.edges.back() - m_strip.edges.front(),
+                     m_layout.captionsHeight());
     if (all.isEmpty()) return;
     m_painter.fillRect(all, QColor::fromRgb(kCaptionFill));
     m_rules << QLineF(all.topLeft(), all.topRight()) << QLineF(all.bottomLeft(), all.bottomRight());
@@ -69,7 +72,8 @@ void RowPainter::captions()
     for (size_t i = 0; i < m_strip.columns.size(); ++i) {
         const auto &column = m_layout.columns()[size_t(m_strip.columns[i])];
         const QRectF box(QPointF(m_strip.edges[i], all.top()), QPointF(m_strip.edges[i + 1], all.bottom()));
-        text(column.caption, m_layout.boldFont(), box.adjusted(m_layout.pad(), 0, -m_layout.pad(), 0), column.alignment);
+        text(column.caption, m_layout.boldFont(), box.adjusted(m_layout.pad(), 0, -m_layout.pad(), 0),
+             column.alignment);
     }
     flushTexts();
     m_lines = SheetLayout::kMostLines;
@@ -85,7 +89,8 @@ void RowPainter::row(const SheetSource::Row &row, double height)
         for (size_t i = 0; i < m_strip.columns.size(); ++i) {
             const size_t c = size_t(m_strip.columns[i]);
             if (c >= row.cells.size()) continue;
-            const QRectF box(QPointF(m_strip.edges[i], all.top()), QPointF(m_strip.edges[i + 1], all.bottom()));
+            const QRectF box(QPointF(m_strip.edges[i], all.top()),
+                             QPointF(m_strip.edges[i + 1], all.bottom()));
             cell(row.cells[c], m_layout.columns()[c].alignment, box);
         }
     }

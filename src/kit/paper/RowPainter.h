@@ -11,8 +11,9 @@ class QPainter;
 
 namespace QV_DOC_CONTROLS {
 
-/// Draws captions, bands and records of one page. Texts of a row are drawn together, lines and check marks of the page
-/// by finish(): a file of few long strokes is written several times faster than one of many short ones.
+/// Draws captions, bands and records of one page. Texts of a row are drawn together, lines and check marks of
+/// the page by finish(): a file of few long strokes is written several times faster than one of many short
+/// ones.
 class RowPainter {
 public:
     RowPainter(QPainter &painter, const SheetLayout &layout, const SheetLayout::Strip &strip);

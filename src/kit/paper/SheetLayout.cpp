@@ -103,7 +103,8 @@ void SheetLayout::cutStrips(const std::vector<double> &widths)
     };
     for (int c = 0; c < int(widths.size()); ++c) {
         const double width = widths[size_t(c)];
-        if (!m_strips.back().columns.empty() && m_strips.back().edges.back() + width > m_area.right() + kSlack) {
+        if (!m_strips.back().columns.empty()
+            && m_strips.back().edges.back() + width > m_area.right() + kSlack) {
             m_strips.push_back({{}, {m_area.left()}});
             if (repeats && widths[0] + width <= m_area.width()) put(m_strips.back(), 0, widths[0]);
         }
@@ -118,10 +119,12 @@ double SheetLayout::heightOf(const SheetSource::Row &row, const std::vector<doub
     if (row.level < 0) {
         for (size_t c = 0; c < std::min(row.cells.size(), rooms.size()); ++c) {
             const SheetSource::Cell &cell = row.cells[c];
-            if (!cell.text.isEmpty() && !m_font->fits(cell.text, rooms[c])) content = std::max(content, kMostLines * line);
+            if (!cell.text.isEmpty() && !m_font->fits(cell.text, rooms[c]))
+                content = std::max(content, kMostLines * line);
             if (!cell.picture.isNull())
-                content = std::max(content, std::min(cell.picture.deviceIndependentSize().height() * m_unitsPerPixel,
-                                                     kMostPictureLines * line));
+                content = std::max(content,
+                                   std::min(cell.picture.deviceIndependentSize().height() * m_unitsPerPixel,
+                                            kMostPictureLines * line));
         }
     }
     return content + 2 * kRowPadPerLine * line;
@@ -143,7 +146,8 @@ void SheetLayout::breakPages(const SheetSource &source)
         used += m_heights.back();
         if (used <= room || r == m_breaks.back()) continue;
         int first = r;                      // bands directly above go along with their first row
-        while (first > m_breaks.back() && staysWithNext(levels[size_t(first - 1)], levels[size_t(first)])) --first;
+        while (first > m_breaks.back() && staysWithNext(levels[size_t(first - 1)], levels[size_t(first)]))
+            --first;
         if (first == m_breaks.back()) first = r; // a page of bands only: there is no better place
         m_breaks.push_back(first);
         used = std::accumulate(m_heights.begin() + first, m_heights.end(), 0.0);

@@ -10,10 +10,10 @@ namespace QV_DOC_CONTROLS {
 
 /// Where everything of a sheet stands on its pages; all lengths in paper units from the paper's corner.
 ///
-/// Columns keep the proportions they have on the screen and shrink, letters and all, until they fit the page; below
-/// the smallest legible letters they go on upon further pages across, each of which begins with the first column.
-/// A record takes one line, or two where a text is longer than its column. No row is cut by a page's end, and a band
-/// stands on the page of the first row below it.
+/// Columns keep the proportions they have on the screen and shrink, letters and all, until they fit the page;
+/// below the smallest legible letters they go on upon further pages across, each of which begins with the
+/// first column. A record takes one line, or two where a text is longer than its column. No row is cut by a
+/// page's end, and a band stands on the page of the first row below it.
 class SheetLayout {
 public:
     static constexpr double kPoints = 9, kSmallestPoints = 6.5;   ///< letters of the table

@@ -10,8 +10,8 @@
 namespace QV_DOC_CONTROLS {
 
 SheetOutput::SheetOutput(const SheetPainter &sheet, QPagedPaintDevice &device, int first, int last)
-    : m_sheet(sheet), m_device(device), m_painter(std::make_unique<QPainter>()), m_first(first), m_next(first),
-      m_last(std::min(last, sheet.pageCount() - 1))
+    : m_sheet(sheet), m_device(device), m_painter(std::make_unique<QPainter>()), m_first(first),
+      m_next(first), m_last(std::min(last, sheet.pageCount() - 1))
 {
 }
 
@@ -29,7 +29,8 @@ bool SheetOutput::printNext()
 {
     if (m_next > m_first && !m_device.newPage()) return false;
     m_painter->save();
-    m_painter->scale(double(m_device.logicalDpiX()) / kUnitsPerInch, double(m_device.logicalDpiY()) / kUnitsPerInch);
+    m_painter->scale(double(m_device.logicalDpiX()) / kUnitsPerInch,
+                     double(m_device.logicalDpiY()) / kUnitsPerInch);
     m_sheet.paintPage(*m_painter, m_next++);
     m_painter->restore();
     return true;
@@ -56,7 +57,8 @@ OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &er
         SheetOutput output(sheet, writer, 0, sheet.pageCount() - 1);
         result = run(output);
     }
-    if (result == OutputResult::Done && !file.commit()) result = OutputResult::Failed; // otherwise it is dropped
+    // otherwise it is dropped
+    if (result == OutputResult::Done && !file.commit()) result = OutputResult::Failed;
     error = result == OutputResult::Failed ? file.errorString() : QString();
     return result;
 }

@@ -42,8 +42,9 @@ OutputResult runAll(SheetOutput &output);   ///< straight through; never Stopped
 OutputResult runShown(SheetOutput &output, QWidget *window);
 
 using OutputRun = std::function<OutputResult(SheetOutput &)>;
-/// Writes all pages into a PDF file. An older file of that name is replaced when the new one is whole, and not before.
-/// `error` says why it failed, in the system's words.
-OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &error, const OutputRun &run = &runAll);
+/// Writes all pages into a PDF file. An older file of that name is replaced when the new one is whole, and
+/// not before. `error` says why it failed, in the system's words.
+OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &error,
+                     const OutputRun &run = &runAll);
 
 } // namespace QV_DOC_CONTROLS

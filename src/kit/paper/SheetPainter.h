@@ -9,8 +9,8 @@ namespace QV_DOC_CONTROLS {
 
 /// The one painter of a table's pages: for the preview, the printer and PDF alike.
 ///
-/// Shows exactly what the source shows, black on white whatever the palette. The layout is computed once, here; the
-/// source must stay as it is while the painter lives. Not copied: pages may be many.
+/// Shows exactly what the source shows, black on white whatever the palette. The layout is computed once,
+/// here; the source must stay as it is while the painter lives. Not copied: pages may be many.
 class SheetPainter {
 public:
     SheetPainter(const SheetSource &source, SheetTitles titles, const QPageLayout &paper);

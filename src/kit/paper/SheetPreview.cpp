@@ -39,7 +39,8 @@ double SheetPreview::scale() const
     const QSizeF paper = m_sheet->paperSize();
     const double wide = std::max(viewport()->width() - 2 * gap(), 1) / paper.width();
     if (m_zoom == kPageWidth) return wide;
-    if (m_zoom == kWholePage) return std::min(wide, std::max(viewport()->height() - 2 * gap(), 1) / paper.height());
+    if (m_zoom == kWholePage)
+        return std::min(wide, std::max(viewport()->height() - 2 * gap(), 1) / paper.height());
     return m_zoom * logicalDpiX() / kUnitsPerInch;
 }
 
@@ -88,13 +89,17 @@ void SheetPreview::layOut()
     verticalScrollBar()->setSingleStep(std::max(fontMetrics().height() * 2, 1));
     horizontalScrollBar()->setRange(0, std::max(int(page.width()) + 2 * gap() - viewport()->width(), 0));
     horizontalScrollBar()->setPageStep(viewport()->width());
-    verticalScrollBar()->setValue(int(std::lround(m_place * step + gap() / 2.0 - viewport()->height() / 2.0)));
+    verticalScrollBar()->setValue(
+        int(std::lround(m_place * step + gap() / 2.0 - viewport()->height() / 2.0)));
     m_layingOut = false;
     viewport()->update();
     tellPage();
 }
 
-int SheetPreview::currentPage() const { return pageCount() == 0 ? -1 : std::clamp(int(m_place), 0, pageCount() - 1); }
+int SheetPreview::currentPage() const
+{
+    return pageCount() == 0 ? -1 : std::clamp(int(m_place), 0, pageCount() - 1);
+}
 
 void SheetPreview::goToPage(int page)
 {

@@ -8,16 +8,19 @@ namespace QV_DOC_CONTROLS {
 
 class SheetPainter;
 
-/// The pages of a sheet, one below the other, as they will be printed. Pages are drawn when they come into view.
+/// The pages of a sheet, one below the other, as they will be printed. Pages are drawn when they come into
+/// view.
 class SheetPreview final : public QAbstractScrollArea {
     Q_OBJECT
 public:
     static constexpr double kWholePage = 0, kPageWidth = -1;   ///< zooms that follow the window's size
 
     explicit SheetPreview(QWidget *parent = nullptr);
-    void setSheet(const SheetPainter *sheet);   ///< not owned; null = empty. Stays at the same page where there is one
+    /// Not owned; null = empty. Stays at the same page where there is one
+    void setSheet(const SheetPainter *sheet);
     int pageCount() const;
-    int currentPage() const;                    ///< from 0: the one in the middle of the view; -1 = there is none
+    /// From 0: the one in the middle of the view; -1 = there is none
+    int currentPage() const;
     void goToPage(int page);
     void nextPage() { goToPage(currentPage() + 1); }
     void previousPage() { goToPage(currentPage() - 1); }
@@ -42,7 +45,8 @@ private:
     QSizeF pageSize() const;                    ///< pixels
     int gap() const;                            ///< pixels around pages
     QPointF cornerOf(int page) const;           ///< in the viewport
-    void layOut();                              ///< scroll bars follow sheet, zoom and size; the place in the sheet stays
+    /// Scroll bars follow sheet, zoom and size; the place in the sheet stays
+    void layOut();
     void tellPage();
     void drawPage(QPainter &painter, int page);
 

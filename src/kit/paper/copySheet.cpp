@@ -57,8 +57,10 @@ struct Forms {
     {
         const QString title = row.cells.empty() ? QString() : row.cells[0].text;
         text += quoted(title) + QString(std::max(qsizetype(columns.size()) - 1, qsizetype(0)), u'\t') + u'\n';
-        html += QStringLiteral("<tr><td colspan=\"%1\" style=\"padding-left:%2em\"><b>").arg(columns.size()).arg(row.level)
-              + marked(title) + QStringLiteral("</b></td></tr>\n");
+        html += QStringLiteral("<tr><td colspan=\"%1\" style=\"padding-left:%2em\"><b>")
+                    .arg(columns.size())
+                    .arg(row.level)
+                + marked(title) + QStringLiteral("</b></td></tr>\n");
     }
     void addRecord(const SheetSource::Row &row)
     {

@@ -9,8 +9,10 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// Rows of a table for a spreadsheet: text with tabs and captions, and HTML with colours. Check marks become words.
+/// Rows of a table for a spreadsheet: text with tabs and captions, and HTML with colours. Check marks become
+/// words.
 std::unique_ptr<QMimeData> copySheet(const SheetSource &source);                            ///< all rows
-std::unique_ptr<QMimeData> copySheet(const SheetSource &source, std::span<const int> rows); ///< of the sheet, in this order
+/// Of the sheet, in this order
+std::unique_ptr<QMimeData> copySheet(const SheetSource &source, std::span<const int> rows);
 
 } // namespace QV_DOC_CONTROLS
