@@ -49,6 +49,7 @@ struct Resources {
     QHash<qint16, ZolWDoc::Glyph> glyphs;               ///< of the symbols of vector fonts, by symbol
     ZolWDoc::PenColorTable pens;
     ZolWDoc::Palette palette{};
+    qint16 currentLayer = -1;                           ///< -1 = none
     double metresPerMm = 0.5;                           ///< a paper millimetre in the drawing
 
     Look lookOf(const Element &) const;

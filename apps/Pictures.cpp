@@ -1,0 +1,36 @@
+#include "Pictures.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEvent>
+#include <QPixmap>
+#include <QTimer>
+
+#include <cstdio>
+
+Pictures::Pictures(const QString &folder) : m_folder(folder)
+{
+    QDir().mkpath(folder);
+    qApp->installEventFilter(this);
+}
+
+void Pictures::save(QWidget &window, const QString &name)
+{
+    const QString path = m_folder + u'/' + name + QStringLiteral(".png");
+    if (!window.grab().save(path)) {
+        ++m_failures;
+        std::fprintf(stderr, "%s: cannot be written; check the folder and its permissions\n", qPrintable(path));
+    }
+}
+
+bool Pictures::eventFilter(QObject *o, QEvent *e)
+{
+    auto *const dialog = e->type() == QEvent::Show ? qobject_cast<QDialog *>(o) : nullptr;
+    if (dialog) // after the events that lay it out and fill it
+        QTimer::singleShot(0, dialog, [this, dialog] {
+            save(*dialog, QString::fromLatin1(dialog->metaObject()->className()).section(QStringLiteral("::"), -1));
+            dialog->reject();
+        });
+    return false;
+}

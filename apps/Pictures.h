@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+/// Saves a picture of every window that opens, and closes dialogs with Cancel: for looking at the program without a
+/// display. Lives as long as the program runs.
+class Pictures : public QObject {
+    Q_OBJECT
+public:
+    explicit Pictures(const QString &folder);       ///< created when it is not there
+    void save(class QWidget &window, const QString &name);
+    int failures() const { return m_failures; }     ///< pictures that could not be written
+protected:
+    bool eventFilter(QObject *, QEvent *) override;
+private:
+    QString m_folder;
+    int m_failures = 0;
+};
