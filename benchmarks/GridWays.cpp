@@ -95,20 +95,36 @@ template <class T> std::function<void()> on(const std::shared_ptr<T> &state, voi
 void addSortSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
 {
     const auto plain = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(); });
-    steps["sort.two"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }), plain};
-    steps["sort.edited"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }),
+    steps["sort.two"] = {on<OwnGrid>(own,
+                                     [](OwnGrid &o) {
+                                         o.sort({{kVisible}, {kName, SortOrder::Descending}});
+                                     }),
+                         plain};
+    steps["sort.edited"] = {on<OwnGrid>(own,
+                                        [](OwnGrid &o) {
+                                            o.sort({{kVisible}, {kName, SortOrder::Descending}});
+                                        }),
                             on<OwnGrid>(own, [](OwnGrid &o) {
                                 o.plain();
                                 QAbstractItemModel &model = *o.grid.table()->model();
-                                model.setData(model.index(7, kName), QString(model.index(7, kName).data().toString() + u'x'));
+                                model.setData(model.index(7, kName),
+                                              QString(model.index(7, kName).data().toString() + u'x'));
                             })};
     steps["group.one"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kLineType}); }), plain};
-    steps["group.four"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kVisible, kLineType, kPrint, kGroups}); }), plain};
+    steps["group.four"] = {on<OwnGrid>(own,
+                                       [](OwnGrid &o) {
+                                           o.group({kVisible, kLineType, kPrint, kGroups});
+                                       }),
+                           plain};
     const auto grouped = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}); });
-    const auto closed = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
-    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(o.grid); }), grouped};
-    steps["collapse.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(o.grid); }), grouped};
-    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(o.grid); }), closed};
+    const auto closed =
+        on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
+    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(o.grid); }),
+                              grouped};
+    steps["collapse.all"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(o.grid); }), grouped};
+    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(o.grid); }),
+                           closed};
 }
 
 void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
@@ -119,12 +135,15 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
                               on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"7"_qs); })};
     steps["filter.clear"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.type({}); }),
                              on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"79"_qs); })};
-    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }), plain};
+    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }),
+                          plain};
     steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(o.grid); }), plain};
     steps["toggle"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                            QAbstractItemModel &model = *o.grid.table()->model();
                            const QModelIndex at = model.index(3, kVisible);
-                           model.setData(at, at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+                           model.setData(at,
+                                         at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked,
+                                         Qt::CheckStateRole);
                            finish(o.grid);
                        }), plain};
     steps["page"] = {on<OwnGrid>(own, [](OwnGrid &o) {
@@ -132,7 +151,8 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
                          bar.setValue(bar.value() + bar.pageStep());
                          finish(o.grid);
                      })};
-    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(o.grid); }), plain};
+    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(o.grid); }),
+                     plain};
 }
 
 } // namespace
@@ -197,7 +217,8 @@ struct Widget {
         for (int r = 0; r < rows.rowCount(); ++r)
             for (int c = 0; c < GridRows::kColumns; ++c) {
                 auto *const item = new QTableWidgetItem(rows.text(r, c));
-                if (c == kVisible) item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
+                if (c == kVisible)
+                    item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
                 table.setItem(r, c, item);
             }
         finish(table);
@@ -206,7 +227,8 @@ struct Widget {
     {
         for (int r = 0; r < table.rowCount(); ++r) {
             bool fits = text.isEmpty();
-            for (int c = 0; c < GridRows::kColumns && !fits; ++c) fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
+            for (int c = 0; c < GridRows::kColumns && !fits; ++c)
+                fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
             table.setRowHidden(r, !fits);
         }
         finish(table);
@@ -226,13 +248,18 @@ Steps tableWidget(int rows)
     const auto way = std::make_shared<Widget>(rows);
     way->show();
     Steps steps;
-    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }), on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
+    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }),
+                     on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
     steps["sort.two"] = {on<Widget>(way, [](Widget &w) { w.sortTwo(); }),
                          on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(w.table); })};
-    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }), on<Widget>(way, [](Widget &w) { w.filter({}); })};
-    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }), on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }), on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
-    steps["find.miss"] = {on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
+    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }),
+                             on<Widget>(way, [](Widget &w) { w.filter({}); })};
+    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }),
+                              on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }),
+                             on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
+    steps["find.miss"] = {
+        on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
     steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(w.table); }),
                            on<Widget>(way, [](Widget &w) { w.filter({}), w.table.clearSelection(); })};
     steps["toggle"] = {on<Widget>(way, [](Widget &w) {
@@ -272,7 +299,8 @@ struct Stock {
         QList<QStandardItem *> items;
         for (int c = 0; c < GridRows::kColumns; ++c) {
             items << new QStandardItem(rows.text(row, c));
-            if (c == kVisible) items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
+            if (c == kVisible)
+                items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
         }
         return items;
     }
@@ -319,7 +347,8 @@ void addGroupSteps(Steps &steps, const std::shared_ptr<Stock> &way)
     const auto grouped = on<Stock>(way, [](Stock &s) { s.filter({}), s.group({kLineType}); });
     steps["group.one"] = {on<Stock>(way, [](Stock &s) { s.group({kLineType}); })};
     steps["group.four"] = {on<Stock>(way, [](Stock &s) { s.group({kVisible, kLineType, kPrint, kGroups}); })};
-    steps["collapse.band"] = {on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
+    steps["collapse.band"] = {
+        on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
     steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); }), grouped};
     steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(s.view); }),
                            on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); })};
@@ -339,12 +368,19 @@ Steps itemModelAndProxy(int rows)
         if (s.model.rowCount() != s.rows.rowCount()) s.show();
         finish(s.view);
     });
-    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }), on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
+    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }),
+                     on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
     steps["sort.two"] = {on<Stock>(way, [](Stock &s) { s.sortTwo(); }), flat};
     steps["filter.first"] = {on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); }), flat};
-    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }), on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }), on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
-    steps["find.miss"] = {on<Stock>(way, [](Stock &s) { keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName)); }), flat};
+    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }),
+                              on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }),
+                             on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
+    steps["find.miss"] = {on<Stock>(way,
+                                    [](Stock &s) {
+                                        keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName));
+                                    }),
+                          flat};
     steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(s.view); }), flat};
     steps["toggle"] = {on<Stock>(way, [](Stock &s) {
                            QStandardItem &item = *s.model.item(3, kVisible);

@@ -41,7 +41,7 @@ public:
     void saveCopyAs(const QString &path);
     DrawingInfo info() const;
     void setInfo(const DrawingInfo &);
-    QStringList openNotes() const;                       ///< what opening found to tell, e.g. a change span left open
+    QStringList openNotes() const; ///< what opening found to tell, e.g. a change span left open
 
     std::vector<Element> elements() const;               ///< all, in drawing order
     std::vector<Element> elementsOf(qint16 layId) const;

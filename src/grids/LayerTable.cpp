@@ -22,7 +22,10 @@ QString nameOr(const QHash<qint16, QString> &names, qint16 id)
 
 } // namespace
 
-QString lineTypeName(const ZolWDoc::tLay &l, const LayerNames &n) { return nameOr(n.lineTypeOf, l.PenStyleId); }
+QString lineTypeName(const ZolWDoc::tLay &l, const LayerNames &n)
+{
+    return nameOr(n.lineTypeOf, l.PenStyleId);
+}
 QString textTypeName(const ZolWDoc::tLay &l, const LayerNames &n) { return nameOr(n.textTypeOf, l.TxdId); }
 
 LayerTable::Names LayerTable::namesOf(ZolWDoc::ZOLW_Doc &doc)
@@ -42,7 +45,8 @@ LayerTable::Names LayerTable::namesOf(ZolWDoc::ZOLW_Doc &doc)
 RowStyles LayerTable::styles(const Record &l)
 {
     RowStyles s;
-    s.row = l.Visible ? QStringLiteral("OddRow") : QStringLiteral("Grayed"); // "OddRow" marks visible rows, on purpose
+    s.row = l.Visible ? QStringLiteral("OddRow")
+                      : QStringLiteral("Grayed"); // "OddRow" marks visible rows, on purpose
     s.cells.insert(kScrColor, colorStyleName(l.ScrColor));
     s.cells.insert(kPrnColor, colorStyleName(l.PrnColor));
     return s;

@@ -8,8 +8,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and the
-/// previously current layer of its form.
+/// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and
+/// the previously current layer of its form.
 class clsJs_Layer final : public TableManager<LayerTable> { // published spelling
     Q_OBJECT
 public:
@@ -22,7 +22,10 @@ public:
     void ml_RuntimeSupport_LanguageChanged() override;  // published spelling
 
     bool AutomaticItemSelection() const { return m_automatic; }
-    void setAutomaticItemSelection(bool on) { m_automatic = on; } ///< a layer made current becomes the grid's current row
+    void setAutomaticItemSelection(bool on)
+    {
+        m_automatic = on;
+    } ///< a layer made current becomes the grid's current row
     bool bShowGroups() const { return m_showGroups; }
     void setbShowGroups(bool on);                       ///< whether the group grid is shown
     bool bShowVisibleItems() const { return m_onlyVisible; }
@@ -30,7 +33,7 @@ public:
 
     qint16 currentLayer() const { return m_current; }   ///< identifier, -1 = none yet
     void setCurrentLayer(qint16 layId);                 ///< the layer current before becomes the previous one
-    qint16 previousLayer();                             ///< the current one when the previous one is gone, which it then becomes
+    qint16 previousLayer(); ///< the current one when the previous one is gone, which it then becomes
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
 

@@ -69,8 +69,8 @@ private slots:
         ZolWDoc::tLay lay;
         const auto watch = tests::whileModal<frmSelect>([](frmSelect &d) { d.reject(); });
         QCOMPARE(traced([&] { dialogs.bSelect_Lay(*doc, lay); }),
-                 QStringList({"clsDocDlgs.bSelect_Lay >>", "clsDocDlgs.bSelect_Lay 1", "clsDocDlgs.bSelect_Lay 2",
-                              "clsDocDlgs.bSelect_Lay <<"}));
+                 QStringList({"clsDocDlgs.bSelect_Lay >>", "clsDocDlgs.bSelect_Lay 1",
+                              "clsDocDlgs.bSelect_Lay 2", "clsDocDlgs.bSelect_Lay <<"}));
     }
 
     void titleAndLanguageAreTheLibrarysOwn()

@@ -45,7 +45,8 @@ void frmSelect::buildFrame(int mode, QWidget *owner)
     m_mode = mode;
     m_ok = false;
     setWindowTitle(txt(resourceKind(mode).selectCaption));
-    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow()) setParent(over, windowFlags());
+    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow())
+        setParent(over, windowFlags());
     restoreSize(*this, QStringLiteral("frmSelect"));
 }
 
@@ -61,7 +62,8 @@ bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
     const bool ok = run();
     TearDown();
     if (!ok) return false;
-    oDoc.layers().makeCurrent(m_lay); // before the caller's record changes, which an error here leaves as it was
+    oDoc.layers().makeCurrent(
+        m_lay); // before the caller's record changes, which an error here leaves as it was
     lay = m_lay;
     return true;
 }
@@ -75,7 +77,8 @@ bool frmSelect::run()
 }
 
 void frmSelect::jsLayer_CurrentChanced(tLay &lay) { m_lay = lay; }
-void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {} // one layer is picked: nothing follows the count
+void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
+} // one layer is picked: nothing follows the count
 
 void frmSelect::accept()
 {
@@ -95,8 +98,9 @@ void frmSelect::confirmLayer()
     if (chosen.empty()) return reject();
     const tLay &first = chosen.front();
     if (m_warnInvisible && !first.Visible) {
-        const QString question = join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
-                                      QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
+        const QString question =
+            join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
+                 QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
         const bool confirmed = prompts().yesNo({Icon::Question, appTitle(), question}, this);
         m_relay.checkpoint();
         m_ok = confirmed;
