@@ -30,7 +30,7 @@ DrawingView::DrawingView(QWidget *parent) : QWidget(parent)
     showCursor();
 }
 
-QSize DrawingView::sizeHint() const { return QSize(120, 80) * fontMetrics().averageCharWidth(); }
+QSize DrawingView::sizeHint() const { return QSize(170, 105) * fontMetrics().averageCharWidth(); }
 
 PaintStyle DrawingView::style() const { return {m_dark ? kDarkPaper : QColor(Qt::white), m_colors}; }
 

@@ -86,7 +86,7 @@ Pattern madePattern(const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyl
     for (qint16 nr : type.Slots)
         if (const ZolWDoc::tPenStyleSi *rule = nr ? r.symbolizations.find(nr) : nullptr) addMarks(made, lines, *rule, r);
     for (PatternPart &part : made) {
-        const double reach = std::max(part.width, double(type.Size) * r.metresPerMm);
+        const double reach = std::max({part.width, double(type.Size) * r.metresPerMm, 1e-6}); // no empty boxes
         part.box = part.path.controlPointRect().adjusted(-reach, -reach, reach, reach);
     }
     return made;

@@ -112,6 +112,7 @@ void MainWindow::buildStatus()
     for (QLabel **label : {&m_hint, &m_layer, &m_place, &m_scale, &m_count}) {
         *label = new QLabel(this);
         (*label)->setTextFormat(Qt::PlainText);
+        (*label)->setIndent(fontMetrics().averageCharWidth());
     }
     m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give way in a narrow window
     m_layer->setObjectName(QStringLiteral("layerStatus"));

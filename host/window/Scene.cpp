@@ -59,7 +59,7 @@ QRectF Scene::bounds() const
     for (size_t i = 0; i < m_elements.size(); ++i) {
         QRectF box = m_boxes[i];
         if (box.isNull()) continue;
-        if (m_textAt[i].first >= 0) box = QRectF(box.center(), QSizeF(1e-9, 1e-9)); // its reach is a large estimate
+        if (m_textAt[i].first >= 0) box = QRectF(box.center(), QSizeF(1e-6, 1e-6)); // its reach is a large estimate
         all = all.isNull() ? box : all.united(box);
         if (shown(m_resources.layers.indexOf(m_elements[i].layId))) visible = visible.isNull() ? box : visible.united(box);
     }

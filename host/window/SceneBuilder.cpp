@@ -23,7 +23,7 @@ bool isFinite(const Element &e)
 
 QRectF boxOf(const std::vector<QPolygonF> &outlines)
 {
-    constexpr double least = 1e-9; // QRectF drops empty rectangles when it unites
+    constexpr double least = 1e-6; // empty rectangles neither unite nor intersect
     QRectF box;
     for (const QPolygonF &p : outlines) {
         QRectF r = p.boundingRect();
@@ -170,7 +170,7 @@ QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)
     const SymbolShape &shape = shapeOfSymbol(e.sidId);
     if (shape.path.isEmpty()) { // a symbol that is not there still marks its place
         addPoint(at, key);
-        return QRectF(at, QSizeF(1e-9, 1e-9));
+        return QRectF(at, QSizeF(1e-6, 1e-6));
     }
     const double unit = m_resources.metresPerMm * (e.scale == 0 ? 1 : e.scale);
     const double extent = shape.extent * std::abs(unit);
