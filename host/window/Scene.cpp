@@ -78,6 +78,7 @@ const QPainterPath &Scene::pathOf(const TextItem &t) const
         const QString &text = m_elements[size_t(t.element)].text;
         const QPainterPath shape = textShape(text, m_resources.textTypes.find(t.txdId), t.align);
         t.path = placed(t.at, t.rotation, t.height, t.height).map(shape);
+        t.inked = t.path.controlPointRect();
     }
     return t.path;
 }

@@ -60,6 +60,15 @@ std::vector<QPolygonF> woundFor(std::vector<QPolygonF> rings)
     return rings;
 }
 
+void addItem(Chunk &chunk, Item item)
+{
+    item.path.setFillRule(Qt::WindingFill);
+    chunk.path.setFillRule(Qt::WindingFill);
+    chunk.path.addPath(item.path);
+    chunk.largest = std::max({chunk.largest, item.box.width(), item.box.height()});
+    chunk.items.push_back(std::move(item));
+}
+
 double median(std::vector<double> &values)
 {
     const auto middle = values.begin() + qsizetype(values.size() / 2);
@@ -139,12 +148,12 @@ void SceneBuilder::addLines(const std::vector<QPolygonF> &outlines, BatchKey key
     if (!key.filled && key.lineType < 0 && outlines.front().size() > kLongLine) return addInParts(outlines.front(), key);
     const QRectF box = boxOf(outlines);
     Chunk &chunk = chunkFor(key, box);
-    chunk.path.setFillRule(Qt::WindingFill);
-    chunk.largest = std::max({chunk.largest, box.width(), box.height()});
+    QPainterPath path;
     for (const QPolygonF &line : key.filled ? woundFor(outlines) : outlines) {
-        chunk.path.addPolygon(line);
+        path.addPolygon(line);
         if (key.lineType >= 0) chunk.lines.push_back(line);
     }
+    addItem(chunk, {box, path});
 }
 
 void SceneBuilder::addInParts(const QPolygonF &line, const BatchKey &key)
@@ -159,9 +168,12 @@ void SceneBuilder::addPoint(QPointF at, BatchKey key)
 {
     const double arm = kPointArmMm * m_resources.metresPerMm;
     key.pass = Pass::Symbols;
-    Chunk &chunk = chunkFor(key, QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
-    chunk.path.addPolygon(QPolygonF{at - QPointF(arm, 0), at + QPointF(arm, 0)});
-    chunk.path.addPolygon(QPolygonF{at - QPointF(0, arm), at + QPointF(0, arm)});
+    const QRectF box(at - QPointF(arm, arm), at + QPointF(arm, arm));
+    QPainterPath cross;
+    cross.addPolygon(QPolygonF{at - QPointF(arm, 0), at + QPointF(arm, 0)});
+    cross.addPolygon(QPolygonF{at - QPointF(0, arm), at + QPointF(0, arm)});
+    Chunk &chunk = chunkFor(key, box);
+    addItem(chunk, {box, cross});
     chunk.largest = std::numeric_limits<double>::infinity(); // points stay visible from any height
 }
 
@@ -178,10 +190,7 @@ QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)
     key.pass = Pass::Symbols;
     key.filled = !shape.stroked;
     key.width = shape.stroked ? shape.width * m_resources.metresPerMm : 0;
-    Chunk &chunk = chunkFor(key, box);
-    chunk.path.setFillRule(Qt::WindingFill);
-    chunk.path.addPath(placed(at, e.rotation, unit, std::abs(unit)).map(shape.path));
-    chunk.largest = std::max(chunk.largest, 2 * extent);
+    addItem(chunkFor(key, box), {box, placed(at, e.rotation, unit, std::abs(unit)).map(shape.path)});
     return box;
 }
 
