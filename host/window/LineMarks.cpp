@@ -25,11 +25,13 @@ QPolygonF dashOf(const Polyline &points, double dot)
     QPolygonF line;
     for (const ZolWDoc::PointMm &p : points) line.append({p.x, p.y});
     const QPointF span = line.back() - line.front();
-    if (line.size() == 2 && std::hypot(span.x(), span.y()) < dot) line = {line.front(), line.front() + QPointF(dot, 0)};
+    if (line.size() == 2 && std::hypot(span.x(), span.y()) < dot)
+        line = {line.front(), line.front() + QPointF(dot, 0)};
     return line;
 }
 
-/// Adds to the last part unless it is another kind, another line, or long enough that a view may want to leave it out.
+/// Adds to the last part unless it is another kind, another line, or long enough that a view may want to
+/// leave it out.
 void addTo(Pattern &to, const PatternPart &kind, const QPainterPath &path, bool startsLine)
 {
     constexpr int most = 16; // points
@@ -54,11 +56,13 @@ void addDashes(Pattern &to, const QPolygonF &line, std::span<const double> patte
 /// The rule with its lengths in metres, as the lines are.
 ZolWDoc::tPenStyleSi inMetres(ZolWDoc::tPenStyleSi rule, double metresPerMm)
 {
-    for (double *length : {&rule.DistrLength, &rule.MultiDist, &rule.OffsetX, &rule.OffsetY}) *length *= metresPerMm;
+    for (double *length : {&rule.DistrLength, &rule.MultiDist, &rule.OffsetX, &rule.OffsetY})
+        *length *= metresPerMm;
     return rule;
 }
 
-void addMarks(Pattern &to, const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyleSi &rule, const Resources &r)
+void addMarks(Pattern &to, const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyleSi &rule,
+              const Resources &r)
 {
     const ZolWDoc::tSid *symbol = r.symbols.find(rule.SidId);
     if (!symbol) return;
@@ -85,9 +89,11 @@ Pattern madePattern(const std::vector<QPolygonF> &lines, const ZolWDoc::tPenStyl
     for (const QPolygonF &line : lines)
         if (!pattern.empty()) addDashes(made, line, pattern, kDotMm * r.metresPerMm);
     for (qint16 nr : type.Slots)
-        if (const ZolWDoc::tPenStyleSi *rule = nr ? r.symbolizations.find(nr) : nullptr) addMarks(made, lines, *rule, r);
+        if (const ZolWDoc::tPenStyleSi *rule = nr ? r.symbolizations.find(nr) : nullptr)
+            addMarks(made, lines, *rule, r);
     for (PatternPart &part : made) {
-        const double reach = std::max({part.width, double(type.Size) * r.metresPerMm, 1e-6}); // no empty boxes
+        const double reach =
+            std::max({part.width, double(type.Size) * r.metresPerMm, 1e-6}); // no empty boxes
         part.box = part.path.controlPointRect().adjusted(-reach, -reach, reach, reach);
     }
     return made;
@@ -107,7 +113,8 @@ double reachOf(const ZolWDoc::tPenStyle &type, const Resources &r)
         const ZolWDoc::tSid *symbol = rule ? r.symbols.find(rule->SidId) : nullptr;
         if (!symbol) continue;
         const double copies = std::max<double>(rule->Multi - 1, 0) * std::abs(rule->MultiDist);
-        const double glyph = 2.0 * double(symbol->Size_mm) + std::abs(double(symbol->MoveXmm)) + std::abs(double(symbol->MoveYmm));
+        const double glyph = 2.0 * double(symbol->Size_mm) + std::abs(double(symbol->MoveXmm)) +
+                             std::abs(double(symbol->MoveYmm));
         reach = std::max(reach, glyph + copies + std::hypot(rule->OffsetX, rule->OffsetY));
     }
     return reach * r.metresPerMm;

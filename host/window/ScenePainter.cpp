@@ -64,13 +64,15 @@ private:
     }
     void paintBatch(const Batch &b)
     {
-        const ZolWDoc::tPenStyle *type = b.key.lineType < 0 ? nullptr : m_scene.resources().lineTypes.find(qint16(b.key.lineType));
+        const ZolWDoc::tPenStyle *type =
+            b.key.lineType < 0 ? nullptr : m_scene.resources().lineTypes.find(qint16(b.key.lineType));
         if (type) return paintPatterned(b, *type);
         if (b.key.filled) setFill(colorOf(b.key.pen));
         else setStroke(colorOf(b.key.pen), b.key.width, Qt::RoundCap);
         const double least = b.key.pass == Pass::Symbols ? kLeastSymbol : 0;
         for (const Chunk &c : b.chunks)
-            if (seen(c.box, b.key.width) && c.largest * m_view.pxPerMetre >= least) paintItems(c, !b.key.filled && isHair(b.key.width));
+            if (seen(c.box, b.key.width) && c.largest * m_view.pxPerMetre >= least)
+                paintItems(c, !b.key.filled && isHair(b.key.width));
     }
     void paintPatterned(const Batch &b, const ZolWDoc::tPenStyle &type)
     {
@@ -125,7 +127,8 @@ private:
 
 } // namespace
 
-void renderTo(QPainter &p, const Scene &scene, const Viewport &view, const PaintStyle &style, const QRectF &clip)
+void renderTo(QPainter &p, const Scene &scene, const Viewport &view, const PaintStyle &style,
+              const QRectF &clip)
 {
     const QRectF area = clip.isNull() ? QRectF(QPointF(0, 0), QSizeF(view.size)) : clip;
     p.save();

@@ -123,6 +123,18 @@ private slots:
         QCOMPARE(scene.toWorld(scene.toLocal(e + 0.01, n)), QPointF(e + 0.01, n));
     }
 
+    void aDrawingWithARunawayOpensOnItsBulk()
+    {
+        std::vector<Element> all;
+        for (int i = 0; i < 100; ++i) all.push_back(line(650000 + i, 240000, 650001 + i, 240060));
+        const Scene tidy = sceneOf(all);
+        QCOMPARE(tidy.mainBounds(), tidy.bounds());
+        all.push_back(line(0, 0, 1, 1));
+        const Scene scene = sceneOf(all);
+        QVERIFY(scene.bounds().width() > 640000);
+        QVERIFY(scene.mainBounds().width() < 150);
+        QVERIFY(scene.mainBounds().contains(scene.toLocal(650050, 240030)));
+    }
     void aRunawayDoesNotMoveTheOrigin()
     {
         std::vector<Element> all;
