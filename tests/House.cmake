@@ -3,7 +3,8 @@
 find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 function(qvdc_house_check name)
     if(EXISTS ${PROJECT_SOURCE_DIR}/tools/${name}.py)
-        add_test(NAME ${name} COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/${name}.py)
+        add_test(NAME ${name} COMMAND ${Python3_EXECUTABLE} -B tools/${name}.py
+                 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     endif()
 endfunction()
 if(NOT QVDC_SANITIZE) # neither the sources nor the installed package differ there

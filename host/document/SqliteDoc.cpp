@@ -43,17 +43,23 @@ const QString kMemory = QStringLiteral(":memory:");
 void claim(const QString &path)
 {
     if (QFile::exists(path))
-        throw DocumentError(fileText(path, txt(Text{30001, u"' fájl már létezik. Adj meg másik nevet, vagy nyisd meg a "
-                                                           u"meglévő rajzot!"})));
+        throw DocumentError(
+            fileText(path, txt(Text{30001, u"' fájl már létezik. Adj meg másik nevet, vagy nyisd meg a "
+                                           u"meglévő rajzot!"})));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        throw DocumentError(fileText(path, join(Text{30014, u"' fájl nem hozható létre. Ellenőrizd a mappát és a "
-                                                            u"jogosultságokat! Részletek: "}, file.errorString())));
+        throw DocumentError(
+            fileText(path, join(Text{30014, u"' fájl nem hozható létre. Ellenőrizd a mappát és a "
+                                            u"jogosultságokat! Részletek: "},
+                                file.errorString())));
 }
 
 } // namespace
 
-SqliteDoc::SqliteDoc(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) { m_parts->lateBound.setDocument(this); }
+SqliteDoc::SqliteDoc(std::unique_ptr<Parts> parts) : m_parts(std::move(parts))
+{
+    m_parts->lateBound.setDocument(this);
+}
 SqliteDoc::~SqliteDoc() = default;
 
 std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
@@ -62,7 +68,8 @@ std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
     if (path != kMemory) claim(path);
     try {
         auto parts = std::make_unique<Parts>(path);
-        // The head of the file says whose it is only once it is there: everything first, the log file afterwards.
+        // The head of the file says whose it is only once it is there: everything first, the log file
+        // afterwards.
         Write write(parts->db);
         createSchema(parts->db);
         fillFreshDocument(parts->db);
@@ -116,7 +123,10 @@ void SqliteDoc::removeElements(std::span<const qint64> ids) { m_parts->elements.
 int SqliteDoc::elementCount() const { return m_parts->elements.count(); }
 
 QString SqliteDoc::ownFontName() const { return OwnFont::faceName(); }
-void SqliteDoc::addGlyph(qint32 code, const QString &name, const ZolWDoc::Glyph &g) { m_parts->ownFont.add(code, name, g); }
+void SqliteDoc::addGlyph(qint32 code, const QString &name, const ZolWDoc::Glyph &g)
+{
+    m_parts->ownFont.add(code, name, g);
+}
 ZolWDoc::VectorFontProvider &SqliteDoc::ownFont() { return m_parts->ownFont; }
 
 ZolWDoc::LayerRole &SqliteDoc::layers() { return m_parts->tables.layers; }

@@ -23,21 +23,24 @@ struct DrawingInfo {
     QString importedFrom;         ///< file name of an imported drawing, else empty
 };
 
-/// The reference host's document: one SQLite file (".qvd"), or ":memory:". Implements every role of the contract, the
-/// optional ones too. Every write call is durable when it returns, or when the outermost command scope ends.
+/// The reference host's document: one SQLite file (".qvd"), or ":memory:". Implements every role of the
+/// contract, the optional ones too. Every write call is durable when it returns, or when the outermost
+/// command scope ends.
 class SqliteDoc : public ZolWDoc::ZOLW_Doc {
 public:
     static constexpr int kVersion = 1;    ///< of the file format; a newer file is refused and left untouched
 
-    static std::unique_ptr<SqliteDoc> create(const QString &path); ///< replaces nothing: throws when the file exists
-    static std::unique_ptr<SqliteDoc> open(const QString &path);   ///< throws DocumentError for newer, foreign and damaged files
+    static std::unique_ptr<SqliteDoc> create(
+        const QString &path); ///< replaces nothing: throws when the file exists
+    static std::unique_ptr<SqliteDoc> open(
+        const QString &path); ///< throws DocumentError for newer, foreign and damaged files
     ~SqliteDoc() override;
 
     QString path() const;                                ///< ":memory:" for a document without a file
-    void saveCopyAs(const QString &path);                ///< a whole copy; replaces the file only when the copy is complete
+    void saveCopyAs(const QString &path); ///< a whole copy; replaces the file only when the copy is complete
     DrawingInfo info() const;
     void setInfo(const DrawingInfo &);
-    QStringList openNotes() const;                       ///< what opening found to tell, e.g. a change span left open
+    QStringList openNotes() const; ///< what opening found to tell, e.g. a change span left open
 
     std::vector<Element> elements() const;               ///< all, in drawing order
     std::vector<Element> elementsOf(qint16 layId) const;
