@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QPixmap>
+#include <QProgressDialog>
 #include <QTimer>
 
 #include <cstdio>
@@ -20,16 +21,20 @@ void Pictures::save(QWidget &window, const QString &name)
     const QString path = m_folder + u'/' + name + QStringLiteral(".png");
     if (!window.grab().save(path)) {
         ++m_failures;
-        std::fprintf(stderr, "%s: cannot be written; check the folder and its permissions\n", qPrintable(path));
+        std::fprintf(stderr, "%s: cannot be written; check the folder and its permissions\n",
+                     qPrintable(path));
     }
 }
 
 bool Pictures::eventFilter(QObject *o, QEvent *e)
 {
     auto *const dialog = e->type() == QEvent::Show ? qobject_cast<QDialog *>(o) : nullptr;
-    if (dialog) // after the events that lay it out and fill it
+    const bool passes =
+        qobject_cast<QProgressDialog *>(o) != nullptr; // closes by itself; Cancel would break the work off
+    if (dialog && !passes) // after the events that lay it out and fill it
         QTimer::singleShot(0, dialog, [this, dialog] {
-            save(*dialog, QString::fromLatin1(dialog->metaObject()->className()).section(QStringLiteral("::"), -1));
+            save(*dialog,
+                 QString::fromLatin1(dialog->metaObject()->className()).section(QStringLiteral("::"), -1));
             dialog->reject();
         });
     return false;

@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QString>
 
-/// Saves a picture of every window that opens, and closes dialogs with Cancel: for looking at the program without a
-/// display. Lives as long as the program runs.
+/// Saves a picture of every window that opens, and closes dialogs with Cancel: for looking at the program
+/// without a display. Lives as long as the program runs.
 class Pictures : public QObject {
     Q_OBJECT
 public:

@@ -4,20 +4,15 @@
 #include "document/ElementStore.h"
 #include "document/FileCheck.h"
 #include "document/HostRoles.h"
+#include "document/HostTexts.h"
 #include "document/LateBound.h"
 #include "document/PenColors.h"
 #include "document/SaveCopy.h"
 #include "document/Schema.h"
 
-#include "facade/services/Language.h"
 #include "facade/services/Text.h"
 
 #include <QFile>
-
-static void initHostStrings()
-{
-    Q_INIT_RESOURCE(refhost_strings);
-} // outside the namespace, as the macro wants it
 
 using namespace QV_DOC_CONTROLS;
 
@@ -44,16 +39,6 @@ namespace {
 
 const QString kMemory = QStringLiteral(":memory:");
 
-void loadTexts()
-{
-    static const bool once = [] {
-        initHostStrings();
-        addStringTables(QStringLiteral(":/host/strings"));
-        return true;
-    }();
-    Q_UNUSED(once)
-}
-
 /// Takes the name: fails when a file of that name exists, even one that came this instant.
 void claim(const QString &path)
 {
@@ -79,7 +64,7 @@ SqliteDoc::~SqliteDoc() = default;
 
 std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
 {
-    loadTexts();
+    loadHostTexts();
     if (path != kMemory) claim(path);
     try {
         auto parts = std::make_unique<Parts>(path);
@@ -99,7 +84,7 @@ std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
 
 std::unique_ptr<SqliteDoc> SqliteDoc::open(const QString &path)
 {
-    loadTexts();
+    loadHostTexts();
     if (path == kMemory) return create(path);
     requireSoundDrawing(path);
     auto parts = std::make_unique<Parts>(path);

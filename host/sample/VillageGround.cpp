@@ -46,14 +46,18 @@ Spot spotOf(Place p)
     return {c * x + d * y, -d * x + c * y};
 }
 
-double turnOf(Spot direction) { return (std::atan2(direction.v, direction.u) + kTurn) * 180 / std::numbers::pi; }
+double turnOf(Spot direction)
+{
+    return (std::atan2(direction.v, direction.u) + kTurn) * 180 / std::numbers::pi;
+}
 
 double heightAt(Place p)
 {
     const Spot s = spotOf(p);
     const double fromBrook = s.v - brook(s.u);
     const double slope = fromBrook > 0 ? 0.026 * fromBrook : -0.045 * fromBrook;
-    const double swell = 1.6 * std::sin(s.u / 110 + 0.8) * std::cos(s.v / 140) + 0.7 * std::sin((s.u + s.v) / 61);
+    const double swell =
+        1.6 * std::sin(s.u / 110 + 0.8) * std::cos(s.v / 140) + 0.7 * std::sin((s.u + s.v) / 61);
     return 142.4 - 0.006 * s.u + slope + swell * std::min(1.0, std::abs(fromBrook) / 60);
 }
 

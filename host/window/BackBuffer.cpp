@@ -19,7 +19,8 @@ void BackBuffer::moveBy(QPoint delta)
     m_stale &= all;
 }
 
-void BackBuffer::paint(QPainter &to, const Scene &scene, const Viewport &view, const PaintStyle &style, double ratio)
+void BackBuffer::paint(QPainter &to, const Scene &scene, const Viewport &view, const PaintStyle &style,
+                       double ratio)
 {
     const QSize wanted = (QSizeF(view.size) * ratio).toSize();
     if (m_pixmap.size() != wanted || m_pixmap.devicePixelRatio() != ratio) {

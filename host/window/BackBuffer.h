@@ -11,7 +11,7 @@ namespace refhost {
 class BackBuffer {
 public:
     void invalidate() { m_pixmap = {}; }
-    void moveBy(QPoint delta);                      ///< pixels; the viewport has been panned by the same delta
+    void moveBy(QPoint delta); ///< pixels; the viewport has been panned by the same delta
     void paint(QPainter &, const Scene &, const Viewport &, const PaintStyle &, double devicePixelRatio);
 private:
     QPixmap m_pixmap;

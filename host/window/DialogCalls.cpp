@@ -28,7 +28,8 @@ std::span<const DialogCall> dialogCalls() { return kCalls; }
 
 const DialogCall *dialogCall(const QString &name)
 {
-    const auto row = std::ranges::find_if(kCalls, [&](const DialogCall &c) { return QLatin1String(c.name) == name; });
+    const auto row =
+        std::ranges::find_if(kCalls, [&](const DialogCall &c) { return QLatin1String(c.name) == name; });
     return row == std::end(kCalls) ? nullptr : row;
 }
 

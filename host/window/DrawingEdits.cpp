@@ -76,7 +76,8 @@ void DrawingEdits::placeLine(const QList<QPointF> &world)
 {
     Element e{.kind = ElementKind::Line};
     for (const QPointF &p : world)
-        if (e.vertices.empty() || QPointF(e.vertices.back().x, e.vertices.back().y) != p) e.vertices.push_back({p.x(), p.y()});
+        if (e.vertices.empty() || QPointF(e.vertices.back().x, e.vertices.back().y) != p)
+            e.vertices.push_back({p.x(), p.y()});
     if (e.vertices.size() > 1) place(std::move(e));
 }
 
@@ -98,7 +99,10 @@ void DrawingEdits::askForText(QPointF world)
         entry->deleteLater();
         m_view.setFocus();
         if (!text.trimmed().isEmpty())
-            place({.kind = ElementKind::Text, .vertices = {{world.x(), world.y()}}, .align = kBaseline, .text = text});
+            place({.kind = ElementKind::Text,
+                   .vertices = {{world.x(), world.y()}},
+                   .align = kBaseline,
+                   .text = text});
     });
     entry->show();
     entry->setFocus();

@@ -30,7 +30,7 @@ DrawingView::DrawingView(QWidget *parent) : QWidget(parent)
     showCursor();
 }
 
-QSize DrawingView::sizeHint() const { return QSize(120, 80) * fontMetrics().averageCharWidth(); }
+QSize DrawingView::sizeHint() const { return QSize(170, 105) * fontMetrics().averageCharWidth(); }
 
 PaintStyle DrawingView::style() const { return {m_dark ? kDarkPaper : QColor(Qt::white), m_colors}; }
 
@@ -88,11 +88,23 @@ void DrawingView::redraw()
 
 void DrawingView::fit()
 {
+    fitTo(m_scene.bounds());
+    m_fitted = true;
+}
+
+void DrawingView::fitMain()
+{
+    const QRectF all = m_scene.bounds(), most = m_scene.mainBounds();
+    fitTo(most);
+    m_fitted = most == all;
+}
+
+void DrawingView::fitTo(const QRectF &local)
+{
     m_view.size = size();
     m_view.dpi = logicalDpiX();
-    const QRectF all = m_scene.bounds();
-    m_view.fit(all.isNull() ? QRectF(-50, -50, 100, 100) : all); // an empty drawing starts with a hundred metres
-    m_fitted = true;
+    m_view.fit(local.isNull() ? QRectF(-50, -50, 100, 100)
+                              : local); // an empty drawing starts with a hundred metres
     redraw();
 }
 
@@ -213,7 +225,8 @@ void DrawingView::mouseReleaseEvent(QMouseEvent *e)
 void DrawingView::mouseDoubleClickEvent(QMouseEvent *e)
 {
     if (e->button() == Qt::MiddleButton) return fit();
-    if (m_tool == Tool::Line && e->button() == Qt::LeftButton) return endLine(); // the first click gave the point
+    if (m_tool == Tool::Line && e->button() == Qt::LeftButton)
+        return endLine(); // the first click gave the point
     mousePressEvent(e);
 }
 
@@ -340,7 +353,8 @@ bool DrawingView::event(QEvent *e)
         return true;
     }
     if (e->type() == QEvent::Gesture)
-        if (const auto *pinch = static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(e)->gesture(Qt::PinchGesture))) {
+        if (const auto *pinch =
+                static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(e)->gesture(Qt::PinchGesture))) {
             zoomAt(mapFromGlobal(pinch->hotSpot().toPoint()), pinch->scaleFactor());
             return true;
         }

@@ -6,16 +6,16 @@
 
 namespace refhost {
 
-/// The drawing on the screen: pan (middle button, Space and left button, arrow keys), zoom (wheel, + and -, pinch,
-/// window), selecting, and giving points. It changes nothing: who listens to its signals does. It never asks the
-/// document: what it shows is the scene it was given.
+/// The drawing on the screen: pan (middle button, Space and left button, arrow keys), zoom (wheel, + and -,
+/// pinch, window), selecting, and giving points. It changes nothing: who listens to its signals does. It
+/// never asks the document: what it shows is the scene it was given.
 class DrawingView : public QWidget {
     Q_OBJECT
 public:
     enum class Tool { Select, Point, Line, Text, ZoomWindow };
     explicit DrawingView(QWidget *parent = nullptr);
 
-    void setScene(Scene);                           ///< keeps the place that is seen, unless nothing was shown before
+    void setScene(Scene); ///< keeps the place that is seen, unless nothing was shown before
     const Scene &scene() const { return m_scene; }
     const Viewport &viewport() const { return m_view; }
     void setDark(bool dark);
@@ -26,7 +26,8 @@ public:
     const std::vector<int> &selection() const { return m_selection; } ///< indices into the scene's elements
     void select(std::vector<int> elements);
 
-    void fit();
+    void fit();                                     ///< everything
+    void fitMain();                                 ///< a drawing just opened: single runaways stay outside
     void zoomBy(double factor);                     ///< about the middle
     void panBy(QPoint delta);                       ///< pixels
     QPointF toWorld(QPointF screen) const { return m_scene.toWorld(m_view.toLocal(screen)); }
@@ -57,6 +58,7 @@ protected:
     bool event(QEvent *) override;
 
 private:
+    void fitTo(const QRectF &local);
     void zoomAt(QPointF screen, double factor);
     void redraw();                                  ///< everything is painted anew
     void showCursor();
@@ -75,7 +77,7 @@ private:
     Scene m_scene;
     Viewport m_view;
     BackBuffer m_buffer;
-    bool m_fitted = false;                          ///< the view follows the window's size until the user moves it
+    bool m_fitted = false; ///< the view follows the window's size until the user moves it
     bool m_dark = false;
     Colors m_colors = Colors::Screen;
     Tool m_tool = Tool::Select;

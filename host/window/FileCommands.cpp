@@ -1,6 +1,7 @@
 #include "window/FileCommands.h"
 
 #include "window/HostServices.h"
+#include "window/ImportCommand.h"
 
 #include "facade/services/Prompts.h"
 #include "facade/services/Services.h"
@@ -56,7 +57,8 @@ bool FileCommands::openSample() { return replaceBy(OpenDrawing::sample); }
 bool FileCommands::open()
 {
     const QString folder = recent().isEmpty() ? QString() : QFileInfo(recent().front()).path();
-    const QString path = prompts().openFile({txt(Text{30489, u"Rajz megnyitása"}), filter(), folder, QStringLiteral("qvd")}, &m_window);
+    const QString path = prompts().openFile(
+        {txt(Text{30489, u"Rajz megnyitása"}), filter(), folder, QStringLiteral("qvd")}, &m_window);
     return !path.isEmpty() && openFile(path);
 }
 
@@ -68,11 +70,37 @@ bool FileCommands::openFile(const QString &path)
     return true;
 }
 
+bool FileCommands::import()
+{
+    const QString dxf = txt(Text{30473, u"DXF rajzok"}) + QStringLiteral("|*.dxf *.DXF");
+    const QString path =
+        prompts().openFile({txt(Text{30510, u"DXF importálása"}), dxf, {}, QStringLiteral("dxf")}, &m_window);
+    return !path.isEmpty() && importFile(path);
+}
+
+bool FileCommands::importFile(const QString &path, bool ask)
+{
+    if (!mayLeave()) return false;
+    QString report;
+    try {
+        std::unique_ptr<OpenDrawing> imported = importedDrawing(m_window, path, ask, report);
+        if (!imported) return false;
+        adopt(std::move(imported));
+    } catch (const std::exception &e) {
+        tellFailure(QString::fromUtf8(e.what()));
+        return false;
+    }
+    prompts().tell({Icon::Information, txt(Text{30510, u"DXF importálása"}), report}, &m_window);
+    return true;
+}
+
 bool FileCommands::saveAs()
 {
     if (!m_drawing) return false;
-    const QString proposed = m_drawing->isUnsaved() ? m_drawing->name() + QStringLiteral(".qvd") : m_drawing->doc().path();
-    const QString path = prompts().saveFile({txt(Text{30480, u"Rajz mentése"}), filter(), proposed, QStringLiteral("qvd")}, &m_window);
+    const QString proposed =
+        m_drawing->isUnsaved() ? m_drawing->name() + QStringLiteral(".qvd") : m_drawing->doc().path();
+    const QString path = prompts().saveFile(
+        {txt(Text{30480, u"Rajz mentése"}), filter(), proposed, QStringLiteral("qvd")}, &m_window);
     if (path.isEmpty()) return false;
     try {
         m_drawing->saveAs(path);
@@ -90,7 +118,8 @@ bool FileCommands::mayLeave()
     if (!m_drawing || !m_drawing->hasUnsavedWork()) return true;
     Choice question;
     question.title = txt(Text{30480, u"Rajz mentése"});
-    question.text = join(Text{30481, u"A(z) '"}, m_drawing->name(), Text{30482, u"' rajz még nincs fájlba mentve. Mi legyen vele?"});
+    question.text = join(Text{30481, u"A(z) '"}, m_drawing->name(),
+                         Text{30482, u"' rajz még nincs fájlba mentve. Mi legyen vele?"});
     question.items = {txt(Text{30483, u"Mentés fájlba…"}), txt(Text{30484, u"A rajz eldobása"})};
     const std::optional<int> answer = prompts().choose(question, &m_window);
     if (!answer) return false;

@@ -1,5 +1,6 @@
 #include "window/HostServices.h"
 
+#include "document/HostTexts.h"
 #include "document/SqliteDoc.h"
 
 #include "facade/services/Language.h"
@@ -9,6 +10,7 @@ namespace refhost {
 
 HostServices::HostServices()
 {
+    loadHostTexts();
     QV_DOC_CONTROLS::setHostServices(this);
     QV_DOC_CONTROLS::LanguageHub::instance().connectToRuntime();
     QV_DOC_CONTROLS::LanguageHub::instance().takeOver();
@@ -18,7 +20,8 @@ HostServices::~HostServices() { QV_DOC_CONTROLS::setHostServices(nullptr); }
 
 ZolWDoc::VectorFontProvider *HostServices::vectorFonts(const ZolWDoc::ZOLW_Doc *doc)
 {
-    auto *const own = dynamic_cast<SqliteDoc *>(const_cast<ZolWDoc::ZOLW_Doc *>(doc)); // the contract hands it out const
+    auto *const own =
+        dynamic_cast<SqliteDoc *>(const_cast<ZolWDoc::ZOLW_Doc *>(doc)); // the contract hands it out const
     return own ? &own->ownFont() : nullptr;
 }
 

@@ -13,7 +13,8 @@ public:
     HostServices &operator=(const HostServices &) = delete;
 
     Language *language() override { return &m_language; }
-    ZolWDoc::VectorFontProvider *vectorFonts(const ZolWDoc::ZOLW_Doc *) override; ///< the drawing's own characters
+    ZolWDoc::VectorFontProvider *vectorFonts(
+        const ZolWDoc::ZOLW_Doc *) override; ///< the drawing's own characters
 private:
     Language m_language;
 };

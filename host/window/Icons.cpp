@@ -20,11 +20,13 @@ constexpr const char *kPaths[] = {
     "M 4 13 L 4 21 L 20 21 L 20 13 M 12 3 L 12 16 M 7 11 L 12 16 L 17 11",
     "M 4 4 L 17 4 L 20 7 L 20 20 L 4 20 Z M 8 4 L 8 9 L 15 9 L 15 4 M 7 20 L 7 13 L 17 13 L 17 20",
     "M 4 12 L 12 5 L 20 12 M 6 11 L 6 20 L 18 20 L 18 11 M 10 20 L 10 14 L 14 14 L 14 20",
-    "M 3 8 L 3 3 L 8 3 M 16 3 L 21 3 L 21 8 M 21 16 L 21 21 L 16 21 M 8 21 L 3 21 L 3 16 M 8 8 L 16 8 L 16 16 L 8 16 Z",
+    "M 3 8 L 3 3 L 8 3 M 16 3 L 21 3 L 21 8 M 21 16 L 21 21 L 16 21 M 8 21 L 3 21 L 3 16 M 8 8 L 16 8 L 16 "
+    "16 L 8 16 Z",
     "O 10 10 6.5 M 15 15 L 21 21 M 7 10 L 13 10 M 10 7 L 10 13",
     "O 10 10 6.5 M 15 15 L 21 21 M 7 10 L 13 10",
     "M 3 3 L 14 3 L 14 7 M 7 14 L 3 14 L 3 3 O 14 14 4.5 M 17.5 17.5 L 21.5 21.5",
-    "M 15 3.5 C 9 4.5 6 9 7 14 C 8 18 12 20.5 16.5 20 C 13 22 8 21.5 5 18 C 1.5 13.5 3 7.5 7.5 4.8 C 9.8 3.4 12.5 3 15 3.5 Z",
+    "M 15 3.5 C 9 4.5 6 9 7 14 C 8 18 12 20.5 16.5 20 C 13 22 8 21.5 5 18 C 1.5 13.5 3 7.5 7.5 4.8 C 9.8 3.4 "
+    "12.5 3 15 3.5 Z",
     "M 6 3 L 18 13 L 12.5 13.8 L 15.5 20 L 12.8 21.2 L 10 15 L 6 18.5 Z",
     "M 12 3 L 12 9 M 12 15 L 12 21 M 3 12 L 9 12 M 15 12 L 21 12 D 12 12 1.7",
     "M 5 18 L 10 8 L 14 15 L 19 6 D 5 18 1.9 D 10 8 1.9 D 14 15 1.9 D 19 6 1.9",
@@ -50,10 +52,13 @@ Drawing drawingOf(const char *data)
         case 'M': d.strokes.moveTo(number(a), number(a + 1)), i += 2; break;
         case 'L': d.strokes.lineTo(number(a), number(a + 1)), i += 2; break;
         case 'C':
-            d.strokes.cubicTo(number(a), number(a + 1), number(a + 2), number(a + 3), number(a + 4), number(a + 5));
+            d.strokes.cubicTo(number(a), number(a + 1), number(a + 2), number(a + 3), number(a + 4),
+                              number(a + 5));
             i += 6;
             break;
-        case 'O': d.strokes.addEllipse({number(a), number(a + 1)}, number(a + 2), number(a + 2)), i += 3; break;
+        case 'O':
+            d.strokes.addEllipse({number(a), number(a + 1)}, number(a + 2), number(a + 2)), i += 3;
+            break;
         case 'D': d.discs.addEllipse({number(a), number(a + 1)}, number(a + 2), number(a + 2)), i += 3; break;
         default: d.strokes.closeSubpath(); break;
         }

@@ -23,7 +23,8 @@ namespace refhost {
 namespace {
 
 const QString kProgram = QStringLiteral("QVDraw"), kSection = QStringLiteral("Window");
-const QString kGeometry = QStringLiteral("Geometry"), kState = QStringLiteral("State"), kDark = QStringLiteral("Dark");
+const QString kGeometry = QStringLiteral("Geometry"), kState = QStringLiteral("State"),
+              kDark = QStringLiteral("Dark");
 constexpr int kStateVersion = 1;               // another one when toolbars come or go
 
 QString withoutKey(QString caption) { return caption.remove(u'&'); }
@@ -33,8 +34,8 @@ QString shown(double value, int decimals) { return QLocale::c().toString(value, 
 } // namespace
 
 MainWindow::MainWindow(HostServices &services)
-    : m_services(services), m_dialogs(std::make_unique<clsDocDlgs>()), m_view(new DrawingView(this)), m_files(*this),
-      m_edits(*m_view)
+    : m_services(services), m_dialogs(std::make_unique<clsDocDlgs>()), m_view(new DrawingView(this)),
+      m_files(*this), m_edits(*m_view)
 {
     setAppTitle(kProgram);
     setCentralWidget(m_view);
@@ -66,16 +67,17 @@ void MainWindow::buildActions()
     for (const WindowActions::Row &row : WindowActions::rows()) {
         auto *const a = new QAction(this);
         a->setObjectName(QLatin1String(row.name));
-        a->setCheckable(row.kind != WindowActions::Row::Plain);
-        a->setData(int(row.tool));
-        if (row.kind == WindowActions::Row::ToolChoice) m_tools->addAction(a);
+        a->setCheckable(row.tool() || row.kind == WindowActions::Switch);
         if (*row.keys) a->setShortcuts(QKeySequence::listFromString(QLatin1String(row.keys)));
         if (row.sign) a->setIcon(iconOf(*row.sign));
-        QMenu &menu = *m_menus[size_t(row.menu)];
-        if (row.separatorBefore) menu.addSeparator();
-        menu.addAction(a);
+        if (row.separatorBefore) m_menus[size_t(row.menu)]->addSeparator();
+        m_menus[size_t(row.menu)]->addAction(a);
         if (row.sign) bars[size_t(row.menu)]->addAction(a);
-        connect(a, &QAction::triggered, this, [this, run = row.run](bool checked) { run(*this, checked); });
+        if (row.tool()) a->setData(int(*row.tool())), m_tools->addAction(a);
+        connect(a, &QAction::triggered, this, [this, &row](bool checked) {
+            if (row.tool()) chooseTool(*row.tool());
+            else std::get<WindowActions::Act>(row.does)(*this, checked);
+        });
     }
     m_recent = new QMenu(this);
     m_menus[WindowActions::File]->insertMenu(action("saveAs"), m_recent);
@@ -112,8 +114,10 @@ void MainWindow::buildStatus()
     for (QLabel **label : {&m_hint, &m_layer, &m_place, &m_scale, &m_count}) {
         *label = new QLabel(this);
         (*label)->setTextFormat(Qt::PlainText);
+        (*label)->setIndent(fontMetrics().averageCharWidth());
     }
-    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give way in a narrow window
+    m_hint->setSizePolicy(QSizePolicy::Ignored,
+                          QSizePolicy::Preferred); // the first to give way in a narrow window
     m_layer->setObjectName(QStringLiteral("layerStatus"));
     m_count->setObjectName(QStringLiteral("countStatus"));
     statusBar()->addWidget(m_hint, 1);
@@ -128,7 +132,7 @@ void MainWindow::connectParts()
         m_files.drawing()->doc().onRedraw = [this] { refresh(); };
         m_edits.setDrawing(m_files.drawing());
         refresh();
-        m_view->fit();
+        m_view->fitMain();
     });
     connect(&m_edits, &DrawingEdits::changed, this, &MainWindow::refresh);
     connect(&m_edits, &DrawingEdits::failed, &m_files, &FileCommands::tellFailure);
@@ -162,8 +166,10 @@ void MainWindow::retranslate()
     for (const DialogCall &call : dialogCalls()) action(call.name)->setText(txt(call.text));
     m_recent->setTitle(txt(Text{30414, u"&Legutóbbi rajzok"}));
     const QList<QToolBar *> bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
-    for (qsizetype i = 0; i < bars.size(); ++i) bars[i]->setWindowTitle(withoutKey(m_menus[size_t(i)]->title()));
-    for (QAction *a : m_languages->actions()) a->setChecked(a->data().toInt() == m_services.language()->currentLanguage());
+    for (qsizetype i = 0; i < bars.size(); ++i)
+        bars[i]->setWindowTitle(withoutKey(m_menus[size_t(i)]->title()));
+    for (QAction *a : m_languages->actions())
+        a->setChecked(a->data().toInt() == m_services.language()->currentLanguage());
     showTool();
     showStatus();
 }
@@ -197,7 +203,8 @@ void MainWindow::showRecent()
 {
     m_recent->clear();
     for (const QString &path : FileCommands::recent())
-        connect(m_recent->addAction(path), &QAction::triggered, this, [this, path] { m_files.openFile(path); });
+        connect(m_recent->addAction(path), &QAction::triggered, this,
+                [this, path] { m_files.openFile(path); });
     if (m_recent->isEmpty()) m_recent->addAction(txt(Text{30417, u"Még nincs"}))->setEnabled(false);
 }
 
@@ -222,7 +229,8 @@ void MainWindow::showStatus()
 void MainWindow::showCursor(QPointF world)
 {
     m_place->setText(shown(world.x(), 2) + QStringLiteral("; ") + shown(world.y(), 2));
-    m_place->setMinimumWidth(std::max(m_place->minimumWidth(), m_place->sizeHint().width())); // the bar stands still
+    m_place->setMinimumWidth(
+        std::max(m_place->minimumWidth(), m_place->sizeHint().width())); // the bar stands still
 }
 
 void MainWindow::closeEvent(QCloseEvent *e)
@@ -241,7 +249,9 @@ void MainWindow::changeEvent(QEvent *e)
 
 void MainWindow::restoreLook()
 {
-    const auto read = [](const QString &key) { return settingsStore().read(settingsName(), kSection, key, {}); };
+    const auto read = [](const QString &key) {
+        return settingsStore().read(settingsName(), kSection, key, {});
+    };
     if (!restoreGeometry(QByteArray::fromBase64(read(kGeometry).toLatin1()))) resize(m_view->sizeHint());
     restoreState(QByteArray::fromBase64(read(kState).toLatin1()), kStateVersion);
     const QString dark = read(kDark);
@@ -252,7 +262,9 @@ void MainWindow::restoreLook()
 
 void MainWindow::rememberLook() const
 {
-    const auto write = [](const QString &key, const QString &value) { settingsStore().write(settingsName(), kSection, key, value); };
+    const auto write = [](const QString &key, const QString &value) {
+        settingsStore().write(settingsName(), kSection, key, value);
+    };
     write(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));
     write(kState, QString::fromLatin1(saveState(kStateVersion).toBase64()));
     write(kDark, m_view->isDark() ? QStringLiteral("1") : QStringLiteral("0"));

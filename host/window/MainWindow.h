@@ -15,7 +15,8 @@ namespace refhost {
 class HostServices;
 struct DialogCall;
 
-/// The program's window: one drawing, its menus and the library's dialogs. Captions follow the language at once.
+/// The program's window: one drawing, its menus and the library's dialogs. Captions follow the language at
+/// once.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -24,6 +25,8 @@ public:
 
     FileCommands &files() { return m_files; }
     DrawingView &view() { return *m_view; }
+    DrawingEdits &edits() { return m_edits; }
+    void chooseTool(DrawingView::Tool);
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
     void refresh();                                 ///< reads the document anew
 
@@ -32,7 +35,6 @@ protected:
     void changeEvent(QEvent *) override;
 
 private:
-    friend struct WindowActions;                    // the rows of menus and toolbars name private slots
     void buildActions();
     void buildDialogs();
     void buildLanguages();
@@ -46,8 +48,6 @@ private:
     void restoreLook();
     void rememberLook() const;
     QAction *action(const char *name) const;
-    void chooseTool(DrawingView::Tool);
-
     HostServices &m_services;
     std::unique_ptr<QV_DOC_CONTROLS::clsDocDlgs> m_dialogs;
     DrawingView *m_view;

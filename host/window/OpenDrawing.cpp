@@ -9,19 +9,19 @@
 using namespace QV_DOC_CONTROLS;
 
 namespace refhost {
-namespace {
-
-std::unique_ptr<QTemporaryDir> newFolder()
+std::unique_ptr<QTemporaryDir> OpenDrawing::newFolder()
 {
     auto folder = std::make_unique<QTemporaryDir>();
     if (folder->isValid()) return folder;
-    throw DocumentError(join(Text{30490, u"Nem hozható létre ideiglenes fájl. Ellenőrizd a szabad helyet! Részletek: "},
-                             folder->errorString()));
+    throw DocumentError(
+        join(Text{30490, u"Nem hozható létre ideiglenes fájl. Ellenőrizd a szabad helyet! Részletek: "},
+             folder->errorString()));
 }
 
-} // namespace
-
-QString OpenDrawing::pathIn(const QTemporaryDir &folder) { return folder.filePath(QStringLiteral("drawing.qvd")); }
+QString OpenDrawing::pathIn(const QTemporaryDir &folder)
+{
+    return folder.filePath(QStringLiteral("drawing.qvd"));
+}
 
 std::unique_ptr<OpenDrawing> OpenDrawing::fresh()
 {

@@ -6,8 +6,8 @@
 
 namespace refhost {
 
-/// The drawing that a window shows. A drawing that was never saved lives in a temporary file: every change is durable
-/// there too, but it goes with the object.
+/// The drawing that a window shows. A drawing that was never saved lives in a temporary file: every change is
+/// durable there too, but it goes with the object.
 class OpenDrawing {
 public:
     static std::unique_ptr<OpenDrawing> fresh();
@@ -15,6 +15,7 @@ public:
     static std::unique_ptr<OpenDrawing> file(const QString &path);
     /// A drawing that somebody else has made in that folder, e.g. by importing.
     static std::unique_ptr<OpenDrawing> unsaved(std::unique_ptr<QTemporaryDir> folder, const QString &name);
+    static std::unique_ptr<QTemporaryDir> newFolder(); ///< throws DocumentError when there is no room
     static QString pathIn(const QTemporaryDir &);   ///< where the file of such a drawing is expected
 
     SqliteDoc &doc() { return *m_doc; }
@@ -22,7 +23,7 @@ public:
     bool isUnsaved() const { return m_folder != nullptr; }
     void touch() { m_keepsWork = true; }            ///< elements were changed
     bool hasUnsavedWork() const;                    ///< it would be lost with the temporary file
-    void saveAs(const QString &path);               ///< goes on in the new file; throws DocumentError and stays as it was
+    void saveAs(const QString &path); ///< goes on in the new file; throws DocumentError and stays as it was
 
 private:
     OpenDrawing() = default;

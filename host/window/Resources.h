@@ -39,7 +39,8 @@ private:
     QHash<qint16, int> m_at;
 };
 
-/// The tables of a document as a drawing needs them: copied once, so that nothing that paints asks the document.
+/// The tables of a document as a drawing needs them: copied once, so that nothing that paints asks the
+/// document.
 struct Resources {
     ById<ZolWDoc::tLay, &ZolWDoc::tLay::LayId> layers;  ///< by number
     ById<ZolWDoc::tSid, &ZolWDoc::tSid::SidId> symbols;

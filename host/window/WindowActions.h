@@ -5,21 +5,27 @@
 
 #include "facade/services/Text.h"
 
+#include <span>
+#include <variant>
+
 namespace refhost {
 
-/// The program's own commands as data: what a menu and a toolbar are built from.
+/// The program's own commands as data: what menus and toolbars are built from.
 struct WindowActions {
     enum Menu { File, View, Draw, Dialogs, LanguageMenu, MenuCount };
+    enum Kind { Plain, Switch };
+    using Act = void (*)(MainWindow &, bool checked);
     struct Row {
         const char *name;                           ///< object name of the action
         Menu menu;
         QV_DOC_CONTROLS::Text text;
         std::optional<Sign> sign;                   ///< with one it stands on the toolbar too
         const char *keys;                           ///< portable, several separated by ';'
-        void (*run)(MainWindow &, bool checked);
-        enum Kind { Plain, Switch, ToolChoice } kind = Plain;
+        std::variant<Act, DrawingView::Tool> does;  ///< runs something, or chooses the view's tool
+        Kind kind = Plain;
         bool separatorBefore = false;
-        DrawingView::Tool tool = DrawingView::Tool::Select; ///< of a ToolChoice
+
+        const DrawingView::Tool *tool() const { return std::get_if<DrawingView::Tool>(&does); }
     };
     static std::span<const Row> rows();
     static std::span<const QV_DOC_CONTROLS::Text> menus(); ///< captions by Menu
