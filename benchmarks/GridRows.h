@@ -2,6 +2,8 @@
 
 #include "kit/grid/GridSource.h"
 
+#include <QStringList>
+
 namespace benchmarks {
 
 /// A table as layers are: ten columns of numbers, names, switches and lists.
@@ -19,18 +21,17 @@ struct GridRows : QV_DOC_CONTROLS::GridSource {
     explicit GridRows(int count)
     {
         using QV_DOC_CONTROLS::CellKind;
-        constexpr CellKind kinds[kColumns] = {CellKind::Number, CellKind::Text,   CellKind::Check,
-                                              CellKind::List,   CellKind::Color,  CellKind::Color,
-                                              CellKind::List,   CellKind::Number, CellKind::Number,
-                                              CellKind::Number};
+        constexpr CellKind kinds[kColumns] = {CellKind::Number, CellKind::Text,  CellKind::Check,  CellKind::List,   CellKind::Color,
+                                              CellKind::Color,  CellKind::List, CellKind::Number, CellKind::Number, CellKind::Number};
         for (int c = 0; c < kColumns; ++c)
-            cols.push_back(
-                {QStringLiteral("c%1").arg(c), QStringLiteral("Oszlop %1").arg(c), {}, kinds[c], true});
+            cols.push_back({QStringLiteral("c%1").arg(c), QStringLiteral("Oszlop %1").arg(c), {}, kinds[c], true});
+        QStringList lineTypes, textTypes;               // as in a document: the names belong to tables of their own
+        for (int i = 0; i < 30; ++i) lineTypes << QStringLiteral("vonal %1").arg(i), textTypes << QStringLiteral("Felirat %1").arg(i);
         for (int i = 0; i < count; ++i) {
             const int mixed = int(i * 7919LL % count);
             all.push_back({qint16(i + 1), qint16(mixed + 1), QStringLiteral("Réteg %1").arg(mixed + 1),
-                           QStringLiteral("vonal %1").arg(i % 12), QStringLiteral("Felirat %1").arg(i % 30),
-                           i % 3 != 0, qint16(i % 256), qint16(i % 16), qint16(i % 7), qint16(i % 5)});
+                           lineTypes[i % 12], textTypes[i % 30], i % 3 != 0,
+                           qint16(i % 256), qint16(i % 16), qint16(i % 7), qint16(i % 5)});
         }
     }
     const std::vector<QV_DOC_CONTROLS::GridColumn> &columns() const override { return cols; }

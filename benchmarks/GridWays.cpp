@@ -28,11 +28,11 @@ namespace {
 constexpr int kName = 1, kVisible = 2, kLineType = 3, kColor = 4, kPrint = 5, kGroups = 7;
 constexpr QSize kDialog(900, 600);
 
-/// What waits, as the event loop would do it, and the picture on the screen.
-void finish(QWidget &shown)
+/// What waits, as the event loop would do it: layouts and the picture on the screen.
+void finish()
 {
     QCoreApplication::sendPostedEvents();
-    shown.repaint();
+    QCoreApplication::sendPostedEvents();
 }
 
 /// The user looks at the table before going on: what gets ready in the meantime does.
@@ -56,7 +56,7 @@ struct OwnGrid {
     void show()
     {
         grid.setSource(&rows);
-        finish(grid);
+        finish();
     }
     void plain()
     {
@@ -73,17 +73,17 @@ struct OwnGrid {
         std::vector<SortKey> levels;
         for (int c : columns) levels.push_back({c});
         grid.setGroupLevels(levels);
-        finish(grid);
+        finish();
     }
     void sort(std::initializer_list<SortKey> keys)
     {
         grid.setSortKeys(std::vector<SortKey>(keys));
-        finish(grid);
+        finish();
     }
     void type(const QString &text)
     {
         grid.setFilterText(text);
-        finish(grid);
+        finish();
     }
 };
 
@@ -95,36 +95,20 @@ template <class T> std::function<void()> on(const std::shared_ptr<T> &state, voi
 void addSortSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
 {
     const auto plain = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(); });
-    steps["sort.two"] = {on<OwnGrid>(own,
-                                     [](OwnGrid &o) {
-                                         o.sort({{kVisible}, {kName, SortOrder::Descending}});
-                                     }),
-                         plain};
-    steps["sort.edited"] = {on<OwnGrid>(own,
-                                        [](OwnGrid &o) {
-                                            o.sort({{kVisible}, {kName, SortOrder::Descending}});
-                                        }),
+    steps["sort.two"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }), plain};
+    steps["sort.edited"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }),
                             on<OwnGrid>(own, [](OwnGrid &o) {
                                 o.plain();
                                 QAbstractItemModel &model = *o.grid.table()->model();
-                                model.setData(model.index(7, kName),
-                                              QString(model.index(7, kName).data().toString() + u'x'));
+                                model.setData(model.index(7, kName), QString(model.index(7, kName).data().toString() + u'x'));
                             })};
     steps["group.one"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kLineType}); }), plain};
-    steps["group.four"] = {on<OwnGrid>(own,
-                                       [](OwnGrid &o) {
-                                           o.group({kVisible, kLineType, kPrint, kGroups});
-                                       }),
-                           plain};
+    steps["group.four"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kVisible, kLineType, kPrint, kGroups}); }), plain};
     const auto grouped = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}); });
-    const auto closed =
-        on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
-    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(o.grid); }),
-                              grouped};
-    steps["collapse.all"] = {
-        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(o.grid); }), grouped};
-    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(o.grid); }),
-                           closed};
+    const auto closed = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
+    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(); }), grouped};
+    steps["collapse.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(); }), grouped};
+    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(); }), closed};
 }
 
 void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
@@ -135,24 +119,20 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
                               on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"7"_qs); })};
     steps["filter.clear"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.type({}); }),
                              on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"79"_qs); })};
-    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }),
-                          plain};
-    steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(o.grid); }), plain};
+    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }), plain};
+    steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(); }), plain};
     steps["toggle"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                            QAbstractItemModel &model = *o.grid.table()->model();
                            const QModelIndex at = model.index(3, kVisible);
-                           model.setData(at,
-                                         at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked,
-                                         Qt::CheckStateRole);
-                           finish(o.grid);
+                           model.setData(at, at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+                           finish();
                        }), plain};
     steps["page"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                          QScrollBar &bar = *o.grid.table()->verticalScrollBar();
                          bar.setValue(bar.value() + bar.pageStep());
-                         finish(o.grid);
+                         finish();
                      })};
-    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(o.grid); }),
-                     plain};
+    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(); }), plain};
 }
 
 } // namespace
@@ -166,7 +146,7 @@ Steps ownGrid(int rows)
     for (int i = 0; i < 20; ++i) pause(50);             // the machine may be busy
     Steps steps;
     steps["open"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.show(); }),
-                     on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setSource(nullptr), finish(o.grid); })};
+                     on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setSource(nullptr), finish(); })};
     addSortSteps(steps, own);
     addOtherSteps(steps, own);
     return steps;
@@ -188,7 +168,7 @@ double megabytesOf(int rows)
         return double(info.uordblks + info.hblkhd) / 1e6;
     };
     OwnGrid own(0);
-    finish(own.grid);
+    finish();
     const double empty = held();
     own.rows.all = GridRows(rows).all;
     own.show();
@@ -217,27 +197,25 @@ struct Widget {
         for (int r = 0; r < rows.rowCount(); ++r)
             for (int c = 0; c < GridRows::kColumns; ++c) {
                 auto *const item = new QTableWidgetItem(rows.text(r, c));
-                if (c == kVisible)
-                    item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
+                if (c == kVisible) item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
                 table.setItem(r, c, item);
             }
-        finish(table);
+        finish();
     }
     void filter(const QString &text)
     {
         for (int r = 0; r < table.rowCount(); ++r) {
             bool fits = text.isEmpty();
-            for (int c = 0; c < GridRows::kColumns && !fits; ++c)
-                fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
+            for (int c = 0; c < GridRows::kColumns && !fits; ++c) fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
             table.setRowHidden(r, !fits);
         }
-        finish(table);
+        finish();
     }
     void sortTwo()
     {
         table.sortItems(kName, Qt::DescendingOrder);
         table.sortItems(kVisible);
-        finish(table);
+        finish();
     }
 };
 
@@ -248,29 +226,24 @@ Steps tableWidget(int rows)
     const auto way = std::make_shared<Widget>(rows);
     way->show();
     Steps steps;
-    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }),
-                     on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
+    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }), on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
     steps["sort.two"] = {on<Widget>(way, [](Widget &w) { w.sortTwo(); }),
-                         on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(w.table); })};
-    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }),
-                             on<Widget>(way, [](Widget &w) { w.filter({}); })};
-    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }),
-                              on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }),
-                             on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
-    steps["find.miss"] = {
-        on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
-    steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(w.table); }),
+                         on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(); })};
+    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }), on<Widget>(way, [](Widget &w) { w.filter({}); })};
+    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }), on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }), on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
+    steps["find.miss"] = {on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
+    steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(); }),
                            on<Widget>(way, [](Widget &w) { w.filter({}), w.table.clearSelection(); })};
     steps["toggle"] = {on<Widget>(way, [](Widget &w) {
         QTableWidgetItem &item = *w.table.item(3, kVisible);
         item.setCheckState(item.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-        finish(w.table);
+        finish();
     })};
     steps["page"] = {on<Widget>(way, [](Widget &w) {
         QScrollBar &bar = *w.table.verticalScrollBar();
         bar.setValue(bar.value() + bar.pageStep());
-        finish(w.table);
+        finish();
     })};
     return steps;
 }
@@ -299,8 +272,7 @@ struct Stock {
         QList<QStandardItem *> items;
         for (int c = 0; c < GridRows::kColumns; ++c) {
             items << new QStandardItem(rows.text(row, c));
-            if (c == kVisible)
-                items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
+            if (c == kVisible) items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
         }
         return items;
     }
@@ -308,7 +280,7 @@ struct Stock {
     {
         model.clear();
         for (int r = 0; r < rows.rowCount(); ++r) model.appendRow(items(r));
-        finish(view);
+        finish();
     }
     /// Below an item for each value, as far as there are levels.
     void group(std::initializer_list<int> columns)
@@ -327,18 +299,18 @@ struct Stock {
             parent->appendRow(items(r));
         }
         view.expandAll();
-        finish(view);
+        finish();
     }
     void sortTwo()
     {
         proxy.sort(kName, Qt::DescendingOrder);
         proxy.sort(kVisible, Qt::AscendingOrder);
-        finish(view);
+        finish();
     }
     void filter(const QString &text)
     {
         proxy.setFilterFixedString(text);
-        finish(view);
+        finish();
     }
 };
 
@@ -347,11 +319,10 @@ void addGroupSteps(Steps &steps, const std::shared_ptr<Stock> &way)
     const auto grouped = on<Stock>(way, [](Stock &s) { s.filter({}), s.group({kLineType}); });
     steps["group.one"] = {on<Stock>(way, [](Stock &s) { s.group({kLineType}); })};
     steps["group.four"] = {on<Stock>(way, [](Stock &s) { s.group({kVisible, kLineType, kPrint, kGroups}); })};
-    steps["collapse.band"] = {
-        on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
-    steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); }), grouped};
-    steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(s.view); }),
-                           on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); })};
+    steps["collapse.band"] = {on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(); }), grouped};
+    steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(); }), grouped};
+    steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(); }),
+                           on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(); })};
 }
 
 } // namespace
@@ -366,31 +337,24 @@ Steps itemModelAndProxy(int rows)
         s.view.clearSelection();
         s.proxy.sort(kColor);
         if (s.model.rowCount() != s.rows.rowCount()) s.show();
-        finish(s.view);
+        finish();
     });
-    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }),
-                     on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
+    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }), on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
     steps["sort.two"] = {on<Stock>(way, [](Stock &s) { s.sortTwo(); }), flat};
     steps["filter.first"] = {on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); }), flat};
-    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }),
-                              on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }),
-                             on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
-    steps["find.miss"] = {on<Stock>(way,
-                                    [](Stock &s) {
-                                        keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName));
-                                    }),
-                          flat};
-    steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(s.view); }), flat};
+    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }), on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }), on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
+    steps["find.miss"] = {on<Stock>(way, [](Stock &s) { keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName)); }), flat};
+    steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(); }), flat};
     steps["toggle"] = {on<Stock>(way, [](Stock &s) {
                            QStandardItem &item = *s.model.item(3, kVisible);
                            item.setCheckState(item.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-                           finish(s.view);
+                           finish();
                        }), flat};
     steps["page"] = {on<Stock>(way, [](Stock &s) {
                          QScrollBar &bar = *s.view.verticalScrollBar();
                          bar.setValue(bar.value() + bar.pageStep());
-                         finish(s.view);
+                         finish();
                      }), flat};
     addGroupSteps(steps, way);
     return steps;

@@ -15,6 +15,8 @@ FilterLine::FilterLine(QWidget *parent) : QWidget(parent), m_edit(new QLineEdit(
     row->setContentsMargins({});
     row->addWidget(m_edit, 1);
     row->addWidget(m_count);
+    m_count->setIndent(m_count->fontMetrics().horizontalAdvance(u' '));
+    m_count->setContentsMargins(0, 0, m_count->indent(), 0);
     m_edit->setClearButtonEnabled(true);
     m_edit->installEventFilter(this);
     setFocusProxy(m_edit);

@@ -91,7 +91,12 @@ void FilterRule::add(QStringView token, std::span<const QString> captions)
 
 bool FilterRule::fits(const Term &term, std::string_view cells)
 {
-    if (term.column < 0 && !term.wild && cells.find(term.text) == std::string_view::npos) return false;
+    if (term.column < 0 && !term.wild) {                // nearly always settled by one search in the whole row
+        const size_t at = cells.find(term.text);
+        if (at == std::string_view::npos) return false;
+        const size_t before = cells.rfind(kEnd, at);
+        if (cells[before == std::string_view::npos ? 0 : before + 1] != kQuiet) return true;
+    }
     for (int c = 0; !cells.empty(); ++c) {
         const size_t end = cells.find(kEnd);
         std::string_view cell = cells.substr(0, end);

@@ -11,6 +11,7 @@
 #include "kit/grid/GroupBox.h"
 #include "kit/grid/InterfaceLocale.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QLineEdit>
 #include <QMimeData>
@@ -94,7 +95,11 @@ void Grid::connectViews()
         if (currentRow() < 0 && m_model->engine().shownCount() > 0) makeCurrent(m_model->engine().shownRows().front());
         activeView()->setFocus(Qt::TabFocusReason);
     });
-    connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) { setGroupLevels(levels); });
+    connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) {
+        const bool focused = m_box->isAncestorOf(QApplication::focusWidget());
+        setGroupLevels(levels);
+        if (focused && levels.empty()) activeView()->setFocus(Qt::OtherFocusReason); // its chip is gone
+    });
     connect(m_header, &GridHeader::sortAsked, this, &Grid::sortBy);
     connect(m_header, &GridHeader::dragged, this, [this](int, QPoint at) { m_box->markPlace(at); });
     connect(m_header, &GridHeader::dragEnded, this, [this] { m_box->markPlace({-1, -1}); });

@@ -298,7 +298,9 @@ void GridCards::paintCard(QPainter &painter, QStyleOptionViewItem option, int li
         m_delegate.paint(&painter, option, m_model.index(line, field.column));
         if (!field.titled) continue;
         const QRect name(card.left() + gap, option.rect.top(), option.rect.left() - card.left() - gap, field.height);
-        painter.setPen(option.palette.color(QPalette::Disabled, QPalette::Text));
+        QColor quiet = option.palette.color(group, QPalette::Text);
+        quiet.setAlphaF(0.65f);
+        painter.setPen(quiet);
         painter.drawText(name, Qt::AlignVCenter | Qt::TextSingleLine,
                          option.fontMetrics.elidedText(m_model.column(field.column)->caption, Qt::ElideRight, name.width()));
     }

@@ -1,6 +1,7 @@
 #include "kit/grid/Grid.h"
 
 #include "kit/forms/Twips.h"
+#include "kit/grid/CardsAccessible.h"
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/GridCards.h"
 #include "kit/grid/GridHeader.h"
@@ -75,8 +76,8 @@ int Grid::fittingWidth(int c) const
     qsizetype longest = 0;
     for (int r = 0; r < std::min(m_source->rowCount(), kRowsMeasured); ++r) {
         const QString text = m_source->text(r, c);
-        if (text.size() + 2 < longest) continue;        // measuring is dear, and short texts are not wide
-        longest = std::max(longest, text.size());
+        if (text.size() <= longest) continue;           // measuring is dear; the room takes wider letters
+        longest = text.size();
         width = std::max(width, letters.horizontalAdvance(text) + room);
     }
     return width;
@@ -215,6 +216,7 @@ void Grid::seek(const QString &letter)
 GridCards &Grid::cards()
 {
     if (m_cards) return *m_cards;
+    CardsAccessible::install();
     m_cards = new GridCards(*m_model, *m_delegate, this);
     m_cards->setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
     m_cards->setAccessibleName(accessibleName());

@@ -38,6 +38,14 @@ QRect GridTable::visualRect(const QModelIndex &index) const
     return rect;
 }
 
+void GridTable::selectAll()
+{
+    const int lines = m_model.rowCount();
+    if (selectionMode() != ExtendedSelection || lines == 0) return;
+    const QItemSelection all(m_model.index(0, 0), m_model.index(lines - 1, m_model.columnCount() - 1));
+    selectionModel()->select(all, QItemSelectionModel::ClearAndSelect);
+}
+
 void GridTable::drawRow(QPainter *painter, const QStyleOptionViewItem &options, const QModelIndex &index) const
 {
     QStyleOptionViewItem cell = options;

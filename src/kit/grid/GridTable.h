@@ -24,6 +24,7 @@ public:
     void setDropLine(int line);                 ///< framed while something is dragged over it; -1 = none
     bool isEditing() const { return state() == EditingState; }
     QRect visualRect(const QModelIndex &index) const override;  ///< of a band: the full width
+    void selectAll() override;                  ///< as one range
     void keyboardSearch(const QString &search) override { m_calls.typed(search); }
 
 protected:

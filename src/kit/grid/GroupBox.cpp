@@ -177,7 +177,6 @@ void GroupBox::remove(int level)
 {
     std::vector<SortKey> levels = m_levels;
     levels.erase(levels.begin() + level);
-    if (levels.empty()) m_chips[size_t(level)]->nextInFocusChain()->setFocus(Qt::OtherFocusReason);
     ask(std::move(levels), level);
 }
 
@@ -203,7 +202,7 @@ void GroupBox::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), palette().brush(QPalette::Mid));
     painter.fillRect(rect().adjusted(1, 1, -1, 0), palette().brush(QPalette::Window));
     const QString hint = toolTip();
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     const QRect room = rect().adjusted(2 * gap(), 0, -gap(), 0);
     if (m_chips.empty())
         painter.drawText(room, Qt::AlignVCenter, fontMetrics().elidedText(hint, Qt::ElideRight, room.width()));

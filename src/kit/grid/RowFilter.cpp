@@ -27,6 +27,7 @@ bool RowFilter::prepare(int rows)
         m_texts += m_folder.row();
         m_ends.push_back(quint32(m_texts.size()));
     }
+    if (end == m_rows && m_texts.capacity() > m_texts.size() * 9 / 8) m_texts.shrink_to_fit();
     return end == m_rows;
 }
 
