@@ -42,6 +42,18 @@ LayerTable::Names LayerTable::namesOf(ZolWDoc::ZOLW_Doc &doc)
     return n;
 }
 
+Paper LayerTable::paper()
+{
+    constexpr std::pair<int, Text> kCaptions[] = { // from 1; the others stand on paper without a caption
+        {1, {3224, u"Ssz"}},         {2, {3299, u"Rétegnév"}}, {3, {3311, u"Ki/Be"}},
+        {4, {3305, u"Vonaltípus"}},  {7, {3310, u"Színtoll"}}, {8, {15, u"Felirattípus"}},
+    };
+    Paper paper{{txt(Text{3283, u"Rétegek"}), {}, txt(Text{3429, u" oldal"}), false}, {}};
+    for (size_t c = 0; c < std::size(columns); ++c) paper.captions << QString();
+    for (const auto &[entry, caption] : kCaptions) paper.captions[entry - 1] = txt(caption);
+    return paper;
+}
+
 RowStyles LayerTable::styles(const Record &l)
 {
     RowStyles s;

@@ -2,6 +2,7 @@
 
 #include "facade/contract/ZOLW_Doc.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/GridManager.h"
 
 #include <QHash>
 
@@ -30,6 +31,8 @@ struct LayerTable {
     static Names namesOf(ZolWDoc::ZOLW_Doc &doc);
 
     static constexpr const char *layout = "jsLayer";
+    static constexpr Text cardCaption{3309, u"Réteg:|/"};
+    static constexpr int numberColumn = 0, nameColumn = 1;
     static constexpr Column<Record, Names> columns[] = {
         layerField<&Record::gNr>("gNr", {3308, u"Ssz:"})
             .with({3411, u"Sorszám"})
@@ -56,6 +59,7 @@ struct LayerTable {
     };
     static ZolWDoc::LayerRole &role(ZolWDoc::ZOLW_Doc &doc) { return doc.layers(); }
     static qint16 id(const Record &l) { return l.LayId; }
+    static Paper paper();                               ///< title, footer and the ten captions of a printed table
     static RowStyles styles(const Record &l); ///< colour cells by their pens, the row by its visibility
 };
 

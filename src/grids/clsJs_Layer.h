@@ -26,8 +26,7 @@ public:
     {
         m_automatic = on;
     } ///< a layer made current becomes the grid's current row
-    bool bShowGroups() const { return m_showGroups; }
-    void setbShowGroups(bool on);                       ///< whether the group grid is shown
+    void setbShowGroups(bool on) override;
     bool bShowVisibleItems() const { return m_onlyVisible; }
     void setbShowVisibleItems(bool on);                 ///< lists visible layers only
 
@@ -41,7 +40,12 @@ signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
 
+    void GroupChanged(bool &bIsGrouped);
+    void GridView(qint16 &js_View);
+
 private:
+    void raiseView(qint16 view) override { emit GridView(view); }
+    void raiseGrouped(bool grouped) override { emit GroupChanged(grouped); }
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
     void raiseSelection(int count) override;
     bool fits(const ZolWDoc::tLay &lay) const override;
@@ -54,7 +58,7 @@ private:
     QSet<qint16> m_inGroup;                             ///< layers of the chosen group
     qint16 m_group = GroupRows::kAll;
     qint16 m_current = -1, m_previous = -1;
-    bool m_automatic = true, m_showGroups = true, m_onlyVisible = false;
+    bool m_automatic = true, m_onlyVisible = false;
 };
 
 } // namespace QV_DOC_CONTROLS

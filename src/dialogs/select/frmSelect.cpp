@@ -57,6 +57,8 @@ bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
     jsLayer = &m_page->open<clsJs_Layer>(m_mode);
     connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSelect::jsLayer_CurrentChanced);
     connect(jsLayer, &clsJs_Layer::SelectedChanched, this, &frmSelect::jsLayer_SelectedChanched);
+    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
+    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
     jsLayer->init(oDoc, *m_page->gridItems, m_page->gridGroups, true);
     jsLayer->selectById(lay.LayId);
     const bool ok = run();
@@ -79,6 +81,9 @@ bool frmSelect::run()
 void frmSelect::jsLayer_CurrentChanced(tLay &lay) { m_lay = lay; }
 void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
 } // one layer is picked: nothing follows the count
+
+void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
+void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 
 void frmSelect::accept()
 {

@@ -33,6 +33,9 @@ public:
     void jsLayer_CurrentChanced(ZolWDoc::tLay &lay);    // published spelling
     void jsLayer_SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay); // published spelling
 
+    void jsLayer_GroupChanged(bool &bIsGrouped);
+    void jsLayer_GridView(qint16 &js_View);
+
     clsJs_Layer *jsLayer = nullptr;                     ///< the page's, while the dialog selects layers
 
     void accept() override;

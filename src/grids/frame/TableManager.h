@@ -4,6 +4,7 @@
 #include "facade/services/Services.h"
 #include "grids/frame/ColorStyles.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
 #include "kit/grid/Grid.h"
 
@@ -32,8 +33,14 @@ public:
     void ml_RuntimeSupport_LanguageChanged() override
     {
         readCaptions();
-        if (m_grid) m_grid->captionsChanged();
+        if (!m_grid) return;
+        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        m_grid->captionsChanged();
+        loadGridLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
+    void saveLayout() override { if (m_grid) saveGridLayout(*m_grid, Table::layout); }
+    const GridSource &source() const override { return *this; }
+    Paper paper() const override { return Table::paper(); }
     /// Reads the whole table again; current row and selection stay with their records. Throws the host's
     /// error.
     void fill()
@@ -78,6 +85,10 @@ protected:
         m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
         showWhatFits();
         grid.setSource(this);
+        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        QObject::connect(&grid, &Grid::viewChanged, this, [this](GridView v) { raiseView(qint16(v)); });
+        QObject::connect(&grid, &Grid::groupingChanged, this, [this](bool grouped) { raiseGrouped(grouped); });
+        loadGridLayout(grid, Table::layout);
         QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
         QObject::connect(&grid, &Grid::selectionMoved, this,
                          [this] { raiseSelection(m_grid->selectedCount()); });
