@@ -8,7 +8,9 @@
 #include <dxflib/dl_creationadapter.h>
 #include <dxflib/dl_dxf.h>
 
+#include <clocale>
 #include <cstdio>
+#include <locale>
 #include <memory>
 #include <numbers>
 #include <optional>
@@ -306,6 +308,32 @@ private:
 
 } // namespace
 
+namespace {
+
+/// The reader takes numbers by the program's C++ locale; a decimal comma would cut all fractions off.
+class PlainNumbers {
+public:
+    PlainNumbers()
+    {
+        if (m_before == std::locale::classic()) return;
+        m_cLocale = std::setlocale(LC_ALL, nullptr);
+        std::locale::global(std::locale::classic());
+    }
+    ~PlainNumbers()
+    {
+        if (m_cLocale.empty()) return;
+        std::locale::global(m_before);
+        std::setlocale(LC_ALL, m_cLocale.c_str());
+    }
+    PlainNumbers(const PlainNumbers &) = delete;
+    PlainNumbers &operator=(const PlainNumbers &) = delete;
+private:
+    std::locale m_before;
+    std::string m_cLocale;
+};
+
+} // namespace
+
 Drawing readDrawing(const DxfScan &scan, const DxfScan::Progress &progress)
 {
     DrawingBuilder builder(scan);
@@ -314,6 +342,7 @@ Drawing readDrawing(const DxfScan &scan, const DxfScan::Progress &progress)
     const std::unique_ptr<FILE, int (*)(FILE *)> file(fmemopen(const_cast<char *>(bytes.data()), bytes.size(), "r"),
                                                       &fclose);
     if (!file) throw DocumentError(txt(Text{30307, u"Nincs elég memória a rajz beolvasásához."}));
+    const PlainNumbers plain;
     DL_Dxf reader;
     for (int n = 0; reader.readDxfGroups(file.get(), &receiver); ++n)
         if (n % 20000 == 0 && progress && !progress(double(ftell(file.get())) / double(bytes.size())))

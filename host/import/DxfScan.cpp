@@ -47,10 +47,11 @@ bool placed(std::string_view kind)
     return kinds.contains(kind);
 }
 
-/// Handles, owners, materials and the like: nothing that is drawn.
+/// Handles, owners, materials and the like: nothing that is drawn. The texts of line types (9) would end the line type
+/// for the reader, which takes that group for the name of a variable.
 constexpr bool drawn(int code)
 {
-    constexpr int kOthers[] = {5, 100, 102, 105, 310, 330, 340, 347, 348, 350, 360, 370, 380, 390};
+    constexpr int kOthers[] = {5, 9, 100, 102, 105, 310, 330, 340, 347, 348, 350, 360, 370, 380, 390};
     return std::ranges::find(kOthers, code) == std::end(kOthers);
 }
 
