@@ -1,4 +1,4 @@
-#include "Pictures.h"
+#include "window/Pictures.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -9,6 +9,8 @@
 #include <QTimer>
 
 #include <cstdio>
+
+namespace refhost {
 
 Pictures::Pictures(const QString &folder) : m_folder(folder)
 {
@@ -29,8 +31,7 @@ void Pictures::save(QWidget &window, const QString &name)
 bool Pictures::eventFilter(QObject *o, QEvent *e)
 {
     auto *const dialog = e->type() == QEvent::Show ? qobject_cast<QDialog *>(o) : nullptr;
-    const bool passes =
-        qobject_cast<QProgressDialog *>(o) != nullptr; // closes by itself; Cancel would break the work off
+    const bool passes = qobject_cast<QProgressDialog *>(o); // its Cancel would break the work off
     if (dialog && !passes) // after the events that lay it out and fill it
         QTimer::singleShot(0, dialog, [this, dialog] {
             save(*dialog,
@@ -39,3 +40,5 @@ bool Pictures::eventFilter(QObject *o, QEvent *e)
         });
     return false;
 }
+
+} // namespace refhost
