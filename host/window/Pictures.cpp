@@ -20,6 +20,8 @@ Pictures::Pictures(const QString &folder) : m_folder(folder)
 
 void Pictures::save(QWidget &window, const QString &name)
 {
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::LayoutRequest); // a window just shown is not laid out yet
     const QString path = m_folder + u'/' + name + QStringLiteral(".png");
     if (!window.grab().save(path)) {
         ++m_failures;
