@@ -1,8 +1,7 @@
-#include "Pictures.h"
-
 #include "window/DialogCalls.h"
 #include "window/HostServices.h"
 #include "window/MainWindow.h"
+#include "window/Pictures.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -2,7 +2,8 @@
 
 #include "facade/services/Language.h"
 
-static void initHostStrings() { Q_INIT_RESOURCE(refhost_strings); } // outside the namespace, as the macro wants it
+// outside the namespace, as the macro wants it
+static void initHostStrings() { Q_INIT_RESOURCE(refhost_strings); }
 
 namespace refhost {
 

@@ -3,7 +3,7 @@
 namespace refhost::village {
 namespace {
 
-constexpr double kFrom = -374, kTo = 380, kBank = 1.8, kFieldEnd = -340, kBridgeHalf = 4.2;
+constexpr double kFrom = -368, kTo = 372, kBank = 1.8, kFieldEnd = -340, kBridgeHalf = 4.2;
 const double kOver = fieldLane(brook(kBridgeAt));      // u where the road crosses the brook
 
 } // namespace
@@ -37,10 +37,11 @@ namespace {
 void northFields(Draft &d)
 {
     const auto rim = [](double u) { return northEdge(u) + 4; };    // a field track lies between
+    constexpr double kNorthTo = 350;
     int nr = 41;
-    d.line(106, along(rim, kFrom, kTo));
-    for (double u = kFrom; u < kTo - 20; ++nr) {
-        const double to = std::min(kTo, u + d.dice.in(34, 66));
+    d.line(106, along(rim, kFrom, kNorthTo));
+    for (double u = kFrom; u < kNorthTo - 20; ++nr) {
+        const double to = std::min(kNorthTo, u + d.dice.in(34, 66));
         const double depth = 44 + 9 * std::sin(to / 60) - 0.03 * to;
         d.line(106, {{to, rim(to)}, {to + 3, rim(to) + depth}});
         d.line(106, {{u + 3, rim(u) + 44 + 9 * std::sin(u / 60) - 0.03 * u}, {to + 3, rim(to) + depth}});

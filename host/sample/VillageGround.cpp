@@ -31,8 +31,8 @@ double churchLane(double v) { return -66 - 0.1 * v + 3 * std::sin(v / 37); }
 double schoolLane(double v) { return kBridgeAt + 0.07 * (v + 130) + 2.5 * std::sin((v + 130) / 41); }
 double eastLane(double v) { return 268 - 0.13 * v + 2 * std::sin(v / 33); }
 double fieldLane(double v) { return kBridgeAt + 0.06 * (v + 130); }
-double westEnd(double v) { return -372 + 0.06 * v; }
-double eastEnd(double v) { return 376 - 0.05 * v; }
+double westEnd(double v) { return -366 - 0.02 * v; }
+double eastEnd(double v) { return 370 - 0.03 * v; }
 
 Place placeOf(Spot s)
 {

@@ -42,7 +42,7 @@ void draftSheet(Draft &d)
     d.textAt(605, 11, {middle, kSheet.south - 20}, QStringLiteral("M = 1 : 1000"));
     d.textAt(605, 11, {kSheet.west + 90, kSheet.south - 20}, QStringLiteral("Vetületi rendszer: EOV"));
     d.textAt(605, 11, {kSheet.east - 110, kSheet.south - 20}, QStringLiteral("Magasságok: Balti alapszint"));
-    d.symbolAt(605, 41, {kSheet.east - 40, kSheet.north - 50});
+    d.symbolAt(605, 41, {kSheet.east - 25, kSheet.north - 85});
 }
 
 void draftControl(Draft &d)

@@ -14,7 +14,9 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
+#include <QPainter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 
 using namespace QV_DOC_CONTROLS;
@@ -28,6 +30,20 @@ const QString kGeometry = QStringLiteral("Geometry"), kState = QStringLiteral("S
 constexpr int kStateVersion = 1;               // another one when toolbars come or go
 
 QString withoutKey(QString caption) { return caption.remove(u'&'); }
+
+/// Shortens its text to the room it has.
+class HintLabel final : public QLabel {
+public:
+    using QLabel::QLabel;
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter p(this);
+        const QString fitting = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+        style()->drawItemText(&p, contentsRect(), int(alignment()), palette(), isEnabled(), fitting,
+                              foregroundRole());
+    }
+};
 
 QString shown(double value, int decimals) { return QLocale::c().toString(value, 'f', decimals); }
 
@@ -111,7 +127,8 @@ void MainWindow::buildLanguages()
 
 void MainWindow::buildStatus()
 {
-    for (QLabel **label : {&m_hint, &m_layer, &m_place, &m_scale, &m_count}) {
+    m_hint = new HintLabel(this);
+    for (QLabel **label : {&m_layer, &m_place, &m_scale, &m_count}) {
         *label = new QLabel(this);
         (*label)->setTextFormat(Qt::PlainText);
         (*label)->setIndent(fontMetrics().averageCharWidth());

@@ -12,7 +12,6 @@ namespace {
 constexpr double kElementsPerTile = 50;
 constexpr qsizetype kLongLine = 24; // points: longer lines are cut, so that each part has its own tile
 constexpr int kMostTilesPerSide = 64;
-constexpr double kPointArmMm = 0.6;          // a point is drawn as a cross
 constexpr double kLetterMm = 2.5;            // of texts that know neither size nor text type
 constexpr double kWidestLetter = 1.6;        // letter heights that one character can take
 
@@ -169,15 +168,8 @@ void SceneBuilder::addInParts(const QPolygonF &line, const BatchKey &key)
 
 void SceneBuilder::addPoint(QPointF at, BatchKey key)
 {
-    const double arm = kPointArmMm * m_resources.metresPerMm;
-    key.pass = Pass::Symbols;
-    const QRectF box(at - QPointF(arm, arm), at + QPointF(arm, arm));
-    QPainterPath cross;
-    cross.addPolygon(QPolygonF{at - QPointF(arm, 0), at + QPointF(arm, 0)});
-    cross.addPolygon(QPolygonF{at - QPointF(0, arm), at + QPointF(0, arm)});
-    Chunk &chunk = chunkFor(key, box);
-    addItem(chunk, {box, cross});
-    chunk.largest = std::numeric_limits<double>::infinity(); // points stay visible from any height
+    key.pass = Pass::Symbols, key.width = 0, key.lineType = -1;
+    chunkFor(key, QRectF(at, QSizeF(1e-6, 1e-6))).points.append(at);
 }
 
 QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)

@@ -10,6 +10,7 @@ namespace {
 
 constexpr double kLeastDash = 2;       // pixels: shorter dashes are drawn as a line through
 constexpr double kLeastSymbol = 2;     // pixels: smaller symbols are left out
+constexpr double kPointArm = 3;        // pixels of the crosses that points are
 constexpr double kLeastText = 2.6;     // pixels a capital must have
 constexpr double kHairline = 1.25;     // device pixels: thinner lines are drawn as one
 constexpr double kRoundness = 3;       // device pixels: from here on round joins can be told from cut ones
@@ -70,9 +71,21 @@ private:
         if (b.key.filled) setFill(colorOf(b.key.pen));
         else setStroke(colorOf(b.key.pen), b.key.width, Qt::RoundCap);
         const double least = b.key.pass == Pass::Symbols ? kLeastSymbol : 0;
-        for (const Chunk &c : b.chunks)
-            if (seen(c.box, b.key.width) && c.largest * m_view.pxPerMetre >= least)
-                paintItems(c, !b.key.filled && isHair(b.key.width));
+        for (const Chunk &c : b.chunks) {
+            if (!seen(c.box, b.key.width + kPointArm / m_view.pxPerMetre)) continue;
+            const bool large = c.largest * m_view.pxPerMetre >= least;
+            if (large) paintItems(c, !b.key.filled && isHair(b.key.width));
+            if (!c.points.isEmpty()) paintPoints(c.points);
+        }
+    }
+    void paintPoints(const QList<QPointF> &points)
+    {
+        const double arm = kPointArm / m_view.pxPerMetre;
+        QList<QLineF> crosses;
+        for (const QPointF &p : points)
+            crosses << QLineF(p.x() - arm, p.y(), p.x() + arm, p.y())
+                    << QLineF(p.x(), p.y() - arm, p.x(), p.y() + arm);
+        m_painter.drawLines(crosses);
     }
     void paintPatterned(const Batch &b, const ZolWDoc::tPenStyle &type)
     {

@@ -45,6 +45,7 @@ struct Chunk {
     QRectF box;
     QPainterPath path;                       ///< of all items, for thin lines: one call draws them all
     std::vector<Item> items;                 ///< for wide lines, which are dear: only what is seen is drawn
+    QList<QPointF> points;                   ///< drawn as crosses of one size on the screen
     double largest = 0;                      ///< extent of the largest element, metres
     std::vector<QPolygonF> lines;            ///< of line types with a pattern or symbols
     mutable std::unique_ptr<Pattern> pattern;///< cache; the geometry does not depend on the magnification

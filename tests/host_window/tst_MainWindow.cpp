@@ -1,3 +1,4 @@
+#include "import/DxfImport.h"
 #include "window/DialogCalls.h"
 #include "window/HostServices.h"
 #include "window/MainWindow.h"
@@ -146,6 +147,51 @@ private slots:
                                QStringLiteral("A(z) '") + path + QStringLiteral("' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
                                QVariant(), Icon::Exclamation}});
         QVERIFY(!m_window->files().openFile(path));
+        QCOMPARE(&doc(), before);
+    }
+
+    void importAsksForTheUnitAndTellsWhatCameOver()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("telek.dxf"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHATAR\n10\n650000.0\n20\n240000.0\n11\n650010.0\n21\n240000.0\n"
+                   "0\nENDSEC\n0\nEOF\n");
+        file.close();
+        ImportReport expected;
+        DxfImport::into(m_folder.filePath(QStringLiteral("same.qvd")), path, DxfImport::guessOf(path).options(), expected);
+        const QString title = QStringLiteral("DXF importálása"), note = DxfImport::guessOf(path).note;
+        const QString text = QStringLiteral("Milyen egységben vannak a(z) 'telek.dxf' fájl koordinátái?")
+                             + (note.isEmpty() ? QString() : u'\n' + note);
+        ScriptedPrompts user({{"choose", title, text, QVariant()},
+                              {"choose", title, text, 0},
+                              {"tell", title, expected.text(), QVariant(), Icon::Information},
+                              {"choose", QStringLiteral("Rajz mentése"),
+                               QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
+        QVERIFY(!m_window->files().importFile(path));
+        QCOMPARE(doc().elementCount(), 0);
+        QVERIFY(m_window->files().importFile(path)); // metres, the first unit
+        QCOMPARE(doc().elementCount(), 1);
+        QCOMPARE(last().vertices[1].x, 650010.0);
+        QVERIFY(m_window->files().newDrawing());     // an import is work: it asks
+    }
+
+    void aFileThatIsNoDxfIsToldAndTheDrawingStays()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("nem.dxf"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("semmi") > 0);
+        file.close();
+        QString why;
+        try {
+            DxfImport::guessOf(path);
+        } catch (const DocumentError &e) {
+            why = e.text();
+        }
+        QVERIFY(why.contains(path) || why.contains(QStringLiteral("nem.dxf")));
+        ScriptedPrompts user({{"tell", QStringLiteral("A művelet nem sikerült"), why, QVariant(), Icon::Exclamation}});
+        SqliteDoc *const before = &doc();
+        QVERIFY(!m_window->files().importFile(path));
         QCOMPARE(&doc(), before);
     }
 

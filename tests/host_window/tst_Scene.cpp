@@ -111,6 +111,12 @@ private slots:
         QVERIFY(scene.batches().front().chunks.front().pattern == nullptr);
     }
 
+    void pointsHaveOneSizeOnTheScreen()
+    {
+        const Scene scene = sceneOf({{.kind = ElementKind::Point, .layId = 1, .vertices = {{0, 0}}}});
+        for (double zoom : {0.01, 1.0, 300.0}) QCOMPARE(inked(imageOf(scene, {41, 41}, -scene.origin(), zoom), 20), 7);
+    }
+
     void largeCoordinatesKeepTheirHundredths()
     {
         const double e = 650000, n = 240000;

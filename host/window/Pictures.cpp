@@ -1,4 +1,4 @@
-#include "Pictures.h"
+#include "window/Pictures.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+namespace refhost {
+
 Pictures::Pictures(const QString &folder) : m_folder(folder)
 {
     QDir().mkpath(folder);
@@ -18,6 +20,8 @@ Pictures::Pictures(const QString &folder) : m_folder(folder)
 
 void Pictures::save(QWidget &window, const QString &name)
 {
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::LayoutRequest); // a window just shown is not laid out yet
     const QString path = m_folder + u'/' + name + QStringLiteral(".png");
     if (!window.grab().save(path)) {
         ++m_failures;
@@ -29,8 +33,7 @@ void Pictures::save(QWidget &window, const QString &name)
 bool Pictures::eventFilter(QObject *o, QEvent *e)
 {
     auto *const dialog = e->type() == QEvent::Show ? qobject_cast<QDialog *>(o) : nullptr;
-    const bool passes =
-        qobject_cast<QProgressDialog *>(o) != nullptr; // closes by itself; Cancel would break the work off
+    const bool passes = qobject_cast<QProgressDialog *>(o); // its Cancel would break the work off
     if (dialog && !passes) // after the events that lay it out and fill it
         QTimer::singleShot(0, dialog, [this, dialog] {
             save(*dialog,
@@ -39,3 +42,5 @@ bool Pictures::eventFilter(QObject *o, QEvent *e)
         });
     return false;
 }
+
+} // namespace refhost

@@ -3,13 +3,17 @@
 #include <QObject>
 #include <QString>
 
+class QWidget;
+
+namespace refhost {
+
 /// Saves a picture of every window that opens, and closes dialogs with Cancel: for looking at the program
 /// without a display. Lives as long as the program runs.
 class Pictures : public QObject {
     Q_OBJECT
 public:
     explicit Pictures(const QString &folder);       ///< created when it is not there
-    void save(class QWidget &window, const QString &name);
+    void save(QWidget &window, const QString &name);
     int failures() const { return m_failures; }     ///< pictures that could not be written
 protected:
     bool eventFilter(QObject *, QEvent *) override;
@@ -17,3 +21,5 @@ private:
     QString m_folder;
     int m_failures = 0;
 };
+
+} // namespace refhost
