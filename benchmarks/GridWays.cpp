@@ -27,13 +27,10 @@ namespace {
 
 constexpr int kName = 1, kVisible = 2, kLineType = 3, kColor = 4, kPrint = 5, kGroups = 7;
 constexpr QSize kDialog(900, 600);
+constexpr int kExposed = 50;                    ///< milliseconds in which a window gets on the screen
 
-/// What waits, as the event loop would do it: layouts and the picture on the screen.
-void finish()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::sendPostedEvents();
-}
+/// What waits, layout and picture, as the event loop would bring it next.
+void finish(QAbstractItemView &shown) { shown.viewport()->repaint(); }
 
 /// The user looks at the table before going on: what gets ready in the meantime does.
 void pause(int milliseconds)
@@ -52,11 +49,12 @@ struct OwnGrid {
         grid.setMultiSelection(true);
         grid.setAllowEdit(true);
         grid.show();
+        pause(kExposed);
     }
     void show()
     {
         grid.setSource(&rows);
-        finish();
+        finish(*grid.activeView());
     }
     void plain()
     {
@@ -73,17 +71,17 @@ struct OwnGrid {
         std::vector<SortKey> levels;
         for (int c : columns) levels.push_back({c});
         grid.setGroupLevels(levels);
-        finish();
+        finish(*grid.activeView());
     }
     void sort(std::initializer_list<SortKey> keys)
     {
         grid.setSortKeys(std::vector<SortKey>(keys));
-        finish();
+        finish(*grid.activeView());
     }
     void type(const QString &text)
     {
         grid.setFilterText(text);
-        finish();
+        finish(*grid.activeView());
     }
 };
 
@@ -106,9 +104,9 @@ void addSortSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
     steps["group.four"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kVisible, kLineType, kPrint, kGroups}); }), plain};
     const auto grouped = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}); });
     const auto closed = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
-    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(); }), grouped};
-    steps["collapse.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(); }), grouped};
-    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(); }), closed};
+    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(*o.grid.activeView()); }), grouped};
+    steps["collapse.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(*o.grid.activeView()); }), grouped};
+    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(*o.grid.activeView()); }), closed};
 }
 
 void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
@@ -120,19 +118,19 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
     steps["filter.clear"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.type({}); }),
                              on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"79"_qs); })};
     steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }), plain};
-    steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(); }), plain};
+    steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(*o.grid.activeView()); }), plain};
     steps["toggle"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                            QAbstractItemModel &model = *o.grid.table()->model();
                            const QModelIndex at = model.index(3, kVisible);
                            model.setData(at, at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-                           finish();
+                           finish(*o.grid.activeView());
                        }), plain};
     steps["page"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                          QScrollBar &bar = *o.grid.table()->verticalScrollBar();
                          bar.setValue(bar.value() + bar.pageStep());
-                         finish();
+                         finish(*o.grid.activeView());
                      })};
-    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(); }), plain};
+    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(*o.grid.activeView()); }), plain};
 }
 
 } // namespace
@@ -146,7 +144,7 @@ Steps ownGrid(int rows)
     for (int i = 0; i < 20; ++i) pause(50);             // the machine may be busy
     Steps steps;
     steps["open"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.show(); }),
-                     on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setSource(nullptr), finish(); })};
+                     on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setSource(nullptr), finish(*o.grid.activeView()); })};
     addSortSteps(steps, own);
     addOtherSteps(steps, own);
     return steps;
@@ -168,7 +166,7 @@ double megabytesOf(int rows)
         return double(info.uordblks + info.hblkhd) / 1e6;
     };
     OwnGrid own(0);
-    finish();
+    finish(*own.grid.activeView());
     const double empty = held();
     own.rows.all = GridRows(rows).all;
     own.show();
@@ -188,6 +186,7 @@ struct Widget {
     {
         table.resize(kDialog);
         table.show();
+        pause(kExposed);
     }
     void show()
     {
@@ -200,7 +199,7 @@ struct Widget {
                 if (c == kVisible) item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
                 table.setItem(r, c, item);
             }
-        finish();
+        finish(table);
     }
     void filter(const QString &text)
     {
@@ -209,13 +208,13 @@ struct Widget {
             for (int c = 0; c < GridRows::kColumns && !fits; ++c) fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
             table.setRowHidden(r, !fits);
         }
-        finish();
+        finish(table);
     }
     void sortTwo()
     {
         table.sortItems(kName, Qt::DescendingOrder);
         table.sortItems(kVisible);
-        finish();
+        finish(table);
     }
 };
 
@@ -228,22 +227,22 @@ Steps tableWidget(int rows)
     Steps steps;
     steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }), on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
     steps["sort.two"] = {on<Widget>(way, [](Widget &w) { w.sortTwo(); }),
-                         on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(); })};
+                         on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(w.table); })};
     steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }), on<Widget>(way, [](Widget &w) { w.filter({}); })};
     steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }), on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
     steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }), on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
     steps["find.miss"] = {on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
-    steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(); }),
+    steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(w.table); }),
                            on<Widget>(way, [](Widget &w) { w.filter({}), w.table.clearSelection(); })};
     steps["toggle"] = {on<Widget>(way, [](Widget &w) {
         QTableWidgetItem &item = *w.table.item(3, kVisible);
         item.setCheckState(item.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-        finish();
+        finish(w.table);
     })};
     steps["page"] = {on<Widget>(way, [](Widget &w) {
         QScrollBar &bar = *w.table.verticalScrollBar();
         bar.setValue(bar.value() + bar.pageStep());
-        finish();
+        finish(w.table);
     })};
     return steps;
 }
@@ -266,6 +265,7 @@ struct Stock {
         view.setSelectionMode(QAbstractItemView::ExtendedSelection);
         view.resize(kDialog);
         view.show();
+        pause(kExposed);
     }
     QList<QStandardItem *> items(int row) const
     {
@@ -280,7 +280,7 @@ struct Stock {
     {
         model.clear();
         for (int r = 0; r < rows.rowCount(); ++r) model.appendRow(items(r));
-        finish();
+        finish(view);
     }
     /// Below an item for each value, as far as there are levels.
     void group(std::initializer_list<int> columns)
@@ -299,18 +299,18 @@ struct Stock {
             parent->appendRow(items(r));
         }
         view.expandAll();
-        finish();
+        finish(view);
     }
     void sortTwo()
     {
         proxy.sort(kName, Qt::DescendingOrder);
         proxy.sort(kVisible, Qt::AscendingOrder);
-        finish();
+        finish(view);
     }
     void filter(const QString &text)
     {
         proxy.setFilterFixedString(text);
-        finish();
+        finish(view);
     }
 };
 
@@ -319,10 +319,10 @@ void addGroupSteps(Steps &steps, const std::shared_ptr<Stock> &way)
     const auto grouped = on<Stock>(way, [](Stock &s) { s.filter({}), s.group({kLineType}); });
     steps["group.one"] = {on<Stock>(way, [](Stock &s) { s.group({kLineType}); })};
     steps["group.four"] = {on<Stock>(way, [](Stock &s) { s.group({kVisible, kLineType, kPrint, kGroups}); })};
-    steps["collapse.band"] = {on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(); }), grouped};
-    steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(); }), grouped};
-    steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(); }),
-                           on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(); })};
+    steps["collapse.band"] = {on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
+    steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); }), grouped};
+    steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(s.view); }),
+                           on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); })};
 }
 
 } // namespace
@@ -337,7 +337,7 @@ Steps itemModelAndProxy(int rows)
         s.view.clearSelection();
         s.proxy.sort(kColor);
         if (s.model.rowCount() != s.rows.rowCount()) s.show();
-        finish();
+        finish(s.view);
     });
     steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }), on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
     steps["sort.two"] = {on<Stock>(way, [](Stock &s) { s.sortTwo(); }), flat};
@@ -345,16 +345,16 @@ Steps itemModelAndProxy(int rows)
     steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }), on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
     steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }), on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
     steps["find.miss"] = {on<Stock>(way, [](Stock &s) { keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName)); }), flat};
-    steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(); }), flat};
+    steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(s.view); }), flat};
     steps["toggle"] = {on<Stock>(way, [](Stock &s) {
                            QStandardItem &item = *s.model.item(3, kVisible);
                            item.setCheckState(item.checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-                           finish();
+                           finish(s.view);
                        }), flat};
     steps["page"] = {on<Stock>(way, [](Stock &s) {
                          QScrollBar &bar = *s.view.verticalScrollBar();
                          bar.setValue(bar.value() + bar.pageStep());
-                         finish();
+                         finish(s.view);
                      }), flat};
     addGroupSteps(steps, way);
     return steps;

@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace QV_DOC_CONTROLS {
 namespace {
 
@@ -29,18 +31,6 @@ QRect checkRect(const QStyleOptionViewItem &option)
     const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
                      style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
     return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
-}
-
-/// A line of text in the middle of the cell. By its baseline: laying a text out in a rectangle takes three times as long.
-void paintText(QPainter &painter, const QStyleOptionViewItem &option, const QString &text, bool right)
-{
-    const QFontMetrics &letters = option.fontMetrics;
-    const int gap = GridDelegate::padding(letters), room = option.rect.width() - 2 * gap;
-    const int baseline = option.rect.top() + (option.rect.height() - letters.height()) / 2 + letters.ascent();
-    const bool surelyFits = text.size() * letters.maxWidth() <= room && !right;
-    const int width = surelyFits ? 0 : letters.horizontalAdvance(text);
-    const int left = option.rect.left() + gap + (right ? std::max(0, room - width) : 0);
-    painter.drawText(QPoint(left, baseline), width <= room ? text : letters.elidedText(text, Qt::ElideRight, room));
 }
 
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette::ColorRole on)
@@ -93,9 +83,30 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
         paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
     } else {
         painter->setPen(textColor(option, style));
-        paintText(*painter, option, m_model.source()->text(row, c), kind == CellKind::Number || kind == CellKind::Color);
+        paintText(painter, option, m_model.source()->text(row, c), kind == CellKind::Number || kind == CellKind::Color);
     }
     if (option.state & QStyle::State_HasFocus) paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
+}
+
+/// A line of text in the middle of the cell. Finding the glyphs of a text is what painting a page takes longest for, so
+/// they are kept.
+void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const
+{
+    if (m_font != option.font) m_texts.clear(), m_font = option.font;
+    QStaticText *glyphs = m_texts.object(text);
+    if (!glyphs) {
+        glyphs = new QStaticText(text);
+        glyphs->setTextFormat(Qt::PlainText);
+        glyphs->prepare(painter->transform(), option.font);
+        m_texts.insert(text, glyphs);
+    }
+    const int gap = padding(option.fontMetrics), room = option.rect.width() - 2 * gap;
+    const int top = option.rect.top() + (option.rect.height() - option.fontMetrics.height()) / 2;
+    const int width = int(std::ceil(glyphs->size().width()));
+    const QPoint at(option.rect.left() + gap + (right ? std::max(0, room - width) : 0), top);
+    if (width <= room) painter->drawStaticText(at, *glyphs);
+    else painter->drawText(at + QPoint(0, option.fontMetrics.ascent()),
+                           option.fontMetrics.elidedText(text, Qt::ElideRight, room));
 }
 
 void GridDelegate::paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const

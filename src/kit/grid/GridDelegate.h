@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCache>
+#include <QStaticText>
 #include <QStyledItemDelegate>
 
 namespace QV_DOC_CONTROLS {
@@ -34,11 +36,14 @@ protected:
 
 private:
     QWidget *listEditor(QWidget *parent, int column) const;
+    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const;
     void paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const;
     void paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const;
     static QColor textColor(const QStyleOptionViewItem &option, const GridStyle &style);
     const GridModel &m_model;
     QSize m_pictureSize;
+    mutable QCache<QString, QStaticText> m_texts{2000}; ///< lately painted, in m_font
+    mutable QFont m_font;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -64,10 +64,10 @@ void GridTable::drawRow(QPainter *painter, const QStyleOptionViewItem &options, 
         cell.rect = QRect(left, options.rect.top(), width - 1, options.rect.height() - 1);
         cell.state.setFlag(QStyle::State_HasFocus, c == current);
         m_delegate.paint(painter, cell, index.siblingAtColumn(c));
-        painter->setPen(line);
-        painter->drawLine(cell.rect.topRight() + QPoint(1, 0), cell.rect.bottomRight() + QPoint(1, 1));
-        painter->drawLine(cell.rect.bottomLeft() + QPoint(0, 1), cell.rect.bottomRight() + QPoint(0, 1));
+        painter->fillRect(left + width - 1, options.rect.top(), 1, options.rect.height(), line);
     }
+    const int end = std::min(viewport()->width(), header()->length() - header()->offset());
+    painter->fillRect(0, options.rect.bottom(), end, 1, line);
 }
 
 void GridTable::paintEvent(QPaintEvent *event)
