@@ -1,6 +1,9 @@
 #include "window/BackgroundWork.h"
 
+#include "facade/services/Text.h"
+
 #include <QEventLoop>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QThread>
 #include <QTimer>
@@ -9,6 +12,10 @@
 #include <exception>
 
 namespace refhost {
+
+using QV_DOC_CONTROLS::Text;
+using QV_DOC_CONTROLS::txt;
+
 namespace {
 
 constexpr int kPatience = 500;          // milliseconds without a progress box
@@ -20,7 +27,10 @@ void waitWithBox(QWidget &window, const QString &caption, QThread &thread, std::
 {
     QProgressDialog box(&window);
     box.setWindowTitle(window.windowTitle());
-    box.setLabelText(caption);
+    auto *const label = new QLabel(caption, &box);
+    label->setTextFormat(Qt::PlainText);                // a file name may look like markup
+    box.setLabel(label);
+    box.setCancelButtonText(txt(Text{2801, u"Mégse"}));
     box.setRange(0, kFull);
     box.setAutoReset(false);
     box.setMinimumDuration(0);

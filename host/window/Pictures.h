@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 
@@ -19,6 +20,7 @@ protected:
     bool eventFilter(QObject *, QEvent *) override;
 private:
     QString m_folder;
+    QHash<QString, int> m_taken;                    ///< pictures of a name so far
     int m_failures = 0;
 };
 

@@ -59,6 +59,7 @@ RowStyles LayerTable::styles(const Record &l)
     RowStyles s;
     s.row = l.Visible ? QStringLiteral("OddRow")
                       : QStringLiteral("Grayed"); // "OddRow" marks visible rows, on purpose
+    // The pen colour cell is never empty here, so the colour cells always wear their pens' styles.
     s.cells.insert(kScrColor, colorStyleName(l.ScrColor));
     s.cells.insert(kPrnColor, colorStyleName(l.PrnColor));
     return s;

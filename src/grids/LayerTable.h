@@ -36,19 +36,22 @@ struct LayerTable {
     static constexpr Column<Record, Names> columns[] = {
         layerField<&Record::gNr>("gNr", {3308, u"Ssz:"})
             .with({3411, u"Sorszám"})
+            .within(1, 32767)
             .unique({Icon::Information, {3300, u"Rétegsorszám"}, {3418, u"Létező rétegsorszám !"}}),
         layerField<&Record::Name>("Name", {3299, u"Rétegnév"})
+            .filled()
             .unique({Icon::Information, {3299, u"Rétegnév"}, {3417, u"Létező rétegnév !"}}),
         layerField<&Record::Visible>("Visible", {3307, u"Látható"}).with({3306, u"Láthatóság"}).editable(),
         layerField<&Record::PenStyleId>("PenSyleId", {3305, u"Vonaltípus"}) // published spelling
             .named(&lineTypeName, &lineTypeChoices)
             .editable(),
-        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().editable(),
+        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().within(0, 255).editable(),
         layerField<&Record::PrnColor>("PrnColor", {3414, u"Nyomtatási szín"})
             .with({3413, u"Nyomtató szín"})
             .color()
+            .within(0, 255)
             .editable(),
-        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).editable(),
+        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).within(0, 255).editable(),
         layerField<&Record::TxdId>("TxdId", {15, u"Felirattípus"})
             .named(&textTypeName, &textTypeChoices)
             .editable(),

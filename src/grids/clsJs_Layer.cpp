@@ -35,6 +35,7 @@ void clsJs_Layer::TearDown()
     m_groupRows.setGroups({});
     m_members.clear(), m_inGroup.clear();
     m_group = GroupRows::kAll;
+    m_current = m_previous = -1;
     TableManager::TearDown();
 }
 
@@ -80,6 +81,7 @@ void clsJs_Layer::setbShowVisibleItems(bool on)
 
 void clsJs_Layer::setCurrentLayer(qint16 layId)
 {
+    if (!document()) return;
     if (layId != m_current) m_previous = std::exchange(m_current, layId);
     if (m_automatic) selectById(layId);
 }

@@ -55,6 +55,9 @@ private slots:
                                       << "Létező rétegsorszám !" << same;
         QTest::newRow("no number") << QByteArray("gNr") << QVariant("tíz") << "" << "" << same;
         QTest::newRow("no whole number") << QByteArray("gNr") << QVariant("2.5") << "" << "" << same;
+        QTest::newRow("no layer number") << QByteArray("gNr") << QVariant("0") << "" << "" << same;
+        QTest::newRow("empty name") << QByteArray("Name") << QVariant("  ") << "" << "" << same;
+        QTest::newRow("no such pen") << QByteArray("ScrColor") << QVariant("256") << "" << "" << same;
         QTest::newRow("beyond 16 bits") << QByteArray("gNr") << QVariant("32768") << "" << "" << same;
     }
     void editsAreCheckedThenWritten()
@@ -157,6 +160,21 @@ private slots:
         QCOMPARE(shown(), QStringLiteral("A B C"));
         js.setbShowVisibleItems(true);
         QCOMPARE(shown(), QStringLiteral("A C"));
+    }
+
+    void aLayerThatItsGroupLeavesOutIsNotReplaced()
+    {
+        Grid grid, groups;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, &groups, true);
+        js.selectById(layer(3).LayId);
+        std::vector<int> counts;
+        connect(&js, &clsJs_Layer::SelectedChanched, this, [&](qint32 &count) { counts.push_back(count); });
+        groups.setCurrentRow(2);                        // "Utak": even numbers
+        QVERIFY(js.selectedLayers().empty() && !js.currentRecord());
+        groups.setCurrentRow(0);
+        QCOMPARE(js.selectedLayers(), tLayArr{layer(3)});
+        QCOMPARE(counts, (std::vector<int>{0, 1}));
     }
 
     void aRefillKeepsCurrentRowAndSelectionWithTheirLayers()

@@ -60,7 +60,7 @@ bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
     connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
     connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
     jsLayer->init(oDoc, *m_page->gridItems, m_page->gridGroups, true);
-    jsLayer->selectById(lay.LayId);
+    if (jsLayer->selectById(lay.LayId)) jsLayer->setCurrentLayer(lay.LayId);
     const bool ok = run();
     TearDown();
     if (!ok) return false;

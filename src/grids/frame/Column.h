@@ -4,6 +4,7 @@
 #include "facade/services/Text.h"
 #include "kit/grid/GridSource.h"
 
+#include <limits>
 #include <type_traits>
 
 namespace QV_DOC_CONTROLS {
@@ -28,6 +29,16 @@ template <class Rec, class Names> struct Column {
     std::optional<Refusal> taken{};                     ///< set: shown when another row has the value
     std::vector<GridChoice> (*choices)(const Names &) = nullptr;
 
+    int least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max(); ///< of a number
+    bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
+
+    constexpr Column within(int from, int to) const { auto c = *this; c.least = from, c.most = to; return c; }
+    constexpr Column filled() const { auto c = *this; c.proper = [](const QVariant &v) { return !v.toString().trimmed().isEmpty(); }; return c; }
+    bool takes(const QVariant &value) const
+    {
+        if (proper && !proper(value)) return false;
+        return kind == CellKind::Text || kind == CellKind::Check || (value.toInt() >= least && value.toInt() <= most);
+    }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }

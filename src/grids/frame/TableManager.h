@@ -29,6 +29,7 @@ public:
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         m_all.clear(), m_shown.clear();
+        m_leftOut.reset();
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
@@ -48,10 +49,12 @@ public:
         if (!m_doc) return;
         auto all = Table::role(*m_doc).readAll();
         auto names = Table::namesOf(*m_doc);
+        const auto before = selectedIds();
         m_grid->refill([&] {
             m_all = std::move(all), m_names = std::move(names);
             showWhatFits();
         });
+        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
         raiseCurrentRow();
     }
     /// Makes the record with this identifier the grid's current row; false when it is not shown.
@@ -101,10 +104,17 @@ protected:
     ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
+    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more; it is
+    /// current again when it is listed again and no other one was chosen meanwhile.
     void showAgain()
     {
-        if (m_grid) m_grid->refill([this] { showWhatFits(); });
-    } ///< fits() answers otherwise now
+        if (!m_grid) return;
+        const auto before = selectedIds();
+        if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
+        m_grid->refill([this] { showWhatFits(); }, Grid::Gone::Nothing);
+        if (!currentRecord() && m_leftOut) selectById(*m_leftOut); // raises what changes
+        else if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+    }
 
     // --- the grid's view of the records
     const std::vector<GridColumn> &columns() const override { return m_columns; }
@@ -133,6 +143,12 @@ private:
         for (int i = 0; i < int(m_all.size()); ++i)
             if (fits(m_all[size_t(i)])) m_shown.push_back(i);
     }
+    std::vector<qint16> selectedIds() const
+    {
+        std::vector<qint16> ids;
+        for (const Record &r : selected()) ids.push_back(Table::id(r));
+        return ids;
+    }
     void readCaptions()
     {
         m_columns.clear();
@@ -150,7 +166,7 @@ private:
     {
         const auto &column = Table::columns[c];
         Record edited = recordAt(row);
-        if (!m_doc || !column.put(edited, value)) return false;
+        if (!m_doc || !column.put(edited, value) || !column.takes(column.get(edited))) return false;
         const QVariant now = column.get(edited);
         if (now == column.get(recordAt(row))) return false;
         const auto has = [&](const Record &r) {
@@ -171,6 +187,7 @@ private:
     std::vector<Record> m_all;
     std::vector<int> m_shown;                           ///< rows of the grid as indexes into m_all
     typename Table::Names m_names;
+    std::optional<qint16> m_leftOut;                    ///< the record last current that fits() left out
     std::vector<GridColumn> m_columns;
 };
 

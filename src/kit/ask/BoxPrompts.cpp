@@ -89,6 +89,8 @@ QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode m
             QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
         if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Question, q.title, question}, asker))
             return path;
+        const QWidget *const owner = windowOf(asker);
+        if (owner && !owner->isVisible()) break; // closed meanwhile, because of an error
     }
     return {};
 }

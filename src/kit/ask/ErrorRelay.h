@@ -32,6 +32,7 @@ public:
         } catch (const Stopped &) { // the error is already kept
         } catch (...) {
             keep(std::current_exception());
+            return false;
         }
         return !failed();
     }
