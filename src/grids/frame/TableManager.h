@@ -112,8 +112,8 @@ protected:
         const auto before = selectedIds();
         if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
         m_grid->refill([this] { showWhatFits(); }, Grid::Gone::Nothing);
-        if (!currentRecord() && m_leftOut) selectById(*m_leftOut); // raises what changes
-        else if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        const bool isBack = !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
+        if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
     }
 
     // --- the grid's view of the records
