@@ -21,7 +21,10 @@ struct Affine {
     Vec2 vector(Vec2 v) const { return x * v.x + y * v.y; }
     Vec2 point(Vec2 p) const { return vector(p) + origin; }
     double determinant() const { return cross(x, y); }
-    bool identity() const { return x.x == 1 && x.y == 0 && y.x == 0 && y.y == 1 && origin.x == 0 && origin.y == 0; }
+    bool identity() const
+    {
+        return x.x == 1 && x.y == 0 && y.x == 0 && y.y == 1 && origin.x == 0 && origin.y == 0;
+    }
     /// Keeps angles (mirrored or not), within what drawings hold of their factors.
     bool similar() const
     {
@@ -42,8 +45,8 @@ inline Affine turned(double radians)
     return {{c, s}, {-s, c}, {}};
 }
 
-/// The plane of an object's own coordinate system, looked at from above: its normal decides the axes by the arbitrary
-/// axis rule, its elevation shifts tilted planes.
+/// The plane of an object's own coordinate system, looked at from above: its normal decides the axes by the
+/// arbitrary axis rule, its elevation shifts tilted planes.
 Affine planeOf(double nx, double ny, double nz, double elevation);
 
 } // namespace refhost

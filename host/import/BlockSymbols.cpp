@@ -47,7 +47,8 @@ struct BlockSymbols::Collecting {
         const Pen pen = all.penOf(e, around);
         if (symbol.pens.size() < kMostPens && std::ranges::find(symbol.pens, pen) == symbol.pens.end())
             symbol.pens.push_back(pen);
-        if (symbol.pens.size() == kMostPens || e.shape.kind == ElementKind::Text || e.shape.kind == ElementKind::Fill)
+        if (symbol.pens.size() == kMostPens || e.shape.kind == ElementKind::Text
+            || e.shape.kind == ElementKind::Fill)
             symbol.complete = false;
         for (auto &stroke : strokesOf(mapped(e.shape, map))) {
             for (Vec2 p : stroke) {
@@ -65,19 +66,23 @@ BlockSymbols::BlockSymbols(const Drawing &drawing) : m_drawing(drawing), m_symbo
     for (size_t i = 0; i < drawing.layers.size(); ++i)
         if (drawing.layers[i].name == u"0") m_layer0 = int(i);
     for (size_t i = 0; i < m_symbols.size(); ++i)
-        if (!drawing.blocks[i].anonymous) Collecting{*this, drawing, m_symbols[i], {}}.walk(int(i), {}, Pen{});
+        if (!drawing.blocks[i].anonymous)
+            Collecting{*this, drawing, m_symbols[i], {}}.walk(int(i), {}, Pen{});
 }
 
 Pen BlockSymbols::penOf(const DxfEntity &e, const Pen &around) const
 {
-    Pen pen{e.layer == m_layer0 && around != kTopPen ? around.layer : e.layer, e.color, e.lineType, e.lineTypeScale};
+    Pen pen{e.layer == m_layer0 && around != kTopPen ? around.layer : e.layer, e.color, e.lineType,
+            e.lineTypeScale};
     // What follows its insert follows the insert's layer, even when it stands on another one itself.
     const bool otherLayer = pen.layer != around.layer && around.layer >= 0;
     if (pen.color == kByBlock)
-        pen.color = otherLayer && around.color == kByLayer ? m_drawing.layers[size_t(around.layer)].color : around.color;
+        pen.color = otherLayer && around.color == kByLayer ? m_drawing.layers[size_t(around.layer)].color
+                                                           : around.color;
     if (pen.lineType == kLineByBlock) {
-        pen.lineType = otherLayer && around.lineType == kLineByLayer ? m_drawing.layers[size_t(around.layer)].lineType
-                                                                      : around.lineType;
+        pen.lineType = otherLayer && around.lineType == kLineByLayer
+                           ? m_drawing.layers[size_t(around.layer)].lineType
+                           : around.lineType;
         pen.lineTypeScale *= around.lineTypeScale;
     }
     return pen;
@@ -90,7 +95,8 @@ int BlockSymbols::effectiveColor(const Pen &p) const
 
 int BlockSymbols::effectiveLineType(const Pen &p) const
 {
-    const int type = p.lineType == kLineByLayer && p.layer >= 0 ? m_drawing.layers[size_t(p.layer)].lineType : p.lineType;
+    const int type = p.lineType == kLineByLayer && p.layer >= 0 ? m_drawing.layers[size_t(p.layer)].lineType
+                                                                : p.lineType;
     return std::max(type, 0);
 }
 

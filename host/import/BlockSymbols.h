@@ -18,7 +18,7 @@ constexpr Pen kTopPen{-1, 7, 0, 1};             ///< for what follows an insert 
 
 /// What a block shows as one character.
 struct BlockSymbol {
-    std::vector<std::vector<Vec2>> strokes;     ///< from the base point, in drawing units; fills by their outlines
+    std::vector<std::vector<Vec2>> strokes;     ///< from the base point, in drawing units; of fills the outlines
     std::vector<Pen> pens;                      ///< all that it is drawn with
     bool complete = true;                       ///< strokes show all of it: no texts, no fills
     bool endless = false;                       ///< contains itself
@@ -33,7 +33,8 @@ public:
     const BlockSymbol &of(int block) const { return m_symbols[size_t(block)]; }
     Pen penOf(const DxfEntity &, const Pen &around) const;
 
-    /// The one pen that shows all of the symbol when `insert` is the pen of its insert; false when there is no such.
+    /// The one pen that shows all of the symbol when `insert` is the pen of its insert. False: there is
+    /// none.
     bool onePen(int block, const Pen &insert, Pen &pen) const;
     bool drawnInDashes(const Pen &) const;
     int effectiveColor(const Pen &) const;

@@ -10,7 +10,10 @@ constexpr double kPi = std::numbers::pi;
 constexpr double kTurn = 2 * kPi;
 constexpr double kDegree = kPi / 180;
 
-int stepsFor(double sweep) { return std::max(1, int(std::ceil(std::abs(sweep) / (2 * std::acos(1 - kChord))))); }
+int stepsFor(double sweep)
+{
+    return std::max(1, int(std::ceil(std::abs(sweep) / (2 * std::acos(1 - kChord)))));
+}
 
 /// Anticlockwise sweep from `from` to `to`; a whole turn where they are the same.
 double sweepOf(double from, double to)
@@ -55,7 +58,7 @@ struct Halving {
     }
 };
 
-/// A smooth line through points (centripetal would be finer; drawings give these only without control points).
+/// A smooth line through points; drawings give these alone only where there are no control points.
 std::vector<Vec2> throughPoints(const std::vector<Vec2> &p)
 {
     std::vector<Vec2> out;
@@ -94,7 +97,8 @@ std::vector<Vertex> arcVertices(Vec2 c, double r, double from, double to)
     std::vector<Vertex> out;
     for (int i = 0; i <= pieces; ++i) {
         const double a = from + sweep * i / pieces;
-        out.push_back({c.x + r * std::cos(a), c.y + r * std::sin(a), i < pieces ? std::tan(sweep / pieces / 4) : 0});
+        out.push_back(
+            {c.x + r * std::cos(a), c.y + r * std::sin(a), i < pieces ? std::tan(sweep / pieces / 4) : 0});
     }
     return out;
 }
@@ -172,7 +176,8 @@ std::vector<Vec2> Spline::flattened() const
     if (!sound()) return throughPoints(fit.empty() ? control : fit);
     Vec2 low = control.front(), high = low;
     for (Vec2 p : control)
-        low = {std::min(low.x, p.x), std::min(low.y, p.y)}, high = {std::max(high.x, p.x), std::max(high.y, p.y)};
+        low = {std::min(low.x, p.x), std::min(low.y, p.y)},
+        high = {std::max(high.x, p.x), std::max(high.y, p.y)};
     std::vector<Vec2> out{onSpline(*this, size_t(degree), knots[size_t(degree)])};
     for (size_t span = size_t(degree); span < control.size(); ++span) {
         const double t0 = knots[span], t1 = knots[span + 1];
@@ -233,8 +238,8 @@ void mapLine(Element &e, const Affine &map)
 
 bool wholeCircle(const Element &e)
 {
-    return e.kind == ElementKind::Line && e.closed && e.vertices.size() == 2 && std::abs(e.vertices[0].bulge) == 1
-           && e.vertices[0].bulge == e.vertices[1].bulge;
+    return e.kind == ElementKind::Line && e.closed && e.vertices.size() == 2
+           && std::abs(e.vertices[0].bulge) == 1 && e.vertices[0].bulge == e.vertices[1].bulge;
 }
 
 } // namespace
@@ -248,7 +253,8 @@ Element mapped(const Element &shape, const Affine &map)
         e = EllipseArc{map.point(a + u), map.vector(u), map.vector({-u.y, u.x})}.element();
     } else if (e.kind == ElementKind::Ellipse) {
         const EllipseArc arc = ellipseOf(e);
-        e = EllipseArc{map.point(arc.centre), map.vector(arc.u), map.vector(arc.v), arc.from, arc.to}.element();
+        e = EllipseArc{map.point(arc.centre), map.vector(arc.u), map.vector(arc.v), arc.from, arc.to}
+                .element();
     } else {
         if (e.kind == ElementKind::Text) mapText(e, map);
         if (e.kind == ElementKind::Symbol) mapSymbol(e, map);
@@ -271,7 +277,8 @@ std::vector<std::vector<Vec2>> strokesOf(const Element &e)
         std::vector<std::vector<Vec2>> all;
         const std::vector<int> begins = e.rings.empty() ? std::vector<int>{0} : e.rings;
         for (size_t i = 0; i < begins.size(); ++i) {
-            const size_t from = size_t(begins[i]), to = i + 1 < begins.size() ? size_t(begins[i + 1]) : e.vertices.size();
+            const size_t from = size_t(begins[i]),
+                         to = i + 1 < begins.size() ? size_t(begins[i + 1]) : e.vertices.size();
             auto ring = flattened(std::span(e.vertices).subspan(from, to - from), true);
             if (!ring.empty()) ring.push_back(ring.front());
             all.push_back(std::move(ring));

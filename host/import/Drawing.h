@@ -24,7 +24,7 @@ struct DxfLayer {
 };
 struct DxfLineType {
     QString name;
-    std::vector<double> dashes; ///< as in the file: > 0 dash, < 0 gap, 0 dot; drawing units at line type scale 1
+    std::vector<double> dashes; ///< as in the file: > 0 dash, < 0 gap, 0 dot; drawing units at scale 1
     bool complex = false;       ///< has texts or shapes in it
 };
 struct DxfTextStyle {
@@ -72,8 +72,8 @@ struct KindTally {
 
 /// Where the document says it less exactly than the file; the number is the index of a text.
 enum class Loss {
-    TrueColors, LineTypeTexts, LineTypePhases, Splines, HatchPatterns, Widths, MixedTexts, MirroredTexts, TiltedPlanes,
-    ShapeFonts, Depths, Count
+    TrueColors, LineTypeTexts, LineTypePhases, Splines, HatchPatterns, Widths, MixedTexts, MirroredTexts,
+    TiltedPlanes, ShapeFonts, Depths, Gradients, Count
 };
 
 struct Drawing {
@@ -83,11 +83,11 @@ struct Drawing {
     int charSet = 0;            ///< character set number of the file's code page
     std::vector<DxfLayer> layers;
     std::vector<DxfLineType> lineTypes;     ///< [0] is continuous
-    std::vector<DxfTextStyle> textStyles;   ///< those of the file first, then the variants that its texts need
+    std::vector<DxfTextStyle> textStyles;  ///< those of the file first, then the variants that its texts need
     int fileStyles = 0;                     ///< how many of them are the file's
     std::vector<DxfBlock> blocks;
     std::vector<DxfEntity> model;
-    std::vector<KindTally> kinds;           ///< total, paper, invisible, empty; the rest is known when written
+    std::vector<KindTally> kinds;          ///< total, paper, invisible, empty; the rest is known when written
     int losses[int(Loss::Count)] = {};
     Vec2 low, high;                         ///< extent of the model; low > high when empty
 };

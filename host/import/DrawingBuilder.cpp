@@ -38,7 +38,9 @@ DrawingBuilder::DrawingBuilder(const DxfScan &scan)
     m_lineTypes.insert(QStringLiteral("continuous"), 0);
     for (const auto &[kind, count] : scan.kinds()) {
         m_kinds[kind] = int(m_drawing.kinds.size());
-        m_drawing.kinds.push_back({.kind = QString::fromStdString(kind), .total = count.total, .paper = count.paper,
+        m_drawing.kinds.push_back({.kind = QString::fromStdString(kind),
+                                   .total = count.total,
+                                   .paper = count.paper,
                                    .invisible = count.invisible});
     }
 }
@@ -70,8 +72,8 @@ int DrawingBuilder::colorOf(int color, int rgb)
 void DrawingBuilder::addLayer(const QString &name, const EntityHead &head, int flags)
 {
     const int color = colorOf(head.color, head.trueColor);
-    const DxfLayer layer{name, color == kByBlock || color == kByLayer ? 7 : color, lineTypeOf(text(head.lineType)),
-                         head.color >= 0 && !(flags & 1)};
+    const DxfLayer layer{name, color == kByBlock || color == kByLayer ? 7 : color,
+                         lineTypeOf(text(head.lineType)), head.color >= 0 && !(flags & 1)};
     const int at = layerOf(name);
     m_drawing.layers[size_t(at)] = layer;
 }
@@ -161,7 +163,8 @@ int DrawingBuilder::variantOf(int style, const PlainText &plain, double widthFac
     if (asIs) return style;
     DxfTextStyle wanted = m_drawing.textStyles[size_t(style)];
     const QString base = wanted.name;
-    if (!plain.face.isEmpty()) wanted.face = plain.face, wanted.bold = plain.bold, wanted.italic = plain.italic;
+    if (!plain.face.isEmpty())
+        wanted.face = plain.face, wanted.bold = plain.bold, wanted.italic = plain.italic;
     if (plain.underline) wanted.underline = true;
     if (widthFactor > 0) wanted.widthFactor = std::round(widthFactor * 100) / 100;
     if (italic) wanted.italic = true;
@@ -170,7 +173,8 @@ int DrawingBuilder::variantOf(int style, const PlainText &plain, double widthFac
         wanted.name = m_drawing.textStyles[i].name;
         if (m_variantOf[i] == style && m_drawing.textStyles[i] == wanted) return int(i);
     }
-    for (int n = 2; wanted.name = base + u' ' + QString::number(n), m_styles.contains(folded(wanted.name));) ++n;
+    for (int n = 2; wanted.name = base + u' ' + QString::number(n), m_styles.contains(folded(wanted.name));)
+        ++n;
     const int fileStyles = m_drawing.fileStyles;
     addTextStyle(std::move(wanted));
     m_variantOf.back() = style;

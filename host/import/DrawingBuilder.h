@@ -36,14 +36,15 @@ public:
     int variantOf(int style, const PlainText &, double widthFactor, bool italic);
     const DxfTextStyle &style(int index) const { return m_drawing.textStyles[size_t(index)]; }
 
-    /// False when the object is left out: in paper space or invisible. Must be asked before anything is added for it.
+    /// False when the object is left out: in paper space or invisible. Must be asked before anything is added
+    /// for it.
     bool open(const EntityHead &);
     void hide(const EntityHead &);              ///< an object that its own flags make invisible
     void add(Element shape, int textStyle = 0);
     void insert(const QString &block, const Affine &place);
     void close();                               ///< counts the object as empty when nothing was added
     void note(Loss loss) { ++m_drawing.losses[int(loss)]; }
-    void setColor(int color) { m_colorOverride = color; }   ///< of what is added to the open object from now on
+    void setColor(int color) { m_colorOverride = color; } ///< of what is added to the open object from now on
 
     Drawing finished();
 

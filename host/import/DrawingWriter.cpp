@@ -13,7 +13,7 @@ namespace refhost {
 namespace {
 
 constexpr size_t kAtOnce = 4000;
-constexpr float kThickness = 0.18f;             // of line types, millimetres; files give weights to objects, not to types
+constexpr float kThickness = 0.18f; // of line types, millimetres; files give weights to objects, not to types
 constexpr int kLastCode = 0xFFFF;
 
 void check(const DxfImport::Progress &progress, double done)
@@ -51,7 +51,9 @@ void DrawingWriter::writeLineTypes()
     std::vector<tPenStyle> rows;
     for (const DxfLineType &type : m_drawing.lineTypes) {
         bool shifted = false;
-        tPenStyle row{.PenStyleNr = qint16(rows.size() + 1), .Name = m_lineTypeNames.unique(type.name), .Size = kThickness};
+        tPenStyle row{.PenStyleNr = qint16(rows.size() + 1),
+                      .Name = m_lineTypeNames.unique(type.name),
+                      .Size = kThickness};
         row.Pattern = patternOf(type.dashes, m_paper.mmPerUnit * m_drawing.lineTypeScale, shifted);
         if (shifted) ++m_losses[int(Loss::LineTypePhases)];
         rows.push_back(std::move(row));
@@ -89,9 +91,14 @@ void DrawingWriter::writeLayers()
     FreeNames names(255);
     for (const DxfLayer &layer : m_drawing.layers) {
         const qint16 pen = qint16(layer.color);
-        rows.push_back({.gNr = qint16(rows.size() + 1), .Name = names.unique(layer.name), .Visible = layer.visible,
-                        .PenStyleId = m_lineTypes[size_t(std::max(layer.lineType, 0))], .ScrColor = pen, .PrnColor = pen,
-                        .PenColorId = pen, .TxdId = m_textTypes.front()});
+        rows.push_back({.gNr = qint16(rows.size() + 1),
+                        .Name = names.unique(layer.name),
+                        .Visible = layer.visible,
+                        .PenStyleId = m_lineTypes[size_t(std::max(layer.lineType, 0))],
+                        .ScrColor = pen,
+                        .PrnColor = pen,
+                        .PenColorId = pen,
+                        .TxdId = m_textTypes.front()});
     }
     rows.front().LayId = m_doc.layers().readAll().front().LayId;
     m_doc.layers().update(rows.front());
@@ -153,9 +160,10 @@ qint16 DrawingWriter::lineTypeId(int type, double scale)
     const auto [at, fresh] = m_scaledTypes.try_emplace({type, scale}, qint16(-1));
     if (!fresh) return at->second;
     bool shifted = false;
-    tPenStyle row{.PenStyleNr = qint16(m_drawing.lineTypes.size() + m_scaledTypes.size()),
-                  .Name = m_lineTypeNames.unique(base.name + QStringLiteral(" \u00D7") + QString::number(scale)),
-                  .Size = kThickness};
+    tPenStyle row{
+        .PenStyleNr = qint16(m_drawing.lineTypes.size() + m_scaledTypes.size()),
+        .Name = m_lineTypeNames.unique(base.name + QStringLiteral(" \u00D7") + QString::number(scale)),
+        .Size = kThickness};
     row.Pattern = patternOf(base.dashes, m_paper.mmPerUnit * m_drawing.lineTypeScale * scale, shifted);
     return at->second = m_doc.lineTypes().add(row);
 }

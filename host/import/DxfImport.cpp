@@ -37,8 +37,9 @@ ImportReport DxfImport::write(const Drawing &drawing, SqliteDoc &doc, const Impo
     return writer.report();
 }
 
-std::unique_ptr<SqliteDoc> DxfImport::into(const QString &target, const QString &path, const ImportOptions &options,
-                                           ImportReport &report, const Progress &progress)
+std::unique_ptr<SqliteDoc> DxfImport::into(const QString &target, const QString &path,
+                                           const ImportOptions &options, ImportReport &report,
+                                           const Progress &progress)
 {
     const Drawing drawing = parse(path, between(0, 0.5, progress));
     auto doc = SqliteDoc::create(target);

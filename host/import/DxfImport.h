@@ -53,20 +53,21 @@ struct ImportReport {
         bool operator==(const Row &) const = default;
     };
     std::vector<Row> notCarried;                ///< kinds with no counterpart, the most frequent first
-    std::vector<Row> notes;                     ///< what the document says less exactly, and what was left out
+    std::vector<Row> notes;                    ///< what the document says less exactly, and what was left out
     int paperSpace = 0;
     int elementCount() const;
     QString text() const;                       ///< the whole report for a message, in the current language
 };
 
-/// Imports DXF drawings. First everything is read, then a document is written: a file that cannot be read changes nothing.
+/// Imports DXF drawings. First everything is read, then a document is written: a file that cannot be read
+/// changes nothing.
 class DxfImport {
 public:
     /// Told how far it is, 0..1; answers false to break off, which throws ImportCancelled.
     using Progress = std::function<bool(double done)>;
 
-    static ImportGuess guessOf(const QString &path);                        ///< throws DocumentError like parse
-    static Drawing parse(const QString &path, const Progress & = {});       ///< DocumentError: one message with a remedy
+    static ImportGuess guessOf(const QString &path);                      ///< throws DocumentError like parse
+    static Drawing parse(const QString &path, const Progress & = {}); ///< DocumentError: one message with a remedy
     /// Into a document as it was created; one command. When it throws, the document is of no use: see into().
     static ImportReport write(const Drawing &, SqliteDoc &, const ImportOptions &, const Progress & = {});
     /// A new document at `target` from the file; when it throws, there is no such document.
@@ -74,6 +75,6 @@ public:
                                            ImportReport &, const Progress & = {});
 };
 
-QString kindText(const QString &kind);          ///< what surveyors call a kind of object, in the current language
+QString kindText(const QString &kind);      ///< what surveyors call a kind of object, in the current language
 
 } // namespace refhost

@@ -61,7 +61,8 @@ void DxfObjects::polyline(const PolylineFacts &p)
     if (mesh || faces) {
         Mesh grid{.m = p.m, .n = p.n, .closedM = (p.flags & 1) != 0, .closedN = (p.flags & 32) != 0};
         for (const PolylineVertex &v : p.vertices) {
-            if ((v.flags & 192) == 128) grid.faces.emplace_back(std::begin(v.face), std::find(v.face, v.face + 4, 0));
+            if ((v.flags & 192) == 128)
+                grid.faces.emplace_back(std::begin(v.face), std::find(v.face, v.face + 4, 0));
             else grid.vertices.push_back({v.x, v.y});
         }
         return addAll(grid.edges());
@@ -69,7 +70,8 @@ void DxfObjects::polyline(const PolylineFacts &p)
     Element e;
     e.closed = p.flags & 1;
     // Of a smoothed line only its result is drawn, not the frame that was smoothed.
-    const bool smoothed = std::ranges::any_of(p.vertices, [](const PolylineVertex &v) { return v.flags & 8; });
+    const bool smoothed = std::ranges::any_of(p.vertices,
+                                              [](const PolylineVertex &v) { return v.flags & 8; });
     for (const PolylineVertex &v : p.vertices)
         if (!smoothed || !(v.flags & 16)) e.vertices.push_back(vertexAt({v.x, v.y}, spatial ? 0 : v.bulge));
     if (e.vertices.empty()) return;
@@ -87,7 +89,8 @@ void DxfObjects::spline(const Spline &s)
     std::vector<Vec2> points = s.flattened();
     if (points.size() < 2) return;
     m_builder.note(Loss::Splines);
-    const bool meets = s.closed && length(points.front() - points.back()) < 1e-9 * (1 + length(points.front()));
+    const bool meets = s.closed
+                       && length(points.front() - points.back()) < 1e-9 * (1 + length(points.front()));
     if (meets) points.pop_back();
     m_builder.add(line(std::move(points), s.closed));
 }
@@ -108,7 +111,8 @@ void DxfObjects::face(const Vec3 (&c)[4], int hiddenEdges)
         if (!(hiddenEdges >> i & 1)) m_builder.add(line({points[i], points[(i + 1) % points.size()]}));
 }
 
-void DxfObjects::insert(const QString &block, Vec3 at, Vec2 scale, double angle, int columns, int rows, Vec2 spacing)
+void DxfObjects::insert(const QString &block, Vec3 at, Vec2 scale, double angle, int columns, int rows,
+                        Vec2 spacing)
 {
     const Affine foot = plane(at.z) * shifted(at.flat()) * turned(angle);
     columns = std::max(columns, 1), rows = std::max(rows, 1);
@@ -154,7 +158,8 @@ void DxfObjects::text(const RowText &t)
     const Affine turnedOver = t.generation & 4 ? scaled(1, -1) : Affine();
     const Affine written = t.generation & 2 ? scaled(-1, 1) : Affine();
     if (on.determinant() < 0 || (t.generation & 6)) m_builder.note(Loss::MirroredTexts);
-    const Affine own = shifted(at) * turned(angle) * written * turnedOver * turned(-angle) * shifted(Vec2{} - at);
+    const Affine own = shifted(at) * turned(angle) * written * turnedOver * turned(-angle)
+                       * shifted(Vec2{} - at);
     addOn(on * own, std::move(e), style);
 }
 
@@ -186,6 +191,7 @@ void DxfObjects::hatch(const DxfPairs &pairs)
     bool simplified = false;
     std::vector<Element> shapes = hatchShapes(h, kMostHatchLines, simplified);
     if (simplified) m_builder.note(Loss::HatchPatterns);
+    if (h.gradient) m_builder.note(Loss::Gradients);
     const Affine on = plane(h.elevation);
     for (Element &e : shapes) addOn(on, std::move(e));
 }

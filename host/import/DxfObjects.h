@@ -35,7 +35,8 @@ struct PolylineFacts {
     std::vector<PolylineVertex> vertices;
 };
 
-/// Turns the objects of a file into shapes, whoever read them. Every call is for the object that the builder has open.
+/// Turns the objects of a file into shapes, whoever read them. Every call is for the object that the builder
+/// has open.
 class DxfObjects {
 public:
     explicit DxfObjects(DrawingBuilder &builder) : m_builder(builder) {}

@@ -22,11 +22,13 @@ namespace {
 
 constexpr double kDegree = std::numbers::pi / 180;
 
-/// Takes what the reader delivers. An object's groups come first, one by one; its call comes when the next object
-/// begins. What the reader has no call for is taken from the groups.
+/// Takes what the reader delivers. An object's groups come first, one by one; its call comes when the next
+/// object begins. What the reader has no call for is taken from the groups.
 class Receiver final : public DL_CreationAdapter {
 public:
-    Receiver(const DxfScan &scan, DrawingBuilder &builder) : m_scan(scan), m_builder(builder), m_objects(builder) {}
+    Receiver(const DxfScan &scan, DrawingBuilder &builder)
+        : m_scan(scan), m_builder(builder), m_objects(builder)
+    {}
 
     void processCodeValuePair(unsigned int code, const std::string &value) override
     {
@@ -61,7 +63,10 @@ public:
         trueTypeFace(s);
         m_builder.addTextStyle(std::move(s));
     }
-    void addBlock(const DL_BlockData &d) override { m_builder.beginBlock(text(d.name), {d.bpx, d.bpy}, d.flags); }
+    void addBlock(const DL_BlockData &d) override
+    {
+        m_builder.beginBlock(text(d.name), {d.bpx, d.bpy}, d.flags);
+    }
     void endBlock() override { m_builder.endBlock(); }
 
     // --- objects
@@ -85,7 +90,9 @@ public:
     }
     void addEllipse(const DL_EllipseData &d) override
     {
-        object([&] { m_objects.ellipse({d.cx, d.cy, d.cz}, {d.mx, d.my, d.mz}, d.ratio, d.angle1, d.angle2); });
+        object([&] {
+            m_objects.ellipse({d.cx, d.cy, d.cz}, {d.mx, d.my, d.mz}, d.ratio, d.angle1, d.angle2);
+        });
     }
     void addSolid(const DL_SolidData &d) override { addTrace(d); }
     void addTrace(const DL_TraceData &d) override { object([&] { m_objects.corners(Corners(d).at); }); }
@@ -96,8 +103,8 @@ public:
     void addInsert(const DL_InsertData &d) override
     {
         object([&] {
-            m_objects.insert(text(d.name), {d.ipx, d.ipy, d.ipz}, {d.sx, d.sy}, d.angle * kDegree, d.cols, d.rows,
-                             {d.colSp, d.rowSp});
+            m_objects.insert(text(d.name), {d.ipx, d.ipy, d.ipz}, {d.sx, d.sy}, d.angle * kDegree, d.cols,
+                             d.rows, {d.colSp, d.rowSp});
         });
     }
     void addText(const DL_TextData &d) override { object([&] { m_objects.text(rowText(d)); }); }
@@ -109,9 +116,13 @@ public:
     void addMTextChunk(const std::string &chunk) override { m_chunks += std::string(m_scan.whole(chunk)); }
     void addMText(const DL_MTextData &d) override
     {
-        BlockText t{.insertion = {d.ipx, d.ipy, d.ipz}, .height = d.height, .width = d.width,
-                    .lineSpacing = d.lineSpacingFactor, .attachment = d.attachmentPoint,
-                    .text = std::exchange(m_chunks, {}) + std::string(m_scan.whole(d.text)), .style = d.style};
+        BlockText t{.insertion = {d.ipx, d.ipy, d.ipz},
+                    .height = d.height,
+                    .width = d.width,
+                    .lineSpacing = d.lineSpacingFactor,
+                    .attachment = d.attachmentPoint,
+                    .text = std::exchange(m_chunks, {}) + std::string(m_scan.whole(d.text)),
+                    .style = d.style};
         // The reader's own angle is wrong for texts that run to the left.
         const double angle = numberAt(m_object, 50) * kDegree;
         t.along = valueAt(m_object, 11) ? Vec2{d.dirx, d.diry} : Vec2{std::cos(angle), std::sin(angle)};
@@ -131,7 +142,10 @@ public:
         m_polyline.vertices = m_scan.verticesOf(int(numberAt(m_object, DxfScan::kVertices)));
         finish();
     }
-    void addVertex(const DL_VertexData &d) override { m_polyline.vertices.push_back({d.x, d.y, d.z, d.bulge}); }
+    void addVertex(const DL_VertexData &d) override
+    {
+        m_polyline.vertices.push_back({d.x, d.y, d.z, d.bulge});
+    }
     void addSpline(const DL_SplineData &d) override
     {
         begin();
@@ -164,8 +178,9 @@ private:
     /// Everything the groups of these say about places comes in the reader's calls.
     static bool coordinatesDelivered(std::string_view kind)
     {
-        static constexpr std::string_view kKinds[] = {"LINE", "POINT", "LWPOLYLINE", "POLYLINE", "SPLINE", "CIRCLE",
-                                                      "ARC", "ELLIPSE", "INSERT", "SOLID", "TRACE", "LEADER"};
+        static constexpr std::string_view kKinds[] = {"LINE",   "POINT",  "LWPOLYLINE", "POLYLINE",
+                                                      "SPLINE", "CIRCLE", "ARC",        "ELLIPSE",
+                                                      "INSERT", "SOLID",  "TRACE",      "LEADER"};
         return std::ranges::find(kKinds, kind) != std::end(kKinds);
     }
     struct Corners {
@@ -180,9 +195,13 @@ private:
 
     EntityHead head() const
     {
-        return {.layer = attributes.getLayer(), .lineType = attributes.getLinetype(), .color = attributes.getColor(),
-                .trueColor = attributes.getColor24(), .lineTypeScale = attributes.getLinetypeScale(),
-                .paper = attributes.isInPaperSpace(), .invisible = numberAt(m_object, 60) == 1,
+        return {.layer = attributes.getLayer(),
+                .lineType = attributes.getLinetype(),
+                .color = attributes.getColor(),
+                .trueColor = attributes.getColor24(),
+                .lineTypeScale = attributes.getLinetypeScale(),
+                .paper = attributes.isInPaperSpace(),
+                .invisible = numberAt(m_object, 60) == 1,
                 .kind = m_object.empty() ? std::string() : m_object.front().value};
     }
     EntityHead headOfGroups() const
@@ -191,9 +210,13 @@ private:
             const std::string *const v = valueAt(m_object, code);
             return v ? *v : std::string(fallback);
         };
-        return {.layer = name(8, "0"), .lineType = name(6, "BYLAYER"), .color = int(numberAt(m_object, 62, kByLayer)),
-                .trueColor = int(numberAt(m_object, 420, -1)), .lineTypeScale = numberAt(m_object, 48, 1),
-                .paper = numberAt(m_object, 67) == 1, .invisible = numberAt(m_object, 60) == 1,
+        return {.layer = name(8, "0"),
+                .lineType = name(6, "BYLAYER"),
+                .color = int(numberAt(m_object, 62, kByLayer)),
+                .trueColor = int(numberAt(m_object, 420, -1)),
+                .lineTypeScale = numberAt(m_object, 48, 1),
+                .paper = numberAt(m_object, 67) == 1,
+                .invisible = numberAt(m_object, 60) == 1,
                 .kind = m_object.front().value};
     }
     template <class Act> void object(Act act)
@@ -238,10 +261,17 @@ private:
     }
     RowText rowText(const DL_TextData &d) const
     {
-        return {.insertion = {d.ipx, d.ipy, d.ipz}, .alignment = {d.apx, d.apy, d.apz},
-                .aligned = valueAt(m_object, 11) != nullptr, .height = d.height, .widthFactor = d.xScaleFactor,
-                .angle = d.angle, .generation = d.textGenerationFlags, .horizontal = d.hJustification,
-                .vertical = d.vJustification, .text = d.text, .style = d.style};
+        return {.insertion = {d.ipx, d.ipy, d.ipz},
+                .alignment = {d.apx, d.apy, d.apz},
+                .aligned = valueAt(m_object, 11) != nullptr,
+                .height = d.height,
+                .widthFactor = d.xScaleFactor,
+                .angle = d.angle,
+                .generation = d.textGenerationFlags,
+                .horizontal = d.hJustification,
+                .vertical = d.vJustification,
+                .text = d.text,
+                .style = d.style};
     }
     /// The family that a program noted beside the font file; the flags are its bold and italic.
     void trueTypeFace(DxfTextStyle &s) const
@@ -279,8 +309,9 @@ private:
         const std::string *const block = valueAt(m_object, 2);
         const Vec2 along{numberAt(m_object, 11, 1), numberAt(m_object, 21)};
         if (block)
-            m_objects.insert(text(*block), {numberAt(m_object, 10), numberAt(m_object, 20), numberAt(m_object, 30)},
-                             {1, 1}, std::atan2(along.y, along.x), 1, 1, {});
+            m_objects.insert(text(*block),
+                             {numberAt(m_object, 10), numberAt(m_object, 20), numberAt(m_object, 30)}, {1, 1},
+                             std::atan2(along.y, along.x), 1, 1, {});
     }
     /// An attribute that is the same in every insert has no text of its own there.
     RowText constantText() const
@@ -339,8 +370,8 @@ Drawing readDrawing(const DxfScan &scan, const DxfScan::Progress &progress)
     DrawingBuilder builder(scan);
     Receiver receiver(scan, builder);
     const std::string &bytes = scan.clean();
-    const std::unique_ptr<FILE, int (*)(FILE *)> file(fmemopen(const_cast<char *>(bytes.data()), bytes.size(), "r"),
-                                                      &fclose);
+    const std::unique_ptr<FILE, int (*)(FILE *)> file(
+        fmemopen(const_cast<char *>(bytes.data()), bytes.size(), "r"), &fclose);
     if (!file) throw DocumentError(txt(Text{30307, u"Nincs elég memória a rajz beolvasásához."}));
     const PlainNumbers plain;
     DL_Dxf reader;

@@ -5,7 +5,8 @@
 
 namespace refhost {
 
-/// Reads what the scan handed on. Throws ImportCancelled, or DocumentError when the reader breaks down over the file.
+/// Reads what the scan handed on. Throws ImportCancelled, or DocumentError when the reader breaks down over
+/// the file.
 Drawing readDrawing(const DxfScan &, const DxfScan::Progress &);
 
 } // namespace refhost

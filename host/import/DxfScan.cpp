@@ -36,26 +36,28 @@ bool wholeNumber(std::string_view s, int &n)
 /// Parts of other objects and the frame around them.
 bool isObject(std::string_view kind)
 {
-    static const std::set<std::string_view> others{"SECTION", "ENDSEC", "BLOCK", "ENDBLK", "VERTEX", "SEQEND", "EOF"};
+    static const std::set<std::string_view> others{"SECTION", "ENDSEC", "BLOCK", "ENDBLK",
+                                                   "VERTEX",  "SEQEND", "EOF"};
     return !others.contains(kind);
 }
 
 bool placed(std::string_view kind)
 {
-    static const std::set<std::string_view> kinds{"LINE", "LWPOLYLINE", "VERTEX", "POINT", "TEXT", "MTEXT", "INSERT",
-                                                  "CIRCLE", "ARC", "SOLID", "TRACE"};
+    static const std::set<std::string_view> kinds{"LINE",   "LWPOLYLINE", "VERTEX", "POINT", "TEXT", "MTEXT",
+                                                  "INSERT", "CIRCLE",     "ARC",    "SOLID", "TRACE"};
     return kinds.contains(kind);
 }
 
-/// Handles, owners, materials and the like: nothing that is drawn. The texts of line types (9) would end the line type
-/// for the reader, which takes that group for the name of a variable.
+/// Handles, owners, materials and the like: nothing that is drawn. The texts of line types (9) would end the
+/// line type for the reader, which takes that group for the name of a variable.
 constexpr bool drawn(int code)
 {
     constexpr int kOthers[] = {5, 9, 100, 102, 105, 310, 330, 340, 347, 348, 350, 360, 370, 380, 390};
     return std::ranges::find(kOthers, code) == std::end(kOthers);
 }
 
-/// Depths and directions are mostly what they are without being said; each costs the reader as much as a coordinate.
+/// Depths and directions are mostly what they are without being said; each costs the reader as much as a
+/// coordinate.
 bool understood(int code, std::string_view value)
 {
     const bool depth = (code >= 30 && code <= 33) || code == 38 || code == 39 || code == 210 || code == 220;
@@ -87,23 +89,31 @@ DxfScan::DxfScan(const QString &path) : m_path(path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw DocumentError(join(Text{30300, u"A(z) '"}, path, Text{30301, u"' fájl nem olvasható. Ellenőrizd a nevét "
-                                 u"és a jogosultságokat! Részletek: "}, file.errorString()));
+        throw DocumentError(join(Text{30300, u"A(z) '"}, path,
+                                 Text{30301, u"' fájl nem olvasható. Ellenőrizd a nevét "
+                                             u"és a jogosultságokat! Részletek: "},
+                                 file.errorString()));
     m_bytes = file.readAll();
     if (m_bytes.startsWith("AutoCAD Binary DXF"))
-        throw DocumentError(join(Text{30300, u"A(z) '"}, path, Text{30302, u"' fájl bináris DXF. Mentsd el a másik "
-                                 u"programban szöveges (ASCII) DXF-ként, és azt importáld!"}));
+        throw DocumentError(join(Text{30300, u"A(z) '"}, path,
+                                 Text{30302, u"' fájl bináris DXF. Mentsd el a másik "
+                                             u"programban szöveges (ASCII) DXF-ként, és azt importáld!"}));
     if (m_bytes.startsWith("AC10"))
-        throw DocumentError(join(Text{30300, u"A(z) '"}, path, Text{30303, u"' fájl DWG-rajz, nem DXF. Mentsd el a "
-                                 u"másik programban szöveges (ASCII) DXF-ként, és azt importáld!"}));
+        throw DocumentError(
+            join(Text{30300, u"A(z) '"}, path,
+                 Text{30303, u"' fájl DWG-rajz, nem DXF. Mentsd el a "
+                             u"másik programban szöveges (ASCII) DXF-ként, és azt importáld!"}));
     if (m_bytes.startsWith("\xEF\xBB\xBF")) m_at = 3;
 }
 
 void DxfScan::failJunk() const
 {
-    throw DocumentError(join(Text{30300, u"A(z) '"}, m_path, Text{30304, u"' fájl nem DXF-rajz, vagy hibás; a hibás "
-                             u"sor: "}, m_line, Text{30305, u". Készíts új szöveges (ASCII) DXF-et a másik "
-                             u"programmal, és azt importáld!"}));
+    throw DocumentError(join(Text{30300, u"A(z) '"}, m_path,
+                             Text{30304, u"' fájl nem DXF-rajz, vagy hibás; a hibás "
+                                         u"sor: "},
+                             m_line,
+                             Text{30305, u". Készíts új szöveges (ASCII) DXF-et a másik "
+                                         u"programmal, és azt importáld!"}));
 }
 
 void DxfScan::require(bool sound) const
@@ -117,14 +127,15 @@ bool DxfScan::next(View &pair)
     std::string_view line[2];
     for (std::string_view &l : line) {
         if (m_at >= m_bytes.size()) return false;
-        const char *const begin = m_bytes.constData() + m_at, *const end = m_bytes.constData() + m_bytes.size();
+        const char *const begin = m_bytes.constData() + m_at, *const end = m_bytes.constData()
+                                                                           + m_bytes.size();
         const char *stop = static_cast<const char *>(memchr(begin, '\n', size_t(end - begin)));
         if (!stop) stop = end;
         l = std::string_view(begin, size_t(stop - begin));
         if (!l.empty() && l.back() == '\r') l.remove_suffix(1);
         m_at += stop - begin + 1;
         ++m_line;
-        if (&l == line && trimmed(l).empty() && m_at >= m_bytes.size()) return false;   // blank end of the file
+        if (&l == line && trimmed(l).empty() && m_at >= m_bytes.size()) return false; // blank end of the file
     }
     require(wholeNumber(line[0], pair.code) && pair.code >= -10 && pair.code < 2000);
     require(line[1].find('\0') == std::string_view::npos);
@@ -137,13 +148,15 @@ void DxfScan::run(const Progress &progress)
     m_clean.reserve(size_t(m_bytes.size()));
     View pair;
     for (int n = 0; !m_ended && next(pair); ++n) {
-        if (n % 20000 == 0 && progress && !progress(double(m_at) / double(m_bytes.size()))) throw ImportCancelled();
+        if (n % 20000 == 0 && progress && !progress(double(m_at) / double(m_bytes.size())))
+            throw ImportCancelled();
         take(pair);
     }
     if (m_section.empty() && !m_ended) failJunk();
     if (!m_ended || m_sectionOpen)
-        throw DocumentError(join(Text{30300, u"A(z) '"}, m_path, Text{30306, u"' fájl csonka: hiányzik a vége. Másold "
-                                 u"át vagy töltsd le újra, és azt importáld!"}));
+        throw DocumentError(join(Text{30300, u"A(z) '"}, m_path,
+                                 Text{30306, u"' fájl csonka: hiányzik a vége. Másold "
+                                             u"át vagy töltsd le újra, és azt importáld!"}));
     require(m_entities);
     measure(m_x, m_low.x, m_high.x);
     measure(m_y, m_low.y, m_high.y);
@@ -164,8 +177,12 @@ void DxfScan::take(const View &pair)
     }
     if (m_sectionOpen && m_section == "HEADER") {
         if (pair.code == 9) m_variable = pair.value;
-        else m_header.insert(QByteArray::fromStdString(m_variable) + (pair.code == 20 ? "/y" : pair.code == 30 ? "/z" : ""),
-                             QByteArray(pair.value.data(), qsizetype(pair.value.size())).trimmed());
+        else
+            m_header.insert(QByteArray::fromStdString(m_variable)
+                                + (pair.code == 20   ? "/y"
+                                   : pair.code == 30 ? "/z"
+                                                     : ""),
+                            QByteArray(pair.value.data(), qsizetype(pair.value.size())).trimmed());
         return;
     }
     require(!m_object.empty());
@@ -257,7 +274,8 @@ void DxfScan::countObject(std::string_view kind)
     }
 }
 
-/// The range of the values. Single ones far away from all others, such as marks left at the origin, do not count.
+/// The range of the values. Single ones far away from all others, such as marks left at the origin, do not
+/// count.
 void DxfScan::measure(std::vector<double> &values, double &low, double &high)
 {
     if (values.empty()) return;
@@ -270,7 +288,8 @@ void DxfScan::measure(std::vector<double> &values, double &low, double &high)
     values = {};
 }
 
-/// The reader trusts the counts that a file announces, and keeps those of the object before where there are none.
+/// The reader trusts the counts that a file announces, and keeps those of the object before where there are
+/// none.
 void DxfScan::repairCounts()
 {
     struct Announced {
@@ -315,7 +334,8 @@ QByteArray DxfScan::headerText(const char *variable) const { return m_header.val
 double DxfScan::headerNumber(const char *variable, double fallback) const
 {
     const QByteArray text = m_header.value(variable);
-    return text.isEmpty() ? fallback : numberOfText(std::string_view(text.constData(), size_t(text.size())), fallback);
+    return text.isEmpty() ? fallback
+                          : numberOfText(std::string_view(text.constData(), size_t(text.size())), fallback);
 }
 
 } // namespace refhost

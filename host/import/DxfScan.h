@@ -27,7 +27,7 @@ struct PolylineVertex {
     double x = 0, y = 0, z = 0;
     double bulge = 0;
     int flags = 0;
-    int face[4] = {};           ///< of a face of a mesh: 1-based vertices, negative = the edge from there is not shown
+    int face[4] = {};  ///< of a face of a mesh: 1-based vertices, negative = the edge from there is not shown
     bool wide = false;
 };
 
@@ -38,27 +38,31 @@ struct KindCount {
     int invisible = 0;          ///< of those in the model or in blocks
 };
 
-/// The plain look at a file: is it a whole drawing, what does its head say, what is in it. Then hands it on in a form
-/// that no reader stumbles over: counts that are right, no line too long, no data that belongs to other programs.
+/// The plain look at a file: is it a whole drawing, what does its head say, what is in it. Then hands it on
+/// in a form that no reader stumbles over: counts that are right, no line too long, no data that belongs to
+/// other programs.
 class DxfScan {
 public:
     using Progress = std::function<bool(double done)>;  ///< false = cancel
-    explicit DxfScan(const QString &path);      ///< reads the file; throws DocumentError when it cannot be read
-    void run(const Progress &);                 ///< throws DocumentError for what is no whole drawing, ImportCancelled
+    explicit DxfScan(const QString &path);    ///< reads the file; throws DocumentError when it cannot be read
+    void run(const Progress &);        ///< throws DocumentError for what is no whole drawing, ImportCancelled
 
     const QString &path() const { return m_path; }
     QByteArray headerText(const char *variable) const;          ///< empty when the head has no such variable
     double headerNumber(const char *variable, double fallback) const;
     const std::map<std::string, KindCount, std::less<>> &kinds() const { return m_kinds; }
-    Vec2 low() const { return m_low; }          ///< extent of nearly all of the model; low > high when it is empty
+    Vec2 low() const { return m_low; }     ///< extent of nearly all of the model; low > high when it is empty
     Vec2 high() const { return m_high; }
     const std::string &clean() const { return m_clean; }
-    std::string_view whole(std::string_view value) const;       ///< a value of clean() as it stands in the file
+    std::string_view whole(std::string_view value) const;     ///< a value of clean() as it stands in the file
 
-    /// Vertices of old polylines are most of what such files hold, and the reader takes ten times as long for them:
-    /// they are not in clean(). The polyline has a group kVertices instead, the index to be asked for.
+    /// Vertices of old polylines are most of what such files hold, and the reader takes ten times as long for
+    /// them: they are not in clean(). The polyline has a group kVertices instead, the index to be asked for.
     static constexpr int kVertices = 1900;
-    const std::vector<PolylineVertex> &verticesOf(int polyline) const { return m_vertices.at(size_t(polyline)); }
+    const std::vector<PolylineVertex> &verticesOf(int polyline) const
+    {
+        return m_vertices.at(size_t(polyline));
+    }
 
 private:
     struct View {
@@ -96,6 +100,7 @@ private:
 };
 
 bool paperSpaceName(std::string_view block);    ///< "*Paper_Space", "*Paper_Space0", "$PAPER_SPACE"
-double numberOfText(std::string_view, double fallback = 0);     ///< decimal point whatever the locale; never infinite
+double numberOfText(std::string_view,
+                    double fallback = 0); ///< decimal point whatever the locale; never infinite
 
 } // namespace refhost

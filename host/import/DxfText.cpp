@@ -22,7 +22,8 @@ constexpr Page kPages[] = {
     {"855", "IBM855", 204},        {"857", "IBM857", 162},        {"866", "IBM866", 204},
     {"8859-1", "ISO-8859-1", 0},   {"8859-2", "ISO-8859-2", 238}, {"8859-5", "ISO-8859-5", 204},
 };
-constexpr const char *kEastern[] = {"", "Shift_JIS", "Big5", "windows-949", "windows-1361", "GBK"};    // by n of \M+n
+constexpr const char *kEastern[] = {"",   "Shift_JIS", "Big5", "windows-949", "windows-1361",
+                                    "GBK"}; // by n of \M+n
 
 /// The value of `n` digits at `from`, -1 when they are not there.
 int digitsAt(const QString &s, qsizetype from, int n, int base)
@@ -161,14 +162,16 @@ private:
     }
     void stack(const QString &s)
     {
-        const qsizetype cut = std::ranges::find_if(s, [](QChar c) { return c == u'^' || c == u'/' || c == u'#'; }) - s.begin();
+        const qsizetype cut =
+            std::ranges::find_if(s, [](QChar c) { return c == u'^' || c == u'/' || c == u'#'; }) - s.begin();
         const QString above = s.left(cut).trimmed(), below = s.mid(cut + 1).trimmed();
         if (below.isEmpty() || above.isEmpty()) put(above.isEmpty() ? below : raised(above));
         else put(above + u'/' + below);
     }
     static QString raised(QString s)
     {
-        static const QString high = QStringLiteral("\u2070\u00B9\u00B2\u00B3\u2074\u2075\u2076\u2077\u2078\u2079");
+        static const QString high = QStringLiteral(
+            "\u2070\u00B9\u00B2\u00B3\u2074\u2075\u2076\u2077\u2078\u2079");
         for (QChar &c : s)
             if (c >= u'0' && c <= u'9') c = high[c.unicode() - u'0'];
         return s;
@@ -238,7 +241,8 @@ DxfLetters::DxfLetters(const QByteArray &version, const QByteArray &codePage) : 
 QString DxfLetters::operator()(std::string_view bytes) const
 {
     const QByteArrayView view(bytes.data(), qsizetype(bytes.size()));
-    if (std::ranges::all_of(bytes, [](char c) { return c >= 0 && c != '\\'; })) return QString::fromLatin1(view);
+    if (std::ranges::all_of(bytes, [](char c) { return c >= 0 && c != '\\'; }))
+        return QString::fromLatin1(view);
     if (m_utf8) {
         QStringDecoder utf8(QStringDecoder::Utf8);
         const QString s = utf8(view);
@@ -256,7 +260,10 @@ QString DxfLetters::ofCode(int code) const
     return decoder.isValid() ? QString(decoder(QByteArrayView(&byte, 1))) : QString(QChar(char16_t(code)));
 }
 
-PlainText plainOfText(const QString &raw, const DxfLetters &letters) { return Reading(raw, letters).single(); }
+PlainText plainOfText(const QString &raw, const DxfLetters &letters)
+{
+    return Reading(raw, letters).single();
+}
 PlainText plainOfMText(const QString &raw, const DxfLetters &letters) { return Reading(raw, letters).rich(); }
 
 QString wrapped(const QString &text, double width, double letterHeight)

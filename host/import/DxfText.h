@@ -7,7 +7,8 @@
 
 namespace refhost {
 
-/// The letters of a file: by its head's code page before AC1021, UTF-8 from then on; "\U+XXXX" and "\M+nXXXX" anywhere.
+/// The letters of a file: by its head's code page before AC1021, UTF-8 from then on; "\U+XXXX" and "\M+nXXXX"
+/// anywhere.
 class DxfLetters {
 public:
     DxfLetters() : DxfLetters("", "") {}

@@ -20,6 +20,7 @@ public:
             else if (code == 30) m_hatch.elevation = number();
             else if (code == 91) loops(int(number()));
             else if (code == 78) families(int(number()));
+            else if (code == 450) m_hatch.gradient = number() != 0;
             else ++m_at;
         }
         return std::move(m_hatch);

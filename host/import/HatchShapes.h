@@ -13,7 +13,7 @@ struct HatchFamily {
     std::vector<double> dashes; ///< as of line types; empty = through
 };
 struct Hatch {
-    bool solid = false;
+    bool solid = false, gradient = false;
     double elevation = 0;
     std::vector<std::vector<Vec2>> rings;
     std::vector<HatchFamily> families;
@@ -21,8 +21,8 @@ struct Hatch {
 /// The reader takes seed points for boundaries and drops the pattern, so hatches are read from their groups.
 Hatch hatchOf(const DxfPairs &);
 
-/// A fill, or the lines of the pattern cut at the boundary. Where the pattern is missing or would be more than
-/// `mostLines` lines, the boundary as closed lines: then `simplified` is set.
+/// A fill, or the lines of the pattern cut at the boundary. Where the pattern is missing or would be more
+/// than `mostLines` lines, the boundary as closed lines: then `simplified` is set.
 std::vector<Element> hatchShapes(const Hatch &, size_t mostLines, bool &simplified);
 
 } // namespace refhost

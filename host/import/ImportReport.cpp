@@ -70,10 +70,11 @@ constexpr Text kLosses[] = {
     {30378, u"ferde síkú objektum felülnézetben"},
     {30379, u"felirattípus vonalas betűje helyettesítve"},
     {30380, u"térbeli vonallánc magasságok nélkül"},
+    {30396, u"átmenetes kitöltés egy színnel"},
 };
 static_assert(std::size(kLosses) == size_t(Loss::Count));
-constexpr Text kElements[] = {{30389, u"pont"}, {30390, u"vonal"}, {30391, u"ellipszis"}, {30392, u"kitöltés"},
-                              {30393, u"felirat"}, {30394, u"jelkulcs"}};
+constexpr Text kElements[] = {{30389, u"pont"},     {30390, u"vonal"},   {30391, u"ellipszis"},
+                              {30392, u"kitöltés"}, {30393, u"felirat"}, {30394, u"jelkulcs"}};
 
 using Rows = std::vector<ImportReport::Row>;
 
@@ -84,7 +85,8 @@ void append(Rows &rows, Text text, int count)
 
 int sumOf(const std::vector<KindTally> &kinds, int KindTally::*member)
 {
-    return std::accumulate(kinds.begin(), kinds.end(), 0, [=](int n, const KindTally &t) { return n + t.*member; });
+    return std::accumulate(kinds.begin(), kinds.end(), 0,
+                           [=](int n, const KindTally &t) { return n + t.*member; });
 }
 
 QString lines(const Rows &rows)
@@ -98,7 +100,8 @@ QString lines(const Rows &rows)
 
 QString kindText(const QString &kind)
 {
-    const auto found = std::ranges::find_if(kKinds, [&](const KindName &k) { return kind == QLatin1String(k.kind); });
+    const auto found = std::ranges::find_if(kKinds,
+                                            [&](const KindName &k) { return kind == QLatin1String(k.kind); });
     return found == std::end(kKinds) ? kind : join(found->name, QStringLiteral(" (%1)").arg(kind));
 }
 
@@ -109,15 +112,20 @@ void nameRows(ImportReport &report, const int (&losses)[int(Loss::Count)])
     std::ranges::stable_sort(report.notCarried, std::greater(), &ImportReport::Row::count);
     report.paperSpace = sumOf(report.kinds, &KindTally::paper);
     append(report.notes, {30384, u"papírtér-objektum kihagyva"}, report.paperSpace);
-    append(report.notes, {30381, u"láthatatlan objektum kihagyva"}, sumOf(report.kinds, &KindTally::invisible));
+    append(report.notes, {30381, u"láthatatlan objektum kihagyva"},
+           sumOf(report.kinds, &KindTally::invisible));
     append(report.notes, {30382, u"üres objektum kihagyva"}, sumOf(report.kinds, &KindTally::empty));
-    append(report.notes, {30383, u"objektum sehol be nem illesztett blokkban"}, sumOf(report.kinds, &KindTally::unused));
+    append(report.notes, {30383, u"objektum sehol be nem illesztett blokkban"},
+           sumOf(report.kinds, &KindTally::unused));
     append(report.notes, {30395, u"önmagát tartalmazó blokk kihagyva"}, report.endlessInserts);
     append(report.notes, {30385, u"blokk rajzelemekre bontva"}, report.explodedInserts);
     for (size_t i = 0; i < std::size(kLosses); ++i) append(report.notes, kLosses[i], losses[i]);
 }
 
-int ImportReport::elementCount() const { return std::accumulate(std::begin(elements), std::end(elements), 0); }
+int ImportReport::elementCount() const
+{
+    return std::accumulate(std::begin(elements), std::end(elements), 0);
+}
 
 QString ImportReport::text() const
 {

@@ -25,7 +25,8 @@ Element symbolAt(const Affine &map)
 
 } // namespace
 
-Placing::Placing(const Drawing &drawing, const BlockSymbols &blocks, const std::vector<bool> &hasSymbol, Sink sink)
+Placing::Placing(const Drawing &drawing, const BlockSymbols &blocks, const std::vector<bool> &hasSymbol,
+                 Sink sink)
     : m_drawing(drawing), m_blocks(blocks), m_hasSymbol(hasSymbol), m_sink(std::move(sink))
 {
     for (const DxfBlock &b : drawing.blocks) m_shown.emplace_back(b.content.size(), false);

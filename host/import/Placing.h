@@ -14,8 +14,8 @@ struct Placed {
     int block = -1;             ///< of a symbol
 };
 
-/// Goes through the model and puts blocks in their places, as symbols where a character can show them, else as plain
-/// elements.
+/// Goes through the model and puts blocks in their places, as symbols where a character can show them, else
+/// as plain elements.
 class Placing {
 public:
     using Sink = std::function<void(Placed &&)>;

@@ -13,10 +13,12 @@ struct Face {
     const char *file, *face;
 };
 constexpr Face kFaces[] = {
-    {"arial", "Arial"},       {"arialbd", "Arial"},       {"ariali", "Arial"},         {"arialn", "Arial Narrow"},
-    {"times", "Times New Roman"}, {"timesbd", "Times New Roman"}, {"cour", "Courier New"}, {"consola", "Consolas"},
-    {"tahoma", "Tahoma"},     {"verdana", "Verdana"},     {"calibri", "Calibri"},      {"isocpeur", "ISOCPEUR"},
-    {"isocpeui", "ISOCPEUR"}, {"isocteur", "ISOCTEUR"},   {"swissl", "Swis721 Lt BT"}, {"romantic", "Romantic"},
+    {"arial", "Arial"},         {"arialbd", "Arial"},         {"ariali", "Arial"},
+    {"arialn", "Arial Narrow"}, {"times", "Times New Roman"}, {"timesbd", "Times New Roman"},
+    {"cour", "Courier New"},    {"consola", "Consolas"},      {"tahoma", "Tahoma"},
+    {"verdana", "Verdana"},     {"calibri", "Calibri"},       {"isocpeur", "ISOCPEUR"},
+    {"isocpeui", "ISOCPEUR"},   {"isocteur", "ISOCTEUR"},     {"swissl", "Swis721 Lt BT"},
+    {"romantic", "Romantic"},
 };
 
 /// Neighbours of one sort become one, dots are dashes without length; the pattern is a ring.
@@ -52,7 +54,8 @@ std::vector<double> patternOf(const std::vector<double> &dashes, double mmPerUni
 QString faceOf(const QString &fontFile, bool &replaced)
 {
     replaced = false;
-    QString file = fontFile.mid(std::max(fontFile.lastIndexOf(u'/'), fontFile.lastIndexOf(u'\\')) + 1).trimmed();
+    QString file =
+        fontFile.mid(std::max(fontFile.lastIndexOf(u'/'), fontFile.lastIndexOf(u'\\')) + 1).trimmed();
     const bool trueType = file.endsWith(QStringLiteral(".ttf"), Qt::CaseInsensitive)
                           || file.endsWith(QStringLiteral(".otf"), Qt::CaseInsensitive)
                           || file.endsWith(QStringLiteral(".ttc"), Qt::CaseInsensitive);
@@ -60,9 +63,11 @@ QString faceOf(const QString &fontFile, bool &replaced)
                          || file.endsWith(QStringLiteral(".lff"), Qt::CaseInsensitive);
     if (trueType || strokes) file.chop(4);
     for (const Face &f : kFaces)
-        if (file.compare(QString::fromLatin1(f.file), Qt::CaseInsensitive) == 0) return QString::fromLatin1(f.face);
-    static const QStringList kStrokes{"txt", "simplex", "romans", "romanc", "romand", "romant", "isocp", "isocp2", "isocp3",
-                                      "isoct", "monotxt", "italic", "standard", "unicode", "ltypeshp", "gothice"};
+        if (file.compare(QString::fromLatin1(f.file), Qt::CaseInsensitive) == 0)
+            return QString::fromLatin1(f.face);
+    static const QStringList kStrokes{"txt",      "simplex", "romans",   "romanc", "romand",  "romant",
+                                      "isocp",    "isocp2",  "isocp3",   "isoct",  "monotxt", "italic",
+                                      "standard", "unicode", "ltypeshp", "gothice"};
     replaced = strokes || kStrokes.contains(file, Qt::CaseInsensitive);
     return replaced || file.isEmpty() ? kStrokeFace : file;
 }

@@ -11,8 +11,8 @@ struct PaperScale {
     explicit PaperScale(const ImportOptions &o) : mmPerUnit(o.unitInMetres * 1000 / o.scale) {}
 };
 
-/// Dash, gap, dash, ... in paper millimetres; empty = continuous. `shifted` when the pattern of the file begins with a
-/// gap and the first dash was brought to the front.
+/// Dash, gap, dash, ... in paper millimetres; empty = continuous. `shifted` when the pattern of the file
+/// begins with a gap and the first dash was brought to the front.
 std::vector<double> patternOf(const std::vector<double> &dashes, double mmPerUnit, bool &shifted);
 
 /// A face that is there for a font file: without its ending, stroke fonts replaced.

@@ -35,7 +35,8 @@ struct Dxf {
     }
 };
 
-inline QString written(const QTemporaryDir &folder, const QByteArray &bytes, const QString &name = QStringLiteral("plan.dxf"))
+inline QString written(const QTemporaryDir &folder, const QByteArray &bytes,
+                       const QString &name = QStringLiteral("plan.dxf"))
 {
     QFile f(folder.filePath(name));
     if (!f.open(QIODevice::WriteOnly)) qFatal("no temporary file");
@@ -52,7 +53,8 @@ inline QString number(double v)
 inline QString dump(const refhost::Element &e)
 {
     static const char *const kKinds[] = {"Point", "Line", "Ellipse", "Fill", "Text", "Symbol"};
-    QString s = QStringLiteral("%1 l%2 p%3").arg(QLatin1String(kKinds[int(e.kind)])).arg(e.layId).arg(e.penColorId);
+    QString s =
+        QStringLiteral("%1 l%2 p%3").arg(QLatin1String(kKinds[int(e.kind)])).arg(e.layId).arg(e.penColorId);
     if (e.penStyleId != -1) s += QStringLiteral(" t%1").arg(e.penStyleId);
     for (const refhost::Vertex &v : e.vertices)
         s += u' ' + number(v.x) + u',' + number(v.y) + (v.bulge != 0 ? u'b' + number(v.bulge) : QString());
@@ -61,8 +63,12 @@ inline QString dump(const refhost::Element &e)
     if (e.kind == refhost::ElementKind::Ellipse)
         s += QStringLiteral(" r%1 %2..%3").arg(number(e.ratio), number(e.from), number(e.to));
     if (e.kind == refhost::ElementKind::Text)
-        s += QStringLiteral(" h%1 a%2 %3° '%4'").arg(number(e.size)).arg(e.align).arg(number(e.rotation), e.text);
-    if (e.kind == refhost::ElementKind::Symbol) s += QStringLiteral(" x%1 %2°").arg(number(e.scale), number(e.rotation));
+        s += QStringLiteral(" h%1 a%2 %3° '%4'")
+                 .arg(number(e.size))
+                 .arg(e.align)
+                 .arg(number(e.rotation), e.text);
+    if (e.kind == refhost::ElementKind::Symbol)
+        s += QStringLiteral(" x%1 %2°").arg(number(e.scale), number(e.rotation));
     return s.replace(u'\n', u'/');
 }
 

@@ -28,7 +28,8 @@ Counts countedIn(const QString &path)
         if (section == "TABLES") ++counts["TABLES/" + kind];
         if (section == "ENTITIES" || section == "BLOCKS") ++counts[kind];
     }
-    for (const char *frame : {"SECTION", "ENDSEC", "EOF", "BLOCK", "ENDBLK", "VERTEX", "SEQEND"}) counts.erase(frame);
+    for (const char *frame : {"SECTION", "ENDSEC", "EOF", "BLOCK", "ENDBLK", "VERTEX", "SEQEND"})
+        counts.erase(frame);
     return counts;
 }
 
@@ -47,13 +48,16 @@ private slots:
         QTest::addColumn<QString>("symbol");
         const auto row = [](const char *file, int shapeFiles, const QStringList &lost, const char *layer,
                             const char *symbol) {
-            QTest::newRow(file) << QString::fromLatin1(file) << shapeFiles << lost << QString::fromUtf8(layer) << QString::fromUtf8(symbol);
+            QTest::newRow(file) << QString::fromLatin1(file) << shapeFiles << lost << QString::fromUtf8(layer)
+                                << QString::fromUtf8(symbol);
         };
-        row("industrial_site_survey_r2010", 1, {"3DSOLID 5"}, "_Осветленная вода_Точки", "XYZDifferences - Наклон");
+        row("industrial_site_survey_r2010", 1, {"3DSOLID 5"}, "_Осветленная вода_Точки",
+            "XYZDifferences - Наклон");
         row("cad_sample_r12", 2, {"ATTDEF 4", "SHAPE 1"}, "LAYER_COLOR_80___1", "MY_BLOCK_V2");
         row("cad_sample_r2007", 2,
-            {"3DSOLID 2", "ATTDEF 4", "IMAGE 1", "MESH 2", "PDFUNDERLAY 1", "RAY 1", "REGION 1", "SHAPE 1", "TOLERANCE 3",
-             "WIPEOUT 1", "XLINE 1"}, "Layer_color_80 @ 1", "my_block_v2");
+            {"3DSOLID 2", "ATTDEF 4", "IMAGE 1", "MESH 2", "PDFUNDERLAY 1", "RAY 1", "REGION 1", "SHAPE 1",
+             "TOLERANCE 3", "WIPEOUT 1", "XLINE 1"},
+            "Layer_color_80 @ 1", "my_block_v2");
         row("house_floorplan_r2004", 2, {"ATTDEF 2"}, "xref-Bishop-Overland-08$0$A-FIXTURE", "_Open30");
         row("swiss_cadastre_r12", 0, {}, "HausnummerPos", "");
         row("orienteering_map_r12", 0, {}, "899.0.2_Red_for_logos", "");
@@ -75,7 +79,9 @@ private slots:
 
         QCOMPARE(int(drawing.layers.size()), counts["TABLES/LAYER"]);
         QCOMPARE(doc->layers().count(), counts["TABLES/LAYER"]);
-        const int none = counts["TABLES/LTYPE"] > 6 && drawing.version > QStringLiteral("AC1009") ? 2 : 0; // by layer, by block
+        const int none = counts["TABLES/LTYPE"] > 6 && drawing.version > QStringLiteral("AC1009")
+                             ? 2
+                             : 0; // by layer, by block
         QCOMPARE(int(drawing.lineTypes.size()), counts["TABLES/LTYPE"] - none);
         QCOMPARE(drawing.fileStyles, counts["TABLES/STYLE"] - shapeFiles);
 

@@ -76,8 +76,10 @@ private slots:
         QTest::addColumn<QByteArray>("page");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const char *version, const char *page, const char *bytes, const char *text) {
-            QTest::newRow(name) << QByteArray(version) << QByteArray(page) << QByteArray(bytes) << QString::fromUtf8(text);
+        const auto row = [](const char *name, const char *version, const char *page, const char *bytes,
+                            const char *text) {
+            QTest::newRow(name) << QByteArray(version) << QByteArray(page) << QByteArray(bytes)
+                                << QString::fromUtf8(text);
         };
         row("central European", "AC1015", "ANSI_1250", "\xF5r\xFB \xC1rok", "őrű Árok");
         row("Cyrillic", "AC1018", "ANSI_1251", "\xCA\xEE\xEB\xEE\xE4\xE5\xF6", "Колодец");
@@ -131,8 +133,9 @@ private slots:
     void facesComeFromFontFiles()
     {
         const std::tuple<const char *, const char *, bool> rows[] = {
-            {"arial.ttf", "Arial", false}, {"C:\\Fonts\\TAHOMA.TTF", "Tahoma", false}, {"txt", "DejaVu Sans", true},
-            {"simplex.shx", "DejaVu Sans", true}, {"Own Face.ttf", "Own Face", false}, {"", "DejaVu Sans", false}};
+            {"arial.ttf", "Arial", false},       {"C:\\Fonts\\TAHOMA.TTF", "Tahoma", false},
+            {"txt", "DejaVu Sans", true},        {"simplex.shx", "DejaVu Sans", true},
+            {"Own Face.ttf", "Own Face", false}, {"", "DejaVu Sans", false}};
         for (const auto &[file, face, replaced] : rows) {
             bool was = !replaced;
             QCOMPARE(faceOf(QString::fromLatin1(file), was), QString::fromLatin1(face));
