@@ -185,6 +185,13 @@ std::vector<Vec2> Spline::flattened() const
 
 namespace {
 
+/// Of a vector, 0 to 360 degrees.
+double directionOf(Vec2 v)
+{
+    const double degrees = std::atan2(v.y, v.x) / kDegree;
+    return degrees < -1e-9 ? degrees + 360 : std::max(degrees, 0.0);
+}
+
 void mapText(Element &e, const Affine &map)
 {
     const double a = e.rotation * kDegree;
@@ -192,12 +199,12 @@ void mapText(Element &e, const Affine &map)
     e.size *= map.similar() ? length(up) : std::abs(map.determinant()) / std::max(length(along), 1e-300);
     const bool mirrored = map.determinant() < 0;
     if (!mirrored || up.y < 0) {
-        e.rotation = std::atan2(along.y, along.x) / kDegree;
+        e.rotation = directionOf(along);
         // Upside down: what stood on the base line now hangs from it.
         if (mirrored) e.align = (e.align & ~24) | ((e.align & 24) == 0 ? 24 : 0);
         return;
     }
-    e.rotation = std::atan2(-up.x, up.y) / kDegree;
+    e.rotation = directionOf({up.y, -up.x});
     if ((e.align & 6) != 6) e.align ^= 2;
 }
 
@@ -209,7 +216,7 @@ void mapSymbol(Element &e, const Affine &map)
     const bool mirrored = whole.determinant() < 0;
     const Vec2 axis = mirrored ? whole.x * -1 : whole.x;
     e.scale = mirrored ? -size : size;
-    e.rotation = std::atan2(axis.y, axis.x) / kDegree;
+    e.rotation = directionOf(axis);
 }
 
 void mapLine(Element &e, const Affine &map)

@@ -135,20 +135,37 @@ int DrawingBuilder::lineTypeOf(const QString &name)
     return *m_lineTypes.insert(key, int(m_drawing.lineTypes.size()) - 1);
 }
 
+int DrawingBuilder::rawLayer(const std::string &name)
+{
+    const auto [at, fresh] = m_rawLayers.try_emplace(name, 0);
+    if (fresh) at->second = layerOf(text(name));
+    return at->second;
+}
+
+int DrawingBuilder::rawLineType(const std::string &name)
+{
+    const auto [at, fresh] = m_rawLineTypes.try_emplace(name, 0);
+    if (fresh) at->second = lineTypeOf(text(name));
+    return at->second;
+}
+
 int DrawingBuilder::styleOf(const QString &name) const { return m_styles.value(folded(name), 0); }
 
 int DrawingBuilder::variantOf(int style, const PlainText &plain, double widthFactor, bool italic)
 {
     if (m_drawing.textStyles.empty()) addTextStyle({.name = QStringLiteral("STANDARD")});
+    if (plain.width > 0) widthFactor = plain.width;
+    const double own = m_drawing.textStyles[size_t(style)].widthFactor;
+    const bool asIs = plain.face.isEmpty() && !plain.underline && !italic
+                      && (!(widthFactor > 0) || std::abs(widthFactor - own) < 0.01);
+    if (asIs) return style;
     DxfTextStyle wanted = m_drawing.textStyles[size_t(style)];
     const QString base = wanted.name;
     if (!plain.face.isEmpty()) wanted.face = plain.face, wanted.bold = plain.bold, wanted.italic = plain.italic;
     if (plain.underline) wanted.underline = true;
-    if (plain.width > 0) widthFactor = plain.width;
     if (widthFactor > 0) wanted.widthFactor = std::round(widthFactor * 100) / 100;
     if (italic) wanted.italic = true;
-    if (std::abs(wanted.widthFactor - m_drawing.textStyles[size_t(style)].widthFactor) < 0.01)
-        wanted.widthFactor = m_drawing.textStyles[size_t(style)].widthFactor;
+    if (std::abs(wanted.widthFactor - own) < 0.01) wanted.widthFactor = own;
     for (size_t i = 0; i < m_drawing.textStyles.size(); ++i) {
         wanted.name = m_drawing.textStyles[i].name;
         if (m_variantOf[i] == style && m_drawing.textStyles[i] == wanted) return int(i);
@@ -180,9 +197,9 @@ bool DrawingBuilder::open(const EntityHead &head)
     if (head.paper || m_paperBlock || head.invisible) return false;
     m_head = {};
     m_head.kind = kindOf(head.kind);
-    m_head.layer = layerOf(text(head.layer));
+    m_head.layer = rawLayer(head.layer);
     m_head.color = colorOf(head.color, head.trueColor);
-    m_head.lineType = lineTypeOf(text(head.lineType));
+    m_head.lineType = rawLineType(head.lineType);
     m_head.lineTypeScale = head.lineTypeScale > 0 ? head.lineTypeScale : 1;
     return true;
 }

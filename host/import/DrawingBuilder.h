@@ -4,7 +4,7 @@
 #include "import/DxfScan.h"
 #include "import/DxfText.h"
 
-#include <array>
+#include <unordered_map>
 
 namespace refhost {
 
@@ -52,6 +52,8 @@ private:
     int layerOf(const QString &name);
     int lineTypeOf(const QString &name);
     int kindOf(const std::string &name);
+    int rawLayer(const std::string &name);
+    int rawLineType(const std::string &name);
     int nearestColor(int rgb);
     int colorOf(int color, int rgb);
 
@@ -59,7 +61,7 @@ private:
     DxfLetters m_letters;
     Drawing m_drawing;
     QHash<QString, int> m_layers, m_lineTypes, m_styles, m_blocks;
-    std::map<std::string, int> m_kinds;
+    std::unordered_map<std::string, int> m_kinds, m_rawLayers, m_rawLineTypes;
     std::map<int, int> m_nearest;
     std::vector<int> m_variantOf;               // of each text style: the one of the file that it comes from
     int m_block = -1;

@@ -16,7 +16,7 @@ enum Align { Left = 0, Right = 2, Centre = 6, Top = 0, Bottom = 8, Base = 24 };
 
 bool sameDepth(std::span<const PolylineVertex> vertices)
 {
-    return std::ranges::all_of(vertices, [&](const PolylineVertex &v) { return v.at.z == vertices.front().at.z; });
+    return std::ranges::all_of(vertices, [&](const PolylineVertex &v) { return v.z == vertices.front().z; });
 }
 
 } // namespace
@@ -56,11 +56,14 @@ void DxfObjects::ellipse(Vec3 c, Vec3 axis, double ratio, double from, double to
 
 void DxfObjects::polyline(const PolylineFacts &p)
 {
-    if (p.wide) m_builder.note(Loss::Widths);
+    if (p.wide || std::ranges::any_of(p.vertices, &PolylineVertex::wide)) m_builder.note(Loss::Widths);
     const bool mesh = p.flags & 16, faces = p.flags & 64, spatial = p.flags & 8;
     if (mesh || faces) {
-        Mesh grid{.faces = p.faces, .m = p.m, .n = p.n, .closedM = (p.flags & 1) != 0, .closedN = (p.flags & 32) != 0};
-        for (const PolylineVertex &v : p.vertices) grid.vertices.push_back(v.at.flat());
+        Mesh grid{.m = p.m, .n = p.n, .closedM = (p.flags & 1) != 0, .closedN = (p.flags & 32) != 0};
+        for (const PolylineVertex &v : p.vertices) {
+            if ((v.flags & 192) == 128) grid.faces.emplace_back(std::begin(v.face), std::find(v.face, v.face + 4, 0));
+            else grid.vertices.push_back({v.x, v.y});
+        }
         return addAll(grid.edges());
     }
     Element e;
@@ -68,7 +71,7 @@ void DxfObjects::polyline(const PolylineFacts &p)
     // Of a smoothed line only its result is drawn, not the frame that was smoothed.
     const bool smoothed = std::ranges::any_of(p.vertices, [](const PolylineVertex &v) { return v.flags & 8; });
     for (const PolylineVertex &v : p.vertices)
-        if (!smoothed || !(v.flags & 16)) e.vertices.push_back(vertexAt(v.at.flat(), spatial ? 0 : v.bulge));
+        if (!smoothed || !(v.flags & 16)) e.vertices.push_back(vertexAt({v.x, v.y}, spatial ? 0 : v.bulge));
     if (e.vertices.empty()) return;
     if (e.vertices.size() == 1) {
         e.kind = ElementKind::Point;
@@ -76,7 +79,7 @@ void DxfObjects::polyline(const PolylineFacts &p)
     }
     if (spatial && !sameDepth(p.vertices)) m_builder.note(Loss::Depths);
     if (spatial) return m_builder.add(std::move(e));
-    addOn(plane(p.light ? p.elevation : p.vertices.front().at.z), std::move(e));
+    addOn(plane(p.light ? p.elevation : p.vertices.front().z), std::move(e));
 }
 
 void DxfObjects::spline(const Spline &s)

@@ -27,18 +27,12 @@ struct BlockText {
     int attachment = 1;         ///< 1..9, by rows from the top left
     std::string text, style;
 };
-struct PolylineVertex {
-    Vec3 at;
-    double bulge = 0;
-    int flags = 0;
-};
 struct PolylineFacts {
     int flags = 0, m = 0, n = 0;
     bool light = false;         ///< LWPOLYLINE: all in the plane of its own
     double elevation = 0;
     bool wide = false;
     std::vector<PolylineVertex> vertices;
-    std::vector<std::vector<int>> faces;
 };
 
 /// Turns the objects of a file into shapes, whoever read them. Every call is for the object that the builder has open.

@@ -10,6 +10,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <locale>
 #include <memory>
 #include <numbers>
 #include <optional>
@@ -25,14 +26,19 @@ constexpr double kDegree = std::numbers::pi / 180;
 /// begins. What the reader has no call for is taken from the groups.
 class Receiver final : public DL_CreationAdapter {
 public:
-    explicit Receiver(DrawingBuilder &builder) : m_builder(builder), m_objects(builder) {}
+    Receiver(const DxfScan &scan, DrawingBuilder &builder) : m_scan(scan), m_builder(builder), m_objects(builder) {}
 
     void processCodeValuePair(unsigned int code, const std::string &value) override
     {
-        if (code != 0) return m_next.push_back({int(code), value});
+        if (code != 0) {
+            const bool coordinate = code >= 10 && code < 40;
+            if (m_wholeWanted || !coordinate) m_next.push_back({int(code), value});
+            return;
+        }
         m_object.swap(m_next);
         m_next.clear();
         m_next.push_back({0, value});
+        m_wholeWanted = !coordinatesDelivered(value);
         if (!m_object.empty()) readyByGroups(m_object.front().value);
     }
 
@@ -100,12 +106,12 @@ public:
         if (int(numberAt(m_object, 70)) & 1) return m_builder.hide(head());
         object([&] { m_objects.text(rowText(d)); });
     }
-    void addMTextChunk(const std::string &chunk) override { m_chunks += std::string(m_scan(chunk)); }
+    void addMTextChunk(const std::string &chunk) override { m_chunks += std::string(m_scan.whole(chunk)); }
     void addMText(const DL_MTextData &d) override
     {
         BlockText t{.insertion = {d.ipx, d.ipy, d.ipz}, .height = d.height, .width = d.width,
                     .lineSpacing = d.lineSpacingFactor, .attachment = d.attachmentPoint,
-                    .text = std::exchange(m_chunks, {}) + std::string(m_scan(d.text)), .style = d.style};
+                    .text = std::exchange(m_chunks, {}) + std::string(m_scan.whole(d.text)), .style = d.style};
         // The reader's own angle is wrong for texts that run to the left.
         const double angle = numberAt(m_object, 50) * kDegree;
         t.along = valueAt(m_object, 11) ? Vec2{d.dirx, d.diry} : Vec2{std::cos(angle), std::sin(angle)};
@@ -121,12 +127,11 @@ public:
         for (const DxfPair &p : m_object)
             if (p.code == 40 || p.code == 41 || (p.code == 43 && m_polyline.light))
                 m_polyline.wide = m_polyline.wide || numberOfText(p.value) != 0;
+        if (m_polyline.light) return;
+        m_polyline.vertices = m_scan.verticesOf(int(numberAt(m_object, DxfScan::kVertices)));
+        finish();
     }
-    void addVertex(const DL_VertexData &d) override
-    {
-        const int flags = m_polyline.light ? 0 : int(numberAt(m_object, 70));
-        m_polyline.vertices.push_back({{d.x, d.y, d.z}, d.bulge, flags});
-    }
+    void addVertex(const DL_VertexData &d) override { m_polyline.vertices.push_back({d.x, d.y, d.z, d.bulge}); }
     void addSpline(const DL_SplineData &d) override
     {
         begin();
@@ -146,7 +151,6 @@ public:
     }
     void addLeaderVertex(const DL_LeaderVertexData &d) override { m_leader.push_back({d.x, d.y}); }
     void endEntity() override { finish(); }
-    void endSequence() override { finish(); }       // a polyline without vertices ends here only
 
     void addDimAlign(const DL_DimensionData &, const DL_DimAlignedData &) override { dimension(); }
     void addDimLinear(const DL_DimensionData &, const DL_DimLinearData &) override { dimension(); }
@@ -156,9 +160,14 @@ public:
     void addDimAngular3P(const DL_DimensionData &, const DL_DimAngular3PData &) override { dimension(); }
     void addDimOrdinate(const DL_DimensionData &, const DL_DimOrdinateData &) override { dimension(); }
 
-    std::function<std::string_view(std::string_view)> m_scan;   ///< long values as they stand in the file
-
 private:
+    /// Everything the groups of these say about places comes in the reader's calls.
+    static bool coordinatesDelivered(std::string_view kind)
+    {
+        static constexpr std::string_view kKinds[] = {"LINE", "POINT", "LWPOLYLINE", "POLYLINE", "SPLINE", "CIRCLE",
+                                                      "ARC", "ELLIPSE", "INSERT", "SOLID", "TRACE", "LEADER"};
+        return std::ranges::find(kKinds, kind) != std::end(kKinds);
+    }
     struct Corners {
         Vec3 at[4];
         explicit Corners(const DL_TraceData &d)
@@ -249,7 +258,6 @@ private:
     /// Before the reader's call, and instead of it for what it has none.
     void readyByGroups(const std::string &kind)
     {
-        if (kind == "VERTEX") return faceOfMesh();
         const bool known = kind == "HATCH" || kind == "MLINE" || kind == "MULTILEADER" || kind == "ACAD_TABLE"
                            || (kind == "ATTDEF" && (int(numberAt(m_object, 70)) & 3) == 2);
         if (!known || !m_builder.open(headOfGroups())) return;
@@ -263,7 +271,7 @@ private:
     }
     void leaderText()
     {
-        for (DxfPair &p : m_object) p.value = std::string(m_scan(p.value));
+        for (DxfPair &p : m_object) p.value = std::string(m_scan.whole(p.value));
         m_objects.leaderText(m_object);
     }
     void table()
@@ -286,21 +294,13 @@ private:
                 .vertical = int(numberAt(m_object, 74)), .text = value ? *value : std::string(),
                 .style = style ? *style : std::string()};
     }
-    void faceOfMesh()
-    {
-        const int flags = int(numberAt(m_object, 70));
-        if (!(flags & 128) || (flags & 64)) return;
-        std::vector<int> face;
-        for (int code = 71; code <= 74; ++code)
-            if (const int i = int(numberAt(m_object, code)); i != 0) face.push_back(i);
-        m_polyline.faces.push_back(std::move(face));
-    }
 
+    const DxfScan &m_scan;
     DrawingBuilder &m_builder;
     DxfObjects m_objects;
     DxfPairs m_object, m_next;              // the finished object and the one that is coming in
     std::string m_chunks, m_open;
-    bool m_shown = false;
+    bool m_shown = false, m_wholeWanted = true;
     PolylineFacts m_polyline;
     Spline m_spline;
     std::vector<Vec2> m_leader;
@@ -308,15 +308,41 @@ private:
 
 } // namespace
 
+namespace {
+
+/// The reader takes numbers by the program's C++ locale; a decimal comma would cut all fractions off.
+class PlainNumbers {
+public:
+    PlainNumbers()
+    {
+        if (m_before == std::locale::classic()) return;
+        m_cLocale = std::setlocale(LC_ALL, nullptr);
+        std::locale::global(std::locale::classic());
+    }
+    ~PlainNumbers()
+    {
+        if (m_cLocale.empty()) return;
+        std::locale::global(m_before);
+        std::setlocale(LC_ALL, m_cLocale.c_str());
+    }
+    PlainNumbers(const PlainNumbers &) = delete;
+    PlainNumbers &operator=(const PlainNumbers &) = delete;
+private:
+    std::locale m_before;
+    std::string m_cLocale;
+};
+
+} // namespace
+
 Drawing readDrawing(const DxfScan &scan, const DxfScan::Progress &progress)
 {
     DrawingBuilder builder(scan);
-    Receiver receiver(builder);
-    receiver.m_scan = [&scan](std::string_view v) { return scan.whole(v); };
-    const QByteArray &bytes = scan.clean();
-    const std::unique_ptr<FILE, int (*)(FILE *)> file(
-        fmemopen(const_cast<char *>(bytes.constData()), size_t(bytes.size()), "r"), &fclose);
+    Receiver receiver(scan, builder);
+    const std::string &bytes = scan.clean();
+    const std::unique_ptr<FILE, int (*)(FILE *)> file(fmemopen(const_cast<char *>(bytes.data()), bytes.size(), "r"),
+                                                      &fclose);
     if (!file) throw DocumentError(txt(Text{30307, u"Nincs elég memória a rajz beolvasásához."}));
+    const PlainNumbers plain;
     DL_Dxf reader;
     for (int n = 0; reader.readDxfGroups(file.get(), &receiver); ++n)
         if (n % 20000 == 0 && progress && !progress(double(ftell(file.get())) / double(bytes.size())))

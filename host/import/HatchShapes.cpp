@@ -188,7 +188,8 @@ private:
         double x = begin + std::floor((from - begin) / m_period) * m_period;
         for (size_t i = 0; x < to; i = (i + 1) % m_family.dashes.size()) {
             const double d = m_family.dashes[i], end = x + std::abs(d);
-            if (d >= 0 && end >= from && x <= to && !piece(std::max(x, from), std::min(end, to), y)) return false;
+            const bool seen = d > 0 ? end > from : d == 0 && x >= from;
+            if (seen && !piece(std::max(x, from), std::min(end, to), y)) return false;
             x = end;
         }
         return true;

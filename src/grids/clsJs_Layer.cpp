@@ -17,10 +17,12 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     readGroups();
     groupGrid->setSource(&m_groupRows);
     groupGrid->setMultiSelection(!singleSelection);
-    groupGrid->setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-    groupGrid->setVisible(m_showGroups);
+    groupGrid->setTooltips(
+        readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+    groupGrid->setVisible(bShowGroups());
     groupGrid->setCurrentRow(0);
-    connect(groupGrid, &Grid::currentRowMoved, this, [this](int row) { relay().guard([&] { chooseGroup(row); }); });
+    connect(groupGrid, &Grid::currentRowMoved, this,
+            [this](int row) { relay().guard([&] { chooseGroup(row); }); });
 }
 
 void clsJs_Layer::TearDown()
@@ -66,7 +68,7 @@ bool clsJs_Layer::fits(const tLay &lay) const
 
 void clsJs_Layer::setbShowGroups(bool on)
 {
-    m_showGroups = on;
+    GridManager::setbShowGroups(on);
     if (m_groupGrid) m_groupGrid->setVisible(on);
 }
 

@@ -123,8 +123,9 @@ private slots:
     void noThenCancelIsACancel()
     {
         m_dialogs.setWarnInvisibleCurrentLayer(true);
-        ScriptedPrompts user({{"yesNo", QStringLiteral("ZOLDocDlgs"),
-                               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), false, Icon::Question}});
+        ScriptedPrompts user(
+            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
+              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), false, Icon::Question}});
         tLay lay = layer(10);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             pick(12, "cmdOk")(d);
@@ -134,7 +135,8 @@ private slots:
         QCOMPARE(lay, layer(10));
     }
 
-    /// Each host call of the whole road fails once; the caller gets the host's own exception and nothing has changed.
+    /// Each host call of the whole road fails once; the caller gets the host's own exception and nothing has
+    /// changed.
     void everyErrorOfTheHostReachesTheCaller()
     {
         int failed = 0;
@@ -157,20 +159,21 @@ private slots:
         }
         QVERIFY2(failed > 7, qPrintable(QString::number(failed)));
     }
-    /// A command of the dialog fails while a message box stands above it: both close, and nothing is asked again.
+    /// A command of the dialog fails while a message box stands above it: both close, and nothing is asked
+    /// again.
     void anErrorBehindAQuestionClosesEverything()
     {
         m_dialogs.setWarnInvisibleCurrentLayer(true);
         tests::FaultyDoc faulty(*m_doc);
         frmSelect *open = nullptr;
-        ScriptedPrompts user({{"yesNo", QStringLiteral("ZOLDocDlgs"),
-                               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question,
-                               [&] {
-                                   faulty.log.failNext = QStringLiteral("layers.update");
-                                   open->jsLayer->setAllowEdit(true);
-                                   QTreeView &table = *child<Grid>(*open, "gridItems").table();
-                                   table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
-                               }}});
+        ScriptedPrompts user(
+            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
+              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question, [&] {
+                  faulty.log.failNext = QStringLiteral("layers.update");
+                  open->jsLayer->setAllowEdit(true);
+                  QTreeView &table = *child<Grid>(*open, "gridItems").table();
+                  table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
+              }}});
         tLay lay = layer(10);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             open = &d;

@@ -45,10 +45,14 @@ private slots:
         QTest::addColumn<QString>("after");
         const QString same = QStringLiteral("1 A, 2 B, 3 C");
         QTest::newRow("free name") << QByteArray("Name") << QVariant("Út") << "" << "" << "1 Út, 2 B, 3 C";
-        QTest::newRow("taken name") << QByteArray("Name") << QVariant("B") << "Rétegnév" << "Létező rétegnév !" << same;
+        QTest::newRow("taken name") << QByteArray("Name") << QVariant("B") << "Rétegnév"
+                                    << "Létező rétegnév !" << same;
         QTest::newRow("own name again") << QByteArray("Name") << QVariant("A") << "" << "" << same;
-        QTest::newRow("free number") << QByteArray("gNr") << QVariant("32767") << "" << "" << "32767 A, 2 B, 3 C";
-        QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám" << "Létező rétegsorszám !" << same;
+        QTest::newRow("free number") << QByteArray("gNr") << QVariant("32767") << ""
+                                     << ""
+                                     << "32767 A, 2 B, 3 C";
+        QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám"
+                                      << "Létező rétegsorszám !" << same;
         QTest::newRow("no number") << QByteArray("gNr") << QVariant("tíz") << "" << "" << same;
         QTest::newRow("no whole number") << QByteArray("gNr") << QVariant("2.5") << "" << "" << same;
         QTest::newRow("beyond 16 bits") << QByteArray("gNr") << QVariant("32768") << "" << "" << same;
@@ -124,10 +128,12 @@ private slots:
         clsJs_Layer js;
         js.init(*m_doc, grid, nullptr, true);
         const GridStyles &styles = grid.formatStyles();
-        QCOMPARE(styles.find(QStringLiteral("7ColorId")).background.rgb() & 0xFFFFFF, m_doc->penColors().palette()[1]);
+        QCOMPARE(styles.find(QStringLiteral("7ColorId")).background.rgb() & 0xFFFFFF,
+                 m_doc->penColors().palette()[1]);
         QCOMPARE(styles.find(QStringLiteral("0ColorId")).background, QColor(0, 0, 0));
         QCOMPARE(styles.find(QStringLiteral("0ColorId")).text, QColor(255, 255, 255));
-        QVERIFY(styles.contains(QStringLiteral("255ColorId")) && !styles.contains(QStringLiteral("256ColorId")));
+        QVERIFY(styles.contains(QStringLiteral("255ColorId")) &&
+                !styles.contains(QStringLiteral("256ColorId")));
         QCOMPARE(LayerTable::styles(layer(1)).row, QStringLiteral("OddRow"));
         QCOMPARE(LayerTable::styles(layer(2)).row, QStringLiteral("Grayed"));
         QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));

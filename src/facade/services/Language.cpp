@@ -73,7 +73,8 @@ void readTable(const QString &path, Table &into)
 void readFolder(const QString &folder)
 {
     for (size_t i = 0; i < std::size(kLanguages); ++i)
-        readTable(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv"), state().tables[i]);
+        readTable(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv"),
+                  state().tables[i]);
 }
 
 void readDevelopmentFile()

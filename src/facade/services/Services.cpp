@@ -33,7 +33,8 @@ struct IniStore final : ZolWDoc::SettingsStore {
     {
         return fileOf(application).value(section + u'/' + key, fallback).toString();
     }
-    void write(const QString &application, const QString &section, const QString &key, const QString &value) override
+    void write(const QString &application, const QString &section, const QString &key,
+               const QString &value) override
     {
         fileOf(application).setValue(section + u'/' + key, value);
     }
@@ -83,7 +84,8 @@ QString settingsFolder()
 {
     ZolWDoc::EnvironmentService *own = state().host ? state().host->environment() : nullptr;
     const QString folder = own ? own->settingsFolder()
-        : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/QV_DOC_CONTROLS");
+                               : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                     QStringLiteral("/QV_DOC_CONTROLS");
     QDir().mkpath(folder);
     return folder;
 }
@@ -104,7 +106,8 @@ QString appTitle() { return state().title; }
 void setAppTitle(const QString &title)
 {
     state().title = title;
-    if (ZolWDoc::ErrorReporter *errors = state().host ? state().host->errors() : nullptr) errors->setTitle(title);
+    if (ZolWDoc::ErrorReporter *errors = state().host ? state().host->errors() : nullptr)
+        errors->setTitle(title);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -14,13 +14,13 @@ struct Refusal {
     Text title, text;
 };
 
-/// One column of a table: bound to a member of its record by address; "must be unique" is data too. `Names` is what the
-/// table looks up once per fill, to show identifiers by name and to offer them as choices.
+/// One column of a table: bound to a member of its record by address; "must be unique" is data too. `Names`
+/// is what the table looks up once per fill, to show identifiers by name and to offer them as choices.
 template <class Rec, class Names> struct Column {
     const char *key;                                    ///< published, kept as spelt
     Text caption;
     QVariant (*get)(const Rec &);
-    bool (*put)(Rec &, const QVariant &);               ///< false = no value of this column: the edit is dropped
+    bool (*put)(Rec &, const QVariant &); ///< false = no value of this column: the edit is dropped
     QString (*shown)(const Rec &, const Names &);
     CellKind kind;
     Text longCaption{};
@@ -32,7 +32,8 @@ template <class Rec, class Names> struct Column {
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
     constexpr Column color() const { auto c = *this; c.kind = CellKind::Color; return c; }
-    constexpr Column named(QString (*by)(const Rec &, const Names &), std::vector<GridChoice> (*offer)(const Names &)) const
+    constexpr Column named(QString (*by)(const Rec &, const Names &),
+                           std::vector<GridChoice> (*offer)(const Names &)) const
     {
         auto c = *this;
         c.kind = CellKind::List, c.shown = by, c.choices = offer;
@@ -48,7 +49,8 @@ template <class T> constexpr CellKind kindOf()
     else return std::is_arithmetic_v<T> ? CellKind::Number : CellKind::Text;
 }
 
-/// Takes over an edited value; text that is no whole number of the member's range is no value of a number column.
+/// Takes over an edited value; text that is no whole number of the member's range is no value of a number
+/// column.
 template <class T> bool assign(T &member, const QVariant &value)
 {
     if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {

@@ -4,6 +4,7 @@
 #include "facade/services/Services.h"
 #include "grids/frame/ColorStyles.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
 #include "kit/grid/Grid.h"
 
@@ -32,9 +33,16 @@ public:
     void ml_RuntimeSupport_LanguageChanged() override
     {
         readCaptions();
-        if (m_grid) m_grid->captionsChanged();
+        if (!m_grid) return;
+        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        m_grid->captionsChanged();
+        loadGridLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
-    /// Reads the whole table again; current row and selection stay with their records. Throws the host's error.
+    void saveLayout() override { if (m_grid) saveGridLayout(*m_grid, Table::layout); }
+    const GridSource &source() const override { return *this; }
+    Paper paper() const override { return Table::paper(); }
+    /// Reads the whole table again; current row and selection stay with their records. Throws the host's
+    /// error.
     void fill()
     {
         if (!m_doc) return;
@@ -72,12 +80,18 @@ protected:
         m_doc = &doc, m_grid = &grid;
         buildColorStyles(grid, doc);
         grid.setAllowEdit(AllowEdit());
-        grid.setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+        grid.setTooltips(
+            readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
         m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
         showWhatFits();
         grid.setSource(this);
+        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        QObject::connect(&grid, &Grid::viewChanged, this, [this](GridView v) { raiseView(qint16(v)); });
+        QObject::connect(&grid, &Grid::groupingChanged, this, [this](bool grouped) { raiseGrouped(grouped); });
+        loadGridLayout(grid, Table::layout);
         QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
-        QObject::connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        QObject::connect(&grid, &Grid::selectionMoved, this,
+                         [this] { raiseSelection(m_grid->selectedCount()); });
         QObject::connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
                          [this] { ml_RuntimeSupport_LanguageChanged(); });
     }
@@ -87,7 +101,10 @@ protected:
     ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
-    void showAgain() { if (m_grid) m_grid->refill([this] { showWhatFits(); }); } ///< fits() answers otherwise now
+    void showAgain()
+    {
+        if (m_grid) m_grid->refill([this] { showWhatFits(); });
+    } ///< fits() answers otherwise now
 
     // --- the grid's view of the records
     const std::vector<GridColumn> &columns() const override { return m_columns; }
@@ -120,14 +137,15 @@ private:
     {
         m_columns.clear();
         for (const auto &c : Table::columns)
-            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption), c.longCaption.id ? txt(c.longCaption) : QString(),
-                                 c.kind, c.canEdit, 0});
+            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
+                                 c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
     }
     void raiseCurrentRow()
     {
         if (const auto now = currentRecord()) raiseCurrent(*now);
     }
-    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed "10" is text.
+    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed
+    /// "10" is text.
     bool tryEdit(int row, int c, const QVariant &value)
     {
         const auto &column = Table::columns[c];
@@ -135,7 +153,9 @@ private:
         if (!m_doc || !column.put(edited, value)) return false;
         const QVariant now = column.get(edited);
         if (now == column.get(recordAt(row))) return false;
-        const auto has = [&](const Record &r) { return Table::id(r) != Table::id(edited) && column.get(r) == now; };
+        const auto has = [&](const Record &r) {
+            return Table::id(r) != Table::id(edited) && column.get(r) == now;
+        };
         if (column.taken && std::ranges::any_of(m_all, has)) {
             prompts().tell({column.taken->icon, txt(column.taken->title), txt(column.taken->text)}, m_grid);
             return false;

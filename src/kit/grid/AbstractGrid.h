@@ -1,20 +1,11 @@
 #pragma once
 
 #include "kit/grid/GridSource.h"
+#include "kit/grid/SortKey.h"
 
 #include <span>
 
 namespace QV_DOC_CONTROLS {
-
-enum class SortOrder : qint8 { Ascending = 1, Descending = -1 };
-
-/// One sort key or one group level: a column of the source and its order.
-struct SortKey {
-    int column = -1;
-    SortOrder order = SortOrder::Ascending;
-    bool operator==(const SortKey &) const = default;
-};
-inline constexpr int kMaxLevels = 4;                ///< sort keys, and group levels
 
 /// A grid as the view tools see it: columns by their index in the source, keys, levels; no records, no manager.
 class AbstractGrid {

@@ -1,165 +1,375 @@
 #include "kit/grid/Grid.h"
 
-#include "kit/forms/Twips.h"
+#include "kit/grid/FilterLine.h"
+#include "kit/grid/GridCards.h"
 #include "kit/grid/GridDelegate.h"
+#include "kit/grid/GridHeader.h"
+#include "kit/grid/GridInput.h"
 #include "kit/grid/GridModel.h"
+#include "kit/grid/GridSelection.h"
+#include "kit/grid/GridTable.h"
+#include "kit/grid/GroupBox.h"
+#include "kit/grid/InterfaceLocale.h"
 
-#include <QHeaderView>
-#include <QItemSelection>
+#include <QApplication>
+#include <QDrag>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTreeView>
+#include <QShortcut>
+#include <QTimerEvent>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
-namespace {
 
-constexpr int kRowsMeasured = 200; ///< rows that a column's first width is taken from
-
-/// Ranges of neighbouring rows, so that a large selection stays few ranges.
-QItemSelection rangesOf(std::span<const int> rows, const QAbstractItemModel &model)
+Grid::Grid(QWidget *parent)
+    : QWidget(parent), m_model(new GridModel(this)), m_selection(new GridSelection(*m_model, this)),
+      m_delegate(new GridDelegate(*m_model, this)), m_input(new GridInput(*m_model, *m_delegate, this)),
+      m_filter(new FilterLine(this)), m_box(new GroupBox(this)), m_table(new GridTable(*m_model, *m_delegate, this)),
+      m_header(new GridHeader(m_table))
 {
-    QItemSelection all;
-    const int last = model.columnCount() - 1;
-    for (size_t i = 0; i < rows.size();) {
-        size_t j = i;
-        while (j + 1 < rows.size() && rows[j + 1] == rows[j] + 1) ++j;
-        all.append(QItemSelectionRange(model.index(rows[i], 0), model.index(rows[j], last)));
-        i = j + 1;
-    }
-    return all;
+    m_table->setHeader(m_header);
+    m_header->show();
+    buildLayout();
+    attach(*m_table);
+    m_table->setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
+    m_input->watch(*m_table, [this](int line) { m_table->setDropLine(line); });
+    m_input->watch(*m_header);
+    connectViews();
+    m_box->showLevels({}, columns());
+    m_filter->retranslate(interfaceLocale());
 }
 
-} // namespace
+Grid::~Grid() = default;
 
-Grid::Grid(QWidget *parent) : QWidget(parent), m_model(new GridModel(this)), m_table(new QTreeView(this))
+void Grid::buildLayout()
 {
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addWidget(m_table);
+    column->setSpacing(0);
+    column->addWidget(m_filter);
+    column->addWidget(m_box);
+    column->addWidget(m_table, 1);
     setFocusProxy(m_table);
+    setTabOrder(m_filter->edit(), m_table);
+    auto *const filterKey = new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(filterKey, &QShortcut::activated, this, &Grid::focusFilter);
+}
 
-    m_table->setModel(m_model);
-    m_table->setItemDelegate(new GridDelegate(m_table));
-    m_table->setRootIsDecorated(false);
-    m_table->setUniformRowHeights(true);
-    m_table->setAllColumnsShowFocus(true);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->header()->setStretchLastSection(false);
-    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex &now) {
-        if (!m_refilling) emit currentRowMoved(m_model->sourceRow(now));
+/// Both views share selection, current cell and delegate.
+void Grid::attach(QAbstractItemView &view)
+{
+    QItemSelectionModel *const own = view.selectionModel();
+    view.setSelectionModel(m_selection);
+    if (own != m_selection) delete own;
+    connect(&view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &i) {
+        const bool edits = i.flags() & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
+        if (!edits && m_model->sourceRow(i) >= 0) emit rowActivated(m_model->sourceRow(i));
     });
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!m_refilling) emit selectionMoved();
+}
+
+void Grid::connectViews()
+{
+    connect(m_selection, &QItemSelectionModel::currentChanged, this, &Grid::currentChanged);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, this, [this] {
+        if (m_quiet) return;
+        updateCounts();
+        emit selectionMoved();
     });
-    connect(m_table, &QTreeView::doubleClicked, this,
-            [this](const QModelIndex &i) { emit rowActivated(m_model->sourceRow(i)); });
+    connect(m_model, &GridModel::rowChanged, this, &Grid::place);
+    connect(m_delegate, &QAbstractItemDelegate::closeEditor, this, &Grid::placePending);
+    connect(m_input, &GridInput::bandToggled, this, &Grid::toggleBand);
+    connect(m_input, &GridInput::contextMenuAsked, this, &Grid::contextMenuAsked);
+    connect(m_input, &GridInput::escaped, this, [this](bool &taken) {
+        taken = !m_filter->text().isEmpty();
+        if (taken) m_filter->clear();
+    });
+    connect(m_input, &GridInput::deleteAsked, this, [this] {
+        const std::vector<int> rows = selectedRows();
+        if (m_allowEdit && m_source && !rows.empty()) m_source->removeRows(rows); // may end the dialog: nothing after it
+    });
+    connect(m_filter, &FilterLine::changed, this, &Grid::applyFilter);
+    connect(m_filter, &FilterLine::focused, this, [this] { m_idle.start(0, this); });
+    connect(m_filter, &FilterLine::gridAsked, this, [this] {
+        if (currentRow() < 0 && m_model->engine().shownCount() > 0) makeCurrent(m_model->engine().shownRows().front());
+        activeView()->setFocus(Qt::TabFocusReason);
+    });
+    connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) {
+        const bool focused = m_box->isAncestorOf(QApplication::focusWidget());
+        setGroupLevels(levels);
+        if (focused && levels.empty()) activeView()->setFocus(Qt::OtherFocusReason); // its chip is gone
+    });
+    connect(m_header, &GridHeader::sortAsked, this, &Grid::sortBy);
+    connect(m_header, &GridHeader::dragged, this, [this](int, QPoint at) { m_box->markPlace(at); });
+    connect(m_header, &GridHeader::dragEnded, this, [this] { m_box->markPlace({-1, -1}); });
+    connect(m_header, &GridHeader::dropped, this, [this](int column, QPoint at) {
+        if (m_box->holds(at)) m_box->insert(column, at);
+    });
+    connect(m_header, &GridHeader::columnMoved, this, &Grid::columnsMoved);
+    connect(m_header, &QHeaderView::sectionResized, this, [this] {
+        if (!m_quiet) emit columnsChanged();
+    });
 }
 
 void Grid::setSource(GridSource *source)
 {
+    QScopedValueRollback quiet(m_quiet, true);
     m_source = source;
-    m_refilling = true;
-    m_model->setWritable(m_allowEdit ? source : nullptr);
+    m_current = -1;
+    m_pending.clear();
+    m_model->setWritable(m_allowEdit);
     m_model->setSource(source);
-    m_refilling = false;
-    if (source) fitColumns();
+    m_selection->setRows({});
+    const QSignalBlocker noFilter(m_filter);
+    m_filter->clear();
+    resetColumns();
+    columnsMoved();
+    m_header->setSortKeys({});
+    m_box->showLevels({}, columns());
+    updateCounts();
+    if (source) m_idle.start(0, this);
 }
 
-/// First widths: the column's own, or as wide as its caption and its first rows.
-void Grid::fitColumns()
+/// Runs a change after which the model has other lines, and puts selection and current cell back.
+void Grid::relist(const std::function<void()> &change)
 {
-    const QFontMetrics letters(m_table->font());
-    const int room = letters.horizontalAdvance(QStringLiteral("mm"));
-    for (int c = 0; c < m_model->columnCount(); ++c) {
-        const GridColumn &column = *m_model->column(c);
-        int width = pixelsOf(column.width, *this);
-        if (column.width == 0) {
-            width = m_table->header()->sectionSizeHint(c);
-            for (int r = 0; r < std::min(m_source->rowCount(), kRowsMeasured); ++r)
-                width = std::max(width, letters.horizontalAdvance(m_source->text(r, c)) + room);
-        }
-        m_table->header()->resizeSection(c, width);
-    }
+    QScopedValueRollback quiet(m_quiet, true);
+    const std::vector<int> selected = m_selection->allRows();
+    const int column = m_selection->currentIndex().column();
+    change();
+    m_selection->setRows(selected);
+    showCurrent(column);
+    updateCounts();
+}
+
+/// The current record's cell becomes the views' current one; in a collapsed band the band does.
+void Grid::showCurrent(int column)
+{
+    QModelIndex at = m_model->indexOf(m_current, std::max(column, 0));
+    if (!at.isValid() && m_current >= 0 && m_model->engine().isShown(m_current))
+        if (const auto closed = m_model->engine().closedBandsOver(m_current); !closed.empty())
+            at = m_model->index(m_model->engine().lineOfBand(closed.front()), std::max(column, 0));
+    m_selection->setCurrentIndex(at, QItemSelectionModel::NoUpdate);
+    if (at.isValid()) activeView()->scrollTo(at);
 }
 
 void Grid::refill(const std::function<void()> &change)
 {
-    const int place = currentRow();
-    const auto current = place < 0 ? std::nullopt : std::optional(m_source->rowId(place));
+    if (!m_source) return change();
     std::vector<qint64> selected;
-    for (int r : selectedRows()) selected.push_back(m_source->rowId(r));
-    const int scrolled = m_table->verticalScrollBar()->value();
+    for (int r : m_selection->allRows()) selected.push_back(m_source->rowId(r));
+    const auto &shown = m_model->engine().shownRows();
+    const int place = int(std::ranges::find(shown, m_current) - shown.begin());
+    const auto current = m_current < 0 ? std::nullopt : std::optional(m_source->rowId(m_current));
+    const int scrolled = activeView()->verticalScrollBar()->value(), column = m_selection->currentIndex().column();
 
-    m_refilling = true;
-    change();
-    m_model->refill();
+    QScopedValueRollback quiet(m_quiet, true);
+    m_pending.clear();
+    m_model->refill(change);
     restoreRows(selected, current, place);
-    m_table->verticalScrollBar()->setValue(scrolled);
-    m_refilling = false;
+    showCurrent(column);
+    activeView()->verticalScrollBar()->setValue(scrolled);
+    updateCounts();
+    m_idle.start(0, this);
 }
 
 void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int place)
 {
     QHash<qint64, int> rowOf;
+    rowOf.reserve(m_source->rowCount());
     for (int r = 0, n = m_source->rowCount(); r < n; ++r) rowOf.insert(m_source->rowId(r), r);
     std::vector<int> rows;
     for (qint64 id : selected)
         if (const auto found = rowOf.constFind(id); found != rowOf.constEnd()) rows.push_back(*found);
-    std::ranges::sort(rows);
-    int now = current ? rowOf.value(*current, std::min(place, m_source->rowCount() - 1)) : -1;
-    if (rows.empty() && !selected.empty() && now >= 0) rows.push_back(now);
-
-    QItemSelectionModel &selection = *m_table->selectionModel();
-    if (now >= 0) selection.setCurrentIndex(m_model->indexOf(now), QItemSelectionModel::NoUpdate);
-    selection.select(rangesOf(rows, *m_model), QItemSelectionModel::ClearAndSelect);
+    const auto &shown = m_model->engine().shownRows();
+    const int heir = shown.empty() ? -1 : shown[std::min(size_t(place), shown.size() - 1)];
+    m_current = current ? rowOf.value(*current, heir) : -1;
+    if (rows.empty() && !selected.empty() && m_current >= 0) rows.push_back(m_current);
+    m_selection->setRows(rows);
 }
 
-void Grid::rowEdited(int row) { m_model->rowEdited(row); }
-void Grid::captionsChanged() { m_model->captionsChanged(); }
-int Grid::currentRow() const { return m_model->sourceRow(m_table->currentIndex()); }
+void Grid::currentChanged(const QModelIndex &now)
+{
+    const int row = m_model->sourceRow(now);
+    if (m_quiet || row == m_current || (row < 0 && now.isValid())) return; // on a band the record stays current
+    m_current = row;
+    emit currentRowMoved(row);
+}
+
+void Grid::toggleBand(int band)
+{
+    QScopedValueRollback quiet(m_quiet, true);
+    const int line = m_model->engine().lineOfBand(band);
+    const auto inside = m_model->engine().toggled(band);
+    const int current = m_selection->currentIndex().row(), column = std::max(0, m_selection->currentIndex().column());
+    const bool goes = m_model->engine().band(band).expanded && current >= inside.first && current < inside.first + inside.count;
+    if (goes) m_selection->setCurrentIndex(m_model->index(line, column), QItemSelectionModel::NoUpdate);
+    m_model->toggle(band);
+}
+
+void Grid::rowEdited(int row)
+{
+    m_model->rowEdited(row);
+    place(row);
+}
+
+/// An edited row goes to its place, but not from under an open editor.
+void Grid::place(int row)
+{
+    m_pending.push_back(row);
+    if (!isEditing()) placePending();
+}
+
+bool Grid::isEditing() const { return m_table->isEditing() || (m_cards && m_cards->isEditing()); }
+
+void Grid::placePending()
+{
+    if (m_pending.empty() || isEditing()) return;
+    const std::vector<int> rows = std::exchange(m_pending, {});
+    const bool placed = rows.size() == 1 && m_model->placeRow(rows.front());
+    if (!placed) relist([this] { m_model->rebuild(); });
+    else if (rows.front() == m_current) activeView()->scrollTo(m_selection->currentIndex());
+    updateCounts();
+}
+
+void Grid::updateCounts()
+{
+    const int hidden = m_selection->hiddenCount(), all = m_source ? m_source->rowCount() : 0;
+    m_filter->setCounts(m_model->engine().shownCount(), all, hidden);
+    if (std::exchange(m_hidden, hidden) == hidden || !m_source) return;
+    QScopedValueRollback loud(m_quiet, false);
+    emit selectionMoved();
+}
+
+void Grid::captionsChanged()
+{
+    relist([this] { m_model->captionsChanged(); });
+    m_filter->retranslate(interfaceLocale());
+    m_box->showLevels(groupLevels(), columns());
+    columnsMoved();
+    if (!filterText().isEmpty()) applyFilter();
+    m_idle.start(0, this);
+}
+
+int Grid::currentRow() const { return m_current >= 0 && m_model->engine().isShown(m_current) ? m_current : -1; }
 
 void Grid::setCurrentRow(int row)
 {
-    const QModelIndex index = m_model->indexOf(row);
-    if (!index.isValid()) return;
-    m_table->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    m_table->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    if (!m_source || row < 0 || row >= m_source->rowCount()) return;
+    if (!m_model->engine().isShown(row)) m_filter->clear();
+    makeCurrent(row);
 }
 
-std::vector<int> Grid::selectedRows() const
+void Grid::makeCurrent(int row)
 {
-    std::vector<int> rows;
-    for (const QItemSelectionRange &range : m_table->selectionModel()->selection()) // selectedRows() of Qt is slow
-        for (int r = range.top(); r <= range.bottom(); ++r) rows.push_back(r);
-    std::ranges::sort(rows);
-    rows.erase(std::ranges::unique(rows).begin(), rows.end());
-    return rows;
+    for (int band : m_model->engine().closedBandsOver(row)) toggleBand(band);
+    const int column = std::max(0, m_selection->currentIndex().column());
+    const QModelIndex at = m_model->indexOf(row, column);
+    m_selection->setCurrentIndex(at, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (isVisible()) activeView()->scrollTo(at);
+    else activeView()->scrollTo(at, QAbstractItemView::PositionAtCenter);
 }
 
-int Grid::selectedCount() const { return int(selectedRows().size()); }
-
+std::vector<int> Grid::selectedRows() const { return m_selection->shownRows(); }
+int Grid::selectedCount() const { return m_selection->shownCount(); }
 void Grid::selectRows(std::span<const int> rows)
 {
-    m_table->selectionModel()->select(rangesOf(rows, *m_model), QItemSelectionModel::ClearAndSelect);
+    m_selection->setRows(rows);
+    updateCounts();
+}
+void Grid::selectAll()
+{
+    if (m_model->rowCount() > 0) activeView()->selectAll();
+}
+
+void Grid::setTitle(const QString &name)
+{
+    setAccessibleName(name);
+    m_table->setAccessibleName(name);
+    if (m_cards) m_cards->setAccessibleName(name);
+}
+
+void Grid::setListOnly(bool on)
+{
+    m_filter->setVisible(!on);
+    m_box->setVisible(!on);
 }
 
 void Grid::setMultiSelection(bool on)
 {
-    m_table->setSelectionMode(on ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+    m_multi = on;
+    arm();
 }
 
 void Grid::setAllowEdit(bool on)
 {
     m_allowEdit = on;
-    m_model->setWritable(on ? m_source : nullptr);
-    m_table->setEditTriggers(on ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                                : QAbstractItemView::NoEditTriggers);
+    m_model->setWritable(on);
+    arm();
+}
+
+void Grid::setDragOut(bool on)
+{
+    m_dragsOut = on;
+    arm();
+}
+
+/// What both views are told alike.
+void Grid::arm()
+{
+    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_table), static_cast<QAbstractItemView *>(m_cards)}) {
+        if (!view) continue;
+        view->setSelectionMode(m_multi ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+        view->setEditTriggers(m_allowEdit ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                                          : QAbstractItemView::NoEditTriggers);
+        view->setDragEnabled(m_dragsOut);
+    }
 }
 
 void Grid::setTooltips(bool on) { m_model->tooltips = on; }
 GridStyles &Grid::formatStyles() { return m_model->formatStyles(); }
 int Grid::rowWithId(qint64 id) const { return m_model->rowWithId(id); }
+QTreeView *Grid::table() const { return m_table; }
+
+void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColumn)
+{
+    m_model->setCard(caption, numberColumn, nameColumn);
+}
+
+void Grid::setPictureSize(QSize size)
+{
+    m_delegate->setPictureSize(size);
+    m_table->doItemsLayout();
+    if (m_cards) m_cards->doItemsLayout();
+}
+
+void Grid::dragOut()
+{
+    QMimeData *const rows = m_source ? m_source->dragData(selectedRows()) : nullptr;
+    if (!rows) return;
+    auto *const drag = new QDrag(activeView()); // Qt's after exec()
+    drag->setMimeData(rows);
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+}
+
+void Grid::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == m_idle.timerId()) prepareNext();
+    else QWidget::timerEvent(event);
+}
+
+/// One short step: ranks of the texts that the user can sort by, then the filter's texts once its line is in use.
+void Grid::prepareNext()
+{
+    constexpr int kRowsPerStep = 1024;
+    for (int c : shownColumns()) {
+        const CellKind kind = columns()[size_t(c)].kind;
+        const bool texts = kind == CellKind::Text || kind == CellKind::List;
+        if (texts && !m_model->engine().prepare(c)) return;
+    }
+    if (m_filter->edit()->hasFocus() && !m_model->prepareFilter(kRowsPerStep)) return;
+    m_idle.stop();
+}
 
 } // namespace QV_DOC_CONTROLS

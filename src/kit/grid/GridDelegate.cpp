@@ -2,64 +2,210 @@
 
 #include "kit/grid/GridModel.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <cmath>
 
 namespace QV_DOC_CONTROLS {
 namespace {
 
-const GridModel &modelOf(const QModelIndex &index) { return *static_cast<const GridModel *>(index.model()); }
+const QStyle &styleOf(const QStyleOptionViewItem &option)
+{
+    return option.widget ? *option.widget->style() : *QApplication::style();
+}
+
+QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
+{
+    if (!(option.state & QStyle::State_Enabled)) return QPalette::Disabled;
+    return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+}
+
+QRect checkRect(const QStyleOptionViewItem &option)
+{
+    const QStyle &style = styleOf(option);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
+    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+}
+
+void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette::ColorRole on)
+{
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(option);
+    focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+    focus.backgroundColor = option.palette.color(groupOf(option), on);
+    styleOf(option).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, option.widget);
+    const QColor line = option.palette.color(groupOf(option), on == QPalette::Highlight ? QPalette::HighlightedText
+                                                                                       : QPalette::WindowText);
+    painter->setPen(QPen(line, 1, Qt::DotLine));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
+bool isLegiblyWhite(const QColor &background) { return qGray(background.rgb()) < 128; }
 
 } // namespace
 
-void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+GridDelegate::GridDelegate(const GridModel &model, QObject *parent) : QStyledItemDelegate(parent), m_model(model) {}
+
+QColor GridDelegate::textColor(const QStyleOptionViewItem &option, const GridStyle &style)
 {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const GridStyle style = modelOf(index).styleOf(index);
-    if (style.grayed) {
-        const QColor gray = option->palette.color(QPalette::Disabled, QPalette::Text);
-        option->palette.setColor(QPalette::Text, gray);
-    }
-    if (style.text.isValid()) option->palette.setColor(QPalette::Text, style.text);
+    if (style.background.isValid()) // digits stay legible on every colour
+        return style.text.isValid() ? style.text : QColor(isLegiblyWhite(style.background) ? Qt::white : Qt::black);
+    const bool selected = option.state & QStyle::State_Selected;
+    QColor color = option.palette.color(groupOf(option), selected ? QPalette::HighlightedText : QPalette::Text);
+    if (style.text.isValid() && !selected) return style.text;
+    if (style.grayed && selected) color.setAlphaF(0.65f);
+    else if (style.grayed) color = option.palette.color(QPalette::Disabled, QPalette::Text);
+    return color;
 }
 
 void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    const QColor color = modelOf(index).styleOf(index).background;
-    if (!color.isValid()) return QStyledItemDelegate::paint(painter, option, index);
-
-    QStyleOptionViewItem cell = option;
-    const bool selected = cell.state & QStyle::State_Selected;
-    cell.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
-    if (selected) painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
-    const int frame = selected ? 2 : 1;
-    painter->fillRect(option.rect.adjusted(frame, frame, -frame, -frame), color);
-    const bool dark = qGray(color.rgb()) < 128;
-    if (!modelOf(index).styleOf(index).text.isValid()) // digits stay legible on every colour
-        cell.palette.setColor(QPalette::Text, dark ? Qt::white : Qt::black);
-    initStyleOption(&cell, index);
-    painter->setPen(cell.palette.color(QPalette::Text));
-    const int gap = cell.fontMetrics.horizontalAdvance(u' ');
-    painter->setFont(cell.font);
-    painter->drawText(option.rect.adjusted(gap, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter, cell.text);
+    const int row = m_model.sourceRow(index), c = index.column();
+    if (row < 0) return paintBand(painter, option, m_model.bandOf(index));
+    const GridStyle style = m_model.styleOf(row, c);
+    const bool selected = option.state & QStyle::State_Selected;
+    if (selected) painter->fillRect(option.rect, option.palette.brush(groupOf(option), QPalette::Highlight));
+    if (style.background.isValid()) {
+        const int frame = selected ? 2 : 1;
+        painter->fillRect(option.rect.adjusted(frame, frame, -frame, -frame), style.background);
+    }
+    const CellKind kind = m_model.column(c)->kind;
+    if (kind == CellKind::Check) {
+        paintCheck(painter, option, index.data(Qt::CheckStateRole).toInt() == Qt::Checked);
+    } else if (kind == CellKind::Picture) {
+        paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
+    } else {
+        painter->setPen(textColor(option, style));
+        paintText(painter, option, m_model.source()->text(row, c), kind == CellKind::Number || kind == CellKind::Color);
+    }
+    if (option.state & QStyle::State_HasFocus) paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
 }
 
-QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                                    const QModelIndex &index) const
+/// A line of text in the middle of the cell. Finding the glyphs of a text is what painting a page takes longest for, so
+/// they are kept.
+void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const
 {
-    Q_UNUSED(option)
-    const GridColumn *column = modelOf(index).column(index.column());
-    if (column->kind != CellKind::List) {
+    if (m_font != option.font) m_texts.clear(), m_font = option.font;
+    QStaticText *glyphs = m_texts.object(text);
+    if (!glyphs) {
+        glyphs = new QStaticText(text);
+        glyphs->setTextFormat(Qt::PlainText);
+        glyphs->prepare(painter->transform(), option.font);
+        m_texts.insert(text, glyphs);
+    }
+    const int gap = padding(option.fontMetrics), room = option.rect.width() - 2 * gap;
+    const int top = option.rect.top() + (option.rect.height() - option.fontMetrics.height()) / 2;
+    const int width = int(std::ceil(glyphs->size().width()));
+    const QPoint at(option.rect.left() + gap + (right ? std::max(0, room - width) : 0), top);
+    if (width <= room) painter->drawStaticText(at, *glyphs);
+    else painter->drawText(at + QPoint(0, option.fontMetrics.ascent()),
+                           option.fontMetrics.elidedText(text, Qt::ElideRight, room));
+}
+
+void GridDelegate::paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const
+{
+    QStyleOptionViewItem box = option;
+    box.rect = checkRect(option);
+    box.features |= QStyleOptionViewItem::HasCheckIndicator;
+    box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
+    box.state |= on ? QStyle::State_On : QStyle::State_Off;
+    styleOf(option).drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
+    QColor outline = option.palette.color(QPalette::Text);  // some styles' own outline is lost on a dark ground
+    outline.setAlphaF(0.4f);
+    painter->setPen(outline);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(box.rect.adjusted(0, 0, -1, -1));
+}
+
+void GridDelegate::paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const
+{
+    if (picture.isNull()) return;
+    QSize size = picture.deviceIndependentSize().toSize();
+    if (size.width() > rect.width() || size.height() > rect.height()) size.scale(rect.size(), Qt::KeepAspectRatio);
+    painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect), picture);
+}
+
+QRect GridDelegate::bandMark(const QStyleOptionViewItem &option, int band) const
+{
+    const int side = option.fontMetrics.height();
+    return {option.rect.left() + m_model.engine().band(band).level * side, option.rect.top(), side, option.rect.height()};
+}
+
+void GridDelegate::paintBand(QPainter *painter, const QStyleOptionViewItem &option, int band) const
+{
+    painter->fillRect(option.rect, option.palette.brush(groupOf(option), QPalette::Button));
+    painter->setPen(option.palette.color(QPalette::Mid));
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    QStyleOptionViewItem mark = option;
+    const QRect side = bandMark(option, band);
+    const int arrow = side.width() * 2 / 3;
+    mark.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {arrow, arrow}, side);
+    mark.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
+    mark.palette.setColor(QPalette::WindowText, option.palette.color(groupOf(option), QPalette::ButtonText));
+    const bool expanded = m_model.engine().band(band).expanded;
+    styleOf(option).drawPrimitive(expanded ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &mark, painter,
+                                  option.widget);
+    QFont bold = option.font;
+    bold.setBold(true);
+    painter->setFont(bold);
+    painter->setPen(option.palette.color(groupOf(option), QPalette::ButtonText));
+    const QRect room = option.rect.adjusted(side.right() + 1 - option.rect.left(), 0, -padding(option.fontMetrics), 0);
+    painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                      QFontMetrics(bold).elidedText(m_model.bandText(band), Qt::ElideRight, room.width()));
+    painter->setFont(option.font);
+    if (option.state & QStyle::State_HasFocus) paintFocus(painter, option, QPalette::Button);
+}
+
+int GridDelegate::lineHeight(const QStyleOptionViewItem &option) const
+{
+    const int box = styleOf(option).pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget);
+    const int gap = padding(option.fontMetrics);
+    return std::max(option.fontMetrics.height(), box) + gap;
+}
+
+QSize GridDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    int height = lineHeight(option);
+    bool pictures = false;
+    for (int c = 0; const GridColumn *column = m_model.column(c); ++c) pictures |= column->kind == CellKind::Picture;
+    if (pictures) height = std::max(height, m_pictureSize.height() + 2);
+    return {height, height};
+}
+
+QWidget *GridDelegate::listEditor(QWidget *parent, int column) const
+{
+    auto *const list = new QComboBox(parent);
+    for (const GridChoice &c : m_model.choices(column)) list->addItem(c.text, c.value);
+    auto *const self = const_cast<GridDelegate *>(this);
+    connect(list, &QComboBox::activated, self, [self, list] {
+        emit self->commitData(list);
+        emit self->closeEditor(list);
+    });
+    return list;
+}
+
+QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+{
+    const GridColumn *column = m_model.column(index.column());
+    QWidget *editor = nullptr;
+    if (column->kind == CellKind::List) {
+        editor = listEditor(parent, index.column());
+    } else {
         auto *const line = new QLineEdit(parent);
         line->setFrame(false);
-        line->setAccessibleName(column->caption);
-        return line;
+        if (column->kind != CellKind::Text) line->setAlignment(Qt::AlignRight);
+        editor = line;
     }
-    auto *const list = new QComboBox(parent);
-    list->setAccessibleName(column->caption);
-    for (const GridChoice &c : modelOf(index).choices(index.column())) list->addItem(c.text, c.value);
-    return list;
+    editor->setAccessibleName(column->caption);
+    editor->setAutoFillBackground(true);
+    return editor;
 }
 
 void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
@@ -71,8 +217,42 @@ void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 
 void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    if (auto *const list = qobject_cast<QComboBox *>(editor)) model->setData(index, list->currentData());
-    else if (auto *const line = qobject_cast<QLineEdit *>(editor)) model->setData(index, line->text());
+    QVariant value;
+    if (auto *const list = qobject_cast<QComboBox *>(editor)) value = list->currentData();
+    else if (auto *const line = qobject_cast<QLineEdit *>(editor)) value = line->text();
+    if (value.toString() != index.data(Qt::EditRole).toString()) model->setData(index, value);
+}
+
+/// The wheel edits nothing: over a closed list it goes on to the view.
+bool GridDelegate::eventFilter(QObject *editor, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel) return QStyledItemDelegate::eventFilter(editor, event);
+    event->ignore();
+    return true;
+}
+
+bool GridDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                               const QModelIndex &index)
+{
+    if (!(index.flags() & Qt::ItemIsUserCheckable)) return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease: {
+        const auto &mouse = static_cast<const QMouseEvent &>(*event);
+        if (mouse.button() != Qt::LeftButton || !checkRect(option).contains(mouse.position().toPoint())) return false;
+        if (event->type() == QEvent::MouseButtonPress) return false;    // the view selects the row
+        if (event->type() == QEvent::MouseButtonDblClick) return true;  // its release toggles again
+        break;
+    }
+    case QEvent::KeyPress:
+        if (static_cast<const QKeyEvent &>(*event).key() != Qt::Key_Space) return false;
+        break;
+    default: return false;
+    }
+    const bool on = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    model->setData(index, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    return true;
 }
 
 } // namespace QV_DOC_CONTROLS

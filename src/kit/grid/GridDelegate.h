@@ -1,20 +1,49 @@
 #pragma once
 
+#include <QCache>
+#include <QStaticText>
 #include <QStyledItemDelegate>
 
 namespace QV_DOC_CONTROLS {
 
-/// Paints cells in their format styles and edits them; a colour cell keeps its colour while its row is selected.
+class GridModel;
+struct GridStyle;
+
+/// Paints cells and bands in their format styles, without the stock delegate's detours, and edits cells.
+/// A colour cell keeps its colour while its row is selected.
 class GridDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit GridDelegate(const GridModel &model, QObject *parent);
+    void setPictureSize(QSize size) { m_pictureSize = size; } ///< device-independent pixels; empty = a line's height
+    QSize pictureSize() const { return m_pictureSize; }
+    static int padding(const QFontMetrics &letters) { return letters.horizontalAdvance(u' '); }
+    int lineHeight(const QStyleOptionViewItem &option) const;
+
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paintBand(QPainter *painter, const QStyleOptionViewItem &option, int band) const;
+    QRect bandMark(const QStyleOptionViewItem &option, int band) const;     ///< where a click toggles
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+
 protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
+    bool eventFilter(QObject *editor, QEvent *event) override;
+
+private:
+    QWidget *listEditor(QWidget *parent, int column) const;
+    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const;
+    void paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const;
+    void paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const;
+    static QColor textColor(const QStyleOptionViewItem &option, const GridStyle &style);
+    const GridModel &m_model;
+    QSize m_pictureSize;
+    mutable QCache<QString, QStaticText> m_texts{2000}; ///< lately painted, in m_font
+    mutable QFont m_font;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -1,36 +1,146 @@
 #include "kit/grid/GridModel.h"
 
 #include "facade/services/Text.h"
+#include "kit/grid/InterfaceLocale.h"
+
+#include <cmath>
 
 namespace QV_DOC_CONTROLS {
+namespace {
 
-void GridModel::setSource(const GridSource *source)
+constexpr int kPictureCache = 4096;             ///< kilobytes
+
+QString yesNo(bool on) { return on ? txt(Text{21000, u"igen"}) : txt(Text{21001, u"nem"}); }
+
+} // namespace
+
+GridModel::GridModel(QObject *parent) : QAbstractTableModel(parent), m_pictures(kPictureCache)
+{
+    m_engine.setLocale(interfaceLocale());
+}
+GridModel::~GridModel() = default;
+
+void GridModel::setSource(GridSource *source)
 {
     beginResetModel();
     m_source = source;
+    m_rule = {};
+    m_filter.refill(cellRows());
+    m_engine.restart();
+    m_pictures.clear();
+    m_styledRow = -1;
     endResetModel();
 }
 
-void GridModel::refill()
+void GridModel::refill(const std::function<void()> &change)
 {
     beginResetModel();
+    change();
+    m_pictures.clear();
+    m_styledRow = -1;
+    m_filter.refill(cellRows());
+    m_engine.refill(m_filter.fitting(m_rule));
     endResetModel();
 }
 
-void GridModel::rowEdited(int row)
+void GridModel::setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts)
 {
-    if (row >= 0 && row < rowCount()) emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    beginResetModel();
+    m_engine.setKeys(groups, sorts);
+    endResetModel();
+}
+
+void GridModel::setAllExpanded(bool expanded)
+{
+    beginResetModel();
+    m_engine.setAllExpanded(expanded);
+    m_engine.rebuild();
+    endResetModel();
+}
+
+void GridModel::setFilter(const FilterRule &rule)
+{
+    beginResetModel();
+    m_rule = rule;
+    m_engine.setFitting(m_filter.fitting(m_rule));
+    endResetModel();
+}
+
+void GridModel::searchColumns(const std::vector<int> &columns)
+{
+    m_filter.reset(cellRows(), [this, columns](int row, FilterRule::RowFolder &folder) {
+        for (int c : columns) folder.add(cellText(row, c), column(c)->kind == CellKind::Check);
+    });
 }
 
 void GridModel::captionsChanged()
 {
+    beginResetModel();
+    m_engine.setLocale(interfaceLocale());
+    m_engine.rebuild();
+    endResetModel();
     if (columnCount() > 0) emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-    if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+void GridModel::toggle(int band)
+{
+    const RowEngine::Span lines = m_engine.toggled(band);
+    if (m_engine.band(band).expanded) {
+        emit aboutToCollapse(lines.first, lines.first + lines.count - 1);
+        beginRemoveRows({}, lines.first, lines.first + lines.count - 1);
+        m_engine.toggle(band);
+        endRemoveRows();
+    } else {
+        beginInsertRows({}, lines.first, lines.first + lines.count - 1);
+        m_engine.toggle(band);
+        endInsertRows();
+    }
+    const QModelIndex at = index(lines.first - 1, 0);
+    emit dataChanged(at, at.siblingAtColumn(columnCount() - 1));
+}
+
+void GridModel::rowEdited(int row)
+{
+    if (row < 0 || row >= cellRows()) return;
+    m_styledRow = -1;
+    for (int c = 0; c < columnCount(); ++c) m_pictures.remove({m_source->rowId(row), c});
+    m_filter.rowEdited(row);
+    m_engine.rowEdited(row, m_filter.fits(row, m_rule));
+    const QModelIndex at = indexOf(row);
+    if (at.isValid()) emit dataChanged(at, at.siblingAtColumn(columnCount() - 1));
+}
+
+bool GridModel::placeRow(int row)
+{
+    const auto target = m_engine.targetOf(row);
+    if (!target) return false;
+    if (target->from == target->to) return m_engine.place(row, *target), true;
+    beginMoveRows({}, target->from, target->from, {}, target->to + (target->to > target->from));
+    m_engine.place(row, *target);
+    endMoveRows();
+    return true;
+}
+
+void GridModel::rebuild()
+{
+    beginResetModel();
+    m_engine.rebuild();
+    endResetModel();
+}
+
+int GridModel::sourceRow(const QModelIndex &index) const
+{
+    return index.isValid() ? std::max(m_engine.rowAt(index.row()), -1) : -1;
+}
+
+int GridModel::bandOf(const QModelIndex &index) const
+{
+    return index.isValid() ? std::max(m_engine.bandAt(index.row()), -1) : -1;
 }
 
 int GridModel::rowWithId(qint64 id) const
 {
-    for (int r = 0; m_source && r < m_source->rowCount(); ++r)
+    for (int r = 0; r < cellRows(); ++r)
         if (m_source->rowId(r) == id) return r;
     return -1;
 }
@@ -40,12 +150,11 @@ const GridColumn *GridModel::column(int c) const
     return m_source && c >= 0 && c < int(m_source->columns().size()) ? &m_source->columns()[size_t(c)] : nullptr;
 }
 
-GridStyle GridModel::styleOf(const QModelIndex &index) const
+GridStyle GridModel::styleOf(int row, int column) const
 {
-    if (!m_source || !index.isValid()) return {};
-    const RowStyles names = m_source->styles(index.row());
-    GridStyle style = m_styles.find(names.row);
-    if (const auto own = names.cells.constFind(index.column()); own != names.cells.constEnd()) {
+    if (row != m_styledRow) m_rowStyles = m_source->styles(row), m_styledRow = row;
+    GridStyle style = m_styles.find(m_rowStyles.row);
+    if (const auto own = m_rowStyles.cells.constFind(column); own != m_rowStyles.cells.constEnd()) {
         const GridStyle cell = m_styles.find(*own);
         if (cell.background.isValid()) style.background = cell.background, style.grayed = false;
         if (cell.text.isValid()) style.text = cell.text;
@@ -53,45 +162,113 @@ GridStyle GridModel::styleOf(const QModelIndex &index) const
     return style;
 }
 
-int GridModel::rowCount(const QModelIndex &parent) const
+QPixmap GridModel::picture(int row, int column) const
 {
-    return parent.isValid() || !m_source ? 0 : m_source->rowCount();
+    const std::pair key(m_source->rowId(row), column);
+    if (const QPixmap *known = m_pictures.object(key)) return *known;
+    const QPixmap asked = m_source->picture(row, column);
+    m_pictures.insert(key, new QPixmap(asked), 1 + asked.width() * asked.height() * 4 / 1024);
+    return asked;
 }
+
+bool GridModel::sortsByNumber(int c) const
+{
+    const CellKind kind = column(c)->kind;
+    return kind == CellKind::Number || kind == CellKind::Color || kind == CellKind::Check;
+}
+
+double GridModel::number(int row, int c) const
+{
+    bool isNumber = false;
+    const double n = m_source->value(row, c).toDouble(&isNumber);
+    return isNumber ? n : std::nan("");
+}
+
+QString GridModel::cellText(int row, int c) const
+{
+    return column(c)->kind == CellKind::Check ? yesNo(m_source->value(row, c).toBool()) : m_source->text(row, c);
+}
+
+QString GridModel::bandText(int b) const
+{
+    const RowEngine::Band &band = m_engine.band(b);
+    const int c = m_engine.groupLevels()[size_t(band.level)].column;
+    const QString value = cellText(m_engine.firstRowOf(b), c);
+    return column(c)->caption + QStringLiteral(": ") + (value.isEmpty() ? txt(Text{21002, u"(üres)"}) : value)
+        + QStringLiteral(" (") + interfaceLocale().toString(band.count) + u')';
+}
+
+QString GridModel::accessibleBand(int b) const
+{
+    const RowEngine::Band &band = m_engine.band(b);
+    const int c = m_engine.groupLevels()[size_t(band.level)].column;
+    return join(Text{21003, u"csoport "}, column(c)->caption, QStringLiteral(": "), cellText(m_engine.firstRowOf(b), c),
+                QStringLiteral(", "), band.count, band.count == 1 ? Text{21004, u" sor"} : Text{21005, u" sor"},
+                QStringLiteral(", "), band.expanded ? Text{21006, u"kibontva"} : Text{21007, u"összecsukva"});
+}
+
+void GridModel::setCard(const QString &caption, int numberColumn, int nameColumn)
+{
+    m_cardCaption = caption, m_numberColumn = numberColumn, m_nameColumn = nameColumn;
+}
+
+/// The caption up to "|", a blank, the number, what follows the "|", and the name: "Réteg:|/" -> "Réteg: 5/Falak".
+QString GridModel::cardCaption(int row) const
+{
+    const qsizetype bar = m_cardCaption.indexOf(u'|');
+    if (bar < 0 || !column(m_numberColumn) || !column(m_nameColumn)) return text(row, std::max(m_nameColumn, 0));
+    return m_cardCaption.first(bar) + u' ' + text(row, m_numberColumn) + m_cardCaption.sliced(bar + 1)
+        + text(row, m_nameColumn);
+}
+
+int GridModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_engine.lines(); }
 
 int GridModel::columnCount(const QModelIndex &parent) const
 {
     return parent.isValid() || !m_source ? 0 : int(m_source->columns().size());
 }
 
-QVariant GridModel::accessibleText(const QModelIndex &index) const
+QVariant GridModel::accessibleText(int row, int c) const
 {
-    const GridColumn &c = *column(index.column());
-    const QString text = m_source->text(index.row(), index.column());
-    if (c.kind == CellKind::Check)
-        return c.caption + u' ' + (m_source->value(index.row(), index.column()).toBool()
-                                       ? txt(Text{20176, u"bekapcsolva"}) : txt(Text{20177, u"kikapcsolva"}));
-    if (c.kind == CellKind::Color) return join(Text{20175, u"szín "}, text);
-    return text;
+    const GridColumn &col = *column(c);
+    const QString shown = m_source->text(row, c);
+    switch (col.kind) {
+    case CellKind::Check:
+        return col.caption + u' ' + (m_source->value(row, c).toBool() ? txt(Text{20176, u"bekapcsolva"})
+                                                                     : txt(Text{20177, u"kikapcsolva"}));
+    case CellKind::Color: return join(Text{20175, u"szín "}, shown);
+    case CellKind::Picture: return join(Text{21011, u"kép "}, shown);
+    default: return shown;
+    }
+}
+
+QVariant GridModel::cellData(int row, int c, int role) const
+{
+    const CellKind kind = column(c)->kind;
+    switch (role) {
+    case Qt::DisplayRole: return kind == CellKind::Check ? QVariant() : m_source->text(row, c);
+    case Qt::EditRole: return m_source->value(row, c);
+    case Qt::CheckStateRole:
+        if (kind != CellKind::Check) return {};
+        return m_source->value(row, c).toBool() ? Qt::Checked : Qt::Unchecked;
+    case Qt::ToolTipRole: return tooltips ? cellText(row, c) : QVariant();
+    case Qt::TextAlignmentRole:
+        return kind == CellKind::Number || kind == CellKind::Color ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    case Qt::AccessibleTextRole: return accessibleText(row, c);
+    case Qt::AccessibleDescriptionRole: return column(c)->caption;
+    default: return {};
+    }
 }
 
 QVariant GridModel::data(const QModelIndex &index, int role) const
 {
-    const GridColumn *c = m_source && index.isValid() ? column(index.column()) : nullptr;
-    if (!c) return {};
-    switch (role) {
-    case Qt::DisplayRole:
-        return c->kind == CellKind::Check ? QVariant() : m_source->text(index.row(), index.column());
-    case Qt::EditRole: return m_source->value(index.row(), index.column());
-    case Qt::CheckStateRole:
-        if (c->kind != CellKind::Check) return {};
-        return m_source->value(index.row(), index.column()).toBool() ? Qt::Checked : Qt::Unchecked;
-    case Qt::ToolTipRole: return tooltips ? m_source->text(index.row(), index.column()) : QVariant();
-    case Qt::TextAlignmentRole:
-        return c->kind == CellKind::Number || c->kind == CellKind::Color
-            ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
-    case Qt::AccessibleTextRole: return accessibleText(index);
-    default: return {};
-    }
+    if (!m_source || !index.isValid()) return {};
+    const int row = m_engine.rowAt(index.row());
+    if (row >= 0) return cellData(row, index.column(), role);
+    if (index.column() > 0) return {};
+    if (role == Qt::DisplayRole) return bandText(~row);
+    if (role == Qt::AccessibleTextRole) return accessibleBand(~row);
+    return {};
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -108,19 +285,25 @@ Qt::ItemFlags GridModel::flags(const QModelIndex &index) const
 {
     const GridColumn *c = column(index.column());
     if (!index.isValid() || !c) return Qt::NoItemFlags;
+    if (m_engine.rowAt(index.row()) < 0) return Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    if (m_writable && c->editable) flags |= c->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
+    if (m_writable && c->editable && c->kind != CellKind::Picture)
+        flags |= c->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
     return flags;
 }
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    const GridColumn *c = column(index.column());
-    if (!m_writable || !c || !c->editable) return false;
-    if (role != (c->kind == CellKind::Check ? int(Qt::CheckStateRole) : int(Qt::EditRole))) return false;
-    const QVariant edited = c->kind == CellKind::Check ? QVariant(value.toInt() == Qt::Checked) : value;
-    if (!m_writable->edit(index.row(), index.column(), edited)) return false;
-    rowEdited(index.row());
+    const int row = sourceRow(index);
+    if (row < 0 || !(flags(index) & (Qt::ItemIsUserCheckable | Qt::ItemIsEditable))) return false;
+    const bool check = column(index.column())->kind == CellKind::Check;
+    if (role != (check ? int(Qt::CheckStateRole) : int(Qt::EditRole))) return false;
+    const qint64 id = m_source->rowId(row);
+    if (!m_source->edit(row, index.column(), check ? QVariant(value.toInt() == Qt::Checked) : value)) return false;
+    const bool sameRow = m_source && row < cellRows() && m_source->rowId(row) == id; // the source may have refilled
+    if (!sameRow) return true;
+    rowEdited(row);
+    emit rowChanged(row);
     return true;
 }
 

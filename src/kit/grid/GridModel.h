@@ -2,30 +2,58 @@
 
 #include "kit/grid/GridSource.h"
 #include "kit/grid/GridStyles.h"
+#include "kit/grid/RowEngine.h"
+#include "kit/grid/RowFilter.h"
 
 #include <QAbstractTableModel>
+#include <QCache>
+
+#include <functional>
 
 namespace QV_DOC_CONTROLS {
 
-/// The visible rows of a grid for Qt's views. The grid's own.
-class GridModel final : public QAbstractTableModel {
+/// The lines of a grid (rows and group bands) for Qt's views. The grid's own.
+class GridModel final : public QAbstractTableModel, private RowCells {
     Q_OBJECT
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit GridModel(QObject *parent = nullptr);
+    ~GridModel() override;
 
-    void setSource(const GridSource *source);   ///< null = empty
-    void setWritable(GridSource *source) { m_writable = source; } ///< null = nothing can be edited
-    void refill();                              ///< the source's rows changed as a whole
-    void rowEdited(int row);
-    void captionsChanged();
+    void setSource(GridSource *source);         ///< null = empty; keys and filter go
+    const GridSource *source() const { return m_source; }
+    void setWritable(bool on) { m_writable = on; }
+    bool isWritable() const { return m_writable && m_source; }
+    RowEngine &engine() { return m_engine; }
+    const RowEngine &engine() const { return m_engine; }
 
-    int sourceRow(const QModelIndex &index) const { return index.isValid() ? index.row() : -1; }
-    QModelIndex indexOf(int sourceRow, int column = 0) const { return index(sourceRow, column); }
+    // Other lines: the model resets.
+    void refill(const std::function<void()> &change);   ///< `change` gives the source other rows
+    void setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts);
+    void setAllExpanded(bool expanded);
+    void setFilter(const FilterRule &rule);
+    void captionsChanged();                     ///< columns carry new captions, maybe of another language
+
+    void searchColumns(const std::vector<int> &columns); ///< what a filter looks in, in the order of its captions
+    void toggle(int band);                      ///< its lines come or go
+    void rowEdited(int row);                    ///< new values; its line stays where it is until placeRow()
+    bool placeRow(int row);                     ///< false = it takes a rebuild()
+    void rebuild();
+    bool prepareFilter(int rows) { return m_filter.prepare(rows); }
+
+    int sourceRow(const QModelIndex &index) const;      ///< -1 = none, a band
+    int bandOf(const QModelIndex &index) const;         ///< -1 = none, a row
+    QModelIndex indexOf(int sourceRow, int column = 0) const { return index(m_engine.lineOf(sourceRow), column); }
     int rowWithId(qint64 id) const;             ///< -1 = none
     GridStyles &formatStyles() { return m_styles; }
-    GridStyle styleOf(const QModelIndex &index) const;  ///< the cell's own over the row's
+    GridStyle styleOf(int sourceRow, int column) const; ///< the cell's own over the row's
+    QPixmap picture(int sourceRow, int column) const;
     const GridColumn *column(int c) const;      ///< null beyond the last
     std::vector<GridChoice> choices(int c) const { return m_source ? m_source->choices(c) : std::vector<GridChoice>{}; }
+    QString cellText(int sourceRow, int column) const;  ///< as said: "igen" for a check box that is on
+    QString bandText(int band) const;           ///< "caption: value (count)"
+    QString cardCaption(int sourceRow) const;
+    void setCard(const QString &caption, int numberColumn, int nameColumn);
+    int cardNameColumn() const { return m_nameColumn; }
     bool tooltips = false;
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -35,11 +63,30 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
+signals:
+    void aboutToCollapse(int firstLine, int lastLine); ///< before anybody else hears of it
+    void rowChanged(int sourceRow);             ///< by an edit; it may be out of place now
+
 private:
-    QVariant accessibleText(const QModelIndex &index) const;
-    const GridSource *m_source = nullptr;
-    GridSource *m_writable = nullptr;
+    int cellRows() const override { return m_source ? m_source->rowCount() : 0; }
+    bool sortsByNumber(int column) const override;
+    double number(int row, int column) const override;
+    QString text(int row, int column) const override { return cellText(row, column); }
+    QVariant accessibleText(int row, int column) const;
+    QString accessibleBand(int band) const;
+    QVariant cellData(int row, int column, int role) const;
+
+    GridSource *m_source = nullptr;
+    bool m_writable = false;
+    RowEngine m_engine{*this};
+    RowFilter m_filter;
+    FilterRule m_rule;
     GridStyles m_styles;
+    QString m_cardCaption;
+    int m_numberColumn = -1, m_nameColumn = -1;
+    mutable int m_styledRow = -1;               ///< the row that m_rowStyles are of: cells are painted row by row
+    mutable RowStyles m_rowStyles;
+    mutable QCache<std::pair<qint64, int>, QPixmap> m_pictures; ///< by row identifier and column, costs in kilobytes
 };
 
 } // namespace QV_DOC_CONTROLS

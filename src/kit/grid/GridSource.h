@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QHash>
+#include <QPixmap>
 #include <QString>
 #include <QVariant>
 
+#include <span>
 #include <vector>
+
+class QMimeData;
 
 namespace QV_DOC_CONTROLS {
 
@@ -15,6 +19,7 @@ enum class CellKind {
     Check,  ///< bool
     List,   ///< one of the source's choices
     Color,  ///< a number over a colour style
+    Picture, ///< the source's picture; its text names it for those who cannot see it
 };
 
 /// One column as the grid sees it.
@@ -38,10 +43,17 @@ struct RowStyles {
     QHash<int, QString> cells;  ///< by column
 };
 
+/// Where something dragged is over a grid.
+struct DropTarget {
+    int row = -1;           ///< record under the mouse; -1 = none
+    int bandColumn = -1;    ///< column whose group band is under the mouse; -1 = none
+    int bandRow = -1;       ///< a record of that band
+};
+
 /// Rows and cells behind a grid. Rows are counted from 0 in the source's own order; the grid sorts and groups on its own.
 ///
-/// What paints (value, text, styles) never reaches the host. What writes (edit, removeRows) may: it is the source that
-/// keeps host errors away from the event loop.
+/// What paints (value, text, picture, styles) never reaches the host. What writes (edit, removeRows, drop) may: it is the
+/// source that keeps host errors away from the event loop.
 class GridSource {
 public:
     virtual ~GridSource() = default;
@@ -50,9 +62,15 @@ public:
     virtual qint64 rowId(int row) const = 0;                    ///< stays with the record; unique
     virtual QVariant value(int row, int column) const = 0;      ///< for editing and sorting
     virtual QString text(int row, int column) const = 0;        ///< as shown
+    virtual QPixmap picture(int, int) const { return {}; }      ///< of row and column; asked for when painted, kept
     virtual RowStyles styles(int) const { return {}; }           ///< of a row
     virtual std::vector<GridChoice> choices(int) const { return {}; } ///< of a List column
     virtual bool edit(int row, int column, const QVariant &value) = 0;  ///< false = refused, the old value stays
+    /// The delete key: asks, removes and refills the grid by itself; false = nothing is ever removed here.
+    virtual bool removeRows(std::span<const int>) { return false; }
+    virtual QMimeData *dragData(std::span<const int>) const { return nullptr; } ///< the caller's; null = no drag of these
+    virtual bool canDrop(const QMimeData &, const DropTarget &) const { return false; }
+    virtual void drop(const QMimeData &, const DropTarget &) {} ///< only what canDrop() let through
 };
 
 } // namespace QV_DOC_CONTROLS
