@@ -180,12 +180,13 @@ QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)
         return QRectF(at, QSizeF(1e-6, 1e-6));
     }
     const double unit = m_resources.metresPerMm * (e.scale == 0 ? 1 : e.scale);
-    const double extent = shape.extent * std::abs(unit);
-    const QRectF box(at - QPointF(extent, extent), at + QPointF(extent, extent));
+    const QPainterPath path = placed(at, e.rotation, unit, std::abs(unit)).map(shape.path);
+    const double half = shape.width * std::abs(unit) / 2 + 1e-6;
+    const QRectF box = path.controlPointRect().adjusted(-half, -half, half, half);
     key.pass = Pass::Symbols;
     key.filled = !shape.stroked;
     key.width = shape.stroked ? shape.width * m_resources.metresPerMm : 0;
-    addItem(chunkFor(key, box), {box, placed(at, e.rotation, unit, std::abs(unit)).map(shape.path)});
+    addItem(chunkFor(key, box), {box, path});
     return box;
 }
 

@@ -111,6 +111,17 @@ private slots:
         QVERIFY(scene.batches().front().chunks.front().pattern == nullptr);
     }
 
+    void symbolsReachOnlyAsFarAsTheirStrokes()
+    {
+        Resources r = smallTables();
+        r.symbols = {{{.SidId = 9, .Size_mm = 2, .Type = 1}}};
+        r.glyphs.insert(9, {.strokes = {{{100, 0}, {101, 0}}}, .advance = 1}); // far from its insertion point
+        const Scene scene = sceneOf({{.kind = ElementKind::Symbol, .layId = 1, .sidId = 9, .vertices = {{0, 0}}, .scale = -1}}, r);
+        const QRectF box = scene.bounds().translated(scene.origin());
+        QVERIFY2(std::abs(box.left() + 202) < 0.01 && std::abs(box.right() + 200) < 0.01, "mirrored, 2 mm a letter height");
+        QVERIFY(box.height() < 0.1);
+    }
+
     void pointsHaveOneSizeOnTheScreen()
     {
         const Scene scene = sceneOf({{.kind = ElementKind::Point, .layId = 1, .vertices = {{0, 0}}}});
