@@ -102,9 +102,9 @@ void requireSoundDrawing(const QString &path)
         QTemporaryDir folder;
         const QString copy = folder.filePath(QStringLiteral("copy.qvd"));
         if (!QFile::copy(path, copy) || !QFile::copy(wal, copy + QStringLiteral("-wal")))
-            throw DocumentError(
-                join(Text{30490, u"Nem hozható létre ideiglenes fájl. Ellenőrizd a szabad helyet! Részletek: "},
-                     folder.path()));
+            throw DocumentError(join(
+                Text{30490, u"Nem hozható létre ideiglenes fájl. Ellenőrizd a szabad helyet! Részletek: "},
+                folder.path()));
         QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
         {
             const QString name = QUuid::createUuid().toString();

@@ -221,8 +221,8 @@ void MainWindow::showRecent()
 {
     m_recent->clear();
     for (const QString &path : FileCommands::recent())
-        connect(m_recent->addAction(QString(path).replace(u'&', QStringLiteral("&&"))), &QAction::triggered, this,
-                [this, path] { m_files.openFile(path); });
+        connect(m_recent->addAction(QString(path).replace(u'&', QStringLiteral("&&"))), &QAction::triggered,
+                this, [this, path] { m_files.openFile(path); });
     if (m_recent->isEmpty()) m_recent->addAction(txt(Text{30417, u"Még nincs"}))->setEnabled(false);
 }
 
@@ -232,9 +232,11 @@ void MainWindow::showStatus()
     const bool open = m_files.drawing() != nullptr;
     setWindowTitle(open ? m_files.drawing()->name() + QStringLiteral(" – ") + kProgram : kProgram);
     action("delete")->setEnabled(!m_view->selection().empty());
-    m_scale->setText(QStringLiteral("1 : ") + interfaceLocale().toString(qRound64(m_view->viewport().scale())));
+    m_scale->setText(QStringLiteral("1 : ") +
+                     interfaceLocale().toString(qRound64(m_view->viewport().scale())));
     const int chosen = int(m_view->selection().size());
-    m_count->setText(join(interfaceLocale().toString(qlonglong(scene.elements().size())), Text{30464, u" elem"},
+    m_count->setText(join(interfaceLocale().toString(qlonglong(scene.elements().size())),
+                          Text{30464, u" elem"},
                           chosen ? join(Text{30465, u", kijelölve: "}, chosen) : QString()));
     if (!open) return;
     const ZolWDoc::tLay *lay = scene.resources().layers.find(scene.resources().currentLayer);

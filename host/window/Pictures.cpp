@@ -23,7 +23,8 @@ void Pictures::save(QWidget &window, const QString &name)
     QCoreApplication::sendPostedEvents(nullptr,
                                        QEvent::LayoutRequest); // a window just shown is not laid out yet
     const int before = m_taken[name]++;
-    const QString path = m_folder + u'/' + name + (before ? QString::number(before + 1) : QString()) + QStringLiteral(".png");
+    const QString path =
+        m_folder + u'/' + name + (before ? QString::number(before + 1) : QString()) + QStringLiteral(".png");
     if (!window.grab().save(path)) {
         ++m_failures;
         std::fprintf(stderr, "%s: cannot be written; check the folder and its permissions\n",

@@ -62,7 +62,7 @@ struct LayerTable {
     };
     static ZolWDoc::LayerRole &role(ZolWDoc::ZOLW_Doc &doc) { return doc.layers(); }
     static qint16 id(const Record &l) { return l.LayId; }
-    static Paper paper();                               ///< title, footer and the ten captions of a printed table
+    static Paper paper();                     ///< title, footer and the ten captions of a printed table
     static RowStyles styles(const Record &l); ///< colour cells by their pens, the row by its visibility
 };
 

@@ -22,19 +22,23 @@ namespace {
 constexpr int kPaneTwips = 2400;        ///< first width of the group list
 constexpr int kEdgeTwips = 500;         ///< the splitter stays this far from both edges
 
-constexpr std::pair<GridView, const char *> kViewTool[] = {
-    {GridView::Table, "miView_Table"}, {GridView::Card, "miView_Card"}, {GridView::CardMin, "miView_CardMin"}};
+constexpr std::pair<GridView, const char *> kViewTool[] = {{GridView::Table, "miView_Table"},
+                                                           {GridView::Card, "miView_Card"},
+                                                           {GridView::CardMin, "miView_CardMin"}};
 
 /// A grid on paper: what it shows, under the captions that its table has for paper.
 class PaperSheet final : public SheetSource {
 public:
-    PaperSheet(const Grid &grid, const GridManager &manager) : m_grid(grid), m_manager(manager), m_sheet(grid.sheet()) {}
+    PaperSheet(const Grid &grid, const GridManager &manager)
+        : m_grid(grid), m_manager(manager), m_sheet(grid.sheet())
+    {}
     std::vector<Column> sheetColumns() const override
     {
         std::vector<Column> columns = m_sheet->sheetColumns();
         const QStringList captions = m_manager.paper().captions; // asked again: the language may have changed
         const std::vector<int> shown = m_grid.shownColumns();
-        for (size_t i = 0; !captions.isEmpty() && i < columns.size(); ++i) columns[i].caption = captions[shown[i]];
+        for (size_t i = 0; !captions.isEmpty() && i < columns.size(); ++i)
+            columns[i].caption = captions[shown[i]];
         return columns;
     }
     int sheetRows() const override { return m_sheet->sheetRows(); }
@@ -108,9 +112,13 @@ void GridPage::popUpViewMenu(int column, QPoint where)
     m_column = column;
     QMenu *const menu = ab1->popUp("bndPopUp_View");
     menu->popup(where);
-    connect(menu, &QMenu::aboutToHide, this, [this] { QMetaObject::invokeMethod(this, [this] { m_column = -1; },
-                                                                                Qt::QueuedConnection); },
-            Qt::SingleShotConnection);
+    connect(
+        menu, &QMenu::aboutToHide, this,
+        [this] {
+            QMetaObject::invokeMethod(
+                this, [this] { m_column = -1; }, Qt::QueuedConnection);
+        },
+        Qt::SingleShotConnection);
 }
 
 /// In the column under the mouse, or in the current cell's.
@@ -118,7 +126,10 @@ void GridPage::find()
 {
     const QModelIndex current = gridItems->activeView()->currentIndex();
     const std::vector<int> shown = gridItems->shownColumns();
-    const int column = m_column >= 0 ? m_column : current.isValid() ? current.column() : shown.empty() ? -1 : shown[0];
+    const int column = m_column >= 0       ? m_column
+                       : current.isValid() ? current.column()
+                       : shown.empty()     ? -1
+                                           : shown[0];
     if (column >= 0 && m_manager) findInColumn(*gridItems, m_manager->source(), column, m_relay);
 }
 

@@ -10,7 +10,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// One table as the user works with it: its tools, its grid, the group list left of it, and the manager that runs them.
+/// One table as the user works with it: its tools, its grid, the group list left of it, and the manager that
+/// runs them.
 ///
 /// Belongs to a dialog and knows none; the page owns its manager. TearDown() may be repeated.
 class GridPage final : public QWidget {
@@ -55,7 +56,7 @@ private:
     ViewCommands m_view;
     std::unique_ptr<GridManager> m_manager;
     bool m_hasGroups = false;
-    int m_column = -1;                          ///< under the mouse when the menu came; -1 = the current cell's
+    int m_column = -1; ///< under the mouse when the menu came; -1 = the current cell's
     int m_paneTwips = 0;                        ///< wanted until the splitter has a size of its own
 };
 

@@ -76,7 +76,8 @@ void readLine(QStringView line, Table &into)
 void readFolder(const QString &folder)
 {
     for (size_t i = 0; i < std::size(kLanguages); ++i)
-        for (const QString &line : linesOf(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv")))
+        for (const QString &line :
+             linesOf(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv")))
             readLine(line, state().tables[i]);
 }
 
@@ -84,7 +85,8 @@ void readFolder(const QString &folder)
 void readDevelopmentFile()
 {
     if (qEnvironmentVariableIsEmpty("QV_DOC_CONTROLS_DEVELOPMENT") || !QCoreApplication::instance()) return;
-    for (const QString &line : linesOf(QCoreApplication::applicationDirPath() + QLatin1String("/QV_DOC_CONTROLS.res"))) {
+    for (const QString &line :
+         linesOf(QCoreApplication::applicationDirPath() + QLatin1String("/QV_DOC_CONTROLS.res"))) {
         const int locale = line.section(u'\t', 0, 0).toInt();
         const auto row = std::ranges::find(kLanguages, locale, &LanguageRow::localeId);
         if (row != std::end(kLanguages))

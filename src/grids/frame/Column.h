@@ -33,11 +33,17 @@ template <class Rec, class Names> struct Column {
     bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
 
     constexpr Column within(int from, int to) const { auto c = *this; c.least = from, c.most = to; return c; }
-    constexpr Column filled() const { auto c = *this; c.proper = [](const QVariant &v) { return !v.toString().trimmed().isEmpty(); }; return c; }
+    constexpr Column filled() const
+    {
+        auto c = *this;
+        c.proper = [](const QVariant &v) { return !v.toString().trimmed().isEmpty(); };
+        return c;
+    }
     bool takes(const QVariant &value) const
     {
         if (proper && !proper(value)) return false;
-        return kind == CellKind::Text || kind == CellKind::Check || (value.toInt() >= least && value.toInt() <= most);
+        return kind == CellKind::Text || kind == CellKind::Check ||
+               (value.toInt() >= least && value.toInt() <= most);
     }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }

@@ -14,7 +14,7 @@ class GridSource;
 /// What a printed table says around and above its columns.
 struct Paper {
     SheetTitles titles;
-    QStringList captions;                                    ///< by column of the source; empty list = as in the grid
+    QStringList captions; ///< by column of the source; empty list = as in the grid
 };
 
 /// The members that every grid manager has, whatever its table.
@@ -30,7 +30,7 @@ public:
     void setRelay(ErrorRelay &relay) { m_relay = &relay; }   ///< of the form; outlives the manager
     bool bShowGroups() const { return m_showGroups; }
     virtual void setbShowGroups(bool on) { m_showGroups = on; } ///< whether the table's group list is shown
-    virtual void saveLayout() = 0;                           ///< in the layout file of the table and the language
+    virtual void saveLayout() = 0; ///< in the layout file of the table and the language
     virtual const GridSource &source() const = 0;            ///< what the item grid shows
     virtual Paper paper() const = 0;                         ///< how the table stands on paper
     virtual void TearDown() = 0; ///< releases grids and document; harmless when repeated

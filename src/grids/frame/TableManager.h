@@ -90,7 +90,8 @@ protected:
         grid.setSource(this);
         grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
         QObject::connect(&grid, &Grid::viewChanged, this, [this](GridView v) { raiseView(qint16(v)); });
-        QObject::connect(&grid, &Grid::groupingChanged, this, [this](bool grouped) { raiseGrouped(grouped); });
+        QObject::connect(&grid, &Grid::groupingChanged, this,
+                         [this](bool grouped) { raiseGrouped(grouped); });
         loadGridLayout(grid, Table::layout);
         QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
         QObject::connect(&grid, &Grid::selectionMoved, this,
@@ -104,15 +105,16 @@ protected:
     ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
-    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more; it is
-    /// current again when it is listed again and no other one was chosen meanwhile.
+    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
+    /// it is current again when it is listed again and no other one was chosen meanwhile.
     void showAgain()
     {
         if (!m_grid) return;
         const auto before = selectedIds();
         if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
         m_grid->refill([this] { showWhatFits(); }, Grid::Gone::Nothing);
-        const bool isBack = !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
+        const bool isBack =
+            !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
         if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
     }
 
