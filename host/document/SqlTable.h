@@ -100,10 +100,10 @@ public:
     /// Under its own identifier; throws when that is taken.
     void restore(const Rec &r)
     {
+        if (r.*m_facts.id <= 0) failUnknown(r.*m_facts.id);
         Write write(m_db);
-        Rec stored = completed(r);
         Statement insertion(m_db, m_sql.insert);
-        insert(insertion, stored);
+        insert(insertion, completed(r));
         Identifiers::note(m_db, table(), r.*m_facts.id);
         added(std::vector<qint16>{r.*m_facts.id});
         changed();
@@ -111,11 +111,8 @@ public:
     }
 
 protected:
-    virtual Rec completed(const Rec &r) const
-    {
-        return r;
-    } ///< what the host decides about a record to be stored
-    virtual void added(const std::vector<qint16> &) {}          ///< within the same write
+    virtual Rec completed(const Rec &r) const { return r; } ///< with what the host decides about it
+    virtual void added(const std::vector<qint16> &) {}      ///< within the same write
 
     QString table() const { return QString::fromLatin1(m_facts.table); }
     void changed() { m_db.touch(m_facts.kind); }

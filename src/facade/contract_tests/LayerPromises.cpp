@@ -75,8 +75,9 @@ std::vector<tLayMember> twoInANewGroup(ZOLW_Doc &doc, const tLay &a, const tLay 
     groups.push_back({-1, QStringLiteral("group of the test")});
     doc.layers().writeGroups(groups);
     groups = doc.layers().groups();
-    const qint16 id =
-        std::ranges::find(groups, QStringLiteral("group of the test"), &tGroup::GroupName)->GroupId;
+    const auto group = std::ranges::find(groups, QStringLiteral("group of the test"), &tGroup::GroupName);
+    hold(group != groups.end(), QStringLiteral("a group that was written is not read"));
+    const qint16 id = group->GroupId;
     auto members = doc.layers().members();
     members.push_back({id, a.LayId});
     members.push_back({id, b.LayId});

@@ -4,7 +4,9 @@
 
 #include <QString>
 
+#include <optional>
 #include <stdexcept>
+#include <vector>
 
 namespace ZolWDoc::contract {
 
@@ -23,6 +25,17 @@ inline void same(int seen, int promised, const char *what)
 {
     hold(seen == promised,
          QStringLiteral("%1: %2 instead of %3").arg(QLatin1String(what)).arg(seen).arg(promised));
+}
+/// What a find or a read must have given; a host at fault may have given nothing.
+template <class T> T found(std::optional<T> answer, const char *what)
+{
+    hold(answer.has_value(), QLatin1String(what) + QStringLiteral(" is not found"));
+    return *answer;
+}
+template <class T> T firstOf(const std::vector<T> &all)
+{
+    hold(!all.empty(), QStringLiteral("a table of a new document is empty"));
+    return all.front();
 }
 template <class Act> void mustThrow(Act act, const char *what)
 {

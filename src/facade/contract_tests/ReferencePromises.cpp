@@ -88,7 +88,8 @@ void textTypeRenumbers(ZOLW_Doc &doc)
     doc.textTypes().renumber(old, t.TxdId);
     hold(doc.textTypes().find(32767) == t && !doc.textTypes().find(old),
          QStringLiteral("the record did not move"));
-    same(doc.layers().find(l.LayId)->TxdId, 32767, "text type of the layer that referred to it");
+    same(found(doc.layers().find(l.LayId), "the layer").TxdId, 32767,
+         "text type of the layer that referred to it");
     same(doc.textTypes().uses(32767), 1, "uses after renumbering");
     hold(doc.textTypes().find(other.TxdId) == other, QStringLiteral("another text type changed"));
 }
@@ -107,7 +108,7 @@ void symbolRenumbers(ZOLW_Doc &doc)
     doc.symbolRenumber()->renumber(old, 32767);
     hold(doc.symbols().find(32767) == s && !doc.symbols().find(old),
          QStringLiteral("the record did not move"));
-    same(doc.lineSymbolizations().find(si.Nr)->SidId, 32767,
+    same(found(doc.lineSymbolizations().find(si.Nr), "the line symbolization").SidId, 32767,
          "symbol of the line symbolization that referred to it");
     same(doc.symbols().highestId(), 32767, "highest symbol number");
 }

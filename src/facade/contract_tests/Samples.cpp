@@ -10,31 +10,31 @@ tLay makeLayer(ZOLW_Doc &doc, int n)
     return {.gNr = qint16(20000 + n),
             .Name = named("layer", n),
             .Visible = n % 2 == 0,
-            .PenStyleId = doc.lineTypes().readAll().front().iPenStyleId,
+            .PenStyleId = firstOf(doc.lineTypes().readAll()).iPenStyleId,
             .ScrColor = 3,
             .PrnColor = 4,
             .PenColorId = 5,
-            .TxdId = doc.textTypes().readAll().front().TxdId,
+            .TxdId = firstOf(doc.textTypes().readAll()).TxdId,
             .ElByLayer = true};
 }
 tTxd makeTextType(ZOLW_Doc &doc, int n)
 {
-    const tTxd first = doc.textTypes().readAll().front();
+    const tTxd first = firstOf(doc.textTypes().readAll());
     tTxd t;
     t.GroupId = first.GroupId, t.GroupName = first.GroupName, t.Name = named("text type", n);
     t.Weight = 400, t.Size_mm = 2.5f, t.RowDist = 1.25f, t.Facename = QStringLiteral("Face"), t.DspZoom = 10;
-    t.LayId = doc.layers().readAll().front().LayId;
+    t.LayId = firstOf(doc.layers().readAll()).LayId;
     t.TxdId = qint16(20000 + n);
     return t;
 }
 tSid makeSymbol(ZOLW_Doc &doc, int n)
 {
-    const tSid first = doc.symbols().readAll().front();
+    const tSid first = firstOf(doc.symbols().readAll());
     tSid s;
     s.GroupId = first.GroupId, s.GroupName = first.GroupName, s.ShortName = named("symbol", n);
     s.FullName = QStringLiteral("long"), s.Code = 33, s.Align = 24, s.Size_mm = 5, s.XwFact = 1, s.YwFact = 1;
     s.Facename = QStringLiteral("Face"), s.Weight = 16, s.CharSet = 238, s.DspZoom = 10;
-    s.LayId = doc.layers().readAll().front().LayId;
+    s.LayId = firstOf(doc.layers().readAll()).LayId;
     s.SidId = qint16(20000 + n);
     return s;
 }
@@ -50,14 +50,14 @@ tPenStyleSi makeSymbolization(ZOLW_Doc &doc, int n)
 {
     return {.Nr = qint16(20000 + n),
             .Name = named("symbolization", n),
-            .SidId = doc.symbols().readAll().front().SidId,
+            .SidId = firstOf(doc.symbols().readAll()).SidId,
             .DistrLength = 12.5,
             .Multi = 2};
 }
 tPt makePoint(ZOLW_Doc &doc, int n)
 {
     return {.Name = QStringLiteral("1203/%1").arg(n), .X = 650000.125 + n, .Y = 240000.0625, .Z = 101.5,
-            .LayId = doc.layers().readAll().front().LayId};
+            .LayId = firstOf(doc.layers().readAll()).LayId};
 }
 
 } // namespace
