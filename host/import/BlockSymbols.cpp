@@ -7,7 +7,8 @@
 namespace refhost {
 namespace {
 
-constexpr size_t kMostPoints = 100000;          // of one character
+constexpr size_t kMostPoints = 100'000;         // of one character
+constexpr size_t kMostObjects = 1'000'000;      // looked at for one character
 constexpr size_t kMostPens = 8;                 // more are not looked through for each insert
 constexpr size_t kDeepest = 32;                 // blocks within blocks
 
@@ -24,7 +25,7 @@ struct BlockSymbols::Collecting {
     const Drawing &drawing;
     BlockSymbol &symbol;
     std::vector<int> way;
-    size_t points = 0;
+    size_t points = 0, objects = 0;
 
     void walk(int block, const Affine &map, const Pen &around)
     {
@@ -36,7 +37,7 @@ struct BlockSymbols::Collecting {
         const DxfBlock &b = drawing.blocks[size_t(block)];
         const Affine toBase = map * shifted(Vec2{} - b.base);
         for (const DxfEntity &e : b.content) {
-            if (points > kMostPoints) symbol.complete = false;
+            if (points > kMostPoints || ++objects > kMostObjects) symbol.complete = false;
             else if (e.block >= 0) walk(e.block, toBase * e.place, all.penOf(e, around));
             else take(e, toBase, around);
         }

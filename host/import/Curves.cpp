@@ -133,7 +133,7 @@ std::vector<Vec2> flattened(std::span<const Vertex> line, bool closed)
 
 std::vector<Vec2> EllipseArc::flattened() const
 {
-    const double sweep = to == from ? kTurn : to - from;
+    const double sweep = to == from ? kTurn : std::clamp(to - from, -kTurn, kTurn);
     const int n = stepsFor(sweep);
     std::vector<Vec2> out;
     for (int i = 0; i <= n; ++i) {

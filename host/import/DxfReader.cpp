@@ -98,7 +98,7 @@ public:
     void addTrace(const DL_TraceData &d) override { object([&] { m_objects.corners(Corners(d).at); }); }
     void add3dFace(const DL_3dFaceData &d) override
     {
-        object([&] { m_objects.face(Corners(d).at, int(numberAt(m_object, 70))); });
+        object([&] { m_objects.face(Corners(d).at, wholeOf(numberAt(m_object, 70))); });
     }
     void addInsert(const DL_InsertData &d) override
     {
@@ -110,7 +110,7 @@ public:
     void addText(const DL_TextData &d) override { object([&] { m_objects.text(rowText(d)); }); }
     void addAttribute(const DL_AttributeData &d) override
     {
-        if (int(numberAt(m_object, 70)) & 1) return m_builder.hide(head());
+        if (wholeOf(numberAt(m_object, 70)) & 1) return m_builder.hide(head());
         object([&] { m_objects.text(rowText(d)); });
     }
     void addMTextChunk(const std::string &chunk) override { m_chunks += std::string(m_scan.whole(chunk)); }
@@ -139,7 +139,7 @@ public:
             if (p.code == 40 || p.code == 41 || (p.code == 43 && m_polyline.light))
                 m_polyline.wide = m_polyline.wide || numberOfText(p.value) != 0;
         if (m_polyline.light) return;
-        m_polyline.vertices = m_scan.verticesOf(int(numberAt(m_object, DxfScan::kVertices)));
+        m_polyline.vertices = m_scan.verticesOf(wholeOf(numberAt(m_object, DxfScan::kVertices)));
         finish();
     }
     void addVertex(const DL_VertexData &d) override
@@ -212,8 +212,8 @@ private:
         };
         return {.layer = name(8, "0"),
                 .lineType = name(6, "BYLAYER"),
-                .color = int(numberAt(m_object, 62, kByLayer)),
-                .trueColor = int(numberAt(m_object, 420, -1)),
+                .color = wholeOf(numberAt(m_object, 62, kByLayer)),
+                .trueColor = wholeOf(numberAt(m_object, 420, -1)),
                 .lineTypeScale = numberAt(m_object, 48, 1),
                 .paper = numberAt(m_object, 67) == 1,
                 .invisible = numberAt(m_object, 60) == 1,
@@ -281,7 +281,7 @@ private:
             if (p.code == 1001) own = p.value == "ACAD";
             if (own && p.code == 1000 && !p.value.empty()) s.face = text(p.value);
             if (!own || p.code != 1071) continue;
-            const int flags = int(numberOfText(p.value));
+            const int flags = wholeOf(numberOfText(p.value));
             s.bold = flags & 0x2000000, s.italic = s.italic || (flags & 0x1000000);
         }
     }
@@ -289,7 +289,7 @@ private:
     void readyByGroups(const std::string &kind)
     {
         const bool known = kind == "HATCH" || kind == "MLINE" || kind == "MULTILEADER" || kind == "ACAD_TABLE"
-                           || (kind == "ATTDEF" && (int(numberAt(m_object, 70)) & 3) == 2);
+                           || (kind == "ATTDEF" && (wholeOf(numberAt(m_object, 70)) & 3) == 2);
         if (!known || !m_builder.open(headOfGroups())) return;
         notePlane();
         if (kind == "HATCH") m_objects.hatch(m_object);
@@ -321,8 +321,8 @@ private:
                 .alignment = {numberAt(m_object, 11), numberAt(m_object, 21), 0},
                 .aligned = valueAt(m_object, 11) != nullptr, .height = numberAt(m_object, 40, 2.5),
                 .widthFactor = numberAt(m_object, 41, 1), .angle = numberAt(m_object, 50) * kDegree,
-                .generation = int(numberAt(m_object, 71)), .horizontal = int(numberAt(m_object, 72)),
-                .vertical = int(numberAt(m_object, 74)), .text = value ? *value : std::string(),
+                .generation = wholeOf(numberAt(m_object, 71)), .horizontal = wholeOf(numberAt(m_object, 72)),
+                .vertical = wholeOf(numberAt(m_object, 74)), .text = value ? *value : std::string(),
                 .style = style ? *style : std::string()};
     }
 

@@ -238,9 +238,9 @@ void DxfScan::takeVertex()
         case 20: v.y = n; break;
         case 30: v.z = n; break;
         case 42: v.bulge = n; break;
-        case 70: v.flags = int(n); break;
+        case 70: v.flags = wholeOf(n); break;
         case 40: case 41: v.wide = v.wide || n != 0; break;
-        case 71: case 72: case 73: case 74: v.face[p.code - 71] = int(n); break;
+        case 71: case 72: case 73: case 74: v.face[p.code - 71] = wholeOf(n); break;
         default: break;
         }
     }

@@ -103,4 +103,6 @@ bool paperSpaceName(std::string_view block);    ///< "*Paper_Space", "*Paper_Spa
 double numberOfText(std::string_view,
                     double fallback = 0); ///< decimal point whatever the locale; never infinite
 
+inline int wholeOf(double v) { return v > -2e9 && v < 2e9 ? int(v) : 0; }     ///< damaged files hold anything
+
 } // namespace refhost

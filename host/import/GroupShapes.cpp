@@ -54,7 +54,7 @@ std::vector<Element> multilineShapes(const DxfPairs &pairs)
         default: break;
         }
     }
-    const bool closed = int(numberAt(pairs, 71)) & 2;
+    const bool closed = wholeOf(numberAt(pairs, 71)) & 2;
     std::vector<Element> out;
     for (auto &points : lines)
         if (points.size() > 1) out.push_back(line(std::move(points), closed));
@@ -89,7 +89,7 @@ LeaderText leaderTextOf(const DxfPairs &pairs)
         else if (where == Context && p.code == 13) out.along.x = v;
         else if (where == Context && p.code == 23) out.along.y = v;
         else if (where == Context && p.code == 41) out.height = v;
-        else if (where == Context && p.code == 170) out.justification = int(numberOfText(p.value, 1));
+        else if (where == Context && p.code == 170) out.justification = wholeOf(numberOfText(p.value, 1));
         else if (where == Leader && p.code == 10) landing.x = v;
         else if (where == Leader && p.code == 20) landing.y = v;
         else if (where == Leader && p.code == 11) direction.x = v;

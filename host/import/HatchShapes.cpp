@@ -18,8 +18,8 @@ public:
             const int code = m_pairs[m_at].code;
             if (code == 70) m_hatch.solid = number() == 1;
             else if (code == 30) m_hatch.elevation = number();
-            else if (code == 91) loops(int(number()));
-            else if (code == 78) families(int(number()));
+            else if (code == 91) loops(wholeOf(number()));
+            else if (code == 78) families(wholeOf(number()));
             else if (code == 450) m_hatch.gradient = number() != 0;
             else ++m_at;
         }
@@ -37,7 +37,7 @@ private:
     void loops(int n)
     {
         for (int i = 0; i < n && at(92); ++i) {
-            const int flags = int(number());
+            const int flags = wholeOf(number());
             std::vector<Vec2> ring = flags & 2 ? polyline() : edges();
             if (at(97)) sources();
             if (ring.size() > 1 && length(ring.front() - ring.back()) == 0) ring.pop_back();
@@ -53,7 +53,7 @@ private:
     {
         numberIf(72);
         numberIf(73);
-        const int n = int(numberIf(93));
+        const int n = wholeOf(numberIf(93));
         std::vector<Vertex> line;
         for (int i = 0; i < n && at(10); ++i) {
             const Vec2 p = pointIf(10);
@@ -64,9 +64,9 @@ private:
     std::vector<Vec2> edges()
     {
         std::vector<Vec2> ring;
-        const int n = int(numberIf(93));
+        const int n = wholeOf(numberIf(93));
         for (int i = 0; i < n && at(72); ++i) {
-            std::vector<Vec2> edge = edgeOf(int(number()));
+            std::vector<Vec2> edge = edgeOf(wholeOf(number()));
             // Edges follow each other, but single ones may be given from end to begin.
             if (!ring.empty() && !edge.empty()
                 && length(edge.back() - ring.back()) < length(edge.front() - ring.back()))
@@ -101,7 +101,7 @@ private:
     std::vector<Vec2> spline()
     {
         Spline s;
-        s.degree = int(numberIf(94));
+        s.degree = wholeOf(numberIf(94));
         numberIf(73);
         numberIf(74);
         numberIf(95);
@@ -163,9 +163,12 @@ public:
         double low = 1e300, high = -1e300;
         for (const auto &ring : m_rings)
             for (Vec2 p : ring) low = std::min(low, p.y), high = std::max(high, p.y);
-        if (!(pitch > 0) || (high - low) / pitch > double(m_most)) return false;
-        for (double k = std::ceil(low / pitch); k * pitch <= high; ++k)
+        const double first = std::ceil(low / pitch), rows = std::floor(high / pitch) - first;
+        if (!(pitch > 0) || !(rows < double(m_most))) return false;
+        for (int i = 0; i <= int(rows); ++i) {
+            const double k = first + i;
             if (!row(k * pitch, (m_offset.y < 0 ? -k : k) * m_offset.x)) return false;
+        }
         return true;
     }
 private:
@@ -185,10 +188,11 @@ private:
     bool span(double from, double to, double y, double begin)
     {
         if (!(m_period > 0)) return piece(from, to, y);
-        if ((to - from) / m_period * double(m_family.dashes.size()) > double(m_most)) return false;
+        const double dashes = ((to - from) / m_period + 2) * double(m_family.dashes.size());
+        if (!(dashes < double(m_most))) return false;
         double x = begin + std::floor((from - begin) / m_period) * m_period;
-        for (size_t i = 0; x < to; i = (i + 1) % m_family.dashes.size()) {
-            const double d = m_family.dashes[i], end = x + std::abs(d);
+        for (size_t i = 0; x < to && double(i) < dashes; ++i) {
+            const double d = m_family.dashes[i % m_family.dashes.size()], end = x + std::abs(d);
             const bool seen = d > 0 ? end > from : d == 0 && x >= from;
             if (seen && !piece(std::max(x, from), std::min(end, to), y)) return false;
             x = end;

@@ -35,7 +35,7 @@ bool looksLikeMap(const DxfScan &scan)
 
 int guessedUnit(const DxfScan &scan, QString &note)
 {
-    const int named = unitOfCode(int(scan.headerNumber("$INSUNITS", 0)));
+    const int named = unitOfCode(wholeOf(scan.headerNumber("$INSUNITS", 0)));
     const bool small = named >= 0 && kUnits[named].metres < 0.5;
     if (looksLikeMap(scan)) {
         if (small)

@@ -46,10 +46,11 @@ void Placing::run(const std::function<void(double)> &progress)
 
 void Placing::place(const DxfEntity &e, const Affine &map, const Pen &around)
 {
-    if (e.block >= 0) return insert(e, map, around);
+    // Blocks without content count too: there are files in which each holds the next one many times.
     if (++m_placed > kMostElements)
         throw DocumentError(join(Text{30308, u"A rajz blokkjai több mint "}, QString::number(kMostElements),
                                  Text{30309, u" rajzelemet adnának; ennyit nem lehet beolvasni."}));
+    if (e.block >= 0) return insert(e, map, around);
     if (e.shape.kind == ElementKind::Text && map.determinant() < 0) ++m_mirrored;
     m_sink({mapped(e.shape, map), m_blocks.penOf(e, around), e.textStyle, -1});
 }
@@ -62,7 +63,6 @@ void Placing::insert(const DxfEntity &e, const Affine &map, const Pen &around)
     Pen one;
     if (m_hasSymbol[block] && whole.similar() && m_blocks.onePen(e.block, pen, one)) {
         ++m_symbols;
-        ++m_placed;
         m_sink({symbolAt(whole), one, 0, e.block});
         return;
     }
