@@ -29,7 +29,8 @@ double measured(const char *way, Steps (*make)(int), int rows, const std::string
     static std::string present;
     static Steps steps;
     static std::map<std::string, double> known;
-    static const bool clearsInTime = (qAddPostRoutine([] { steps.clear(); }), true); // widgets go before the application
+    static const bool clearsInTime =
+        (qAddPostRoutine([] { steps.clear(); }), true); // widgets go before the application
     keep(clearsInTime);
     const std::string name = way + std::to_string(rows);
     const auto [found, isNew] = known.try_emplace(name + step);
@@ -53,8 +54,8 @@ void enterStep(const char *step, bool isTenfold, std::initializer_list<const cha
                        const double own = measured("own", ownGrid, rows, what);
                        return measured(other,
                                        other == std::string("tableWidget") ? tableWidget : itemModelAndProxy,
-                                       rows, what) /
-                              own;
+                                       rows, what)
+                              / own;
                    });
     }
 }
