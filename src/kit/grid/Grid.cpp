@@ -192,7 +192,8 @@ void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> c
     for (qint64 id : selected)
         if (const auto found = rowOf.constFind(id); found != rowOf.constEnd()) rows.push_back(*found);
     const auto &shown = m_model->engine().shownRows();
-    const int heir = shown.empty() || heirPlace < 0 ? -1 : shown[std::min(size_t(heirPlace), shown.size() - 1)];
+    const int heir =
+        shown.empty() || heirPlace < 0 ? -1 : shown[std::min(size_t(heirPlace), shown.size() - 1)];
     m_current = current ? rowOf.value(*current, heir) : -1;
     if (rows.empty() && !selected.empty() && m_current >= 0) rows.push_back(m_current);
     m_selection->setRows(rows);

@@ -46,7 +46,8 @@ public:
 
     void setSource(GridSource *source);             ///< not owned; null = empty, and inert
     /// Runs `change`, which gives the source other rows; then current row, selection and place are as they
-    /// were, by identifier. What a current record that is gone leaves behind is said by `gone`. Raises nothing.
+    /// were, by identifier. What a current record that is gone leaves behind is said by `gone`. Raises
+    /// nothing.
     enum class Gone { NextRow, Nothing };           ///< the row that moved to its place is current; none is
     void refill(const std::function<void()> &change, Gone gone = Gone::NextRow);
     void rowEdited(int row);                        ///< one row's values changed; it moves to its place
