@@ -67,7 +67,8 @@ public:
     using Progress = std::function<bool(double done)>;
 
     static ImportGuess guessOf(const QString &path);                      ///< throws DocumentError like parse
-    static Drawing parse(const QString &path, const Progress & = {}); ///< DocumentError: one message with a remedy
+    static Drawing parse(const QString &path,
+                         const Progress & = {}); ///< DocumentError: one message with a remedy
     /// Into a document as it was created; one command. When it throws, the document is of no use: see into().
     static ImportReport write(const Drawing &, SqliteDoc &, const ImportOptions &, const Progress & = {});
     /// A new document at `target` from the file; when it throws, there is no such document.
