@@ -18,7 +18,7 @@ constexpr Pen kTopPen{-1, 7, 0, 1};             ///< for what follows an insert 
 
 /// What a block shows as one character.
 struct BlockSymbol {
-    std::vector<std::vector<Vec2>> strokes; ///< from the base point, in drawing units; of fills the outlines
+    std::vector<std::vector<Vec2>> strokes;  ///< from the base point, in drawing units; of fills the outlines
     std::vector<Pen> pens;                      ///< all that it is drawn with
     bool complete = true;                       ///< strokes show all of it: no texts, no fills
     bool endless = false;                       ///< contains itself

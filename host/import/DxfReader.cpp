@@ -135,16 +135,9 @@ public:
         begin();
         m_polyline = {.flags = d.flags, .m = int(d.m), .n = int(d.n), .light = kindIs("LWPOLYLINE"),
                       .elevation = d.elevation};
-        for (const DxfPair &p : m_object)
-            if (p.code == 40 || p.code == 41 || (p.code == 43 && m_polyline.light))
-                m_polyline.wide = m_polyline.wide || numberOfText(p.value) != 0;
-        if (m_polyline.light) return;
+        m_polyline.wide = numberAt(m_object, m_polyline.light ? 43 : 40) != 0 || numberAt(m_object, 41) != 0;
         m_polyline.vertices = m_scan.verticesOf(wholeOf(numberAt(m_object, DxfScan::kVertices)));
         finish();
-    }
-    void addVertex(const DL_VertexData &d) override
-    {
-        m_polyline.vertices.push_back({d.x, d.y, d.z, d.bulge});
     }
     void addSpline(const DL_SplineData &d) override
     {

@@ -218,10 +218,11 @@ void DxfScan::handOn(std::string_view kind)
     if (kind == "SEQEND") return;
     if (kind == "VERTEX") return takeVertex();
     std::string index;
-    if (kind == "POLYLINE") {
+    if (kind == "POLYLINE" || kind == "LWPOLYLINE") {
         index = std::to_string(m_vertices.size());
-        m_object.push_back({kVertices, index});
         m_vertices.emplace_back();
+        if (kind == "LWPOLYLINE") takeLightVertices();
+        m_object.push_back({kVertices, index});
     }
     repairCounts();
     for (const View &p : m_object) append(p);
@@ -245,6 +246,23 @@ void DxfScan::takeVertex()
         }
     }
     m_vertices.back().push_back(v);
+}
+
+void DxfScan::takeLightVertices()
+{
+    std::vector<PolylineVertex> &all = m_vertices.back();
+    const auto ofVertex = [](int code) { return code == 10 || code == 20 || (code >= 40 && code <= 42); };
+    for (const View &p : m_object) {
+        if (!ofVertex(p.code)) continue;
+        const double n = numberOfText(p.value);
+        if (p.code == 10) all.push_back({.x = n});
+        if (all.empty()) continue;
+        if (p.code == 20) all.back().y = n;
+        else if (p.code == 42) all.back().bulge = n;
+        else if (p.code != 10) all.back().wide = all.back().wide || n != 0;
+    }
+    std::erase_if(m_object, [&](const View &p) { return ofVertex(p.code) || p.code == 90; });
+    m_object.push_back({90, "0"});
 }
 
 void DxfScan::countObject(std::string_view kind)
@@ -279,10 +297,13 @@ void DxfScan::countObject(std::string_view kind)
 void DxfScan::measure(std::vector<double> &values, double &low, double &high)
 {
     if (values.empty()) return;
-    std::ranges::sort(values);
-    const size_t few = values.size() / 50;
-    low = values.front(), high = values.back();
-    const double mostLow = values[few], mostHigh = values[values.size() - 1 - few];
+    const auto [least, greatest] = std::ranges::minmax(values);
+    const auto few = std::ptrdiff_t(values.size() / 50);
+    std::ranges::nth_element(values, values.begin() + few);
+    const double mostLow = values[size_t(few)];
+    std::ranges::nth_element(values, values.end() - 1 - few);
+    const double mostHigh = *(values.end() - 1 - few);
+    low = least, high = greatest;
     const double reach = 10 * (mostHigh - mostLow);
     if (reach > 0 && (mostLow - low > reach || high - mostHigh > reach)) low = mostLow, high = mostHigh;
     values = {};
@@ -296,7 +317,7 @@ void DxfScan::repairCounts()
         const char *kind;
         int count, counted;
     };
-    static constexpr Announced kAll[] = {{"LWPOLYLINE", 90, 10}, {"SPLINE", 72, 40}, {"SPLINE", 73, 10},
+    static constexpr Announced kAll[] = {{"SPLINE", 72, 40}, {"SPLINE", 73, 10},
                                          {"SPLINE", 74, 11}, {"LEADER", 76, 10}};
     m_counts.reserve(std::size(kAll));
     for (const Announced &a : kAll) {

@@ -56,7 +56,7 @@ public:
     const std::string &clean() const { return m_clean; }
     std::string_view whole(std::string_view value) const;     ///< a value of clean() as it stands in the file
 
-    /// Vertices of old polylines are most of what such files hold, and the reader takes ten times as long for
+    /// Vertices of polylines are most of what such files hold, and the reader takes ten times as long for
     /// them: they are not in clean(). The polyline has a group kVertices instead, the index to be asked for.
     static constexpr int kVertices = 1900;
     const std::vector<PolylineVertex> &verticesOf(int polyline) const
@@ -76,6 +76,7 @@ private:
     void countObject(std::string_view kind);
     void handOn(std::string_view kind);
     void takeVertex();
+    void takeLightVertices();
     void repairCounts();
     void append(const View &);
     void require(bool) const;

@@ -119,15 +119,28 @@ private slots:
         QByteArray blocks;          // each holds the next one ten times, and the last one itself
         for (int i = 0; i < 12; ++i)
             blocks += "0 BLOCK|8 0|2 B" + QByteArray::number(i) + "|70 0|10 0|20 0"
-                      + QByteArray("|0 INSERT|8 0|41 2|2 B" + QByteArray::number(std::min(i + 1, 11)) + "|10 0|20 0").repeated(10)
+                      + QByteArray("|0 INSERT|8 0|41 2|2 B" + QByteArray::number(std::min(i + 1, 11))
+                                   + "|10 0|20 0")
+                            .repeated(10)
                       + "|0 ENDBLK|";
         blocks.chop(1);
-        const QByteArray hatch = "0 HATCH|8 0|10 0|20 0|30 0|2 P|70 0|91 1|92 2|72 0|73 1|93 3|10 1e20|20 1e20|10 1.1e20|20 1e20|"
-                                 "10 1e20|20 1.1e20|97 0|75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0|45 0|46 1e17|79 2|49 1|49 -1|98 0";
-        QVERIFY(errorOf([&] { Imported(Dxf{.blocks = blocks, .entities = "0 INSERT|8 0|2 B0|10 0|20 0"}.bytes()); })
-                    .contains(QStringLiteral("5000000")));
-        QCOMPARE(Imported(Dxf{.entities = hatch + "|0 ELLIPSE|8 0|10 0|20 0|11 1|21 0|40 0.5|41 0|42 1e300|0 INSERT|8 0|2 B|10 0|"
-                                                  "20 0|70 32000|71 32000"}.bytes()).elements().size(), 2);
+        const QByteArray hatch =
+            "0 HATCH|8 0|10 0|20 0|30 0|2 P|70 0|91 1|92 2|72 0|73 1|93 3|10 1e20|20 1e20|10 1.1e20|20 1e20|"
+            "10 1e20|20 1.1e20|97 0|75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0|45 0|46 1e17|79 2|49 1|49 "
+            "-1|98 0";
+        QVERIFY(errorOf([&] {
+                    Imported(Dxf{.blocks = blocks, .entities = "0 INSERT|8 0|2 B0|10 0|20 0"}.bytes());
+                }).contains(QStringLiteral("5000000")));
+        QCOMPARE(
+            Imported(
+                Dxf{.entities =
+                        hatch
+                        + "|0 ELLIPSE|8 0|10 0|20 0|11 1|21 0|40 0.5|41 0|42 1e300|0 INSERT|8 0|2 B|10 0|"
+                          "20 0|70 32000|71 32000"}
+                    .bytes())
+                .elements()
+                .size(),
+            2);
     }
 
     void longTextsStayWhole()
