@@ -5,7 +5,8 @@
 
 #include <utility>
 
-// What each step costs in the grid, in milliseconds, and how many times longer the toolkit's own tables take for it.
+// What each step costs in the grid, in milliseconds, and how many times longer the toolkit's own tables take
+// for it.
 namespace benchmarks {
 namespace {
 
@@ -28,7 +29,8 @@ double measured(const char *way, Steps (*make)(int), int rows, const std::string
     static std::string present;
     static Steps steps;
     static std::map<std::string, double> known;
-    static const bool clearsInTime = (qAddPostRoutine([] { steps.clear(); }), true); // widgets go before the application
+    static const bool clearsInTime =
+        (qAddPostRoutine([] { steps.clear(); }), true); // widgets go before the application
     keep(clearsInTime);
     const std::string name = way + std::to_string(rows);
     const auto [found, isNew] = known.try_emplace(name + step);
@@ -47,10 +49,14 @@ void enterStep(const char *step, bool isTenfold, std::initializer_list<const cha
             return measured("own", ownGrid, rows, what);
         });
         for (const char *other : others)
-            figure(name + other + '.' + what, "times longer", bounded ? atLeast(isTenfold ? 10 : 1) : unbounded(), [=] {
-                const double own = measured("own", ownGrid, rows, what);
-                return measured(other, other == std::string("tableWidget") ? tableWidget : itemModelAndProxy, rows, what) / own;
-            });
+            figure(name + other + '.' + what, "times longer",
+                   bounded ? atLeast(isTenfold ? 10 : 1) : unbounded(), [=] {
+                       const double own = measured("own", ownGrid, rows, what);
+                       return measured(other,
+                                       other == std::string("tableWidget") ? tableWidget : itemModelAndProxy,
+                                       rows, what)
+                              / own;
+                   });
     }
 }
 
@@ -59,8 +65,10 @@ bool enterAll()
     for (const char *step : {"open", "sort.two", "filter.first", "filter.second", "filter.clear"})
         enterStep(step, true, {"proxy", "tableWidget"});
     for (const char *step : {"group.one", "group.four"}) enterStep(step, true, {"proxy"});
-    for (const char *step : {"collapse.band", "collapse.all", "expand.all"}) enterStep(step, false, {"proxy"});
-    for (const char *step : {"find.miss", "select.all", "toggle", "page"}) enterStep(step, false, {"proxy", "tableWidget"});
+    for (const char *step : {"collapse.band", "collapse.all", "expand.all"})
+        enterStep(step, false, {"proxy"});
+    for (const char *step : {"find.miss", "select.all", "toggle", "page"})
+        enterStep(step, false, {"proxy", "tableWidget"});
     for (const char *step : {"sort.edited", "view"}) enterStep(step, false, {});
     figure("grid.0.first.open", "ms", atMost(30), [] { return openFirst(32767); });
     figure("grid.0.memory", "MB", atMost(16), [] { return megabytesOf(32767); });

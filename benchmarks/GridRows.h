@@ -21,12 +21,15 @@ struct GridRows : QV_DOC_CONTROLS::GridSource {
     explicit GridRows(int count)
     {
         using QV_DOC_CONTROLS::CellKind;
-        constexpr CellKind kinds[kColumns] = {CellKind::Number, CellKind::Text,  CellKind::Check,  CellKind::List,   CellKind::Color,
-                                              CellKind::Color,  CellKind::List, CellKind::Number, CellKind::Number, CellKind::Number};
+        constexpr CellKind kinds[kColumns] = {
+            CellKind::Number, CellKind::Text, CellKind::Check,  CellKind::List,   CellKind::Color,
+            CellKind::Color,  CellKind::List, CellKind::Number, CellKind::Number, CellKind::Number};
         for (int c = 0; c < kColumns; ++c)
-            cols.push_back({QStringLiteral("c%1").arg(c), QStringLiteral("Oszlop %1").arg(c), {}, kinds[c], true});
-        QStringList lineTypes, textTypes;               // as in a document: the names belong to tables of their own
-        for (int i = 0; i < 30; ++i) lineTypes << QStringLiteral("vonal %1").arg(i), textTypes << QStringLiteral("Felirat %1").arg(i);
+            cols.push_back(
+                {QStringLiteral("c%1").arg(c), QStringLiteral("Oszlop %1").arg(c), {}, kinds[c], true});
+        QStringList lineTypes, textTypes; // as in a document: the names belong to tables of their own
+        for (int i = 0; i < 30; ++i)
+            lineTypes << QStringLiteral("vonal %1").arg(i), textTypes << QStringLiteral("Felirat %1").arg(i);
         for (int i = 0; i < count; ++i) {
             const int mixed = int(i * 7919LL % count);
             all.push_back({qint16(i + 1), qint16(mixed + 1), QStringLiteral("Réteg %1").arg(mixed + 1),

@@ -65,6 +65,7 @@ struct OwnGrid {
         grid.setSortKeys({});
         grid.selectRows({});
         pause(1);
+        finish(*grid.activeView());
     }
     void group(std::initializer_list<int> columns)
     {
@@ -93,20 +94,35 @@ template <class T> std::function<void()> on(const std::shared_ptr<T> &state, voi
 void addSortSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
 {
     const auto plain = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(); });
-    steps["sort.two"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }), plain};
-    steps["sort.edited"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.sort({{kVisible}, {kName, SortOrder::Descending}}); }),
+    steps["sort.two"] = {on<OwnGrid>(own,
+                                     [](OwnGrid &o) {
+                                         o.sort({{kVisible}, {kName, SortOrder::Descending}});
+                                     }),
+                         plain};
+    steps["sort.edited"] = {steps["sort.two"].run,
                             on<OwnGrid>(own, [](OwnGrid &o) {
                                 o.plain();
                                 QAbstractItemModel &model = *o.grid.table()->model();
-                                model.setData(model.index(7, kName), QString(model.index(7, kName).data().toString() + u'x'));
+                                model.setData(model.index(7, kName),
+                                              QString(model.index(7, kName).data().toString() + u'x'));
                             })};
     steps["group.one"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kLineType}); }), plain};
-    steps["group.four"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.group({kVisible, kLineType, kPrint, kGroups}); }), plain};
+    steps["group.four"] = {on<OwnGrid>(own,
+                                       [](OwnGrid &o) {
+                                           o.group({kVisible, kLineType, kPrint, kGroups});
+                                       }),
+                           plain};
     const auto grouped = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}); });
-    const auto closed = on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
-    steps["collapse.band"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(*o.grid.activeView()); }), grouped};
-    steps["collapse.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(*o.grid.activeView()); }), grouped};
-    steps["expand.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(*o.grid.activeView()); }), closed};
+    const auto closed =
+        on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.group({kLineType}), o.grid.setAllExpanded(false); });
+    steps["collapse.band"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.toggleBandOf(0), finish(*o.grid.activeView()); }), grouped};
+    steps["collapse.all"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(false), finish(*o.grid.activeView()); }),
+        grouped};
+    steps["expand.all"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setAllExpanded(true), finish(*o.grid.activeView()); }),
+        closed};
 }
 
 void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
@@ -117,12 +133,16 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
                               on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"7"_qs); })};
     steps["filter.clear"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.type({}); }),
                              on<OwnGrid>(own, [](OwnGrid &o) { o.plain(), o.type(u"79"_qs); })};
-    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }), plain};
-    steps["select.all"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(*o.grid.activeView()); }), plain};
+    steps["find.miss"] = {on<OwnGrid>(own, [](OwnGrid &o) { keep(o.grid.find(kName, u"nincs ilyen"_qs)); }),
+                          plain};
+    steps["select.all"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.selectAll(), finish(*o.grid.activeView()); }), plain};
     steps["toggle"] = {on<OwnGrid>(own, [](OwnGrid &o) {
                            QAbstractItemModel &model = *o.grid.table()->model();
                            const QModelIndex at = model.index(3, kVisible);
-                           model.setData(at, at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+                           model.setData(at,
+                                         at.data(Qt::CheckStateRole).toInt() ? Qt::Unchecked : Qt::Checked,
+                                         Qt::CheckStateRole);
                            finish(*o.grid.activeView());
                        }), plain};
     steps["page"] = {on<OwnGrid>(own, [](OwnGrid &o) {
@@ -130,7 +150,9 @@ void addOtherSteps(Steps &steps, const std::shared_ptr<OwnGrid> &own)
                          bar.setValue(bar.value() + bar.pageStep());
                          finish(*o.grid.activeView());
                      })};
-    steps["view"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(*o.grid.activeView()); }), plain};
+    steps["view"] = {
+        on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setView(GridView::Card), finish(*o.grid.activeView()); }),
+        plain};
 }
 
 } // namespace
@@ -143,8 +165,9 @@ Steps ownGrid(int rows)
     pause(200);
     for (int i = 0; i < 20; ++i) pause(50);             // the machine may be busy
     Steps steps;
-    steps["open"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.show(); }),
-                     on<OwnGrid>(own, [](OwnGrid &o) { o.grid.setSource(nullptr), finish(*o.grid.activeView()); })};
+    steps["open"] = {on<OwnGrid>(own, [](OwnGrid &o) { o.show(); }), on<OwnGrid>(own, [](OwnGrid &o) {
+                         o.grid.setSource(nullptr), finish(*o.grid.activeView());
+                     })};
     addSortSteps(steps, own);
     addOtherSteps(steps, own);
     return steps;
@@ -196,7 +219,8 @@ struct Widget {
         for (int r = 0; r < rows.rowCount(); ++r)
             for (int c = 0; c < GridRows::kColumns; ++c) {
                 auto *const item = new QTableWidgetItem(rows.text(r, c));
-                if (c == kVisible) item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
+                if (c == kVisible)
+                    item->setCheckState(rows.all[size_t(r)].visible ? Qt::Checked : Qt::Unchecked);
                 table.setItem(r, c, item);
             }
         finish(table);
@@ -205,7 +229,8 @@ struct Widget {
     {
         for (int r = 0; r < table.rowCount(); ++r) {
             bool fits = text.isEmpty();
-            for (int c = 0; c < GridRows::kColumns && !fits; ++c) fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
+            for (int c = 0; c < GridRows::kColumns && !fits; ++c)
+                fits = table.item(r, c)->text().contains(text, Qt::CaseInsensitive);
             table.setRowHidden(r, !fits);
         }
         finish(table);
@@ -225,13 +250,18 @@ Steps tableWidget(int rows)
     const auto way = std::make_shared<Widget>(rows);
     way->show();
     Steps steps;
-    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }), on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
+    steps["open"] = {on<Widget>(way, [](Widget &w) { w.show(); }),
+                     on<Widget>(way, [](Widget &w) { w.table.setRowCount(0); })};
     steps["sort.two"] = {on<Widget>(way, [](Widget &w) { w.sortTwo(); }),
                          on<Widget>(way, [](Widget &w) { w.table.sortItems(kColor), finish(w.table); })};
-    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }), on<Widget>(way, [](Widget &w) { w.filter({}); })};
-    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }), on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }), on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
-    steps["find.miss"] = {on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
+    steps["filter.first"] = {on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); }),
+                             on<Widget>(way, [](Widget &w) { w.filter({}); })};
+    steps["filter.second"] = {on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); }),
+                              on<Widget>(way, [](Widget &w) { w.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Widget>(way, [](Widget &w) { w.filter({}); }),
+                             on<Widget>(way, [](Widget &w) { w.filter(u"79"_qs); })};
+    steps["find.miss"] = {
+        on<Widget>(way, [](Widget &w) { keep(w.table.findItems(u"nincs ilyen"_qs, Qt::MatchContains)); })};
     steps["select.all"] = {on<Widget>(way, [](Widget &w) { w.table.selectAll(), finish(w.table); }),
                            on<Widget>(way, [](Widget &w) { w.filter({}), w.table.clearSelection(); })};
     steps["toggle"] = {on<Widget>(way, [](Widget &w) {
@@ -272,7 +302,8 @@ struct Stock {
         QList<QStandardItem *> items;
         for (int c = 0; c < GridRows::kColumns; ++c) {
             items << new QStandardItem(rows.text(row, c));
-            if (c == kVisible) items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
+            if (c == kVisible)
+                items.back()->setCheckState(rows.all[size_t(row)].visible ? Qt::Checked : Qt::Unchecked);
         }
         return items;
     }
@@ -319,7 +350,8 @@ void addGroupSteps(Steps &steps, const std::shared_ptr<Stock> &way)
     const auto grouped = on<Stock>(way, [](Stock &s) { s.filter({}), s.group({kLineType}); });
     steps["group.one"] = {on<Stock>(way, [](Stock &s) { s.group({kLineType}); })};
     steps["group.four"] = {on<Stock>(way, [](Stock &s) { s.group({kVisible, kLineType, kPrint, kGroups}); })};
-    steps["collapse.band"] = {on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
+    steps["collapse.band"] = {
+        on<Stock>(way, [](Stock &s) { s.view.collapse(s.proxy.index(0, 0)), finish(s.view); }), grouped};
     steps["collapse.all"] = {on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); }), grouped};
     steps["expand.all"] = {on<Stock>(way, [](Stock &s) { s.view.expandAll(), finish(s.view); }),
                            on<Stock>(way, [](Stock &s) { s.view.collapseAll(), finish(s.view); })};
@@ -339,12 +371,18 @@ Steps itemModelAndProxy(int rows)
         if (s.model.rowCount() != s.rows.rowCount()) s.show();
         finish(s.view);
     });
-    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }), on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
+    steps["open"] = {on<Stock>(way, [](Stock &s) { s.show(); }),
+                     on<Stock>(way, [](Stock &s) { s.proxy.sort(-1), s.model.clear(); })};
     steps["sort.two"] = {on<Stock>(way, [](Stock &s) { s.sortTwo(); }), flat};
     steps["filter.first"] = {on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); }), flat};
-    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }), on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
-    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }), on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
-    steps["find.miss"] = {on<Stock>(way, [](Stock &s) { keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName)); }), flat};
+    steps["filter.second"] = {on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); }),
+                              on<Stock>(way, [](Stock &s) { s.filter(u"7"_qs); })};
+    steps["filter.clear"] = {on<Stock>(way, [](Stock &s) { s.filter({}); }),
+                             on<Stock>(way, [](Stock &s) { s.filter(u"79"_qs); })};
+    steps["find.miss"] = {
+        on<Stock>(way,
+                  [](Stock &s) { keep(s.model.findItems(u"nincs ilyen"_qs, Qt::MatchContains, kName)); }),
+        flat};
     steps["select.all"] = {on<Stock>(way, [](Stock &s) { s.view.selectAll(), finish(s.view); }), flat};
     steps["toggle"] = {on<Stock>(way, [](Stock &s) {
                            QStandardItem &item = *s.model.item(3, kVisible);

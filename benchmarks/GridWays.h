@@ -18,6 +18,6 @@ Steps tableWidget(int rows);
 Steps itemModelAndProxy(int rows);
 
 double openFirst(int rows);                     ///< milliseconds, once in a process
-double megabytesOf(int rows);                   ///< what a grid with its rows holds, sorted, grouped and filtered
+double megabytesOf(int rows); ///< what a grid with its rows holds, sorted, grouped and filtered
 
 } // namespace benchmarks

@@ -23,7 +23,7 @@ WORDS = (
     (r"\b(?!Q)\w*(Helper|Utils?)\b", house.PRODUCT, (), "name the thing, or make it a free function where it is used"),
 )
 # Published names, and those that a base class of a library prescribes.
-EXCEPTIONS = re.compile(r"^(doSelect\w*|processCodeValuePair)\s*\(")
+EXCEPTIONS = re.compile(r"^(doSelect\w*|processCodeValuePair|doItemsLayout)\s*\(")
 PATHS = re.compile(r"(?<![\w.~}$*/-])/(?:[w]ork|home|root|tmp)/")
 TEXTS = (*house.CPP, ".txt", ".cmake", ".sh", ".md", ".json", ".tsv", ".in")
 

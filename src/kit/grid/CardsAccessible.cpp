@@ -7,7 +7,8 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-/// What stands at a line and column now; it is asked for anew each time, so that it never speaks of another row.
+/// What stands at a line and column now; it is asked for anew each time, so that it never speaks of another
+/// row.
 class CardCell final : public QAccessibleInterface, public QAccessibleTableCellInterface {
 public:
     CardCell(GridCards &cards, int line, int column) : m_cards(&cards), m_line(line), m_column(column) {}
@@ -30,7 +31,8 @@ public:
     QString text(QAccessible::Text what) const override
     {
         if (what == QAccessible::Name) return at().data(Qt::AccessibleTextRole).toString();
-        return what == QAccessible::Description ? at().data(Qt::AccessibleDescriptionRole).toString() : QString();
+        return what == QAccessible::Description ? at().data(Qt::AccessibleDescriptionRole).toString()
+                                                : QString();
     }
     void setText(QAccessible::Text, const QString &) override {}
     QAccessible::State state() const override
@@ -50,7 +52,8 @@ public:
     }
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        return type == QAccessible::TableCellInterface ? static_cast<QAccessibleTableCellInterface *>(this) : nullptr;
+        return type == QAccessible::TableCellInterface ? static_cast<QAccessibleTableCellInterface *>(this)
+                                                       : nullptr;
     }
     bool isSelected() const override { return state().selected; }
     QList<QAccessibleInterface *> columnHeaderCells() const override { return {}; }
@@ -80,7 +83,10 @@ void CardsAccessible::install()
     Q_UNUSED(once)
 }
 
-CardsAccessible::CardsAccessible(GridCards &cards) : QAccessibleWidget(&cards, QAccessible::Table), m_cards(cards) {}
+CardsAccessible::CardsAccessible(GridCards &cards)
+    : QAccessibleWidget(&cards, QAccessible::Table), m_cards(cards)
+{
+}
 CardsAccessible::~CardsAccessible() { forgetCells(); }
 
 void CardsAccessible::forgetCells()
@@ -170,7 +176,8 @@ bool CardsAccessible::selectRow(int row)
 
 bool CardsAccessible::unselectRow(int row)
 {
-    m_cards.selectionModel()->select(m_cards.model()->index(row, 0), QItemSelectionModel::Rows | QItemSelectionModel::Deselect);
+    m_cards.selectionModel()->select(m_cards.model()->index(row, 0),
+                                     QItemSelectionModel::Rows | QItemSelectionModel::Deselect);
     return !isRowSelected(row);
 }
 

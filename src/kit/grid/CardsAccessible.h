@@ -10,7 +10,7 @@ class GridCards;
 /// Cards for a screen reader: a table of lines by columns, as the table view is one.
 class CardsAccessible final : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
-    static void install();                      ///< makes it the interface of every GridCards; more than once is once
+    static void install(); ///< makes it the interface of every GridCards; more than once is once
     explicit CardsAccessible(GridCards &cards);
     ~CardsAccessible() override;
 

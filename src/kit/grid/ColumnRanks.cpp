@@ -9,7 +9,7 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr size_t kChunk = 1024;                 ///< rows per step: sort keys of so many texts take about two milliseconds
+constexpr size_t kChunk = 1024; ///< rows per step: sort keys of so many texts take about two milliseconds
 
 /// Below every number, so that an empty cell comes first.
 double orLowest(double n) { return std::isnan(n) ? -std::numeric_limits<double>::infinity() : n; }
@@ -45,7 +45,8 @@ void ColumnRanks::buildFromNumbers()
     m_ready = true;
 }
 
-/// Keys for the next rows, sorted as a run of their own; runs of equal length join, so that no step gets long.
+/// Keys for the next rows, sorted as a run of their own; runs of equal length join, so that no step gets
+/// long.
 void ColumnRanks::sortChunk()
 {
     const size_t begin = m_keys.size(), end = std::min(begin + kChunk, size_t(m_cells->cellRows()));
@@ -54,7 +55,8 @@ void ColumnRanks::sortChunk()
         m_keys.push_back(m_collator->sortKey(m_cells->text(int(r), m_column)));
         m_order.push_back(qint32(r));
     }
-    std::sort(m_order.begin() + qptrdiff(begin), m_order.end(), [this](int a, int b) { return before(a, b); });
+    std::sort(m_order.begin() + qptrdiff(begin), m_order.end(),
+              [this](int a, int b) { return before(a, b); });
     m_runs.push_back({begin, end});
     mergeRuns(false);
 }
@@ -66,7 +68,8 @@ bool ColumnRanks::mergeRuns(bool all)
     const Run last = m_runs.back(), other = m_runs[m_runs.size() - 2];
     if (!all && last.end - last.begin != other.end - other.begin) return false;
     const auto at = [this](size_t i) { return m_order.begin() + qptrdiff(i); };
-    std::inplace_merge(at(other.begin), at(last.begin), at(last.end), [this](int a, int b) { return before(a, b); });
+    std::inplace_merge(at(other.begin), at(last.begin), at(last.end),
+                       [this](int a, int b) { return before(a, b); });
     m_runs.pop_back();
     m_runs.back().end = last.end;
     if (!all) mergeRuns(false);
@@ -117,7 +120,8 @@ bool ColumnRanks::rowEdited(int row)
 {
     const int old = of(row);
     const bool shared = leave(row);
-    const auto at = std::ranges::lower_bound(m_sample, 0, {}, [&](int sample) { return compare(sample, row); });
+    const auto at =
+        std::ranges::lower_bound(m_sample, 0, {}, [&](int sample) { return compare(sample, row); });
     const bool isNew = at == m_sample.end() || compare(*at, row) != 0;
     const int rank = int(at - m_sample.begin());
     enter(row, rank, isNew);

@@ -10,8 +10,8 @@ namespace QV_DOC_CONTROLS {
 
 /// One column's values as ranks: dense from 0, ascending, equal values share one.
 ///
-/// Sort keys of texts are the dear part, so they can be built in steps while nothing else happens. One edited row costs
-/// a binary search, not a rebuild.
+/// Sort keys of texts are the dear part, so they can be built in steps while nothing else happens. One edited
+/// row costs a binary search, not a rebuild.
 class ColumnRanks {
 public:
     ColumnRanks(const RowCells &cells, int column, const QCollator &order);
@@ -21,7 +21,8 @@ public:
     void finish() { while (!buildOn()) {} }
     int of(int row) const { return m_rank[size_t(row)]; }   ///< ready only
     int count() const { return int(m_sample.size()); }
-    /// Ready only; the other rows are as they were. Returns false when the row is still equal to the same rows.
+    /// Ready only; the other rows are as they were. Returns false when the row is still equal to the same
+    /// rows.
     bool rowEdited(int row);
 
 private:

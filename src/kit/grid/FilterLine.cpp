@@ -9,7 +9,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-FilterLine::FilterLine(QWidget *parent) : QWidget(parent), m_edit(new QLineEdit(this)), m_count(new QLabel(this))
+FilterLine::FilterLine(QWidget *parent)
+    : QWidget(parent), m_edit(new QLineEdit(this)), m_count(new QLabel(this))
 {
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins({});
@@ -33,7 +34,8 @@ void FilterLine::setCounts(int shown, int all, int hiddenSelected)
     QString said = m_locale.toString(all);
     if (!text().isEmpty()) said = m_locale.toString(shown) + QStringLiteral(" / ") + said;
     if (hiddenSelected > 0)
-        said += QStringLiteral("  (") + join(Text{21030, u"rejtett kijelölt sorok: "}, m_locale.toString(hiddenSelected)) + u')';
+        said += QStringLiteral("  (")
+                + join(Text{21030, u"rejtett kijelölt sorok: "}, m_locale.toString(hiddenSelected)) + u')';
     m_count->setText(said);
 }
 
@@ -43,8 +45,9 @@ void FilterLine::retranslate(const QLocale &locale)
     const QString name = txt(Text{21031, u"Szűrés (Ctrl+F)"});
     m_edit->setPlaceholderText(name);
     m_edit->setAccessibleName(name);
-    m_edit->setToolTip(txt(Text{21032, u"szó szó: mind szerepel\n-szó: nem szerepel\noszlop:szó: abban az oszlopban\n"
-                                       u"\"két szó\": együtt\n* és ?: helyettesítő jelek, a teljes cellára"}));
+    m_edit->setToolTip(
+        txt(Text{21032, u"szó szó: mind szerepel\n-szó: nem szerepel\noszlop:szó: abban az oszlopban\n"
+                        u"\"két szó\": együtt\n* és ?: helyettesítő jelek, a teljes cellára"}));
     m_edit->setAccessibleDescription(m_edit->toolTip());
     m_count->setAccessibleName(txt(Text{21033, u"Látható sorok"}));
     setCounts(m_shown, m_all, m_hidden);

@@ -10,7 +10,8 @@ namespace QV_DOC_CONTROLS {
 
 /// The line above a grid that says which rows are shown, and how many.
 ///
-/// Esc clears it, a second Esc goes back to the grid; neither reaches the dialog, nor does Enter, which goes to the grid.
+/// Esc clears it, a second Esc goes back to the grid; neither reaches the dialog, nor does Enter, which goes
+/// to the grid.
 class FilterLine final : public QWidget {
     Q_OBJECT
 public:

@@ -5,7 +5,8 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-// Control characters that no cell shows: after each cell, before a quiet one, and before the cells with their accents.
+// Control characters that no cell shows: after each cell, before a quiet one, and before the cells with their
+// accents.
 constexpr char kEnd = '\x1f', kQuiet = '\x1d', kExact = '\x1e';
 
 bool startsLetter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
@@ -91,7 +92,7 @@ void FilterRule::add(QStringView token, std::span<const QString> captions)
 
 bool FilterRule::fits(const Term &term, std::string_view cells)
 {
-    if (term.column < 0 && !term.wild) {                // nearly always settled by one search in the whole row
+    if (term.column < 0 && !term.wild) { // nearly always settled by one search in the whole row
         const size_t at = cells.find(term.text);
         if (at == std::string_view::npos) return false;
         const size_t before = cells.rfind(kEnd, at);
@@ -104,7 +105,8 @@ bool FilterRule::fits(const Term &term, std::string_view cells)
         const bool quiet = cell.starts_with(kQuiet);
         if (term.column < 0 ? quiet : term.column != c) continue;
         if (quiet) cell.remove_prefix(1);
-        if (term.wild ? matches(term.text, cell) : cell.find(term.text) != std::string_view::npos) return true;
+        if (term.wild ? matches(term.text, cell) : cell.find(term.text) != std::string_view::npos)
+            return true;
     }
     return false;
 }

@@ -11,15 +11,15 @@ namespace QV_DOC_CONTROLS {
 
 /// What the filter line says, as a rule over one row's cells.
 ///
-/// Words are AND-ed; each must be part of some cell. A word with * or ? describes a whole cell, "-word" excludes,
-/// "caption:word" looks in one column (a unique beginning of its caption will do), quotes hold blanks together. Case never
-/// counts; accents count in words that have some.
+/// Words are AND-ed; each must be part of some cell. A word with * or ? describes a whole cell, "-word"
+/// excludes, "caption:word" looks in one column (a unique beginning of its caption will do), quotes hold
+/// blanks together. Case never counts; accents count in words that have some.
 class FilterRule {
 public:
     FilterRule() = default;
     FilterRule(QStringView typed, std::span<const QString> captions);
     bool isEmpty() const { return m_terms.empty(); }    ///< everything fits
-    bool fits(std::string_view row) const;              ///< as foldedRow() has it, cells in the order of the captions
+    bool fits(std::string_view row) const; ///< as foldedRow() has it, cells in the order of the captions
 
     /// Appends a cell of a row. What is `quiet` is found only by "caption:word", as the state of a check box.
     class RowFolder {

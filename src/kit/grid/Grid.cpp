@@ -26,8 +26,8 @@ namespace QV_DOC_CONTROLS {
 Grid::Grid(QWidget *parent)
     : QWidget(parent), m_model(new GridModel(this)), m_selection(new GridSelection(*m_model, this)),
       m_delegate(new GridDelegate(*m_model, this)), m_input(new GridInput(*m_model, *m_delegate, this)),
-      m_filter(new FilterLine(this)), m_box(new GroupBox(this)), m_table(new GridTable(*m_model, *m_delegate, this)),
-      m_header(new GridHeader(m_table))
+      m_filter(new FilterLine(this)), m_box(new GroupBox(this)),
+      m_table(new GridTable(*m_model, *m_delegate, this)), m_header(new GridHeader(m_table))
 {
     m_table->setHeader(m_header);
     m_header->show();
@@ -37,6 +37,7 @@ Grid::Grid(QWidget *parent)
     m_input->watch(*m_table, [this](int line) { m_table->setDropLine(line); });
     m_input->watch(*m_header);
     connectViews();
+    connectTools();
     m_box->showLevels({}, columns());
     m_filter->retranslate(interfaceLocale());
 }
@@ -53,7 +54,8 @@ void Grid::buildLayout()
     column->addWidget(m_table, 1);
     setFocusProxy(m_table);
     setTabOrder(m_filter->edit(), m_table);
-    auto *const filterKey = new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    auto *const filterKey =
+        new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(filterKey, &QShortcut::activated, this, &Grid::focusFilter);
 }
 
@@ -87,12 +89,18 @@ void Grid::connectViews()
     });
     connect(m_input, &GridInput::deleteAsked, this, [this] {
         const std::vector<int> rows = selectedRows();
-        if (m_allowEdit && m_source && !rows.empty()) m_source->removeRows(rows); // may end the dialog: nothing after it
+        if (m_allowEdit && m_source && !rows.empty())
+            m_source->removeRows(rows); // may end the dialog: nothing after it
     });
+}
+
+void Grid::connectTools()
+{
     connect(m_filter, &FilterLine::changed, this, &Grid::applyFilter);
     connect(m_filter, &FilterLine::focused, this, [this] { m_idle.start(0, this); });
     connect(m_filter, &FilterLine::gridAsked, this, [this] {
-        if (currentRow() < 0 && m_model->engine().shownCount() > 0) makeCurrent(m_model->engine().shownRows().front());
+        if (currentRow() < 0 && m_model->engine().shownCount() > 0)
+            makeCurrent(m_model->engine().shownRows().front());
         activeView()->setFocus(Qt::TabFocusReason);
     });
     connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) {
@@ -162,7 +170,8 @@ void Grid::refill(const std::function<void()> &change)
     const auto &shown = m_model->engine().shownRows();
     const int place = int(std::ranges::find(shown, m_current) - shown.begin());
     const auto current = m_current < 0 ? std::nullopt : std::optional(m_source->rowId(m_current));
-    const int scrolled = activeView()->verticalScrollBar()->value(), column = m_selection->currentIndex().column();
+    const int scrolled = activeView()->verticalScrollBar()->value(),
+              column = m_selection->currentIndex().column();
 
     QScopedValueRollback quiet(m_quiet, true);
     m_pending.clear();
@@ -192,7 +201,8 @@ void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> c
 void Grid::currentChanged(const QModelIndex &now)
 {
     const int row = m_model->sourceRow(now);
-    if (m_quiet || row == m_current || (row < 0 && now.isValid())) return; // on a band the record stays current
+    if (m_quiet || row == m_current || (row < 0 && now.isValid()))
+        return; // on a band the record stays current
     m_current = row;
     emit currentRowMoved(row);
 }
@@ -202,8 +212,10 @@ void Grid::toggleBand(int band)
     QScopedValueRollback quiet(m_quiet, true);
     const int line = m_model->engine().lineOfBand(band);
     const auto inside = m_model->engine().toggled(band);
-    const int current = m_selection->currentIndex().row(), column = std::max(0, m_selection->currentIndex().column());
-    const bool goes = m_model->engine().band(band).expanded && current >= inside.first && current < inside.first + inside.count;
+    const int current = m_selection->currentIndex().row(),
+              column = std::max(0, m_selection->currentIndex().column());
+    const bool goes = m_model->engine().band(band).expanded && current >= inside.first
+                      && current < inside.first + inside.count;
     if (goes) m_selection->setCurrentIndex(m_model->index(line, column), QItemSelectionModel::NoUpdate);
     m_model->toggle(band);
 }
@@ -252,7 +264,10 @@ void Grid::captionsChanged()
     m_idle.start(0, this);
 }
 
-int Grid::currentRow() const { return m_current >= 0 && m_model->engine().isShown(m_current) ? m_current : -1; }
+int Grid::currentRow() const
+{
+    return m_current >= 0 && m_model->engine().isShown(m_current) ? m_current : -1;
+}
 
 void Grid::setCurrentRow(int row)
 {
@@ -318,11 +333,14 @@ void Grid::setDragOut(bool on)
 /// What both views are told alike.
 void Grid::arm()
 {
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_table), static_cast<QAbstractItemView *>(m_cards)}) {
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_table), static_cast<QAbstractItemView *>(m_cards)}) {
         if (!view) continue;
-        view->setSelectionMode(m_multi ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
-        view->setEditTriggers(m_allowEdit ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                                          : QAbstractItemView::NoEditTriggers);
+        view->setSelectionMode(m_multi ? QAbstractItemView::ExtendedSelection
+                                       : QAbstractItemView::SingleSelection);
+        view->setEditTriggers(m_allowEdit
+                                  ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                                  : QAbstractItemView::NoEditTriggers);
         view->setDragEnabled(m_dragsOut);
     }
 }
@@ -359,7 +377,8 @@ void Grid::timerEvent(QTimerEvent *event)
     else QWidget::timerEvent(event);
 }
 
-/// One short step: ranks of the texts that the user can sort by, then the filter's texts once its line is in use.
+/// One short step: ranks of the texts that the user can sort by, then the filter's texts once its line is in
+/// use.
 void Grid::prepareNext()
 {
     constexpr int kRowsPerStep = 1024;

@@ -32,10 +32,12 @@ class SheetSource;
 /// Codes of the view styles, as GridView events carry them.
 enum class GridView : qint16 { Table = 0, Card = 1, CardMin = 2 };
 
-/// The grid through which every table is seen: rows of a GridSource, sorted, grouped and filtered as the user likes.
+/// The grid through which every table is seen: rows of a GridSource, sorted, grouped and filtered as the user
+/// likes.
 ///
-/// Rows in this interface are rows of the source. Current row and selection stay with their records through a refill, a
-/// filter and every change of order. Rows that the filter leaves out are not "shown"; rows in a collapsed band are.
+/// Rows in this interface are rows of the source. Current row and selection stay with their records through a
+/// refill, a filter and every change of order. Rows that the filter leaves out are not "shown"; rows in a
+/// collapsed band are.
 class Grid final : public QWidget, public AbstractGrid {
     Q_OBJECT
 public:
@@ -43,20 +45,21 @@ public:
     ~Grid() override;
 
     void setSource(GridSource *source);             ///< not owned; null = empty, and inert
-    /// Runs `change`, which gives the source other rows; then current row, selection and place are as they were, by
-    /// identifier. A current record that is gone leaves its place to the row that moved there. Raises nothing.
+    /// Runs `change`, which gives the source other rows; then current row, selection and place are as they
+    /// were, by identifier. A current record that is gone leaves its place to the row that moved there.
+    /// Raises nothing.
     void refill(const std::function<void()> &change);
     void rowEdited(int row);                        ///< one row's values changed; it moves to its place
     void captionsChanged();                         ///< columns carry new captions, maybe of another language
 
     int currentRow() const;                         ///< -1 = none, or not shown
-    void setCurrentRow(int row);                    ///< makes it visible and the selected one; a filter that hides it goes
+    void setCurrentRow(int row); ///< makes it visible and the selected one; a filter that hides it goes
     std::vector<int> selectedRows() const;          ///< shown ones, in the order of the grid
     int selectedCount() const;                      ///< shown ones
     void selectRows(std::span<const int> rows);     ///< replaces the selection
     void selectAll();                               ///< every shown row
-    /// Makes the next row current whose shown text is `text`, or else begins with it, or else contains it; case does not
-    /// count. Looks behind the current row first. False = no shown row has it.
+    /// Makes the next row current whose shown text is `text`, or else begins with it, or else contains it;
+    /// case does not count. Looks behind the current row first. False = no shown row has it.
     bool find(int column, const QString &text);
     int rowWithId(qint64 id) const;                 ///< -1 = none
 
@@ -75,10 +78,11 @@ public:
     QString filterText() const;
     void setFilterText(const QString &text);
     void focusFilter();
-    void toggleBandOf(int row);                     ///< the outermost closed band over the row, else the innermost
+    void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
     GridState state() const;
     bool setState(const GridState &state);          ///< false = no column of it is here, nothing changed
-    std::unique_ptr<SheetSource> sheet() const;     ///< what is shown, for paper and clipboard; for as long as the grid stays
+    std::unique_ptr<SheetSource> sheet()
+        const; ///< what is shown, for paper and clipboard; for as long as the grid stays
     QTreeView *table() const;
     QAbstractItemView *activeView() const;
 
@@ -108,6 +112,7 @@ protected:
 private:
     void buildLayout();
     void connectViews();
+    void connectTools();
     void attach(QAbstractItemView &view);
     GridCards &cards();
     void relist(const std::function<void()> &change);
@@ -146,7 +151,7 @@ private:
     bool m_allowEdit = false, m_multi = false, m_dragsOut = false, m_quiet = false;
     QString m_sought;                               ///< letters typed to search
     QElapsedTimer m_soughtAt;
-    QBasicTimer m_idle;                             ///< gets ranks and filter ready while nothing else happens
+    QBasicTimer m_idle; ///< gets ranks and filter ready while nothing else happens
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -182,7 +182,8 @@ int GridCards::lineNear(QPoint content) const
     const Block &block = after[-1];
     if (block.band) return contentRect(block.line).contains(content) ? block.line : -1;
     const int gap = GridDelegate::padding(fontMetrics());
-    const int row = (content.y() - block.top) / (m_card.height() + gap), column = (content.x() - gap) / (m_card.width() + gap);
+    const int row = (content.y() - block.top) / (m_card.height() + gap),
+              column = (content.x() - gap) / (m_card.width() + gap);
     const int line = block.line + row * m_perLine + column;
     const bool isThere = content.x() >= gap && column < m_perLine && line < block.line + block.count;
     return isThere && contentRect(line).contains(content) ? line : -1;
@@ -205,7 +206,8 @@ void GridCards::scrollTo(const QModelIndex &index, ScrollHint hint)
     const QRect card = contentRect(index.row());
     if (card.isNull()) return;
     updateGeometries();
-    const int above = card.top() - GridDelegate::padding(fontMetrics()), below = card.bottom() - viewport()->height();
+    const int above = card.top() - GridDelegate::padding(fontMetrics()),
+              below = card.bottom() - viewport()->height();
     int to = verticalOffset();
     if (hint == PositionAtCenter) to = card.center().y() - viewport()->height() / 2;
     else if (hint == PositionAtTop || above < to) to = above;
@@ -220,7 +222,7 @@ int GridCards::lineBeside(int line, int steps) const
     const int wanted = from.center().y() + steps * (from.height() + GridDelegate::padding(fontMetrics()));
     for (int x = from.center().x(); x > 0; x -= std::max(1, m_card.width() / 2))
         if (const int there = lineNear({x, wanted}); there >= 0) return there;
-    const Block *block = blockOf(line);                          // the next line is a band, or another block's cards
+    const Block *block = blockOf(line); // the next line is a band, or another block's cards
     const int next = steps > 0 ? block->line + block->count : block->line - 1;
     const int here = line - block->line, last = block->count - 1;
     if (steps > 0 && !block->band && here / m_perLine < last / m_perLine) return block->line + last;
@@ -271,7 +273,8 @@ void GridCards::setSelection(const QRect &rect, QItemSelectionModel::SelectionFl
 
 QRegion GridCards::visualRegionForSelection(const QItemSelection &) const { return viewport()->rect(); }
 
-QItemSelectionModel::SelectionFlags GridCards::selectionCommand(const QModelIndex &index, const QEvent *event) const
+QItemSelectionModel::SelectionFlags GridCards::selectionCommand(const QModelIndex &index,
+                                                                const QEvent *event) const
 {
     const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
     if (!shift && m_model.bandOf(index) >= 0) return QItemSelectionModel::NoUpdate;
@@ -282,7 +285,8 @@ void GridCards::paintCard(QPainter &painter, QStyleOptionViewItem option, int li
 {
     const QRect card = cardRect(line);
     const QModelIndex head = m_model.index(line, 0);
-    const bool selected = selectionModel()->isSelected(head), current = currentIndex().row() == line && hasFocus();
+    const bool selected = selectionModel()->isSelected(head),
+               current = currentIndex().row() == line && hasFocus();
     const auto group = option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
     const QRect title(card.left(), card.top(), card.width(), m_delegate.lineHeight(option));
     const int gap = GridDelegate::padding(option.fontMetrics);
@@ -290,22 +294,26 @@ void GridCards::paintCard(QPainter &painter, QStyleOptionViewItem option, int li
     painter.fillRect(title, option.palette.brush(group, selected ? QPalette::Highlight : QPalette::Button));
     painter.setPen(option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::ButtonText));
     painter.drawText(title.adjusted(gap, 0, -gap, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                     option.fontMetrics.elidedText(m_model.cardCaption(m_model.engine().rowAt(line)), Qt::ElideRight,
-                                                   title.width() - 2 * gap));
+                     option.fontMetrics.elidedText(m_model.cardCaption(m_model.engine().rowAt(line)),
+                                                   Qt::ElideRight, title.width() - 2 * gap));
     for (const Field &field : m_fields) {
         option.rect = fieldRect(card, field);
         option.state.setFlag(QStyle::State_HasFocus, current && currentIndex().column() == field.column);
         m_delegate.paint(&painter, option, m_model.index(line, field.column));
         if (!field.titled) continue;
-        const QRect name(card.left() + gap, option.rect.top(), option.rect.left() - card.left() - gap, field.height);
+        const QRect name(card.left() + gap, option.rect.top(), option.rect.left() - card.left() - gap,
+                         field.height);
         QColor quiet = option.palette.color(group, QPalette::Text);
         quiet.setAlphaF(0.65f);
         painter.setPen(quiet);
         painter.drawText(name, Qt::AlignVCenter | Qt::TextSingleLine,
-                         option.fontMetrics.elidedText(m_model.column(field.column)->caption, Qt::ElideRight, name.width()));
+                         option.fontMetrics.elidedText(m_model.column(field.column)->caption, Qt::ElideRight,
+                                                       name.width()));
     }
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(option.palette.color(group, selected || current ? QPalette::Highlight : QPalette::Mid), current ? 2 : 1));
+    painter.setPen(
+        QPen(option.palette.color(group, selected || current ? QPalette::Highlight : QPalette::Mid),
+             current ? 2 : 1));
     painter.drawRect(card.adjusted(0, 0, -1, -1));
 }
 
@@ -315,7 +323,8 @@ void GridCards::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     QStyleOptionViewItem option = optionFor();
     painter.setFont(option.font);
-    const int top = event->rect().top() + verticalOffset(), bottom = event->rect().bottom() + verticalOffset();
+    const int top = event->rect().top() + verticalOffset(),
+              bottom = event->rect().bottom() + verticalOffset();
     auto block = std::ranges::upper_bound(m_blocks, top, {}, &Block::top);
     if (block != m_blocks.begin()) --block;
     const int pitch = m_card.height() + GridDelegate::padding(fontMetrics());

@@ -8,8 +8,8 @@ namespace QV_DOC_CONTROLS {
 
 /// Cards and compact cards: a card for each row, in lines of as many as fit; bands over the full width.
 ///
-/// A card has a caption and a field for each shown column; a compact card only its pictures below the caption.
-/// Up and Down go from field to field and on to the next card, Left and Right from card to card.
+/// A card has a caption and a field for each shown column; a compact card only its pictures below the
+/// caption. Up and Down go from field to field and on to the next card, Left and Right from card to card.
 class GridCards final : public QAbstractItemView {
     Q_OBJECT
 public:
@@ -19,7 +19,8 @@ public:
     void setColumns(std::vector<int> inOrder, bool compact);
     bool isEditing() const { return state() == EditingState; }
 
-    QRect visualRect(const QModelIndex &index) const override;  ///< of the field; of the caption where there is none
+    QRect visualRect(
+        const QModelIndex &index) const override; ///< of the field; of the caption where there is none
     QRect cardRect(int line) const;                             ///< on the viewport; a band's: the full width
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
     QModelIndex indexAt(const QPoint &point) const override;
@@ -38,7 +39,8 @@ protected:
     int verticalOffset() const override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index, const QEvent *event) const override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void startDrag(Qt::DropActions) override { m_calls.dragOut(); }
 
 private:
@@ -63,7 +65,7 @@ private:
     std::vector<Field> m_fields;
     QSize m_card;
     mutable std::vector<Block> m_blocks;
-    mutable bool m_stale = true;                                ///< blocks are of other lines, or another width
+    mutable bool m_stale = true; ///< blocks are of other lines, or another width
     mutable int m_perLine = 1, m_height = 0;
     int m_dropLine = -1;
 };

@@ -30,7 +30,8 @@ int columnWithKey(const std::vector<GridColumn> &columns, const QString &key)
     return found == columns.end() ? -1 : int(found - columns.begin());
 }
 
-std::vector<SortKey> keysOf(const std::vector<GridState::Level> &levels, const std::vector<GridColumn> &columns)
+std::vector<SortKey> keysOf(const std::vector<GridState::Level> &levels,
+                            const std::vector<GridColumn> &columns)
 {
     std::vector<SortKey> keys;
     for (const GridState::Level &level : levels)
@@ -39,7 +40,8 @@ std::vector<SortKey> keysOf(const std::vector<GridState::Level> &levels, const s
     return keys;
 }
 
-std::vector<GridState::Level> levelsOf(const std::vector<SortKey> &keys, const std::vector<GridColumn> &columns)
+std::vector<GridState::Level> levelsOf(const std::vector<SortKey> &keys,
+                                       const std::vector<GridColumn> &columns)
 {
     std::vector<GridState::Level> levels;
     for (const SortKey &key : keys)
@@ -97,7 +99,8 @@ void Grid::showColumns(std::span<const int> inOrder)
         QScopedValueRollback quiet(m_quiet, true);
         for (int c = 0; c < m_header->count(); ++c)
             m_header->setShown(c, std::ranges::find(inOrder, c) != inOrder.end());
-        for (int i = 0; i < int(inOrder.size()); ++i) m_header->moveSection(m_header->visualIndex(inOrder[size_t(i)]), i);
+        for (int i = 0; i < int(inOrder.size()); ++i)
+            m_header->moveSection(m_header->visualIndex(inOrder[size_t(i)]), i);
     }
     columnsMoved();
 }
@@ -153,7 +156,8 @@ void Grid::sortBy(int column, bool adding)
 
 void Grid::toggleBandOf(int row)
 {
-    const std::vector<int> closed = m_model->engine().closedBandsOver(row), over = m_model->engine().bandsOver(row);
+    const std::vector<int> closed = m_model->engine().closedBandsOver(row),
+                           over = m_model->engine().bandsOver(row);
     if (!over.empty()) toggleBand(closed.empty() ? over.back() : closed.front());
 }
 
@@ -196,20 +200,24 @@ bool Grid::find(int column, const QString &text)
     return found >= 0;
 }
 
-/// Letters typed in the grid look for the beginning of a text: in the column sorted by, or the first one of texts.
+/// Letters typed in the grid look for the beginning of a text: in the column sorted by, or the first one of
+/// texts.
 void Grid::seek(const QString &letter)
 {
-    const bool goesOn = m_soughtAt.isValid() && m_soughtAt.elapsed() < QGuiApplication::styleHints()->keyboardInputInterval();
+    const bool goesOn =
+        m_soughtAt.isValid() && m_soughtAt.elapsed() < QGuiApplication::styleHints()->keyboardInputInterval();
     m_sought = goesOn ? m_sought + letter : letter;
     m_soughtAt.start();
     const std::vector<int> shown = shownColumns();
-    const auto texts = std::ranges::find_if(shown, [&](int c) { return columns()[size_t(c)].kind == CellKind::Text; });
+    const auto texts =
+        std::ranges::find_if(shown, [&](int c) { return columns()[size_t(c)].kind == CellKind::Text; });
     const int column = !sortKeys().empty() ? sortKeys().front().column : texts != shown.end() ? *texts : -1;
     const RowEngine &engine = m_model->engine();
     const int here = std::max(0, m_selection->currentIndex().row());
     for (int i = goesOn ? 0 : 1; column >= 0 && i <= engine.lines(); ++i) {
         const int row = engine.rowAt((here + i) % engine.lines());
-        if (row >= 0 && m_model->cellText(row, column).startsWith(m_sought, Qt::CaseInsensitive)) return makeCurrent(row);
+        if (row >= 0 && m_model->cellText(row, column).startsWith(m_sought, Qt::CaseInsensitive))
+            return makeCurrent(row);
     }
 }
 
@@ -254,7 +262,8 @@ GridState Grid::state() const
     GridState state;
     for (int visual = 0; visual < m_header->count(); ++visual) {
         const int c = m_header->logicalIndex(visual);
-        state.columns.push_back({columns()[size_t(c)].key, twipsOf(m_header->widthOf(c), *this), !m_header->isSectionHidden(c)});
+        state.columns.push_back(
+            {columns()[size_t(c)].key, twipsOf(m_header->widthOf(c), *this), !m_header->isSectionHidden(c)});
     }
     state.sort = levelsOf(sortKeys(), columns());
     state.groups = levelsOf(groupLevels(), columns());
@@ -266,10 +275,13 @@ bool Grid::setState(const GridState &state)
 {
     std::vector<int> shown, hidden;
     for (const GridState::Column &column : state.columns)
-        if (const int c = columnWithKey(columns(), column.key); c >= 0) (column.visible ? shown : hidden).push_back(c);
+        if (const int c = columnWithKey(columns(), column.key); c >= 0)
+            (column.visible ? shown : hidden).push_back(c);
     if (shown.empty() && hidden.empty()) return false;
-    for (int c = 0; c < m_header->count(); ++c)         // columns that the state does not know stay, behind the others
-        if (std::ranges::find(shown, c) == shown.end() && std::ranges::find(hidden, c) == hidden.end()) shown.push_back(c);
+    for (int c = 0; c < m_header->count();
+         ++c) // columns that the state does not know stay, behind the others
+        if (std::ranges::find(shown, c) == shown.end() && std::ranges::find(hidden, c) == hidden.end())
+            shown.push_back(c);
     {
         QScopedValueRollback quiet(m_quiet, true);
         for (const GridState::Column &column : state.columns)

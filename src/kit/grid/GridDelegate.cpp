@@ -40,8 +40,8 @@ void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette:
     focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
     focus.backgroundColor = option.palette.color(groupOf(option), on);
     styleOf(option).drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, option.widget);
-    const QColor line = option.palette.color(groupOf(option), on == QPalette::Highlight ? QPalette::HighlightedText
-                                                                                       : QPalette::WindowText);
+    const QColor line = option.palette.color(
+        groupOf(option), on == QPalette::Highlight ? QPalette::HighlightedText : QPalette::WindowText);
     painter->setPen(QPen(line, 1, Qt::DotLine));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
@@ -51,21 +51,27 @@ bool isLegiblyWhite(const QColor &background) { return qGray(background.rgb()) <
 
 } // namespace
 
-GridDelegate::GridDelegate(const GridModel &model, QObject *parent) : QStyledItemDelegate(parent), m_model(model) {}
+GridDelegate::GridDelegate(const GridModel &model, QObject *parent)
+    : QStyledItemDelegate(parent), m_model(model)
+{
+}
 
 QColor GridDelegate::textColor(const QStyleOptionViewItem &option, const GridStyle &style)
 {
     if (style.background.isValid()) // digits stay legible on every colour
-        return style.text.isValid() ? style.text : QColor(isLegiblyWhite(style.background) ? Qt::white : Qt::black);
+        return style.text.isValid() ? style.text
+                                    : QColor(isLegiblyWhite(style.background) ? Qt::white : Qt::black);
     const bool selected = option.state & QStyle::State_Selected;
-    QColor color = option.palette.color(groupOf(option), selected ? QPalette::HighlightedText : QPalette::Text);
+    QColor color =
+        option.palette.color(groupOf(option), selected ? QPalette::HighlightedText : QPalette::Text);
     if (style.text.isValid() && !selected) return style.text;
     if (style.grayed && selected) color.setAlphaF(0.65f);
     else if (style.grayed) color = option.palette.color(QPalette::Disabled, QPalette::Text);
     return color;
 }
 
-void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index) const
 {
     const int row = m_model.sourceRow(index), c = index.column();
     if (row < 0) return paintBand(painter, option, m_model.bandOf(index));
@@ -83,14 +89,17 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, 
         paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
     } else {
         painter->setPen(textColor(option, style));
-        paintText(painter, option, m_model.source()->text(row, c), kind == CellKind::Number || kind == CellKind::Color);
+        paintText(painter, option, m_model.source()->text(row, c),
+                  kind == CellKind::Number || kind == CellKind::Color);
     }
-    if (option.state & QStyle::State_HasFocus) paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
+    if (option.state & QStyle::State_HasFocus)
+        paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
 }
 
-/// A line of text in the middle of the cell. Finding the glyphs of a text is what painting a page takes longest for, so
-/// they are kept.
-void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const
+/// A line of text in the middle of the cell. Finding the glyphs of a text is what painting a page takes
+/// longest for, so they are kept.
+void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
+                             bool right) const
 {
     if (m_font != option.font) m_texts.clear(), m_font = option.font;
     QStaticText *glyphs = m_texts.object(text);
@@ -117,7 +126,8 @@ void GridDelegate::paintCheck(QPainter *painter, const QStyleOptionViewItem &opt
     box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
     box.state |= on ? QStyle::State_On : QStyle::State_Off;
     styleOf(option).drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
-    QColor outline = option.palette.color(QPalette::Text);  // some styles' own outline is lost on a dark ground
+    QColor outline =
+        option.palette.color(QPalette::Text); // some styles' own outline is lost on a dark ground
     outline.setAlphaF(0.4f);
     painter->setPen(outline);
     painter->setBrush(Qt::NoBrush);
@@ -128,14 +138,16 @@ void GridDelegate::paintPicture(QPainter *painter, const QRect &rect, const QPix
 {
     if (picture.isNull()) return;
     QSize size = picture.deviceIndependentSize().toSize();
-    if (size.width() > rect.width() || size.height() > rect.height()) size.scale(rect.size(), Qt::KeepAspectRatio);
+    if (size.width() > rect.width() || size.height() > rect.height())
+        size.scale(rect.size(), Qt::KeepAspectRatio);
     painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect), picture);
 }
 
 QRect GridDelegate::bandMark(const QStyleOptionViewItem &option, int band) const
 {
     const int side = option.fontMetrics.height();
-    return {option.rect.left() + m_model.engine().band(band).level * side, option.rect.top(), side, option.rect.height()};
+    return {option.rect.left() + m_model.engine().band(band).level * side, option.rect.top(), side,
+            option.rect.height()};
 }
 
 void GridDelegate::paintBand(QPainter *painter, const QStyleOptionViewItem &option, int band) const
@@ -150,13 +162,14 @@ void GridDelegate::paintBand(QPainter *painter, const QStyleOptionViewItem &opti
     mark.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
     mark.palette.setColor(QPalette::WindowText, option.palette.color(groupOf(option), QPalette::ButtonText));
     const bool expanded = m_model.engine().band(band).expanded;
-    styleOf(option).drawPrimitive(expanded ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &mark, painter,
-                                  option.widget);
+    styleOf(option).drawPrimitive(expanded ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight,
+                                  &mark, painter, option.widget);
     QFont bold = option.font;
     bold.setBold(true);
     painter->setFont(bold);
     painter->setPen(option.palette.color(groupOf(option), QPalette::ButtonText));
-    const QRect room = option.rect.adjusted(side.right() + 1 - option.rect.left(), 0, -padding(option.fontMetrics), 0);
+    const QRect room =
+        option.rect.adjusted(side.right() + 1 - option.rect.left(), 0, -padding(option.fontMetrics), 0);
     painter->drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                       QFontMetrics(bold).elidedText(m_model.bandText(band), Qt::ElideRight, room.width()));
     painter->setFont(option.font);
@@ -174,7 +187,8 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
 {
     int height = lineHeight(option);
     bool pictures = false;
-    for (int c = 0; const GridColumn *column = m_model.column(c); ++c) pictures |= column->kind == CellKind::Picture;
+    for (int c = 0; const GridColumn *column = m_model.column(c); ++c)
+        pictures |= column->kind == CellKind::Picture;
     if (pictures) height = std::max(height, m_pictureSize.height() + 2);
     return {height, height};
 }
@@ -191,7 +205,8 @@ QWidget *GridDelegate::listEditor(QWidget *parent, int column) const
     return list;
 }
 
-QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                                    const QModelIndex &index) const
 {
     const GridColumn *column = m_model.column(index.column());
     QWidget *editor = nullptr;
@@ -240,7 +255,8 @@ bool GridDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const Q
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease: {
         const auto &mouse = static_cast<const QMouseEvent &>(*event);
-        if (mouse.button() != Qt::LeftButton || !checkRect(option).contains(mouse.position().toPoint())) return false;
+        if (mouse.button() != Qt::LeftButton || !checkRect(option).contains(mouse.position().toPoint()))
+            return false;
         if (event->type() == QEvent::MouseButtonPress) return false;    // the view selects the row
         if (event->type() == QEvent::MouseButtonDblClick) return true;  // its release toggles again
         break;

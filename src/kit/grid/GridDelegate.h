@@ -15,17 +15,22 @@ class GridDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 public:
     explicit GridDelegate(const GridModel &model, QObject *parent);
-    void setPictureSize(QSize size) { m_pictureSize = size; } ///< device-independent pixels; empty = a line's height
+    void setPictureSize(QSize size)
+    {
+        m_pictureSize = size;
+    } ///< device-independent pixels; empty = a line's height
     QSize pictureSize() const { return m_pictureSize; }
     static int padding(const QFontMetrics &letters) { return letters.horizontalAdvance(u' '); }
     int lineHeight(const QStyleOptionViewItem &option) const;
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
     void paintBand(QPainter *painter, const QStyleOptionViewItem &option, int band) const;
     QRect bandMark(const QStyleOptionViewItem &option, int band) const;     ///< where a click toggles
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
@@ -36,7 +41,8 @@ protected:
 
 private:
     QWidget *listEditor(QWidget *parent, int column) const;
-    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text, bool right) const;
+    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
+                   bool right) const;
     void paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const;
     void paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const;
     static QColor textColor(const QStyleOptionViewItem &option, const GridStyle &style);

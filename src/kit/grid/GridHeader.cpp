@@ -57,20 +57,23 @@ int GridHeader::markRoom(int column) const
 {
     if (rankOf(column) < 0) return 0;
     const int arrow = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
-    return arrow + (m_keys.size() > 1 ? fontMetrics().horizontalAdvance(u'4') : 0) + GridDelegate::padding(fontMetrics());
+    return arrow + (m_keys.size() > 1 ? fontMetrics().horizontalAdvance(u'4') : 0)
+           + GridDelegate::padding(fontMetrics());
 }
 
 QSize GridHeader::sectionSizeFromContents(int column) const
 {
     const int mark = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
-    return QHeaderView::sectionSizeFromContents(column) + QSize(mark + 2 * GridDelegate::padding(fontMetrics()), 0);
+    return QHeaderView::sectionSizeFromContents(column)
+           + QSize(mark + 2 * GridDelegate::padding(fontMetrics()), 0);
 }
 
 void GridHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
 {
     QHeaderView::initStyleOptionForIndex(option, column);
     const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-    option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, sectionSize(column) - 2 * margin - markRoom(column));
+    option->text = fontMetrics().elidedText(option->text, Qt::ElideRight,
+                                            sectionSize(column) - 2 * margin - markRoom(column));
 }
 
 void GridHeader::paintSection(QPainter *painter, const QRect &rect, int column) const
@@ -86,10 +89,12 @@ void GridHeader::paintSection(QPainter *painter, const QRect &rect, int column) 
     arrow.initFrom(this);
     arrow.rect = QRect(mark.left(), rect.center().y() - side / 2, side, side);
     const bool up = m_keys[size_t(rank)].order == SortOrder::Ascending;
-    style()->drawPrimitive(up ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, &arrow, painter, this);
+    style()->drawPrimitive(up ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, &arrow, painter,
+                           this);
     if (m_keys.size() < 2) return;
     painter->setPen(palette().color(QPalette::ButtonText));
-    painter->drawText(mark.adjusted(side, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, QString::number(rank + 1));
+    painter->drawText(mark.adjusted(side, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                      QString::number(rank + 1));
 }
 
 int GridHeader::columnToDrag(const QPoint &at) const

@@ -9,8 +9,8 @@ class QLabel;
 
 namespace QV_DOC_CONTROLS {
 
-/// The header of a table: shows the sort keys with their ranks, a click sorts (Shift adds a key), a drag moves the column
-/// or carries it elsewhere. The drag is the header's own, with nothing but mouse events.
+/// The header of a table: shows the sort keys with their ranks, a click sorts (Shift adds a key), a drag
+/// moves the column or carries it elsewhere. The drag is the header's own, with nothing but mouse events.
 class GridHeader final : public QHeaderView {
     Q_OBJECT
 public:
@@ -48,7 +48,7 @@ private:
     int m_column = -1;                                  ///< pressed; may become a drag
     QPoint m_pressed;
     QHash<int, int> m_widths;                           ///< of hidden columns
-    QLabel *m_ghost = nullptr;                          ///< the caption that follows the mouse; while dragging
+    QLabel *m_ghost = nullptr; ///< the caption that follows the mouse; while dragging
 };
 
 } // namespace QV_DOC_CONTROLS

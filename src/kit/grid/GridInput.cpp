@@ -48,8 +48,10 @@ bool GridInput::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress: return !onViewport && isKeyTaken(view, static_cast<const QKeyEvent &>(*event));
     case QEvent::ContextMenu: return askForMenu(view, static_cast<const QContextMenuEvent &>(*event));
-    case QEvent::MouseButtonPress: return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), false);
-    case QEvent::MouseButtonDblClick: return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), true);
+    case QEvent::MouseButtonPress:
+        return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), false);
+    case QEvent::MouseButtonDblClick:
+        return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), true);
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::DragLeave:
@@ -80,7 +82,8 @@ bool GridInput::isBandKeyTaken(QAbstractItemView &view, int key)
     if (b < 0) return false;
     const RowEngine::Band &band = m_model.engine().band(b);
     const bool turn = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-    const bool close = key == Qt::Key_Left || key == Qt::Key_Minus, open = key == Qt::Key_Right || key == Qt::Key_Plus;
+    const bool close = key == Qt::Key_Left || key == Qt::Key_Minus,
+               open = key == Qt::Key_Right || key == Qt::Key_Plus;
     if (!turn && !close && !open) return false;
     if (turn || (band.expanded ? close : open)) emit bandToggled(b);
     else if (key == Qt::Key_Left && band.parent >= 0)
@@ -92,7 +95,8 @@ bool GridInput::isBandKeyTaken(QAbstractItemView &view, int key)
 bool GridInput::isListOpened(QAbstractItemView &view)
 {
     const QModelIndex now = view.currentIndex();
-    if (!(now.flags() & Qt::ItemIsEditable) || m_model.column(now.column())->kind != CellKind::List) return false;
+    if (!(now.flags() & Qt::ItemIsEditable) || m_model.column(now.column())->kind != CellKind::List)
+        return false;
     view.edit(now);
     if (auto *const list = view.viewport()->findChild<QComboBox *>()) list->showPopup();
     return true;
@@ -117,7 +121,8 @@ bool GridInput::askForMenu(QAbstractItemView &view, const QContextMenuEvent &eve
     const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
     QPoint global = event.globalPos();
     if (byKey) global = view.viewport()->mapToGlobal(view.visualRect(view.currentIndex()).center());
-    const QModelIndex index = byKey ? view.currentIndex() : view.indexAt(view.viewport()->mapFromGlobal(global));
+    const QModelIndex index =
+        byKey ? view.currentIndex() : view.indexAt(view.viewport()->mapFromGlobal(global));
     const int band = m_model.bandOf(index);
     const int level = band < 0 ? -1 : m_model.engine().band(band).level;
     const int column = level < 0 ? index.column() : m_model.engine().groupLevels()[size_t(level)].column;

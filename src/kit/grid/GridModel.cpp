@@ -24,6 +24,7 @@ void GridModel::setSource(GridSource *source)
 {
     beginResetModel();
     m_source = source;
+    readColumns();
     m_rule = {};
     m_filter.refill(cellRows());
     m_engine.restart();
@@ -36,6 +37,7 @@ void GridModel::refill(const std::function<void()> &change)
 {
     beginResetModel();
     change();
+    readColumns();
     m_pictures.clear();
     m_styledRow = -1;
     m_filter.refill(cellRows());
@@ -76,6 +78,7 @@ void GridModel::searchColumns(const std::vector<int> &columns)
 void GridModel::captionsChanged()
 {
     beginResetModel();
+    readColumns();
     m_engine.setLocale(interfaceLocale());
     m_engine.rebuild();
     endResetModel();
@@ -147,7 +150,8 @@ int GridModel::rowWithId(qint64 id) const
 
 const GridColumn *GridModel::column(int c) const
 {
-    return m_source && c >= 0 && c < int(m_source->columns().size()) ? &m_source->columns()[size_t(c)] : nullptr;
+    return m_source && c >= 0 && c < int(m_source->columns().size()) ? &m_source->columns()[size_t(c)]
+                                                                     : nullptr;
 }
 
 GridStyle GridModel::styleOf(int row, int column) const
@@ -186,7 +190,8 @@ double GridModel::number(int row, int c) const
 
 QString GridModel::cellText(int row, int c) const
 {
-    return column(c)->kind == CellKind::Check ? yesNo(m_source->value(row, c).toBool()) : m_source->text(row, c);
+    return column(c)->kind == CellKind::Check ? yesNo(m_source->value(row, c).toBool())
+                                              : m_source->text(row, c);
 }
 
 QString GridModel::bandText(int b) const
@@ -202,9 +207,10 @@ QString GridModel::accessibleBand(int b) const
 {
     const RowEngine::Band &band = m_engine.band(b);
     const int c = m_engine.groupLevels()[size_t(band.level)].column;
-    return join(Text{21003, u"csoport "}, column(c)->caption, QStringLiteral(": "), cellText(m_engine.firstRowOf(b), c),
-                QStringLiteral(", "), band.count, band.count == 1 ? Text{21004, u" sor"} : Text{21005, u" sor"},
-                QStringLiteral(", "), band.expanded ? Text{21006, u"kibontva"} : Text{21007, u"összecsukva"});
+    return join(Text{21003, u"csoport "}, column(c)->caption, QStringLiteral(": "),
+                cellText(m_engine.firstRowOf(b), c), QStringLiteral(", "), band.count,
+                band.count == 1 ? Text{21004, u" sor"} : Text{21005, u" sor"}, QStringLiteral(", "),
+                band.expanded ? Text{21006, u"kibontva"} : Text{21007, u"összecsukva"});
 }
 
 void GridModel::setCard(const QString &caption, int numberColumn, int nameColumn)
@@ -212,11 +218,13 @@ void GridModel::setCard(const QString &caption, int numberColumn, int nameColumn
     m_cardCaption = caption, m_numberColumn = numberColumn, m_nameColumn = nameColumn;
 }
 
-/// The caption up to "|", a blank, the number, what follows the "|", and the name: "Réteg:|/" -> "Réteg: 5/Falak".
+/// The caption up to "|", a blank, the number, what follows the "|", and the name: "Réteg:|/" -> "Réteg:
+/// 5/Falak".
 QString GridModel::cardCaption(int row) const
 {
     const qsizetype bar = m_cardCaption.indexOf(u'|');
-    if (bar < 0 || !column(m_numberColumn) || !column(m_nameColumn)) return text(row, std::max(m_nameColumn, 0));
+    if (bar < 0 || !column(m_numberColumn) || !column(m_nameColumn))
+        return text(row, std::max(m_nameColumn, 0));
     return m_cardCaption.first(bar) + u' ' + text(row, m_numberColumn) + m_cardCaption.sliced(bar + 1)
         + text(row, m_nameColumn);
 }
@@ -225,7 +233,7 @@ int GridModel::rowCount(const QModelIndex &parent) const { return parent.isValid
 
 int GridModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() || !m_source ? 0 : int(m_source->columns().size());
+    return parent.isValid() ? 0 : int(m_flags.size());
 }
 
 QVariant GridModel::accessibleText(int row, int c) const
@@ -253,7 +261,9 @@ QVariant GridModel::cellData(int row, int c, int role) const
         return m_source->value(row, c).toBool() ? Qt::Checked : Qt::Unchecked;
     case Qt::ToolTipRole: return tooltips ? cellText(row, c) : QVariant();
     case Qt::TextAlignmentRole:
-        return kind == CellKind::Number || kind == CellKind::Color ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+        return kind == CellKind::Number || kind == CellKind::Color
+                   ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                   : QVariant();
     case Qt::AccessibleTextRole: return accessibleText(row, c);
     case Qt::AccessibleDescriptionRole: return column(c)->caption;
     default: return {};
@@ -281,15 +291,34 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     return {};
 }
 
+void GridModel::readColumns()
+{
+    m_flags.clear();
+    for (int c = 0; const GridColumn *col = column(c); ++c) {
+        Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+        if (m_writable && col->editable && col->kind != CellKind::Picture)
+            flags |= col->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
+        m_flags.push_back(flags);
+    }
+}
+
+void GridModel::setWritable(bool on)
+{
+    m_writable = on;
+    readColumns();
+}
+
+QModelIndex GridModel::index(int line, int column, const QModelIndex &parent) const
+{
+    const bool isThere = line >= 0 && line < m_engine.lines() && column >= 0 && column < int(m_flags.size());
+    return isThere && !parent.isValid() ? createIndex(line, column) : QModelIndex();
+}
+
 Qt::ItemFlags GridModel::flags(const QModelIndex &index) const
 {
-    const GridColumn *c = column(index.column());
-    if (!index.isValid() || !c) return Qt::NoItemFlags;
-    if (m_engine.rowAt(index.row()) < 0) return Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
-    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    if (m_writable && c->editable && c->kind != CellKind::Picture)
-        flags |= c->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
-    return flags;
+    if (!index.isValid() || index.column() >= int(m_flags.size())) return Qt::NoItemFlags;
+    return m_engine.rowAt(index.row()) < 0 ? Qt::ItemIsEnabled | Qt::ItemNeverHasChildren
+                                           : m_flags[size_t(index.column())];
 }
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int role)
@@ -299,8 +328,10 @@ bool GridModel::setData(const QModelIndex &index, const QVariant &value, int rol
     const bool check = column(index.column())->kind == CellKind::Check;
     if (role != (check ? int(Qt::CheckStateRole) : int(Qt::EditRole))) return false;
     const qint64 id = m_source->rowId(row);
-    if (!m_source->edit(row, index.column(), check ? QVariant(value.toInt() == Qt::Checked) : value)) return false;
-    const bool sameRow = m_source && row < cellRows() && m_source->rowId(row) == id; // the source may have refilled
+    if (!m_source->edit(row, index.column(), check ? QVariant(value.toInt() == Qt::Checked) : value))
+        return false;
+    const bool sameRow =
+        m_source && row < cellRows() && m_source->rowId(row) == id; // the source may have refilled
     if (!sameRow) return true;
     rowEdited(row);
     emit rowChanged(row);

@@ -21,7 +21,7 @@ public:
 
     void setSource(GridSource *source);         ///< null = empty; keys and filter go
     const GridSource *source() const { return m_source; }
-    void setWritable(bool on) { m_writable = on; }
+    void setWritable(bool on);
     bool isWritable() const { return m_writable && m_source; }
     RowEngine &engine() { return m_engine; }
     const RowEngine &engine() const { return m_engine; }
@@ -33,7 +33,8 @@ public:
     void setFilter(const FilterRule &rule);
     void captionsChanged();                     ///< columns carry new captions, maybe of another language
 
-    void searchColumns(const std::vector<int> &columns); ///< what a filter looks in, in the order of its captions
+    void searchColumns(
+        const std::vector<int> &columns); ///< what a filter looks in, in the order of its captions
     void toggle(int band);                      ///< its lines come or go
     void rowEdited(int row);                    ///< new values; its line stays where it is until placeRow()
     bool placeRow(int row);                     ///< false = it takes a rebuild()
@@ -42,13 +43,19 @@ public:
 
     int sourceRow(const QModelIndex &index) const;      ///< -1 = none, a band
     int bandOf(const QModelIndex &index) const;         ///< -1 = none, a row
-    QModelIndex indexOf(int sourceRow, int column = 0) const { return index(m_engine.lineOf(sourceRow), column); }
+    QModelIndex indexOf(int sourceRow, int column = 0) const
+    {
+        return index(m_engine.lineOf(sourceRow), column);
+    }
     int rowWithId(qint64 id) const;             ///< -1 = none
     GridStyles &formatStyles() { return m_styles; }
     GridStyle styleOf(int sourceRow, int column) const; ///< the cell's own over the row's
     QPixmap picture(int sourceRow, int column) const;
     const GridColumn *column(int c) const;      ///< null beyond the last
-    std::vector<GridChoice> choices(int c) const { return m_source ? m_source->choices(c) : std::vector<GridChoice>{}; }
+    std::vector<GridChoice> choices(int c) const
+    {
+        return m_source ? m_source->choices(c) : std::vector<GridChoice>{};
+    }
     QString cellText(int sourceRow, int column) const;  ///< as said: "igen" for a check box that is on
     QString bandText(int band) const;           ///< "caption: value (count)"
     QString cardCaption(int sourceRow) const;
@@ -56,6 +63,7 @@ public:
     int cardNameColumn() const { return m_nameColumn; }
     bool tooltips = false;
 
+    QModelIndex index(int line, int column, const QModelIndex &parent = {}) const override;
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -74,19 +82,22 @@ private:
     QString text(int row, int column) const override { return cellText(row, column); }
     QVariant accessibleText(int row, int column) const;
     QString accessibleBand(int band) const;
+    void readColumns();
     QVariant cellData(int row, int column, int role) const;
 
     GridSource *m_source = nullptr;
     bool m_writable = false;
+    std::vector<Qt::ItemFlags> m_flags; ///< by column: a layout asks for each line's, twenty thousand times
     RowEngine m_engine{*this};
     RowFilter m_filter;
     FilterRule m_rule;
     GridStyles m_styles;
     QString m_cardCaption;
     int m_numberColumn = -1, m_nameColumn = -1;
-    mutable int m_styledRow = -1;               ///< the row that m_rowStyles are of: cells are painted row by row
+    mutable int m_styledRow = -1; ///< the row that m_rowStyles are of: cells are painted row by row
     mutable RowStyles m_rowStyles;
-    mutable QCache<std::pair<qint64, int>, QPixmap> m_pictures; ///< by row identifier and column, costs in kilobytes
+    mutable QCache<std::pair<qint64, int>, QPixmap>
+        m_pictures; ///< by row identifier and column, costs in kilobytes
 };
 
 } // namespace QV_DOC_CONTROLS

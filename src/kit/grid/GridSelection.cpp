@@ -21,7 +21,8 @@ QItemSelection rangesOf(const std::vector<int> &lines, const QAbstractItemModel 
 
 } // namespace
 
-GridSelection::GridSelection(GridModel &model, QObject *parent) : QItemSelectionModel(&model, parent), m_model(model)
+GridSelection::GridSelection(GridModel &model, QObject *parent)
+    : QItemSelectionModel(&model, parent), m_model(model)
 {
     connect(&model, &GridModel::aboutToCollapse, this, &GridSelection::keepRemoved);
     connect(&model, &QAbstractItemModel::rowsInserted, this,
@@ -104,7 +105,8 @@ void GridSelection::select(const QItemSelection &selection, SelectionFlags comma
         for (int line = range.top(); line <= range.bottom(); ++line) {
             const int b = engine.bandAt(line);
             if (b < 0 || engine.band(b).expanded) continue;
-            const auto rows = std::span(engine.shownRows()).subspan(size_t(engine.band(b).begin), size_t(engine.band(b).count));
+            const auto rows = std::span(engine.shownRows())
+                                  .subspan(size_t(engine.band(b).begin), size_t(engine.band(b).count));
             m_spanned.insert(m_spanned.end(), rows.begin(), rows.end());
         }
     for (int row : m_spanned) setAway(row, true);

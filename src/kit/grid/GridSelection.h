@@ -11,7 +11,8 @@ class GridModel;
 
 /// The selected rows of a grid, also those without a line: in a collapsed band, or left out by the filter.
 ///
-/// They come back with their lines. A band that a selected range spans brings its rows along, so that "select all" does.
+/// They come back with their lines. A band that a selected range spans brings its rows along, so that "select
+/// all" does.
 class GridSelection final : public QItemSelectionModel {
     Q_OBJECT
 public:

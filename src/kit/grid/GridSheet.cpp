@@ -8,7 +8,10 @@
 
 namespace QV_DOC_CONTROLS {
 
-GridSheet::GridSheet(const Grid &grid, const GridModel &model) : m_grid(grid), m_model(model), m_columns(grid.shownColumns()) {}
+GridSheet::GridSheet(const Grid &grid, const GridModel &model)
+    : m_grid(grid), m_model(model), m_columns(grid.shownColumns())
+{
+}
 
 std::vector<SheetSource::Column> GridSheet::sheetColumns() const
 {
@@ -16,7 +19,8 @@ std::vector<SheetSource::Column> GridSheet::sheetColumns() const
     for (int c : m_columns) {
         const GridColumn &column = *m_model.column(c);
         const bool right = column.kind == CellKind::Number || column.kind == CellKind::Color;
-        columns.push_back({column.caption, m_grid.table()->header()->sectionSize(c), right ? Qt::AlignRight : Qt::AlignLeft});
+        columns.push_back({column.caption, m_grid.table()->header()->sectionSize(c),
+                           right ? Qt::AlignRight : Qt::AlignLeft});
     }
     return columns;
 }
@@ -32,7 +36,8 @@ SheetSource::Row GridSheet::sheetRow(int line) const
         if (!row.cells.empty()) row.cells[0].text = m_model.bandText(band);
         return row;
     }
-    for (size_t i = 0; i < m_columns.size(); ++i) row.cells[i] = cellAt(m_model.engine().rowAt(line), m_columns[i]);
+    for (size_t i = 0; i < m_columns.size(); ++i)
+        row.cells[i] = cellAt(m_model.engine().rowAt(line), m_columns[i]);
     return row;
 }
 

@@ -50,10 +50,11 @@ struct DropTarget {
     int bandRow = -1;       ///< a record of that band
 };
 
-/// Rows and cells behind a grid. Rows are counted from 0 in the source's own order; the grid sorts and groups on its own.
+/// Rows and cells behind a grid. Rows are counted from 0 in the source's own order; the grid sorts and groups
+/// on its own.
 ///
-/// What paints (value, text, picture, styles) never reaches the host. What writes (edit, removeRows, drop) may: it is the
-/// source that keeps host errors away from the event loop.
+/// What paints (value, text, picture, styles) never reaches the host. What writes (edit, removeRows, drop)
+/// may: it is the source that keeps host errors away from the event loop.
 class GridSource {
 public:
     virtual ~GridSource() = default;
@@ -62,13 +63,20 @@ public:
     virtual qint64 rowId(int row) const = 0;                    ///< stays with the record; unique
     virtual QVariant value(int row, int column) const = 0;      ///< for editing and sorting
     virtual QString text(int row, int column) const = 0;        ///< as shown
-    virtual QPixmap picture(int, int) const { return {}; }      ///< of row and column; asked for when painted, kept
+    virtual QPixmap picture(int, int) const
+    {
+        return {};
+    } ///< of row and column; asked for when painted, kept
     virtual RowStyles styles(int) const { return {}; }           ///< of a row
     virtual std::vector<GridChoice> choices(int) const { return {}; } ///< of a List column
-    virtual bool edit(int row, int column, const QVariant &value) = 0;  ///< false = refused, the old value stays
+    virtual bool edit(int row, int column,
+                      const QVariant &value) = 0; ///< false = refused, the old value stays
     /// The delete key: asks, removes and refills the grid by itself; false = nothing is ever removed here.
     virtual bool removeRows(std::span<const int>) { return false; }
-    virtual QMimeData *dragData(std::span<const int>) const { return nullptr; } ///< the caller's; null = no drag of these
+    virtual QMimeData *dragData(std::span<const int>) const
+    {
+        return nullptr;
+    } ///< the caller's; null = no drag of these
     virtual bool canDrop(const QMimeData &, const DropTarget &) const { return false; }
     virtual void drop(const QMimeData &, const DropTarget &) {} ///< only what canDrop() let through
 };

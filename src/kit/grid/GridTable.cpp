@@ -46,7 +46,8 @@ void GridTable::selectAll()
     selectionModel()->select(all, QItemSelectionModel::ClearAndSelect);
 }
 
-void GridTable::drawRow(QPainter *painter, const QStyleOptionViewItem &options, const QModelIndex &index) const
+void GridTable::drawRow(QPainter *painter, const QStyleOptionViewItem &options,
+                        const QModelIndex &index) const
 {
     QStyleOptionViewItem cell = options;
     const int current = currentIndex().row() == index.row() && hasFocus() ? currentIndex().column() : -1;
@@ -85,18 +86,23 @@ void GridTable::paintEvent(QPaintEvent *event)
 QModelIndex GridTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     const QModelIndex now = currentIndex();
-    if (!now.isValid() || (action != MoveLeft && action != MoveRight)) return QTreeView::moveCursor(action, modifiers);
+    if (!now.isValid() || (action != MoveLeft && action != MoveRight))
+        return QTreeView::moveCursor(action, modifiers);
     const int step = (action == MoveRight) == (layoutDirection() == Qt::LeftToRight) ? 1 : -1;
-    for (int visual = header()->visualIndex(now.column()) + step; visual >= 0 && visual < header()->count(); visual += step)
-        if (const int c = header()->logicalIndex(visual); !header()->isSectionHidden(c)) return now.siblingAtColumn(c);
+    for (int visual = header()->visualIndex(now.column()) + step; visual >= 0 && visual < header()->count();
+         visual += step)
+        if (const int c = header()->logicalIndex(visual); !header()->isSectionHidden(c))
+            return now.siblingAtColumn(c);
     return now;
 }
 
 /// Going to a band leaves the selection alone; only Shift goes on across it.
-QItemSelectionModel::SelectionFlags GridTable::selectionCommand(const QModelIndex &index, const QEvent *event) const
+QItemSelectionModel::SelectionFlags GridTable::selectionCommand(const QModelIndex &index,
+                                                                const QEvent *event) const
 {
     const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier
-        || (event && event->isInputEvent() && static_cast<const QInputEvent *>(event)->modifiers() & Qt::ShiftModifier);
+                       || (event && event->isInputEvent()
+                           && static_cast<const QInputEvent *>(event)->modifiers() & Qt::ShiftModifier);
     if (!shift && m_model.bandOf(index) >= 0) return QItemSelectionModel::NoUpdate;
     return QTreeView::selectionCommand(index, event);
 }

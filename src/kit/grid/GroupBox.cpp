@@ -10,7 +10,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-GroupChip::GroupChip(const QString &caption, SortOrder order, QWidget *parent) : QAbstractButton(parent), m_order(order)
+GroupChip::GroupChip(const QString &caption, SortOrder order, QWidget *parent)
+    : QAbstractButton(parent), m_order(order)
 {
     setText(caption);
     setFocusPolicy(Qt::StrongFocus);
@@ -38,7 +39,8 @@ void GroupChip::paintEvent(QPaintEvent *)
     const int side = fontMetrics().height() / 2, gap = side / 2;
     QStyleOption arrow = option;
     arrow.rect = {gap, (height() - side) / 2, side, side};
-    style()->drawPrimitive(m_order == SortOrder::Ascending ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown,
+    style()->drawPrimitive(m_order == SortOrder::Ascending ? QStyle::PE_IndicatorArrowUp
+                                                           : QStyle::PE_IndicatorArrowDown,
                            &arrow, &painter, this);
     painter.setPen(palette().color(QPalette::ButtonText));
     const QRect room(arrow.rect.right() + gap, 0, crossRect().left() - arrow.rect.right() - gap, height());
@@ -95,10 +97,13 @@ int GroupBox::gap() const { return fontMetrics().height() / 4; }
 
 void GroupBox::showLevels(const std::vector<SortKey> &levels, const std::vector<GridColumn> &columns)
 {
-    for (GroupChip *chip : std::exchange(m_chips, {})) chip->hide(), chip->deleteLater(); // one may be the sender
+    for (GroupChip *chip : std::exchange(m_chips, {}))
+        chip->hide(), chip->deleteLater(); // one may be the sender
     m_levels = levels;
-    for (int i = 0; i < int(levels.size()); ++i) addChip(i, columns[size_t(levels[size_t(i)].column)].caption);
-    const QString hint = txt(Text{3223, u"Oszlopértékek szerinti csoportosításhoz húzza ide az oszlop fejlécét"});
+    for (int i = 0; i < int(levels.size()); ++i)
+        addChip(i, columns[size_t(levels[size_t(i)].column)].caption);
+    const QString hint =
+        txt(Text{3223, u"Oszlopértékek szerinti csoportosításhoz húzza ide az oszlop fejlécét"});
     setToolTip(levels.empty() ? hint : QString());
     setAccessibleName(hint);
     layOut();
@@ -140,7 +145,8 @@ bool GroupBox::holds(QPoint global) const { return isVisible() && rect().contain
 int GroupBox::placeAt(QPoint global) const
 {
     const int x = mapFromGlobal(global).x();
-    return int(std::ranges::count_if(m_chips, [x](const GroupChip *chip) { return chip->geometry().center().x() < x; }));
+    return int(std::ranges::count_if(
+        m_chips, [x](const GroupChip *chip) { return chip->geometry().center().x() < x; }));
 }
 
 void GroupBox::markPlace(QPoint global)
@@ -205,7 +211,8 @@ void GroupBox::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::PlaceholderText));
     const QRect room = rect().adjusted(2 * gap(), 0, -gap(), 0);
     if (m_chips.empty())
-        painter.drawText(room, Qt::AlignVCenter, fontMetrics().elidedText(hint, Qt::ElideRight, room.width()));
+        painter.drawText(room, Qt::AlignVCenter,
+                         fontMetrics().elidedText(hint, Qt::ElideRight, room.width()));
     if (m_mark < 0) return;
     const int x = m_mark == 0 ? gap() / 2 : m_chips[size_t(m_mark) - 1]->geometry().right() + 1 + gap() / 2;
     painter.fillRect(QRect(x - 1, 1, 3, height() - 1), palette().brush(QPalette::Highlight));

@@ -7,7 +7,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// One group level in the group-by box. A click or Space turns its order round, the cross or Delete takes it away.
+/// One group level in the group-by box. A click or Space turns its order round, the cross or Delete takes it
+/// away.
 class GroupChip final : public QAbstractButton {
     Q_OBJECT
 public:
@@ -31,7 +32,8 @@ private:
     bool m_dragging = false;
 };
 
-/// The box above the header that column headers are dragged into: shows the group levels and lets them be changed.
+/// The box above the header that column headers are dragged into: shows the group levels and lets them be
+/// changed.
 class GroupBox final : public QWidget {
     Q_OBJECT
 public:
@@ -39,7 +41,7 @@ public:
     void showLevels(const std::vector<SortKey> &levels, const std::vector<GridColumn> &columns);
     bool holds(QPoint global) const;
     void markPlace(QPoint global);                      ///< where a drop would go; elsewhere: no mark
-    void insert(int column, QPoint global);             ///< asks for that level at the place; a present one moves
+    void insert(int column, QPoint global); ///< asks for that level at the place; a present one moves
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 signals:

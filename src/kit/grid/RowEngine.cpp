@@ -9,7 +9,8 @@ namespace {
 int firstDifference(const std::vector<const ColumnRanks *> &columns, int a, int b)
 {
     int level = 0;
-    while (level < int(columns.size()) && columns[size_t(level)]->of(a) == columns[size_t(level)]->of(b)) ++level;
+    while (level < int(columns.size()) && columns[size_t(level)]->of(a) == columns[size_t(level)]->of(b))
+        ++level;
     return level;
 }
 
@@ -38,7 +39,9 @@ void RowEngine::refill(std::vector<bool> fitting)
 
 void RowEngine::setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts)
 {
-    const auto levels = [](std::span<const SortKey> keys) { return keys.first(std::min(keys.size(), size_t(kMaxLevels))); };
+    const auto levels = [](std::span<const SortKey> keys) {
+        return keys.first(std::min(keys.size(), size_t(kMaxLevels)));
+    };
     const auto g = levels(groups), s = levels(sorts);
     m_groups.assign(g.begin(), g.end());
     m_sorts.assign(s.begin(), s.end());
@@ -65,7 +68,8 @@ bool RowEngine::prepare(int column)
     return m_ranks.try_emplace(column, *m_cells, column, m_collator).first->second.buildOn();
 }
 
-/// A counting sort for each key, the least one first: stable, so rows of equal keys stay in the source's order.
+/// A counting sort for each key, the least one first: stable, so rows of equal keys stay in the source's
+/// order.
 void RowEngine::sortRows()
 {
     m_order.resize(size_t(m_cells->cellRows()));

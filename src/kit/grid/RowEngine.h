@@ -13,10 +13,12 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// Order, groups and visible lines of a table, without a widget: up to four group levels and four sort keys over ranks.
+/// Order, groups and visible lines of a table, without a widget: up to four group levels and four sort keys
+/// over ranks.
 ///
-/// "Row" is a row of the source. "Line" is what a view shows: a row or a group band; lines are counted from 0.
-/// Rows that the filter leaves out have no line; neither have rows in a collapsed band, which still count as shown.
+/// "Row" is a row of the source. "Line" is what a view shows: a row or a group band; lines are counted from
+/// 0. Rows that the filter leaves out have no line; neither have rows in a collapsed band, which still count
+/// as shown.
 class RowEngine {
 public:
     struct Band {
@@ -40,7 +42,7 @@ public:
 
     /// Takes note of one row's values. Its line stays until place() or rebuild().
     void rowEdited(int row, bool fits);
-    std::optional<Move> targetOf(int row);                  ///< of an edited row; empty = it takes a rebuild()
+    std::optional<Move> targetOf(int row); ///< of an edited row; empty = it takes a rebuild()
     void place(int row, const Move &move);
     void rebuild();
 
@@ -60,9 +62,9 @@ public:
     std::vector<int> bandsOver(int row) const;              ///< the outermost first
     std::vector<int> closedBandsOver(int row) const;
 
-    Span toggled(int b) const;                              ///< lines that come or go when the band is toggled
+    Span toggled(int b) const; ///< lines that come or go when the band is toggled
     void toggle(int b);
-    void setAllExpanded(bool expanded);                     ///< every band, also such as come later; then rebuild()
+    void setAllExpanded(bool expanded); ///< every band, also such as come later; then rebuild()
     bool expandedByDefault() const { return m_expandedByDefault; }
 
 private:

@@ -61,7 +61,8 @@ bool appendFolded(std::string &to, QStringView text, Accents accents)
         char32_t c = text[i].unicode();
         if (c >= U'A' && c <= U'Z') c += U'a' - U'A';
         if (c < 0x80) { to.push_back(c < 0x20 ? ' ' : char(c)); continue; }
-        if (QChar::isHighSurrogate(c) && i + 1 < text.size()) c = QChar::surrogateToUcs4(char16_t(c), text[++i].unicode());
+        if (QChar::isHighSurrogate(c) && i + 1 < text.size())
+            c = QChar::surrogateToUcs4(char16_t(c), text[++i].unicode());
         const char32_t bare = bareOf(c), kept = QChar::toCaseFolded(c);
         accented |= bare != kept;
         if (accents == Accents::Keep) appendUtf8(to, kept);

@@ -23,9 +23,10 @@ struct SampleRows : GridSource {
         int kind = 0, color = 0;
     };
     std::vector<Record> all;
-    std::vector<GridColumn> cols{{"Nr", "Sorszám", {}, CellKind::Number, true},   {"Name", "Név", {}, CellKind::Text, true},
-                                 {"Vis", "Látható", {}, CellKind::Check, true},   {"Kind", "Vonaltípus", {}, CellKind::List, true},
-                                 {"Col", "Szín", {}, CellKind::Color, false},     {"Pic", "Minta", {}, CellKind::Picture, false}};
+    std::vector<GridColumn> cols{
+        {"Nr", "Sorszám", {}, CellKind::Number, true}, {"Name", "Név", {}, CellKind::Text, true},
+        {"Vis", "Látható", {}, CellKind::Check, true}, {"Kind", "Vonaltípus", {}, CellKind::List, true},
+        {"Col", "Szín", {}, CellKind::Color, false},   {"Pic", "Minta", {}, CellKind::Picture, false}};
     QStringList kinds{"folytonos", "szaggatott", "pontozott"};
     QStringList log;
     bool refuses = false;
@@ -56,7 +57,10 @@ struct SampleRows : GridSource {
         if (column == Sample) return QStringLiteral("minta");
         return column == Kind ? kinds.value(at(row).kind) : value(row, column).toString();
     }
-    RowStyles styles(int row) const override { return {{}, {{Color, QString::number(at(row).color) + "ColorId"}}}; }
+    RowStyles styles(int row) const override
+    {
+        return {{}, {{Color, QString::number(at(row).color) + "ColorId"}}};
+    }
     QPixmap picture(int row, int) const override
     {
         ++painted;
@@ -64,7 +68,10 @@ struct SampleRows : GridSource {
         p.fill(at(row).visible ? Qt::darkGreen : Qt::gray);
         return p;
     }
-    std::vector<GridChoice> choices(int) const override { return {{0, kinds[0]}, {1, kinds[1]}, {2, kinds[2]}}; }
+    std::vector<GridChoice> choices(int) const override
+    {
+        return {{0, kinds[0]}, {1, kinds[1]}, {2, kinds[2]}};
+    }
     bool edit(int row, int column, const QVariant &v) override
     {
         log << QStringLiteral("edit %1.%2=%3").arg(rowId(row)).arg(cols[size_t(column)].key, v.toString());
@@ -95,7 +102,11 @@ struct SampleRows : GridSource {
     }
     void drop(const QMimeData &mime, const DropTarget &t) override
     {
-        log << QStringLiteral("drop %1 row %2 band %3/%4").arg(mime.text()).arg(t.row).arg(t.bandColumn).arg(t.bandRow);
+        log << QStringLiteral("drop %1 row %2 band %3/%4")
+                   .arg(mime.text())
+                   .arg(t.row)
+                   .arg(t.bandColumn)
+                   .arg(t.bandRow);
     }
     const Record &at(int row) const { return all[size_t(row)]; }
     mutable int painted = 0;

@@ -27,20 +27,42 @@ void tst_FilterRule::wordsChooseRows_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("rows");
     const std::pair<const char *, const char *> cases[] = {
-        {"", "0123"},             {"   ", "0123"},
-        {"79", "12"},             {"79 fo", "12"},           // AND over all columns
-        {"FÖLD", "0"},            {"fold", "01"},            // accents count when typed, case never
-        {"duong e", "2"},         {"ế", "2"},               {"ê", ""},
-        {"-79", "03"},            {"-", "0123"},             {"fo -79", "0"},
-        {"név:5", "1"},           {"nev:5", "1"},            {"N:5", "1"},      // a unique beginning of a caption
-        {"s:79", "12"},           {"név:", "0123"},          {"-név:fold", "23"},
-        {"a:b", "3"},             {"x:y", ""},               // no such caption: looked for as it is
-        {"\"pont vonal\"", "3"},  {"\"vonal pont\"", ""},    {"\"Vonaltípus\":pont", "3"},
-        {"?", "03"},              {"7?", "1"},               {"7*", "12"},      {"*út*", "0"},
-        {"?ường*", "2"},          {"-*0", "013"},            {"\"x*y\"", "3"},
-        {"igen", ""},             {"látható:igen", "02"},    {"l:ne", "13"},
+        {"", "0123"},
+        {"   ", "0123"},
+        {"79", "12"},
+        {"79 fo", "12"}, // AND over all columns
+        {"FÖLD", "0"},
+        {"fold", "01"}, // accents count when typed, case never
+        {"duong e", "2"},
+        {"ế", "2"},
+        {"ê", ""},
+        {"-79", "03"},
+        {"-", "0123"},
+        {"fo -79", "0"},
+        {"név:5", "1"},
+        {"nev:5", "1"},
+        {"N:5", "1"}, // a unique beginning of a caption
+        {"s:79", "12"},
+        {"név:", "0123"},
+        {"-név:fold", "23"},
+        {"a:b", "3"},
+        {"x:y", ""}, // no such caption: looked for as it is
+        {"\"pont vonal\"", "3"},
+        {"\"vonal pont\"", ""},
+        {"\"Vonaltípus\":pont", "3"},
+        {"?", "03"},
+        {"7?", "1"},
+        {"7*", "12"},
+        {"*út*", "0"},
+        {"?ường*", "2"},
+        {"-*0", "013"},
+        {"\"x*y\"", "3"},
+        {"igen", ""},
+        {"látható:igen", "02"},
+        {"l:ne", "13"},
         {"fo szaggatott 79", "1"}};
-    for (const auto &[typed, rows] : cases) QTest::newRow(*typed ? typed : "nothing") << QString(typed) << QString(rows);
+    for (const auto &[typed, rows] : cases)
+        QTest::newRow(*typed ? typed : "nothing") << QString(typed) << QString(rows);
 }
 
 void tst_FilterRule::wordsChooseRows()

@@ -74,13 +74,16 @@ void tst_GridAccessible::headerFilterAndChipsHaveNames()
     grid.setGroupLevels(std::vector<SortKey>{{SampleRows::Kind, SortOrder::Descending}});
     grid.resize(800, 500);
     grid.show();
-    const auto nameOf = [](QObject *of) { return QAccessible::queryAccessibleInterface(of)->text(QAccessible::Name); };
+    const auto nameOf = [](QObject *of) {
+        return QAccessible::queryAccessibleInterface(of)->text(QAccessible::Name);
+    };
     QAccessibleInterface *const table = QAccessible::queryAccessibleInterface(grid.table());
     QCOMPARE(table->child(0)->role(), QAccessible::ColumnHeader);
     QCOMPARE(table->child(0)->text(QAccessible::Name), "Réteg sorszáma");
     QCOMPARE(nameOf(grid.findChild<FilterLine *>()->edit()), "Szűrés (Ctrl+F)");
     QCOMPARE(nameOf(grid.findChild<GroupChip *>()), "csoportosítás: Vonaltípus, csökkenő");
-    QCOMPARE(QAccessible::queryAccessibleInterface(grid.findChild<GroupChip *>())->role(), QAccessible::Button);
+    QCOMPARE(QAccessible::queryAccessibleInterface(grid.findChild<GroupChip *>())->role(),
+             QAccessible::Button);
 }
 
 QVDC_TEST(tst_GridAccessible)

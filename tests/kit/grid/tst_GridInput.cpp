@@ -30,7 +30,8 @@ struct Shown {
 
     Shown()
     {
-        for (int i = 0; i < rows.rowCount(); ++i) rows.all[size_t(i)].kind = i % 3, rows.all[size_t(i)].visible = i % 2;
+        for (int i = 0; i < rows.rowCount(); ++i)
+            rows.all[size_t(i)].kind = i % 3, rows.all[size_t(i)].visible = i % 2;
         (new QVBoxLayout(&dialog))->addWidget(&grid);
         grid.setSource(&rows);
         grid.setMultiSelection(true);
@@ -48,7 +49,8 @@ struct Shown {
     void group(std::initializer_list<SortKey> levels) { grid.setGroupLevels(std::vector<SortKey>(levels)); }
     void click(const QModelIndex &at, Qt::KeyboardModifiers m = {})
     {
-        QTest::mouseClick(grid.activeView()->viewport(), Qt::LeftButton, m, grid.activeView()->visualRect(at).center());
+        QTest::mouseClick(grid.activeView()->viewport(), Qt::LeftButton, m,
+                          grid.activeView()->visualRect(at).center());
     }
     QPoint header(int column) const
     {
@@ -159,7 +161,8 @@ void tst_GridInput::bandsOpenAndCloseByKeysAndMouse()
     s.key(Qt::Key_Left);
     QVERIFY(s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
     s.key(Qt::Key_Right);
-    QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {}, s.table.visualRect(s.cell(0, 0)).topLeft() + QPoint(4, 4));
+    QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {},
+                      s.table.visualRect(s.cell(0, 0)).topLeft() + QPoint(4, 4));
     QVERIFY(s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
     QTest::mouseDClick(s.table.viewport(), Qt::LeftButton, {}, s.table.visualRect(s.cell(0, 0)).center());
     QVERIFY(!s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
@@ -215,7 +218,8 @@ void tst_GridInput::editorsWriteOrAreRefused()
         QTest::keyClick(line, Qt::Key_Return);
         QTRY_COMPARE(s.rows.log.size(), refuses ? 1 : 2);
         QTRY_COMPARE(QApplication::focusWidget(), &s.table);
-        QCOMPARE(s.lines(), refuses ? "alma alma 9 alma 10 barack körte szilva" : "alma 9 alma 10 barack körte szilva zab");
+        QCOMPARE(s.lines(), refuses ? "alma alma 9 alma 10 barack körte szilva"
+                                    : "alma 9 alma 10 barack körte szilva zab");
     }
     QCOMPARE(s.grid.currentRow(), 0);                   // it moved, and is still the current one
     s.grid.setAllowEdit(false);
@@ -233,7 +237,8 @@ void tst_GridInput::spaceAndMouseToggleOneCheckBox()
     QCOMPARE(s.grid.selectedCount(), 6);
     s.click(s.cell(3, SampleRows::Visible));
     QCOMPARE(s.rows.log.last(), "edit 103.Vis=false");
-    QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {}, s.table.visualRect(s.cell(4, SampleRows::Visible)).topLeft() + QPoint(2, 2));
+    QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {},
+                      s.table.visualRect(s.cell(4, SampleRows::Visible)).topLeft() + QPoint(2, 2));
     QCOMPARE(s.rows.log.size(), 2);                     // beside the box
 }
 
@@ -245,7 +250,8 @@ void tst_GridInput::listsOpenByKeyAndIgnoreTheWheel()
     auto *const list = s.table.findChild<QComboBox *>();
     QVERIFY(list && list->view()->isVisible());
     list->hidePopup();
-    QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QWheelEvent wheel({5, 5}, list->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(list, &wheel);
     QCOMPARE(list->currentIndex(), 0);
     list->setCurrentIndex(2);
@@ -346,8 +352,10 @@ void tst_GridInput::contextMenuSaysWhere()
         QApplication::sendEvent(&on, &event);
         return QString("%1/%2").arg(asked.last()[0].toInt()).arg(asked.last()[1].toInt());
     };
-    QCOMPARE(ask(*s.table.viewport(), s.table.visualRect(s.cell(1, 1)).center(), QContextMenuEvent::Mouse), "0/1");
-    QCOMPARE(ask(*s.table.viewport(), s.table.visualRect(s.cell(0, 1)).center(), QContextMenuEvent::Mouse), "-1/3");
+    QCOMPARE(ask(*s.table.viewport(), s.table.visualRect(s.cell(1, 1)).center(), QContextMenuEvent::Mouse),
+             "0/1");
+    QCOMPARE(ask(*s.table.viewport(), s.table.visualRect(s.cell(0, 1)).center(), QContextMenuEvent::Mouse),
+             "-1/3");
     QCOMPARE(ask(*s.table.header()->viewport(), s.header(2), QContextMenuEvent::Mouse), "-1/2");
     s.goTo(2, 1);
     QCOMPARE(ask(s.table, {}, QContextMenuEvent::Keyboard), "3/1");
@@ -379,7 +387,7 @@ void tst_GridInput::cardsAreWalkedAndEdited()
     QCOMPARE(s.grid.selectedCount(), 6);
     s.key(Qt::Key_Home);
     s.grid.setView(GridView::CardMin);
-    for (int n = 0; n < 12; ++n) s.key(Qt::Key_Down);   // ends at the last line of cards, on no dead end before
+    for (int n = 0; n < 12; ++n) s.key(Qt::Key_Down); // ends at the last line of cards, on no dead end before
     s.key(Qt::Key_End);
     QCOMPARE(s.grid.currentRow(), 5);
 }

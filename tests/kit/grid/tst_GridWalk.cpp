@@ -29,18 +29,21 @@ struct PlainGrid {
 
     QString shown(int row, int column) const
     {
-        return column == SampleRows::Visible ? (rows.at(row).visible ? "igen" : "nem") : rows.text(row, column);
+        return column == SampleRows::Visible ? (rows.at(row).visible ? "igen" : "nem")
+                                             : rows.text(row, column);
     }
     bool fits(int row) const
     {
         if (filter.isEmpty()) return true;
         for (int c = 0; c < int(rows.cols.size()); ++c)
-            if (c != SampleRows::Visible && rows.text(row, c).contains(filter, Qt::CaseInsensitive)) return true;
+            if (c != SampleRows::Visible && rows.text(row, c).contains(filter, Qt::CaseInsensitive))
+                return true;
         return false;
     }
     int compare(int a, int b, int column) const
     {
-        if (column == SampleRows::Name || column == SampleRows::Kind) return collator.compare(shown(a, column), shown(b, column));
+        if (column == SampleRows::Name || column == SampleRows::Kind)
+            return collator.compare(shown(a, column), shown(b, column));
         return rows.value(a, column).toInt() - rows.value(b, column).toInt();
     }
     std::vector<int> order() const
@@ -51,7 +54,8 @@ struct PlainGrid {
         std::ranges::stable_sort(all, [this](int a, int b) {
             for (const auto *keys : {&groups, &sorts})
                 for (const SortKey &key : *keys)
-                    if (const int d = compare(a, b, key.column)) return (d < 0) == (key.order == SortOrder::Ascending);
+                    if (const int d = compare(a, b, key.column))
+                        return (d < 0) == (key.order == SortOrder::Ascending);
             return false;
         });
         return all;
@@ -78,10 +82,13 @@ struct PlainGrid {
             for (size_t level = 1; level <= groups.size(); ++level) {
                 const QString at = path(row, level);
                 if (visible && !open.startsWith(at)) {
-                    const auto count = std::ranges::count_if(all, [&](int r) { return path(r, level) == at; });
+                    const auto count =
+                        std::ranges::count_if(all, [&](int r) { return path(r, level) == at; });
                     const QString value = shown(row, groups[level - 1].column);
-                    out << QStringLiteral("[%1: %2 (%3)]").arg(rows.cols[size_t(groups[level - 1].column)].caption,
-                                                               value.isEmpty() ? "(üres)" : value).arg(count);
+                    out << QStringLiteral("[%1: %2 (%3)]")
+                               .arg(rows.cols[size_t(groups[level - 1].column)].caption,
+                                    value.isEmpty() ? "(üres)" : value)
+                               .arg(count);
                 }
                 visible = visible && isExpanded(at);
             }
@@ -137,18 +144,24 @@ void tst_GridWalk::edit(Grid &grid, SampleRows &rows)
     const QModelIndex at = grid.table()->model()->index(line, column);
     const SampleRows::Record now = record();
     rows.refuses = below(5) == 0;
-    if (column == SampleRows::Visible) grid.table()->model()->setData(at, below(2) ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
-    else grid.table()->model()->setData(at, column == 0 ? QVariant(now.nr) : column == 1 ? QVariant(now.name) : QVariant(now.kind));
+    if (column == SampleRows::Visible)
+        grid.table()->model()->setData(at, below(2) ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    else
+        grid.table()->model()->setData(at, column == 0   ? QVariant(now.nr)
+                                           : column == 1 ? QVariant(now.name)
+                                                         : QVariant(now.kind));
     rows.refuses = false;
 }
 
 void tst_GridWalk::refill(Grid &grid, SampleRows &rows, PlainGrid &plain)
 {
     const std::vector<int> before = plain.order();
-    const size_t place = size_t(std::ranges::find_if(before, [&](int r) { return rows.rowId(r) == plain.current; }) - before.begin());
+    const size_t place = size_t(
+        std::ranges::find_if(before, [&](int r) { return rows.rowId(r) == plain.current; }) - before.begin());
     const bool hadSelection = !plain.selected.empty();
     grid.refill([&] {
-        for (int n = below(4); n > 0 && !rows.all.empty(); --n) rows.all.erase(rows.all.begin() + below(int(rows.all.size())));
+        for (int n = below(4); n > 0 && !rows.all.empty(); --n)
+            rows.all.erase(rows.all.begin() + below(int(rows.all.size())));
         for (int n = below(4); n > 0 && rows.all.size() < 40; --n)
             rows.all.insert(rows.all.begin() + below(int(rows.all.size()) + 1), record());
         if (below(4) == 0) std::ranges::shuffle(rows.all, m_random);
@@ -234,7 +247,8 @@ void tst_GridWalk::tenThousandStepsAgreeWithThePlainestMeans()
     grid.setAllowEdit(true);
     grid.resize(600, 400);
     grid.show();
-    const QAbstractItemModelTester tester(grid.table()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QAbstractItemModelTester tester(grid.table()->model(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
     PlainGrid plain(rows);
     for (int i = 0; i < 10000; ++i) {
         step(grid, rows, plain);

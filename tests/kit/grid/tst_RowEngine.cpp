@@ -38,7 +38,9 @@ static QString dump(const RowEngine &engine, const Cells &cells)
         const int row = engine.rowAt(line), b = engine.bandAt(line);
         if (row >= 0) { lines << cells.text(row, 0); continue; }
         const int column = engine.groupLevels()[size_t(engine.band(b).level)].column;
-        lines << QStringLiteral("[%1:%2%3]").arg(cells.text(engine.firstRowOf(b), column)).arg(engine.band(b).count)
+        lines << QStringLiteral("[%1:%2%3]")
+                     .arg(cells.text(engine.firstRowOf(b), column))
+                     .arg(engine.band(b).count)
                      .arg(engine.band(b).expanded ? "" : "-");
     }
     return lines.join(u' ');
@@ -105,7 +107,8 @@ void tst_RowEngine::textsAreOrderedAsTheLanguageDoes()
     QFETCH(QLocale, locale);
     QFETCH(QString, lines);
     Cells cells;
-    for (const char *word : {"zs", "csap", "z", "cukor", "ő", "đa", "dzsem", "Dana"}) cells.rows.push_back({word, "", ""});
+    for (const char *word : {"zs", "csap", "z", "cukor", "ő", "đa", "dzsem", "Dana"})
+        cells.rows.push_back({word, "", ""});
     RowEngine engine(cells);
     engine.setLocale(locale);
     engine.setKeys({}, keys("+0"));
@@ -163,7 +166,8 @@ void tst_RowEngine::editedRowMovesAsARebuildWouldPlaceIt()
 void tst_RowEngine::ranksBuiltInStepsAreThoseBuiltAtOnce()
 {
     Cells cells;
-    for (int i = 0; i < 5000; ++i) cells.rows.push_back({QStringLiteral("L %1").arg(i * 3571 % 5000 / 2), "", ""});
+    for (int i = 0; i < 5000; ++i)
+        cells.rows.push_back({QStringLiteral("L %1").arg(i * 3571 % 5000 / 2), "", ""});
     RowEngine engine(cells);
     engine.setLocale(QLocale(QLocale::Hungarian));
     int steps = 1;
