@@ -23,8 +23,12 @@ struct LargeDocument {
     {
         std::vector<tLay> rows;
         for (int i = 0; i < kLayers; ++i)
-            rows.push_back({.gNr = qint16(i + 10), .Name = QStringLiteral("Layer of the survey %1").arg(i), .PenStyleId = 1,
-                            .ScrColor = qint16(i % 256), .PenColorId = qint16(i % 256), .TxdId = 1});
+            rows.push_back({.gNr = qint16(i + 10),
+                            .Name = QStringLiteral("Layer of the survey %1").arg(i),
+                            .PenStyleId = 1,
+                            .ScrColor = qint16(i % 256),
+                            .PenColorId = qint16(i % 256),
+                            .TxdId = 1});
         doc->layers().addAll(rows, ids);
         all = doc->layers().readAll();
     }
@@ -58,7 +62,9 @@ const bool s_single = figure("document.layers.1000.update.each", "ms", unbounded
     LargeDocument d;
     return medianOf([&] {
         for (tLay &l : d.all) l.Visible = !l.Visible;
-        return millisecondsOf([&] { for (int i = 0; i < 1000; ++i) d.doc->layers().update(d.all[size_t(i)]); });
+        return millisecondsOf([&] {
+            for (int i = 0; i < 1000; ++i) d.doc->layers().update(d.all[size_t(i)]);
+        });
     });
 });
 const bool s_elements = figure("document.elements.100000.read", "ms", unbounded(), [] {

@@ -50,7 +50,8 @@ bool print(const Figure &f)
         bound = (f.bound.kind == Bound::Kind::AtMost ? "<=" : ">=") + std::string(number.data());
         verdict = holds ? "holds" : "falls short";
     }
-    std::printf("%s\t%.4g\t%s\t%s\t%s\n", f.name.c_str(), measured, f.unit.c_str(), bound.c_str(), verdict.c_str());
+    std::printf("%s\t%.4g\t%s\t%s\t%s\n", f.name.c_str(), measured, f.unit.c_str(), bound.c_str(),
+                verdict.c_str());
     std::fflush(stdout);
     return holds;
 }
@@ -75,7 +76,8 @@ int printMatching(const std::string &word)
 /// What the offscreen platform says of itself at every window is no news.
 static void tellWhatMatters(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    if (!text.startsWith(QLatin1String("This plugin does not support"))) std::fprintf(stderr, "%s\n", qPrintable(text));
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
 int main(int argc, char **argv)

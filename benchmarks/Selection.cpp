@@ -24,8 +24,12 @@ refhost::SqliteDoc &documentWith(int layers)
     doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
     std::vector<ZolWDoc::tLay> rows;
     for (int i = doc->layers().count(); i < layers; ++i)
-        rows.push_back({.gNr = qint16(i + 1), .Name = QStringLiteral("Réteg %1").arg(i + 1), .Visible = i % 3 != 0,
-                        .ScrColor = qint16(i % 256), .PrnColor = qint16(i % 7), .PenColorId = qint16(i % 256)});
+        rows.push_back({.gNr = qint16(i + 1),
+                        .Name = QStringLiteral("Réteg %1").arg(i + 1),
+                        .Visible = i % 3 != 0,
+                        .ScrColor = qint16(i % 256),
+                        .PrnColor = qint16(i % 7),
+                        .PenColorId = qint16(i % 256)});
     std::vector<qint16> ids;
     doc->layers().addAll(rows, ids);
     return *doc;
@@ -67,7 +71,8 @@ double openingOnce(refhost::SqliteDoc &doc)
     const auto start = Clock::now();
     clsDocDlgs().bSelect_Lay(doc, lay);
     qApp->removeEventFilter(&watch);
-    return std::max(std::chrono::duration<double, std::milli>(watch.painted - start).count() - reading, 0.001);
+    return std::max(std::chrono::duration<double, std::milli>(watch.painted - start).count() - reading,
+                    0.001);
 }
 double openingTime(int layers)
 {

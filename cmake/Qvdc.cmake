@@ -12,12 +12,21 @@ if(QVDC_SANITIZE)
     target_link_options(qvdc_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# A source that joins a folder must reach the meta-object compiler too: its run depends on the list of sources.
+function(qvdc_follow_sources target)
+    get_target_property(sources ${target} SOURCES)
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}.sources)
+    file(CONFIGURE OUTPUT ${list} CONTENT "${sources}\n")
+    set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${list})
+endfunction()
+
 # qvdc_room(target folder LINKS libraries...): one room of the house, every source below its folder.
 function(qvdc_room target kind folder)
     cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp
                                                 ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h)
     add_library(${target} ${kind} ${sources})
+    qvdc_follow_sources(${target})
     target_link_libraries(${target} PUBLIC ${ARG_LINKS} PRIVATE $<BUILD_INTERFACE:qvdc_flags>)
     target_precompile_headers(${target} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch.h)
 endfunction()

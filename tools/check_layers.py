@@ -13,7 +13,7 @@ BELOW = {
     "src/facade/services": ("src/facade/contract",),
     "src/rules": CORE[:2],
     "src/kit": ("src/facade/services",),
-    "src/contract_tests": ("src/facade/contract",),
+    "src/facade/contract_tests": ("src/facade/contract",),
     "src/fonts": (*CORE, "src/kit"),
     "src/grids": (*CORE, "src/kit", "src/fonts"),
     "src/controls": (*CORE, "src/kit", "src/fonts"),
@@ -28,8 +28,8 @@ BELOW = {
     "designer": ("src/facade/contract", "src/facade/services", "src/controls"),
     "docs/examples": (),
 }
-# The one thing of the contract that the widgets of the kit may see: drawings as data, no record.
-ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h", "src/rules/GridState.h")}
+# What the widgets of the kit may see of the rooms beside: drawings and the state of a view as data, no record.
+ALSO = {"src/kit": ("src/facade/contract/DrawingObjects.h", "src/rules/GridState.h", "src/rules/ListViewColumns.h")}
 OUTSIDE = ("host", "apps", "docs/examples")     # they use what any user of the library would
 GPL_ROOMS = ("host/import", "host/fonts")
 GPL_NAMES = re.compile(r"^(dxflib/|dl_\w+\.h$|hersheyfont)")
@@ -47,7 +47,7 @@ def room_of(path):
 
 def resolved(root, name):
     """Path of a project header, looked for where the compiler does; None = not the project's."""
-    for base in ("src", "host", "docs/examples", "tests", "benchmarks"):
+    for base in ("src", "host", "apps", "docs/examples", "tests", "benchmarks"):
         if (root / base / name).is_file():
             return f"{base}/{name}"
     return None

@@ -23,6 +23,7 @@ def kind_of(header, outer):
     """What a brace opens that stands behind `header` in a scope of kind `outer`."""
     if outer in ("function", "block"):
         return "block"
+    header = re.sub(r"\b(Q_[A-Z_]+|QVDC_\w+)\b(\s*\([^()]*\))?", "", header)
     header = _without_template_head(re.sub(r"\b(public|protected|private|signals|(public|private) slots)\s*:(?!:)", "", header))
     if header.rstrip().endswith(("=", "(", ",", "return")):
         return "block"

@@ -49,6 +49,8 @@ prepare() {
     # shellcheck disable=SC2086
     quietly "$root/build/apt-install.log" apt-get -q -y -o Dpkg::Use-Pty=0 install --no-install-recommends $missing
     rm -f "$root/build/build.ninja" # configure again: more may be found now
+    missing=$(missing_packages | xargs)
+    [ -z "$missing" ] || { echo "cmake/packages.txt: use the installed package's own name instead of $missing" >&2; exit 2; }
 }
 
 configured() { # configured FOLDER: for this very checkout, by the presets as they are

@@ -18,6 +18,8 @@ template <class Role, class Rec, qint16 Rec::*Id> class TinyTable : public Role 
 public:
     std::vector<Rec> rows;
     std::function<int(qint16)> references = [](qint16) { return 0; }; ///< how many records refer to this one
+    std::function<bool(const Rec &, const Rec &)> clash = [](const Rec &, const Rec &) { return false; };
+                                                 ///< whether two records have in common what must be unique
 
     std::vector<Rec> readAll() const override { return rows; }
     int count() const override { return int(rows.size()); }
@@ -30,12 +32,18 @@ public:
     /// Keeps an identifier that is positive and free; otherwise the record gets the next one.
     qint16 add(const Rec &r) override
     {
+        refuseClash(r, nullptr);
         rows.push_back(r);
         qint16 &id = rows.back().*Id;
         if (id <= 0 || places(id) > 1) id = nextId();
         return id;
     }
-    void update(const Rec &r) override { at(r.*Id) = r; }
+    void update(const Rec &r) override
+    {
+        Rec &stored = at(r.*Id);
+        refuseClash(r, &stored);
+        stored = r;
+    }
     bool remove(qint16 id) override
     {
         return this->uses(id) == 0 && std::erase_if(rows, [id](const Rec &r) { return r.*Id == id; }) > 0;
@@ -49,6 +57,12 @@ public:
         refuse("There is no record with this identifier; read the table again.");
     }
 private:
+    void refuseClash(const Rec &r, const Rec *itself) const
+    {
+        for (const Rec &other : rows)
+            if (&other != itself && clash(r, other))
+                refuse("Another record has this number or name; choose another.");
+    }
     int places(qint16 id) const
     {
         return int(std::ranges::count_if(rows, [id](const Rec &r) { return r.*Id == id; }));
@@ -57,7 +71,7 @@ private:
     {
         qint16 highest = 0;
         for (const Rec &r : rows) highest = std::max(highest, r.*Id);
-        if (highest == 32767) refuse("All identifiers of the table are taken; remove records that are not needed.");
+        if (highest == 32767) refuse("All identifiers are taken; remove records that are not needed.");
         return qint16(highest + 1);
     }
 };
@@ -77,7 +91,8 @@ public:
     {
         const auto group = std::ranges::find(m_groups, id, &tGroup::GroupId);
         if (group == m_groups.end()) refuse("There is no such group; read the groups again.");
-        if (group->GroupName != name && holds(name)) refuse("A group of this name exists; choose another name.");
+        if (group->GroupName != name && holds(name))
+            refuse("A group of this name exists; choose another name.");
         group->GroupName = name;
         for (Rec &r : m_members)
             if (r.GroupId == id) r.GroupName = name;
@@ -88,7 +103,10 @@ public:
         return std::erase_if(m_groups, [id](const tGroup &g) { return g.GroupId == id; }) > 0;
     }
 private:
-    bool holds(const QString &name) const { return std::ranges::count(m_groups, name, &tGroup::GroupName) > 0; }
+    bool holds(const QString &name) const
+    {
+        return std::ranges::count(m_groups, name, &tGroup::GroupName) > 0;
+    }
     std::vector<Rec> &m_members;
     std::vector<tGroup> m_groups;
     qint16 m_last = 0;
@@ -96,8 +114,11 @@ private:
 
 class TinyLayers final : public TinyTable<LayerRole, tLay, &tLay::LayId> {
 public:
+    std::function<void(qint16 id, bool alsoOrphans)> onRemove; ///< sees to what stands on the layer
+
+    qint16 add(const tLay &) override;                   ///< into the system group: a layer is always in one
     std::optional<tLay> findByNumber(qint16 gNr) const override;
-    bool remove(qint16 id, bool alsoOrphans) override;  // this document has no elements that could be left over
+    bool remove(qint16 id, bool alsoOrphans) override;
     bool remove(qint16 id) override { return remove(id, false); }
     void makeCurrent(const tLay &lay) override { m_current = lay.LayId; }
     qint16 currentId() const override { return m_current; }
@@ -111,7 +132,8 @@ public:
     void renumberFromFile(const QString &path) override; ///< lines "number <tab> new number"
 private:
     qint16 m_current = -1;
-    std::vector<tGroup> m_groups{{1, QStringLiteral("RENDSZER")}}; ///< the first is the system group
+    static constexpr qint16 kSystemGroup = 1;
+    std::vector<tGroup> m_groups{{kSystemGroup, QStringLiteral("RENDSZER")}};
     std::vector<tLayMember> m_members;
 };
 
@@ -154,6 +176,8 @@ public:
     KhRole &khItems() override { return m_khItems; }
     void redrawAll() override {}                         // there is no view
 private:
+    void keepUnique();
+    void linkTables();
     struct NoItems final : KhRole {
         std::vector<tKh> items(int) const override { return {}; }
     };

@@ -25,8 +25,9 @@ constexpr SideRow kSides[] = {
 };
 
 constexpr Text kNames[] = {
-    {30070, u"rétegek"},     {30071, u"felirattípusok"},         {30072, u"vonaltípusok"}, {30073, u"jelkulcsok"},
-    {30074, u"tollszínek"},  {30075, u"vonaltípus-jelkulcsozások"}, {30076, u"pontok"},
+    {30070, u"rétegek"},    {30071, u"felirattípusok"}, {30072, u"vonaltípusok"},
+    {30073, u"jelkulcsok"}, {30074, u"tollszínek"},     {30075, u"vonaltípus-jelkulcsozások"},
+    {30076, u"pontok"},
 };
 Text nameOf(TableKind kind) { return kNames[size_t(kind)]; }
 
@@ -41,7 +42,8 @@ void undoMoves(Database &db, TableKind kind)
 {
     std::vector<std::pair<qint16, qint16>> moves;
     {
-        Statement s(db, QStringLiteral("SELECT from_id, to_id FROM span_moves WHERE kind=? ORDER BY place DESC"));
+        Statement s(db,
+                    QStringLiteral("SELECT from_id, to_id FROM span_moves WHERE kind=? ORDER BY place DESC"));
         for (s.exec(int(kind)); s.next();) moves.emplace_back(qint16(s.number(0)), qint16(s.number(1)));
     }
     for (const auto &[from, to] : moves) moveReferences(db, kind, to, from);
@@ -64,7 +66,8 @@ bool ChangeSpans::changesOpen(TableKind kind) const
 void ChangeSpans::requireOpen(TableKind kind) const
 {
     if (!changesOpen(kind))
-        throw DocumentError(join(Text{30061, u"Nincs megnyitott szerkesztés ebben a táblában: "}, nameOf(kind)));
+        throw DocumentError(
+            join(Text{30061, u"Nincs megnyitott szerkesztés ebben a táblában: "}, nameOf(kind)));
 }
 
 void ChangeSpans::beginChanges(TableKind kind)
@@ -83,7 +86,8 @@ void ChangeSpans::close(TableKind kind)
 {
     change(m_db, QStringLiteral("DELETE FROM change_spans WHERE kind=?"), int(kind));
     change(m_db, QStringLiteral("DELETE FROM span_moves WHERE kind=?"), int(kind));
-    eachSide(kind, [&](const QString &table) { change(m_db, QStringLiteral("DELETE FROM before_%1").arg(table)); });
+    eachSide(kind,
+             [&](const QString &table) { change(m_db, QStringLiteral("DELETE FROM before_%1").arg(table)); });
 }
 
 void ChangeSpans::commitChanges(TableKind kind)
@@ -101,7 +105,8 @@ void ChangeSpans::discardChanges(TableKind kind)
     undoMoves(m_db, kind);
     if (kind == TableKind::Layers) {
         change(m_db, QStringLiteral("DELETE FROM gone"));
-        change(m_db, QStringLiteral("INSERT INTO gone SELECT id FROM layers EXCEPT SELECT id FROM before_layers"));
+        change(m_db,
+               QStringLiteral("INSERT INTO gone SELECT id FROM layers EXCEPT SELECT id FROM before_layers"));
     }
     m_db.run(QStringLiteral("PRAGMA defer_foreign_keys=ON"));
     eachSide(kind, [&](const QString &table) { change(m_db, QStringLiteral("DELETE FROM %1").arg(table)); });
@@ -119,8 +124,10 @@ QStringList ChangeSpans::closeLeftOpen()
     QStringList notes;
     for (size_t i = 0; i < std::size(kNames); ++i) {
         if (!changesOpen(TableKind(i))) continue;
-        notes << join(Text{30062, u"Az előző szerkesztés félbeszakadt; a módosításai megmaradtak. Nézd át ezt a táblát: "},
-                      kNames[i]);
+        notes << join(
+            Text{30062,
+                 u"Az előző szerkesztés félbeszakadt; a módosításai megmaradtak. Nézd át ezt a táblát: "},
+            kNames[i]);
         commitChanges(TableKind(i));
     }
     return notes;
@@ -128,8 +135,10 @@ QStringList ChangeSpans::closeLeftOpen()
 
 void ChangeSpans::noteMove(Database &db, TableKind kind, qint16 from, qint16 to)
 {
-    change(db, QStringLiteral("INSERT INTO span_moves(kind, from_id, to_id) "
-                              "SELECT kind, ?, ? FROM change_spans WHERE kind=?"), int(from), int(to), int(kind));
+    change(db,
+           QStringLiteral("INSERT INTO span_moves(kind, from_id, to_id) "
+                          "SELECT kind, ?, ? FROM change_spans WHERE kind=?"),
+           int(from), int(to), int(kind));
 }
 
 } // namespace refhost

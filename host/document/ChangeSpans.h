@@ -6,8 +6,9 @@
 
 namespace refhost {
 
-/// Edit spans with before-images in side tables of the file. Discarding brings the records, groups and memberships
-/// of that table back; references that a renumbering moved meanwhile go back with them. The current layer stays.
+/// Edit spans with before-images in side tables of the file. Discarding brings the records, groups and
+/// memberships of that table back; references that a renumbering moved meanwhile go back with them. The
+/// current layer stays.
 class ChangeSpans : public ZolWDoc::ChangeScopeRole {
 public:
     explicit ChangeSpans(Database &db) : m_db(db) {}

@@ -14,7 +14,8 @@ void Commands::beginCommand(const QString &)
 
 void Commands::endCommand()
 {
-    if (m_open == 0) throw DocumentError(txt(Text{30063, u"Nincs megkezdett parancs, amelyet be lehetne fejezni."}));
+    if (m_open == 0)
+        throw DocumentError(txt(Text{30063, u"Nincs megkezdett parancs, amelyet be lehetne fejezni."}));
     if (--m_open > 0) return;
     try {
         m_db.commit();

@@ -100,11 +100,12 @@ void Database::fail(const QSqlError &error) const
 {
     static const QRegularExpression taken(QStringLiteral("UNIQUE constraint failed: (\\w+\\.\\w+)"));
     const auto found = taken.match(error.databaseText());
-    throw SqlFailure(join(Text{30000, u"A(z) '"}, m_path,
-                          Text{30009, u"' rajz írása vagy olvasása nem sikerült. Ellenőrizd, hogy van-e szabad hely és "
-                                      u"írási jog, és nem használja-e más program! Részletek: "},
-                          error.databaseText().isEmpty() ? error.driverText() : error.databaseText()),
-                     found.hasMatch() ? found.captured(1) : QString());
+    throw SqlFailure(
+        join(Text{30000, u"A(z) '"}, m_path,
+             Text{30009, u"' rajz írása vagy olvasása nem sikerült. Ellenőrizd, hogy van-e szabad hely és "
+                         u"írási jog, és nem használja-e más program! Részletek: "},
+             error.databaseText().isEmpty() ? error.driverText() : error.databaseText()),
+        found.hasMatch() ? found.captured(1) : QString());
 }
 
 } // namespace refhost

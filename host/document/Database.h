@@ -80,7 +80,10 @@ public:
 private:
     static const QVariant &asVariant(const QVariant &v) { return v; }
     static QVariant asVariant(const QString &s) { return sqlText(s); }
-    static QVariant asVariant(const QByteArray &b) { return b.isNull() ? QVariant(QByteArray("")) : QVariant(b); }
+    static QVariant asVariant(const QByteArray &b)
+    {
+        return b.isNull() ? QVariant(QByteArray("")) : QVariant(b);
+    }
     static QVariant asVariant(auto number) { return number; }
     Database &m_db;
     std::shared_ptr<QSqlQuery> m_query;

@@ -12,7 +12,8 @@ using namespace QV_DOC_CONTROLS;
 namespace refhost {
 namespace {
 
-const QString kRead = QStringLiteral("SELECT id, kind, layer, line_type, pen, text_type, symbol, shape, text FROM elements");
+const QString kRead =
+    QStringLiteral("SELECT id, kind, layer, line_type, pen, text_type, symbol, shape, text FROM elements");
 
 QVariant reference(qint16 id) { return id < 0 ? QVariant(QMetaType(QMetaType::Int)) : QVariant(int(id)); }
 qint16 referenceOf(const QVariant &v) { return v.isNull() ? qint16(-1) : qint16(v.toInt()); }
@@ -28,7 +29,8 @@ Element elementOf(const Statement &s)
     e.txdId = referenceOf(s.value(5));
     e.sidId = referenceOf(s.value(6));
     if (!readShape(s.value(7).toByteArray(), e))
-        throw DocumentError(join(Text{30101, u"A rajz sérült: nem olvasható ez a rajzelem: "}, QString::number(e.id)));
+        throw DocumentError(
+            join(Text{30101, u"A rajz sérült: nem olvasható ez a rajzelem: "}, QString::number(e.id)));
     e.text = s.value(8).toString();
     return e;
 }
@@ -49,7 +51,8 @@ private:
     {
         if (id == -1 || known.contains(id)) return;
         const TableFacts<Rec> &facts = factsOf<Rec>();
-        const QString sql = QStringLiteral("SELECT 1 FROM %1 WHERE id=?").arg(QString::fromLatin1(facts.table));
+        const QString sql =
+            QStringLiteral("SELECT 1 FROM %1 WHERE id=?").arg(QString::fromLatin1(facts.table));
         if (!numberOf(m_db, sql, 0, int(id))) throw DocumentError(join(facts.unknown, int(id)));
         known.insert(id);
     }
@@ -59,10 +62,11 @@ private:
 
 qint64 insert(Database &db, const Element &e)
 {
-    Statement s(db, QStringLiteral("INSERT INTO elements(kind, layer, line_type, pen, text_type, symbol, shape, text) "
-                                   "VALUES(?, ?, ?, ?, ?, ?, ?, ?)"));
-    s.exec(int(e.kind), reference(e.layId), reference(e.penStyleId), reference(e.penColorId), reference(e.txdId),
-           reference(e.sidId), shapeBytes(e), sqlText(e.text));
+    Statement s(db, QStringLiteral(
+                        "INSERT INTO elements(kind, layer, line_type, pen, text_type, symbol, shape, text) "
+                        "VALUES(?, ?, ?, ?, ?, ?, ?, ?)"));
+    s.exec(int(e.kind), reference(e.layId), reference(e.penStyleId), reference(e.penColorId),
+           reference(e.txdId), reference(e.sidId), shapeBytes(e), sqlText(e.text));
     return s.insertedId();
 }
 

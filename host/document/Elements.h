@@ -10,7 +10,8 @@ namespace refhost {
 struct Vertex {
     double x = 0;         ///< easting, metres
     double y = 0;         ///< northing, metres
-    double bulge = 0;     ///< of the segment that starts here: tangent of a quarter of its angle; 0 = straight, > 0 = left turn
+    double bulge = 0; ///< of the segment that starts here: tangent of a quarter of its angle; 0 = straight, >
+                      ///< 0 = left turn
     bool operator==(const Vertex &) const = default;
 };
 
@@ -24,8 +25,9 @@ enum class ElementKind : quint8 {
     Symbol,   ///< vertices[0] the insertion point; scale, rotation
 };
 
-/// One element of the drawing. Attributes of -1 are the layer's; a layer whose ElByLayer or TxByLayer is on overrides
-/// them all: lines take line type and pen colour, texts and symbols take text type and pen colour from it.
+/// One element of the drawing. Attributes of -1 are the layer's; a layer whose ElByLayer or TxByLayer is on
+/// overrides them all: lines take line type and pen colour, texts and symbols take text type and pen colour
+/// from it.
 struct Element {
     qint64 id = 0;                ///< assigned by the document; 0 = not stored yet
     ElementKind kind = ElementKind::Line;
@@ -41,8 +43,9 @@ struct Element {
     double from = 0, to = 0;      ///< of an ellipse: parameters, radians; equal = the whole ellipse
     double rotation = 0;          ///< of texts and symbols: degrees anticlockwise
     double size = 0;              ///< of a text: letter height in metres, 0 = by its text type
-    double scale = 1;             ///< of a symbol: factor on its own size; negative = mirrored across its vertical axis
-    int align = 0;                ///< of a text: text-align flags as in tTxd (0 left, 6 centre, 2 right; 0 top, 8 bottom, 24 baseline)
+    double scale = 1; ///< of a symbol: factor on its own size; negative = mirrored across its vertical axis
+    int align = 0; ///< of a text: text-align flags as in tTxd (0 left, 6 centre, 2 right; 0 top, 8 bottom, 24
+                   ///< baseline)
     QString text;                 ///< of a text; rows are separated by '\n'
     bool operator==(const Element &) const = default;
 };

@@ -26,8 +26,10 @@ constexpr int kApplicationIdAt = 68;
 
 [[noreturn]] void refuseDamaged(const QString &path, const QString &details)
 {
-    throw DocumentError(fileText(path, join(Text{30007, u"' rajz sérült, ezért nem nyitottam meg. Állítsd vissza a "
-                                                        u"biztonsági mentésből! Részletek: "}, details)));
+    throw DocumentError(
+        fileText(path, join(Text{30007, u"' rajz sérült, ezért nem nyitottam meg. Állítsd vissza a "
+                                        u"biztonsági mentésből! Részletek: "},
+                            details)));
 }
 
 QByteArray headerOf(const QString &path)
@@ -50,12 +52,13 @@ void requireOurHeader(const QString &path)
         refuse(path, {30005, u"' fájl egy másik program adatbázisa, nem rajz. Válassz .qvd rajzot!"});
     const auto version = qFromBigEndian<qint32>(header.constData() + kUserVersionAt);
     if (version > SqliteDoc::kVersion)
-        throw DocumentError(fileText(path, join(Text{30003, u"' rajzot a program újabb változata mentette (fájlváltozat: "},
-                                                int(version),
-                                                Text{30004, u"). Frissítsd a programot, és azzal nyisd meg!"})));
+        throw DocumentError(fileText(
+            path, join(Text{30003, u"' rajzot a program újabb változata mentette (fájlváltozat: "},
+                       int(version), Text{30004, u"). Frissítsd a programot, és azzal nyisd meg!"})));
 }
 
-/// What SQLite says of the file, "ok" for a sound one. Opened so that SQLite writes nothing and takes no lock.
+/// What SQLite says of the file, "ok" for a sound one. Opened so that SQLite writes nothing and takes no
+/// lock.
 QString verdictOn(const QString &path)
 {
     const QString name = QUuid::createUuid().toString();
@@ -67,8 +70,9 @@ QString verdictOn(const QString &path)
         db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
         if (db.open()) {
             QSqlQuery q(db);
-            verdict = q.exec(QStringLiteral("PRAGMA quick_check(1)")) && q.next() ? q.value(0).toString()
-                                                                                  : q.lastError().databaseText();
+            verdict = q.exec(QStringLiteral("PRAGMA quick_check(1)")) && q.next()
+                          ? q.value(0).toString()
+                          : q.lastError().databaseText();
             const QStringList there = db.tables(QSql::AllTables);
             for (const QString &table : schemaTables())
                 if (verdict == QLatin1String("ok") && !there.contains(table)) verdict = table;
@@ -82,7 +86,10 @@ QString verdictOn(const QString &path)
 
 } // namespace
 
-QString fileText(const QString &path, const QString &rest) { return join(Text{30000, u"A(z) '"}, path, rest); }
+QString fileText(const QString &path, const QString &rest)
+{
+    return join(Text{30000, u"A(z) '"}, path, rest);
+}
 
 void requireSoundDrawing(const QString &path)
 {
@@ -90,11 +97,14 @@ void requireSoundDrawing(const QString &path)
     QString verdict;
     const QString wal = path + QStringLiteral("-wal");
     if (QFileInfo(wal).size() > 0) {
-        // After a crash, or while another program has it open, part of the drawing lies in the log: judge a copy.
+        // After a crash, or while another program has it open, part of the drawing lies in the log: judge a
+        // copy.
         QTemporaryDir folder;
         const QString copy = folder.filePath(QStringLiteral("copy.qvd"));
-        QFile::copy(path, copy);
-        QFile::copy(wal, copy + QStringLiteral("-wal"));
+        if (!QFile::copy(path, copy) || !QFile::copy(wal, copy + QStringLiteral("-wal")))
+            throw DocumentError(join(
+                Text{30490, u"Nem hozható létre ideiglenes fájl. Ellenőrizd a szabad helyet! Részletek: "},
+                folder.path()));
         QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
         {
             const QString name = QUuid::createUuid().toString();

@@ -17,7 +17,9 @@ struct KhRow {
     int modes;
 };
 // The list offers the ways in which a surveyed thing is taken over; mode 2 those that can be computed.
-constexpr KhRow kChoices[] = {{{30120, u"Mért"}, 1}, {{30121, u"Számított"}, 3}, {{30122, u"Digitalizált"}, 1},
+constexpr KhRow kChoices[] = {{{30120, u"Mért"}, 1},
+                              {{30121, u"Számított"}, 3},
+                              {{30122, u"Digitalizált"}, 1},
                               {{30123, u"Átvett"}, 3}};
 
 tSid freshSymbol()
@@ -56,7 +58,7 @@ void fillColors(Database &db)
     PenColors colors(db);
     colors.replacePalette(cadPalette());
     PenColorTable pens;
-    for (int n = 1; n <= 255; ++n) pens.pen(n) = {qint16(n), 0};   // printed black: colour 0 is the foreground
+    for (int n = 1; n <= 255; ++n) pens.pen(n) = {qint16(n), 0}; // printed black: colour 0 is the foreground
     colors.write(pens);
 }
 
@@ -64,7 +66,8 @@ void fillColors(Database &db)
 
 void fillFreshDocument(Database &db)
 {
-    change(db, QStringLiteral("INSERT INTO meta VALUES('current_layer', 1), ('scale', 500.0), ('imported_from', '')"));
+    change(db, QStringLiteral(
+                   "INSERT INTO meta VALUES('current_layer', 1), ('scale', 500.0), ('imported_from', '')"));
     change(db, QStringLiteral("INSERT INTO layer_groups(id, name, system) VALUES(1, ?, 1)"),
            txt(Text{3343, u"RENDSZER"}));
     Symbols symbols(db);
@@ -73,13 +76,18 @@ void fillFreshDocument(Database &db)
     symbols.groups().add(group);
     textTypes.groups().add(group);
     LineTypes(db).add({.PenStyleNr = 1, .Name = txt(Text{30111, u"Folytonos"}), .Size = 0.18f});
-    Layers(db).add({.gNr = 1, .Name = txt(Text{30110, u"Alapréteg"}), .PenStyleId = 1, .ScrColor = 7, .PenColorId = 7,
+    Layers(db).add({.gNr = 1,
+                    .Name = txt(Text{30110, u"Alapréteg"}),
+                    .PenStyleId = 1,
+                    .ScrColor = 7,
+                    .PenColorId = 7,
                     .TxdId = 1});
     symbols.add(freshSymbol());
     textTypes.add(freshTextType());
     fillColors(db);
     for (const KhRow &row : kChoices)
-        change(db, QStringLiteral("INSERT INTO kh_items(text, modes) VALUES(?, ?)"), txt(row.text), row.modes);
+        change(db, QStringLiteral("INSERT INTO kh_items(text, modes) VALUES(?, ?)"), txt(row.text),
+               row.modes);
 }
 
 } // namespace refhost

@@ -58,9 +58,12 @@ void Groups::rename(qint16 id, const QString &name)
 bool Groups::remove(qint16 id)
 {
     Write write(m_db);
-    const bool gone = change(m_db, QStringLiteral("DELETE FROM %1 WHERE id=? AND NOT EXISTS"
-                                                  "(SELECT 1 FROM %2 WHERE group_id=%1.id)").arg(m_table, m_records),
-                             int(id)) > 0;
+    const bool gone = change(m_db,
+                             QStringLiteral("DELETE FROM %1 WHERE id=? AND NOT EXISTS"
+                                            "(SELECT 1 FROM %2 WHERE group_id=%1.id)")
+                                 .arg(m_table, m_records),
+                             int(id))
+                      > 0;
     m_db.touch(m_kind);
     write.keep();
     return gone;

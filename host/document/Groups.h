@@ -15,8 +15,8 @@ public:
     void rename(qint16 id, const QString &name) override;
     bool remove(qint16 id) override;
 
-    /// The group of a record to be stored: the one with that identifier, else with that name; a record without
-    /// either goes to the first group. Throws when an identifier is given that no group has.
+    /// The group of a record to be stored: the one with that identifier, else with that name; a record
+    /// without either goes to the first group. Throws when an identifier is given that no group has.
     qint16 resolved(qint16 id, const QString &name) const;
 private:
     Database &m_db;

@@ -33,7 +33,10 @@ private:
 class Usages : public ZolWDoc::UsageRole {
 public:
     explicit Usages(Database &db) : m_db(db) {}
-    std::vector<Usage> usersOf(ZolWDoc::TableKind kind, qint16 id) const override { return refhost::usersOf(m_db, kind, id); }
+    std::vector<Usage> usersOf(ZolWDoc::TableKind kind, qint16 id) const override
+    {
+        return refhost::usersOf(m_db, kind, id);
+    }
 private:
     Database &m_db;
 };
@@ -46,7 +49,8 @@ private:
     Database &m_db;
 };
 
-/// Commands as transactions: the outermost one counts. A call that throws inside takes back only what it wrote itself.
+/// Commands as transactions: the outermost one counts. A call that throws inside takes back only what it
+/// wrote itself.
 class Commands : public ZolWDoc::CommandScopeRole {
 public:
     explicit Commands(Database &db) : m_db(db) {}

@@ -26,7 +26,8 @@ qint16 Identifiers::next()
     if (m_last < kHighest) return qint16(++m_last);
     while (++m_gap <= kHighest)
         if (!inUse(m_gap)) return qint16(m_gap);
-    throw DocumentError(txt(Text{30045, u"A tábla megtelt: 32767 elem van benne. Törölj a fölöslegesek közül!"}));
+    throw DocumentError(
+        txt(Text{30045, u"A tábla megtelt: 32767 elem van benne. Törölj a fölöslegesek közül!"}));
 }
 
 qint16 Identifiers::wanted(qint16 id)

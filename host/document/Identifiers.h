@@ -4,8 +4,8 @@
 
 namespace refhost {
 
-/// Hands out the 16-bit identifiers of one table inside a write. A number is not given twice while the document
-/// lives; only after 32767 the lowest free ones follow. `keep` stores how far it came.
+/// Hands out the 16-bit identifiers of one table inside a write. A number is not given twice while the
+/// document lives; only after 32767 the lowest free ones follow. `keep` stores how far it came.
 class Identifiers {
 public:
     Identifiers(Database &db, const QString &table);

@@ -40,8 +40,9 @@ void appendSymbol(DrawingObjects &objects, const tSid &symbol, const Glyph *glyp
 {
     const PointMm origin = originOf(symbol, glyph ? glyph->advance : kUsualAdvance);
     if (!glyph) {
-        objects.texts.push_back({place.at + turned(origin, place.angle), QString(QChar(char16_t(symbol.Code))),
-                                 symbol.Facename, symbol.Size_mm, place.angle, 0});
+        objects.texts.push_back({place.at + turned(origin, place.angle),
+                                 QString(QChar(char16_t(symbol.Code))), symbol.Facename, symbol.Size_mm,
+                                 place.angle, 0});
         return;
     }
     const double x = symbol.Size_mm * factor(symbol.XwFact), y = symbol.Size_mm * factor(symbol.YwFact);
@@ -68,7 +69,8 @@ DrawingObjects LateBound::ElRec2ObjLst(const LineElement &line)
     if (!type) return objects;
     const Polyline points{line.from, line.to};
     if (type->PenDown)
-        for (Polyline &dash : dashesOf(points, type->Pattern)) objects.strokes.push_back({std::move(dash), type->Size, 0});
+        for (Polyline &dash : dashesOf(points, type->Pattern))
+            objects.strokes.push_back({std::move(dash), type->Size, 0});
     for (qint16 nr : type->Slots)
         if (nr != 0) appendSymbolization(objects, points, nr);
     return objects;
@@ -82,7 +84,8 @@ void LateBound::appendSymbolization(DrawingObjects &objects, const Polyline &lin
     const VectorFont *const font = fontOf(*symbol);
     if (symbol->Type == 1 && !font) return;
     const Glyph glyph = font ? font->glyph(symbol->Code) : Glyph();
-    for (const Place &place : placesOf(line, *rule)) appendSymbol(objects, *symbol, font ? &glyph : nullptr, place);
+    for (const Place &place : placesOf(line, *rule))
+        appendSymbol(objects, *symbol, font ? &glyph : nullptr, place);
 }
 
 const VectorFont *LateBound::fontOf(const tSid &symbol) const

@@ -8,8 +8,10 @@
 
 namespace refhost {
 
-/// A symbol at a place, as strokes of its vector font or as a letter of a TrueType face. `glyph` is null for the latter.
-void appendSymbol(ZolWDoc::DrawingObjects &, const ZolWDoc::tSid &, const ZolWDoc::Glyph *glyph, const Place &);
+/// A symbol at a place, as strokes of its vector font or as a letter of a TrueType face. `glyph` is null for
+/// the latter.
+void appendSymbol(ZolWDoc::DrawingObjects &, const ZolWDoc::tSid &, const ZolWDoc::Glyph *glyph,
+                  const Place &);
 
 /// The two members that the library reaches by name.
 class LateBound : public QObject {

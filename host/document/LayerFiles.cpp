@@ -17,7 +17,8 @@ constexpr Text kTwice{30087, u"ez a sorszám már szerepelt."};
 constexpr Text kNameTaken{30088, u"ez a név már foglalt."};
 constexpr Text kNumberTaken{30089, u"ez a sorszám már foglalt."};
 
-/// The layers by number, with what a file changes in them; whatever stays open is found before anything is written.
+/// The layers by number, with what a file changes in them; whatever stays open is found before anything is
+/// written.
 class Renaming {
 public:
     explicit Renaming(const std::vector<tLay> &all) : m_layers(all)

@@ -25,23 +25,26 @@ void Layers::writeGroups(std::span<const tGroup> all)
     system.exec().next();
     const tGroup own{qint16(system.number(0)), system.value(1).toString()};
     if (std::ranges::find(all, own) == all.end())
-        throw DocumentError(join(Text{30050, u"A rendszercsoport nem nevezhető át és nem törölhető: "}, own.GroupName));
+        throw DocumentError(
+            join(Text{30050, u"A rendszercsoport nem nevezhető át és nem törölhető: "}, own.GroupName));
 
     QSet<qint16> kept;
     for (const tGroup &g : all)
         if (g.GroupId > 0) kept.insert(g.GroupId);
     Write write(m_db);
     for (const tGroup &g : groups())
-        if (!kept.contains(g.GroupId)) change(m_db, QStringLiteral("DELETE FROM layer_groups WHERE id=?"), int(g.GroupId));
+        if (!kept.contains(g.GroupId))
+            change(m_db, QStringLiteral("DELETE FROM layer_groups WHERE id=?"), int(g.GroupId));
     // Names may change places: first out of the way, then as given.
     change(m_db, QStringLiteral("UPDATE layer_groups SET name=char(1)||id"));
     Identifiers numbers(m_db, QStringLiteral("layer_groups"));
     for (const tGroup &g : all) {
         if (g.GroupId > 0)
-            nameGroup(m_db, QStringLiteral("UPDATE layer_groups SET name=? WHERE id=?"), g.GroupName, g.GroupId);
+            nameGroup(m_db, QStringLiteral("UPDATE layer_groups SET name=? WHERE id=?"), g.GroupName,
+                      g.GroupId);
         else
-            nameGroup(m_db, QStringLiteral("INSERT INTO layer_groups(name, id, system) VALUES(?, ?, 0)"), g.GroupName,
-                      numbers.next());
+            nameGroup(m_db, QStringLiteral("INSERT INTO layer_groups(name, id, system) VALUES(?, ?, 0)"),
+                      g.GroupName, numbers.next());
     }
     numbers.keep();
     joinSystemGroup();
@@ -78,8 +81,9 @@ void Layers::writeMembers(std::span<const tLayMember> all)
 
 qint16 Layers::groupOf(qint16 layId) const
 {
-    return qint16(numberOf(m_db, QStringLiteral("SELECT group_id FROM layer_members WHERE layer=? ORDER BY place"), -1,
-                           int(layId)));
+    return qint16(numberOf(m_db,
+                           QStringLiteral("SELECT group_id FROM layer_members WHERE layer=? ORDER BY place"),
+                           -1, int(layId)));
 }
 
 void Layers::joinSystemGroup()

@@ -68,7 +68,9 @@ void Layers::leave(Database &db, bool alsoOrphans)
         change(db, QStringLiteral("UPDATE points SET layer=-1") + gone);
     }
     for (const char *table : {"text_types", "symbols"})
-        change(db, QStringLiteral("UPDATE %1 SET layer=coalesce(%2, 0)").arg(QString::fromLatin1(table), kLowest) + gone);
+        change(db,
+               QStringLiteral("UPDATE %1 SET layer=coalesce(%2, 0)").arg(QString::fromLatin1(table), kLowest)
+                   + gone);
     makeSureOfCurrent(db);
     for (TableKind kind : {TableKind::Points, TableKind::TextTypes, TableKind::Symbols}) db.touch(kind);
 }

@@ -4,8 +4,9 @@
 
 namespace refhost {
 
-/// Layers with their groups. A layer is always in at least one group: one that is in none joins the system group.
-/// Text types and symbols that aim at a removed layer aim at the one with the lowest number afterwards.
+/// Layers with their groups. A layer is always in at least one group: one that is in none joins the system
+/// group. Text types and symbols that aim at a removed layer aim at the one with the lowest number
+/// afterwards.
 class Layers : public SqlTable<ZolWDoc::tLay, ZolWDoc::LayerRole>,
                public ZolWDoc::LayerFileRole,
                public ZolWDoc::LayerElementsRole {
@@ -31,11 +32,12 @@ public:
     void writeAll(std::span<const ZolWDoc::tLay> all) override;
     qint32 fileVersion() const override { return 1; }
 
-    // Text files: UTF-8, or windows-1250 where it is not; empty lines and lines that begin with # are passed over. A wrong
-    // line ends the call with an error that names it, and nothing has changed.
+    // Text files: UTF-8, or windows-1250 where it is not; empty lines and lines that begin with # are passed
+    // over. A wrong line ends the call with an error that names it, and nothing has changed.
     void renameFromFile(const QString &path) override;      ///< lines: number, blank or tab or ;, name
-    void renumberFromFile(const QString &path) override;    ///< lines: old number, new number; places may be exchanged
-    void addFromFile(const QString &path) override;         ///< lines: number, name; attributes of the current layer
+    void renumberFromFile(
+        const QString &path) override; ///< lines: old number, new number; places may be exchanged
+    void addFromFile(const QString &path) override; ///< lines: number, name; attributes of the current layer
 
     int deleteElements(std::span<const qint16> layIds) override;    ///< elements and points
 

@@ -53,7 +53,8 @@ public:
     Polyline part(double from, double to) const
     {
         Polyline line{pointAt(from)};
-        for (size_t i = segmentAt(from) + 1; i + 1 < m_points.size() && m_at[i] < to; ++i) line.push_back(m_points[i]);
+        for (size_t i = segmentAt(from) + 1; i + 1 < m_points.size() && m_at[i] < to; ++i)
+            line.push_back(m_points[i]);
         line.push_back(pointAt(to));
         return line;
     }
@@ -73,7 +74,8 @@ std::vector<Anchor> divisions(const Path &path, double segment)
     std::vector<Anchor> all;
     const double length = path.length();
     if (!(segment > 0) || length / segment > kMostPlaces) return all;
-    for (int k = path.closed() ? 0 : 1; k * segment < length - segment * kSame; ++k) all.push_back({k * segment, -0.5});
+    for (int k = path.closed() ? 0 : 1; k * segment < length - segment * kSame; ++k)
+        all.push_back({k * segment, -0.5});
     return all;
 }
 

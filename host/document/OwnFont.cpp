@@ -10,8 +10,9 @@ QString OwnFont::faceName() { return QStringLiteral("QVD_DRAWING"); }
 void OwnFont::add(qint32 code, const QString &name, const ZolWDoc::Glyph &glyph)
 {
     Write write(m_db);
-    change(m_db, QStringLiteral("INSERT OR REPLACE INTO glyphs(code, name, strokes, advance) VALUES(?, ?, ?, ?)"), code,
-           name, strokeBytes(glyph), glyph.advance);
+    change(m_db,
+           QStringLiteral("INSERT OR REPLACE INTO glyphs(code, name, strokes, advance) VALUES(?, ?, ?, ?)"),
+           code, name, strokeBytes(glyph), glyph.advance);
     write.keep();
 }
 
@@ -21,7 +22,10 @@ QStringList OwnFont::names() const
     return any ? QStringList{faceName()} : QStringList();
 }
 
-const ZolWDoc::VectorFont *OwnFont::find(const QString &name) const { return name == faceName() ? this : nullptr; }
+const ZolWDoc::VectorFont *OwnFont::find(const QString &name) const
+{
+    return name == faceName() ? this : nullptr;
+}
 
 std::vector<ZolWDoc::VectorFont::Entry> OwnFont::entries() const
 {

@@ -9,7 +9,8 @@ class OwnFont : public ZolWDoc::VectorFontProvider, private ZolWDoc::VectorFont 
 public:
     explicit OwnFont(Database &db) : m_db(db) {}
     static QString faceName();
-    void add(qint32 code, const QString &name, const ZolWDoc::Glyph &);  ///< replaces the character of that code
+    void add(qint32 code, const QString &name,
+             const ZolWDoc::Glyph &); ///< replaces the character of that code
 
     QStringList names() const override;                 ///< empty while the drawing has no characters
     const ZolWDoc::VectorFont *find(const QString &name) const override;

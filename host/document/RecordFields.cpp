@@ -17,15 +17,18 @@ constexpr const char *kNumber = "INTEGER NOT NULL UNIQUE";
 constexpr const char *kReal = "REAL NOT NULL";
 constexpr const char *kText = "TEXT NOT NULL";
 constexpr const char *kName = "TEXT NOT NULL UNIQUE";
-constexpr const char *kSymbolGroup = "INTEGER NOT NULL REFERENCES symbol_groups(id) DEFERRABLE INITIALLY DEFERRED";
-constexpr const char *kTextTypeGroup = "INTEGER NOT NULL REFERENCES text_type_groups(id) DEFERRABLE INITIALLY DEFERRED";
+constexpr const char *kSymbolGroup =
+    "INTEGER NOT NULL REFERENCES symbol_groups(id) DEFERRABLE INITIALLY DEFERRED";
+constexpr const char *kTextTypeGroup =
+    "INTEGER NOT NULL REFERENCES text_type_groups(id) DEFERRABLE INITIALLY DEFERRED";
 
 // Lists lie in the file as JSON arrays; SQLite looks into them when it counts references.
 template <class T> QString listText(const std::vector<T> &list)
 {
     QStringList parts;
     for (T v : list) {
-        if constexpr (std::is_floating_point_v<T>) parts << QString::number(v, 'g', QLocale::FloatingPointShortest);
+        if constexpr (std::is_floating_point_v<T>)
+            parts << QString::number(v, 'g', QLocale::FloatingPointShortest);
         else parts << QString::number(v);
     }
     return u'[' + parts.join(u',') + u']';
@@ -190,20 +193,34 @@ template <> const TableFacts<tTxd> &factsOf()
 }
 template <> const TableFacts<tSid> &factsOf()
 {
-    static const TableFacts<tSid> f{TableKind::Symbols, "symbols", &tSid::SidId, true, kSymbols, kSymbolUnique,
+    static const TableFacts<tSid> f{TableKind::Symbols,
+                                    "symbols",
+                                    &tSid::SidId,
+                                    true,
+                                    kSymbols,
+                                    kSymbolUnique,
                                     {30022, u"Nincs ilyen sorszámú jelkulcs: "}};
     return f;
 }
 template <> const TableFacts<tPenStyle> &factsOf()
 {
-    static const TableFacts<tPenStyle> f{TableKind::LineTypes, "line_types", &tPenStyle::iPenStyleId, false,
-                                         kLineTypes, kLineTypeUnique, {30023, u"Nincs ilyen azonosítójú vonaltípus: "}};
+    static const TableFacts<tPenStyle> f{TableKind::LineTypes,
+                                         "line_types",
+                                         &tPenStyle::iPenStyleId,
+                                         false,
+                                         kLineTypes,
+                                         kLineTypeUnique,
+                                         {30023, u"Nincs ilyen azonosítójú vonaltípus: "}};
     return f;
 }
 template <> const TableFacts<tPenStyleSi> &factsOf()
 {
-    static const TableFacts<tPenStyleSi> f{TableKind::LineSymbolizations, "symbolizations", &tPenStyleSi::Nr, true,
-                                           kSymbolizations, kSymbolizationUnique,
+    static const TableFacts<tPenStyleSi> f{TableKind::LineSymbolizations,
+                                           "symbolizations",
+                                           &tPenStyleSi::Nr,
+                                           true,
+                                           kSymbolizations,
+                                           kSymbolizationUnique,
                                            {30024, u"Nincs ilyen sorszámú jelkulcsozás: "}};
     return f;
 }

@@ -12,13 +12,14 @@ namespace refhost {
 
 template <class Rec> struct Field {
     const char *column;
-    const char *type;                       ///< type and constraints; null = read only, `column` is an expression
+    const char *type; ///< type and constraints; null = read only, `column` is an expression
     QVariant (*get)(const Rec &);
     void (*put)(Rec &, const QVariant &);
     bool (*same)(const Rec &, const Rec &);
 };
 
-/// A column whose values no two rows share, and what to say when one is already taken; the value follows the text.
+/// A column whose values no two rows share, and what to say when one is already taken; the value follows the
+/// text.
 struct UniqueColumn {
     const char *column;
     QV_DOC_CONTROLS::Text taken;
@@ -29,7 +30,7 @@ template <class Rec> struct TableFacts {
     ZolWDoc::TableKind kind;
     const char *table;
     qint16 Rec::*id;
-    bool numbered;                          ///< the user's number is the identifier: a free one is taken as given
+    bool numbered; ///< the user's number is the identifier: a free one is taken as given
     std::span<const Field<Rec>> fields;
     std::span<const UniqueColumn> unique;
     QV_DOC_CONTROLS::Text unknown;          ///< "there is no such ...: ", the identifier follows

@@ -32,8 +32,9 @@ int usesOf(Database &db, TableKind kind, qint16 id)
     int n = 0;
     for (const Reference &r : kRows)
         if (r.target == kind && r.forbidsRemoval)
-            n += numberOf(db, QStringLiteral("SELECT count(*) FROM %1 WHERE %2=?").arg(text(r.table), text(r.column)),
-                          0, int(id));
+            n += numberOf(
+                db, QStringLiteral("SELECT count(*) FROM %1 WHERE %2=?").arg(text(r.table), text(r.column)),
+                0, int(id));
     return n;
 }
 
@@ -43,7 +44,8 @@ std::vector<int> usesOfAll(Database &db, TableKind kind, std::span<const qint16>
     QHash<int, int> counts;
     for (const Reference &r : kRows) {
         if (r.target != kind || !r.forbidsRemoval) continue;
-        Statement s(db, QStringLiteral("SELECT %2, count(*) FROM %1 WHERE %2 IS NOT NULL GROUP BY 1").arg(text(r.table), text(r.column)));
+        Statement s(db, QStringLiteral("SELECT %2, count(*) FROM %1 WHERE %2 IS NOT NULL GROUP BY 1")
+                            .arg(text(r.table), text(r.column)));
         for (s.exec(); s.next();) counts[s.number(0)] += s.number(1);
     }
     std::vector<int> all;
@@ -57,9 +59,10 @@ std::vector<Usage> usersOf(Database &db, TableKind kind, qint16 id)
     std::vector<Usage> all;
     for (const Reference &r : kRows) {
         if (r.target != kind) continue;
-        Statement s(db, QStringLiteral("SELECT count(*), %3 FROM %1 WHERE %2=?")
-                            .arg(text(r.table), text(r.column),
-                                 r.name ? QStringLiteral("min(%1)").arg(text(r.name)) : QStringLiteral("''")));
+        Statement s(db,
+                    QStringLiteral("SELECT count(*), %3 FROM %1 WHERE %2=?")
+                        .arg(text(r.table), text(r.column),
+                             r.name ? QStringLiteral("min(%1)").arg(text(r.name)) : QStringLiteral("''")));
         s.exec(int(id));
         if (!s.next() || s.number() == 0) continue;
         if (!all.empty() && all.back().by == r.by) all.back().count += s.number();
@@ -73,7 +76,8 @@ void moveReferences(Database &db, TableKind kind, qint16 from, qint16 to)
     for (const Reference &r : kRows) {
         // Slots are a view over line types; symbolizations keep their number for life.
         if (r.target != kind || kind == TableKind::LineSymbolizations) continue;
-        change(db, QStringLiteral("UPDATE %1 SET %2=? WHERE %2=?").arg(text(r.table), text(r.column)), int(to), int(from));
+        change(db, QStringLiteral("UPDATE %1 SET %2=? WHERE %2=?").arg(text(r.table), text(r.column)),
+               int(to), int(from));
         if (r.by == By::Layers) db.touch(TableKind::Layers);
         if (r.by == By::LineSymbolizations) db.touch(TableKind::LineSymbolizations);
     }

@@ -16,7 +16,8 @@ template <class Rec> void renumbered(Database &db, qint16 from, qint16 to)
     const TableFacts<Rec> &facts = factsOf<Rec>();
     const QString table = QString::fromLatin1(facts.table);
     const QString known = QStringLiteral("SELECT 1 FROM %1 WHERE id=?").arg(table);
-    if (to <= 0) throw DocumentError(join(Text{30051, u"A sorszám csak 1 és 32767 közötti lehet: "}, int(to)));
+    if (to <= 0)
+        throw DocumentError(join(Text{30051, u"A sorszám csak 1 és 32767 közötti lehet: "}, int(to)));
     if (!numberOf(db, known, 0, int(from))) throw DocumentError(join(facts.unknown, int(from)));
     if (from == to) return;
     if (numberOf(db, known, 0, int(to))) throw DocumentError(join(facts.unique.front().taken, int(to)));

@@ -42,22 +42,28 @@ void saveCopy(Database &db, const QString &path)
 {
     const QFileInfo target(path), own(db.path());
     if (target.exists() && target.canonicalFilePath() == own.canonicalFilePath())
-        refuse(path, {30010, u"' maga a megnyitott rajz, amely minden lépés után mentve van. Adj meg másik nevet a másolatnak!"});
+        refuse(path, {30010, u"' maga a megnyitott rajz, amely minden lépés után mentve van. Adj meg másik "
+                             u"nevet a másolatnak!"});
     if (QFileInfo(path + QStringLiteral("-wal")).size() > 0)
-        refuse(path, {30011, u"' rajz meg van nyitva egy programban. Zárd be ott, vagy adj meg másik nevet!"});
+        refuse(path,
+               {30011, u"' rajz meg van nyitva egy programban. Zárd be ott, vagy adj meg másik nevet!"});
     if (db.depth() > 0)
-        refuse(path, {30012, u"' másolat nem készülhet el parancs közben. Fejezd be a parancsot, azután mentsd a másolatot!"});
+        refuse(path, {30012, u"' másolat nem készülhet el parancs közben. Fejezd be a parancsot, azután "
+                             u"mentsd a másolatot!"});
 
-    const QString part = target.absolutePath() + QStringLiteral("/.%1.part").arg(QUuid::createUuid().toString(QUuid::Id128));
+    const QString part =
+        target.absolutePath() + QStringLiteral("/.%1.part").arg(QUuid::createUuid().toString(QUuid::Id128));
     try {
         change(db, QStringLiteral("VACUUM INTO ?"), part);
         std::error_code error;
-        if (onDisk(part)) std::filesystem::rename(systemPath(part), systemPath(target.absoluteFilePath()), error);
+        if (onDisk(part))
+            std::filesystem::rename(systemPath(part), systemPath(target.absoluteFilePath()), error);
         else error = std::make_error_code(std::errc::io_error);
         if (error)
-            throw DocumentError(fileText(path, join(Text{30013, u"' másolat nem írható a helyére; a régi fájl megmaradt. "
-                                                                u"Ellenőrizd a jogosultságokat! Részletek: "},
-                                                    QString::fromStdString(error.message()))));
+            throw DocumentError(
+                fileText(path, join(Text{30013, u"' másolat nem írható a helyére; a régi fájl megmaradt. "
+                                                u"Ellenőrizd a jogosultságokat! Részletek: "},
+                                    QString::fromStdString(error.message()))));
     } catch (...) {
         QFile::remove(part);
         throw;

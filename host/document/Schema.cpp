@@ -23,9 +23,11 @@ constexpr const char *kStatements[] = {
     "CREATE TABLE palette(id INTEGER PRIMARY KEY, rgb INTEGER NOT NULL)",
     // Offered by mode: bit 0 = mode 1, bit 1 = mode 2.
     "CREATE TABLE kh_items(id INTEGER PRIMARY KEY, text TEXT NOT NULL, modes INTEGER NOT NULL)",
-    "CREATE TABLE glyphs(code INTEGER PRIMARY KEY, name TEXT NOT NULL, strokes BLOB NOT NULL, advance REAL NOT NULL)",
+    "CREATE TABLE glyphs(code INTEGER PRIMARY KEY, name TEXT NOT NULL, strokes BLOB NOT NULL, advance REAL "
+    "NOT NULL)",
     "CREATE TABLE elements(id INTEGER PRIMARY KEY AUTOINCREMENT, kind INTEGER NOT NULL, layer INTEGER, "
-    "line_type INTEGER, pen INTEGER, text_type INTEGER, symbol INTEGER, shape BLOB NOT NULL, text TEXT NOT NULL)",
+    "line_type INTEGER, pen INTEGER, text_type INTEGER, symbol INTEGER, shape BLOB NOT NULL, text TEXT NOT "
+    "NULL)",
     "CREATE INDEX elements_layer ON elements(layer) WHERE layer IS NOT NULL",
     "CREATE INDEX elements_line_type ON elements(line_type) WHERE line_type IS NOT NULL",
     "CREATE INDEX elements_pen ON elements(pen) WHERE pen IS NOT NULL",

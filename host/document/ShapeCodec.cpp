@@ -8,7 +8,15 @@ namespace refhost {
 namespace {
 
 enum Flag : quint16 {
-    Closed = 1, Bulges = 2, Rings = 4, Arc = 8, Rotated = 16, Sized = 32, Scaled = 64, Aligned = 128, Shaped = 255
+    Closed = 1,
+    Bulges = 2,
+    Rings = 4,
+    Arc = 8,
+    Rotated = 16,
+    Sized = 32,
+    Scaled = 64,
+    Aligned = 128,
+    Shaped = 255
 };
 
 class Writer {
@@ -67,8 +75,9 @@ quint16 flagsOf(const Element &e)
     const bool bulged = std::ranges::any_of(e.vertices, [](const Vertex &v) { return v.bulge != 0; });
     const Element plain;
     return quint16((e.closed ? Closed : 0) | (bulged ? Bulges : 0) | (e.rings.empty() ? 0 : Rings)
-                   | (e.ratio != plain.ratio || e.from != 0 || e.to != 0 ? Arc : 0) | (e.rotation != 0 ? Rotated : 0)
-                   | (e.size != 0 ? Sized : 0) | (e.scale != plain.scale ? Scaled : 0) | (e.align != 0 ? Aligned : 0));
+                   | (e.ratio != plain.ratio || e.from != 0 || e.to != 0 ? Arc : 0)
+                   | (e.rotation != 0 ? Rotated : 0) | (e.size != 0 ? Sized : 0)
+                   | (e.scale != plain.scale ? Scaled : 0) | (e.align != 0 ? Aligned : 0));
 }
 
 } // namespace

@@ -8,7 +8,8 @@
 
 namespace refhost {
 
-/// Geometry as bytes: a header of flags, then only what differs from the defaults; little-endian doubles, exact.
+/// Geometry as bytes: a header of flags, then only what differs from the defaults; little-endian doubles,
+/// exact.
 QByteArray shapeBytes(const Element &);
 bool readShape(const QByteArray &, Element &);      ///< false = damaged
 

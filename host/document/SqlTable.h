@@ -1,65 +1,15 @@
 #pragma once
 
 #include "document/Identifiers.h"
-#include "document/RecordFields.h"
 #include "document/References.h"
+#include "document/RowSql.h"
 
 #include "facade/contract/TableRoles.h"
 
 namespace refhost {
 
-/// The statements of one table, built from its fields.
-template <class Rec> struct TableSql {
-    QString all, byId, insert;
-    TableSql(const TableFacts<Rec> &f)
-    {
-        QStringList read, stored, marks;
-        for (const Field<Rec> &field : f.fields) {
-            read << QString::fromLatin1(field.column);
-            if (field.type) stored << read.back(), marks << QStringLiteral("?");
-        }
-        const QString table = QString::fromLatin1(f.table);
-        const QString select = QStringLiteral("SELECT %1 FROM %2").arg(read.join(u','), table);
-        all = select + QStringLiteral(" ORDER BY id");
-        byId = select + QStringLiteral(" WHERE id=?");
-        insert = QStringLiteral("INSERT INTO %1(%2) VALUES(%3)").arg(table, stored.join(u','), marks.join(u','));
-    }
-};
-
-/// Writes the columns of records that differ from what is stored; most updates change one of many.
-template <class Rec> class RowUpdate {
-public:
-    RowUpdate(Database &db, const TableFacts<Rec> &facts) : m_db(db), m_facts(facts) {}
-    void write(const Rec &stored, const Rec &wanted)
-    {
-        quint32 columns = 0;
-        for (size_t i = 1; i < m_facts.fields.size(); ++i)
-            if (m_facts.fields[i].type && !m_facts.fields[i].same(stored, wanted)) columns |= 1u << i;
-        if (columns == 0) return;
-        if (columns != m_columns) prepare(columns);
-        int place = 0;
-        for (size_t i = 1; i < m_facts.fields.size(); ++i)
-            if (columns >> i & 1) m_statement->bind(place++, m_facts.fields[i].get(wanted));
-        m_statement->bind(place, int(wanted.*m_facts.id));
-        m_statement->exec();
-    }
-private:
-    void prepare(quint32 columns)
-    {
-        QStringList sets;
-        for (size_t i = 1; i < m_facts.fields.size(); ++i)
-            if (columns >> i & 1) sets << QString::fromLatin1(m_facts.fields[i].column) + QStringLiteral("=?");
-        m_columns = columns;
-        m_statement.emplace(m_db, QStringLiteral("UPDATE %1 SET %2 WHERE id=?")
-                                      .arg(QString::fromLatin1(m_facts.table), sets.join(u',')));
-    }
-    Database &m_db;
-    const TableFacts<Rec> &m_facts;
-    quint32 m_columns = 0;
-    std::optional<Statement> m_statement;
-};
-
-/// The common role over one table. Every write call is one transaction: when it throws, nothing of it was written.
+/// The common role over one table. Every write call is one transaction: when it throws, nothing of it was
+/// written.
 template <class Rec, class Role> class SqlTable : public Role {
 public:
     explicit SqlTable(Database &db) : m_db(db), m_facts(factsOf<Rec>()), m_sql(m_facts) {}
@@ -72,10 +22,16 @@ public:
         for (s.exec(); s.next();) all.push_back(recordOf(s));
         return all;
     }
-    int count() const override { return numberOf(m_db, QStringLiteral("SELECT count(*) FROM ") + table(), 0); }
+    int count() const override
+    {
+        return numberOf(m_db, QStringLiteral("SELECT count(*) FROM ") + table(), 0);
+    }
     std::optional<Rec> find(qint16 id) const override { return firstOf(m_sql.byId, int(id)); }
     int uses(qint16 id) const override { return usesOf(m_db, m_facts.kind, id); }
-    std::vector<int> usesAll(std::span<const qint16> ids) const override { return usesOfAll(m_db, m_facts.kind, ids); }
+    std::vector<int> usesAll(std::span<const qint16> ids) const override
+    {
+        return usesOfAll(m_db, m_facts.kind, ids);
+    }
 
     qint16 add(const Rec &r) override
     {
@@ -113,8 +69,7 @@ public:
         written = 0;
         Write write(m_db);
         if (!updatedAsTheyCome(rows)) {
-            park(rows);
-            store(rows);
+            store(rows, park(rows));
         }
         changed();
         write.keep();
@@ -135,7 +90,8 @@ public:
         Write write(m_db);
         const std::vector<int> used = usesAll(ids);
         for (size_t i = 0; i < ids.size(); ++i)
-            if (used[i] > 0 || change(m_db, QStringLiteral("DELETE FROM %1 WHERE id=?").arg(table()), int(ids[i])) == 0)
+            if (used[i] > 0
+                || change(m_db, QStringLiteral("DELETE FROM %1 WHERE id=?").arg(table()), int(ids[i])) == 0)
                 kept.push_back(ids[i]);
         changed();
         write.keep();
@@ -144,10 +100,10 @@ public:
     /// Under its own identifier; throws when that is taken.
     void restore(const Rec &r)
     {
+        if (r.*m_facts.id <= 0) failUnknown(r.*m_facts.id);
         Write write(m_db);
-        Rec stored = completed(r);
         Statement insertion(m_db, m_sql.insert);
-        insert(insertion, stored);
+        insert(insertion, completed(r));
         Identifiers::note(m_db, table(), r.*m_facts.id);
         added(std::vector<qint16>{r.*m_facts.id});
         changed();
@@ -155,8 +111,8 @@ public:
     }
 
 protected:
-    virtual Rec completed(const Rec &r) const { return r; }     ///< what the host decides about a record to be stored
-    virtual void added(const std::vector<qint16> &) {}          ///< within the same write
+    virtual Rec completed(const Rec &r) const { return r; } ///< with what the host decides about it
+    virtual void added(const std::vector<qint16> &) {}      ///< within the same write
 
     QString table() const { return QString::fromLatin1(m_facts.table); }
     void changed() { m_db.touch(m_facts.kind); }
@@ -187,7 +143,7 @@ private:
         int place = 0;
         for (const Field<Rec> &field : m_facts.fields)
             if (field.type) s.bind(place++, field.get(r));
-        named(r, [&] { s.exec(); });
+        named(m_facts, r, [&] { s.exec(); });
     }
     /// What is stored under the identifiers of the rows, in the order of identifiers.
     std::vector<Rec> storedFor(std::span<const Rec> rows) const
@@ -199,15 +155,15 @@ private:
         std::ranges::sort(stored, {}, m_facts.id);
         return stored;
     }
-    void store(std::span<const Rec> rows)
+    void store(std::span<const Rec> rows, quint32 always = 0)
     {
         std::vector<Rec> stored = storedFor(rows);
-        RowUpdate<Rec> update(m_db, m_facts);
+        RowUpdate<Rec> update(m_db, m_facts, always);
         for (const Rec &r : rows) {
             const auto old = std::ranges::lower_bound(stored, r.*m_facts.id, {}, m_facts.id);
             if (old == stored.end() || (*old).*m_facts.id != r.*m_facts.id) failUnknown(r.*m_facts.id);
             const Rec wanted = completed(r);
-            named(r, [&] { update.write(*old, wanted); });
+            named(m_facts, r, [&] { update.write(*old, wanted); });
             *old = wanted;
         }
     }
@@ -223,34 +179,18 @@ private:
         attempt.keep();
         return true;
     }
-    /// Takes the unique values of the rows out of the way.
-    void park(std::span<const Rec> rows)
+    /// Takes the unique values of the rows out of the way; the columns that must be written now.
+    quint32 park(std::span<const Rec> rows)
     {
+        quint32 parked = 0;
         for (const UniqueColumn &u : m_facts.unique.subspan(1)) {
-            const QString sql = QStringLiteral("UPDATE %1 SET %2=char(1)||id WHERE id=?")
-                                    .arg(table(), QString::fromLatin1(u.column));
-            for (const Rec &r : rows) change(m_db, sql, int(r.*m_facts.id));
+            for (size_t i = 0; i < m_facts.fields.size(); ++i)
+                if (qstrcmp(m_facts.fields[i].column, u.column) == 0) parked |= 1u << i;
+            Statement s(m_db, QStringLiteral("UPDATE %1 SET %2=char(1)||id WHERE id=?")
+                                  .arg(table(), QString::fromLatin1(u.column)));
+            for (const Rec &r : rows) s.exec(int(r.*m_facts.id));
         }
-    }
-    struct Taken : DocumentError {
-        using DocumentError::DocumentError;
-    };
-    template <class Act> void named(const Rec &r, Act act) const
-    {
-        try {
-            act();
-        } catch (const SqlFailure &failure) {
-            for (const UniqueColumn &u : m_facts.unique)
-                if (failure.unique == table() + u'.' + QString::fromLatin1(u.column))
-                    throw Taken(QV_DOC_CONTROLS::join(u.taken, valueOf(r, u.column)));
-            throw;
-        }
-    }
-    QString valueOf(const Rec &r, const char *column) const
-    {
-        for (const Field<Rec> &field : m_facts.fields)
-            if (qstrcmp(field.column, column) == 0) return field.get(r).toString();
-        return {};
+        return parked;
     }
     TableSql<Rec> m_sql;
 };

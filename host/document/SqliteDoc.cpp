@@ -4,17 +4,15 @@
 #include "document/ElementStore.h"
 #include "document/FileCheck.h"
 #include "document/HostRoles.h"
+#include "document/HostTexts.h"
 #include "document/LateBound.h"
 #include "document/PenColors.h"
 #include "document/SaveCopy.h"
 #include "document/Schema.h"
 
-#include "facade/services/Language.h"
 #include "facade/services/Text.h"
 
 #include <QFile>
-
-static void initHostStrings() { Q_INIT_RESOURCE(refhost_strings); } // outside the namespace, as the macro wants it
 
 using namespace QV_DOC_CONTROLS;
 
@@ -41,40 +39,37 @@ namespace {
 
 const QString kMemory = QStringLiteral(":memory:");
 
-void loadTexts()
-{
-    static const bool once = [] {
-        initHostStrings();
-        addStringTables(QStringLiteral(":/host/strings"));
-        return true;
-    }();
-    Q_UNUSED(once)
-}
-
 /// Takes the name: fails when a file of that name exists, even one that came this instant.
 void claim(const QString &path)
 {
     if (QFile::exists(path))
-        throw DocumentError(fileText(path, txt(Text{30001, u"' fájl már létezik. Adj meg másik nevet, vagy nyisd meg a "
-                                                           u"meglévő rajzot!"})));
+        throw DocumentError(
+            fileText(path, txt(Text{30001, u"' fájl már létezik. Adj meg másik nevet, vagy nyisd meg a "
+                                           u"meglévő rajzot!"})));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        throw DocumentError(fileText(path, join(Text{30014, u"' fájl nem hozható létre. Ellenőrizd a mappát és a "
-                                                            u"jogosultságokat! Részletek: "}, file.errorString())));
+        throw DocumentError(
+            fileText(path, join(Text{30014, u"' fájl nem hozható létre. Ellenőrizd a mappát és a "
+                                            u"jogosultságokat! Részletek: "},
+                                file.errorString())));
 }
 
 } // namespace
 
-SqliteDoc::SqliteDoc(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) { m_parts->lateBound.setDocument(this); }
+SqliteDoc::SqliteDoc(std::unique_ptr<Parts> parts) : m_parts(std::move(parts))
+{
+    m_parts->lateBound.setDocument(this);
+}
 SqliteDoc::~SqliteDoc() = default;
 
 std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
 {
-    loadTexts();
+    loadHostTexts();
     if (path != kMemory) claim(path);
     try {
         auto parts = std::make_unique<Parts>(path);
-        // The head of the file says whose it is only once it is there: everything first, the log file afterwards.
+        // The head of the file says whose it is only once it is there: everything first, the log file
+        // afterwards.
         Write write(parts->db);
         createSchema(parts->db);
         fillFreshDocument(parts->db);
@@ -89,7 +84,7 @@ std::unique_ptr<SqliteDoc> SqliteDoc::create(const QString &path)
 
 std::unique_ptr<SqliteDoc> SqliteDoc::open(const QString &path)
 {
-    loadTexts();
+    loadHostTexts();
     if (path == kMemory) return create(path);
     requireSoundDrawing(path);
     auto parts = std::make_unique<Parts>(path);
@@ -128,7 +123,10 @@ void SqliteDoc::removeElements(std::span<const qint64> ids) { m_parts->elements.
 int SqliteDoc::elementCount() const { return m_parts->elements.count(); }
 
 QString SqliteDoc::ownFontName() const { return OwnFont::faceName(); }
-void SqliteDoc::addGlyph(qint32 code, const QString &name, const ZolWDoc::Glyph &g) { m_parts->ownFont.add(code, name, g); }
+void SqliteDoc::addGlyph(qint32 code, const QString &name, const ZolWDoc::Glyph &g)
+{
+    m_parts->ownFont.add(code, name, g);
+}
 ZolWDoc::VectorFontProvider &SqliteDoc::ownFont() { return m_parts->ownFont; }
 
 ZolWDoc::LayerRole &SqliteDoc::layers() { return m_parts->tables.layers; }

@@ -23,25 +23,29 @@ struct DrawingInfo {
     QString importedFrom;         ///< file name of an imported drawing, else empty
 };
 
-/// The reference host's document: one SQLite file (".qvd"), or ":memory:". Implements every role of the contract, the
-/// optional ones too. Every write call is durable when it returns, or when the outermost command scope ends.
+/// The reference host's document: one SQLite file (".qvd"), or ":memory:". Implements every role of the
+/// contract, the optional ones too. Every write call is durable when it returns, or when the outermost
+/// command scope ends.
 class SqliteDoc : public ZolWDoc::ZOLW_Doc {
 public:
     static constexpr int kVersion = 1;    ///< of the file format; a newer file is refused and left untouched
 
-    static std::unique_ptr<SqliteDoc> create(const QString &path); ///< replaces nothing: throws when the file exists
-    static std::unique_ptr<SqliteDoc> open(const QString &path);   ///< throws DocumentError for newer, foreign and damaged files
+    /// Replaces nothing: throws when the file exists.
+    static std::unique_ptr<SqliteDoc> create(const QString &path);
+    /// Throws DocumentError for newer, foreign and damaged files; those stay byte for byte as they are.
+    static std::unique_ptr<SqliteDoc> open(const QString &path);
     ~SqliteDoc() override;
 
     QString path() const;                                ///< ":memory:" for a document without a file
-    void saveCopyAs(const QString &path);                ///< a whole copy; replaces the file only when the copy is complete
+    /// A whole copy; replaces the file only when the copy is complete. Throws inside a command scope.
+    void saveCopyAs(const QString &path);
     DrawingInfo info() const;
     void setInfo(const DrawingInfo &);
-    QStringList openNotes() const;                       ///< what opening found to tell, e.g. a change span left open
+    QStringList openNotes() const; ///< what opening found to tell, e.g. a change span left open
 
     std::vector<Element> elements() const;               ///< all, in drawing order
     std::vector<Element> elementsOf(qint16 layId) const;
-    qint64 addElement(const Element &);
+    qint64 addElement(const Element &);                  ///< throws when it refers to what is not there
     void addElements(std::span<const Element>);          ///< one durable unit
     void removeElements(std::span<const qint64> ids);    ///< one durable unit
     int elementCount() const;

@@ -39,7 +39,8 @@ TextFile::TextFile(const QString &path, Text expected) : m_path(path), m_expecte
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw DocumentError(fileText(path, join(Text{30081, u"' fájl nem olvasható. Ellenőrizd a nevét és a "
-                                                            u"jogosultságokat! Részletek: "}, file.errorString())));
+                                                            u"jogosultságokat! Részletek: "},
+                                                file.errorString())));
     const QString all = decoded(file.readAll());
     int lineNumber = 0;
     for (QStringView line : QStringView(all).split(u'\n')) {
@@ -69,8 +70,9 @@ void TextFile::fail(const ListLine &line, Text reason) const { fail(line.line, t
 
 void TextFile::fail(int line, const QString &reason) const
 {
-    throw DocumentError(fileText(m_path, join(Text{30082, u"' fájl hibás, ezért semmi nem változott. Hibás sor: "}, line,
-                                              Text{30083, u", "}, reason)));
+    throw DocumentError(
+        fileText(m_path, join(Text{30082, u"' fájl hibás, ezért semmi nem változott. Hibás sor: "}, line,
+                              Text{30083, u", "}, reason)));
 }
 
 } // namespace refhost

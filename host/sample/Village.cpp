@@ -35,7 +35,8 @@ void writePens(SqliteDoc &doc)
     const Palette palette = doc.penColors().palette();
     PenColorTable table = doc.penColors().read();
     int pen = 1;
-    for (const PenRow &row : pens()) table.pen(pen++) = {nearest(palette, row.screen), nearest(palette, row.print)};
+    for (const PenRow &row : pens())
+        table.pen(pen++) = {nearest(palette, row.screen), nearest(palette, row.print)};
     table.pen(1).ScrColor = 7;           // white or black, whichever can be seen
     doc.penColors().write(table);
 }
@@ -69,7 +70,8 @@ std::vector<qint16> groupsOf(GroupRole &role, std::span<const char16_t *const> n
     return ids;
 }
 
-/// The symbols stand on layers and the layers need line types: layers come first, with what they refer to by number.
+/// The symbols stand on layers and the layers need line types: layers come first, with what they refer to by
+/// number.
 struct Tables {
     SqliteDoc &doc;
     Numbers numbers;
@@ -81,12 +83,25 @@ struct Tables {
         std::vector<tSid> rows;
         for (const SymbolRow &s : symbols()) {
             doc.addGlyph(s.nr, utf16(s.fullName), glyphFrom(s.strokes));
-            rows.push_back({.SidId = s.nr, .GroupName = utf16(symbolGroups()[size_t(s.group)]),
-                            .GroupId = groups[size_t(s.group)], .Code = s.nr, .ShortName = utf16(s.name),
-                            .FullName = utf16(s.fullName), .Align = 24, .Size_mm = s.size, .YwFact = 1, .XwFact = 1,
-                            .Facename = doc.ownFontName(), .Weight = s.weight, .CharSet = 238, .ProtXmm = s.size / 2,
-                            .ProtYmm = s.size / 2, .ProtType = 1, .DspZoom = 4,
-                            .LayId = numbers.layers.value(s.layer, 0), .Type = 1});
+            rows.push_back({.SidId = s.nr,
+                            .GroupName = utf16(symbolGroups()[size_t(s.group)]),
+                            .GroupId = groups[size_t(s.group)],
+                            .Code = s.nr,
+                            .ShortName = utf16(s.name),
+                            .FullName = utf16(s.fullName),
+                            .Align = 24,
+                            .Size_mm = s.size,
+                            .YwFact = 1,
+                            .XwFact = 1,
+                            .Facename = doc.ownFontName(),
+                            .Weight = s.weight,
+                            .CharSet = 238,
+                            .ProtXmm = s.size / 2,
+                            .ProtYmm = s.size / 2,
+                            .ProtType = 1,
+                            .DspZoom = 4,
+                            .LayId = numbers.layers.value(s.layer, 0),
+                            .Type = 1});
         }
         const auto ids = stored<tSid>(doc.symbols(), rows, &tSid::SidId);
         for (size_t i = 0; i < ids.size(); ++i) numbers.symbols.insert(symbols()[i].nr, ids[i]);
@@ -95,9 +110,15 @@ struct Tables {
     {
         std::vector<tPenStyleSi> rows;
         for (const SymbolizationRow &s : symbolizations())
-            rows.push_back({.Nr = s.nr, .Name = utf16(s.name), .SidId = numbers.symbols.value(s.symbol),
-                            .Align = qint16(s.placement), .DistrLength = s.length, .Multi = 1, .Rotation = s.rotation,
-                            .OffsetY = s.offsetY, .OffsetX = s.offsetX});
+            rows.push_back({.Nr = s.nr,
+                            .Name = utf16(s.name),
+                            .SidId = numbers.symbols.value(s.symbol),
+                            .Align = qint16(s.placement),
+                            .DistrLength = s.length,
+                            .Multi = 1,
+                            .Rotation = s.rotation,
+                            .OffsetY = s.offsetY,
+                            .OffsetX = s.offsetX});
         stored<tPenStyleSi>(doc.lineSymbolizations(), rows, &tPenStyleSi::Nr);
     }
     /// Twice: first bare, because layers need them before symbols are there, then with their symbolizations.
@@ -105,7 +126,11 @@ struct Tables {
     {
         std::vector<tPenStyle> rows;
         for (const LineTypeRow &t : village::lineTypes()) {
-            tPenStyle row{.PenStyleNr = t.nr, .Name = utf16(t.name), .Size = t.size, .Pattern = t.pattern, .Slots = {0, 0, 0}};
+            tPenStyle row{.PenStyleNr = t.nr,
+                          .Name = utf16(t.name),
+                          .Size = t.size,
+                          .Pattern = t.pattern,
+                          .Slots = {0, 0, 0}};
             if (withSlots) row.Slots[0] = t.slot;
             rows.push_back(row);
         }
@@ -117,10 +142,21 @@ struct Tables {
         const std::vector<qint16> groups = groupsOf(doc.textTypes().groups(), textGroups());
         std::vector<tTxd> rows;
         for (const TextTypeRow &t : textTypes())
-            rows.push_back({.TxdId = t.nr, .GroupName = utf16(textGroups()[size_t(t.group)]), .GroupId = groups[size_t(t.group)],
-                            .Name = utf16(t.name), .Weight = t.weight, .Italic = t.italic, .Align = quint8(t.align + 24),
-                            .Size_mm = t.size, .YwFact = 1, .XwFact = 1, .RowDist = 1.6f, .CharSet = 238,
-                            .Facename = utf16(t.face), .DspZoom = 4, .LayId = numbers.layers.value(t.layer, 0)});
+            rows.push_back({.TxdId = t.nr,
+                            .GroupName = utf16(textGroups()[size_t(t.group)]),
+                            .GroupId = groups[size_t(t.group)],
+                            .Name = utf16(t.name),
+                            .Weight = t.weight,
+                            .Italic = t.italic,
+                            .Align = quint8(t.align + 24),
+                            .Size_mm = t.size,
+                            .YwFact = 1,
+                            .XwFact = 1,
+                            .RowDist = 1.6f,
+                            .CharSet = 238,
+                            .Facename = utf16(t.face),
+                            .DspZoom = 4,
+                            .LayId = numbers.layers.value(t.layer, 0)});
         const auto ids = stored<tTxd>(doc.textTypes(), rows, &tTxd::TxdId);
         for (size_t i = 0; i < ids.size(); ++i) numbers.textTypes.insert(textTypes()[i].nr, ids[i]);
     }
@@ -129,9 +165,15 @@ struct Tables {
     {
         std::vector<tLay> rows;
         for (const LayerRow &l : layers())
-            rows.push_back({.gNr = l.nr, .Name = utf16(l.name), .Visible = l.visible, .PenStyleId = lineTypes.value(l.lineType),
-                            .ScrColor = l.pen, .PrnColor = l.pen, .PenColorId = l.pen,
-                            .TxdId = numbers.textTypes.value(l.textType, doc.textTypes().readAll().front().TxdId)});
+            rows.push_back(
+                {.gNr = l.nr,
+                 .Name = utf16(l.name),
+                 .Visible = l.visible,
+                 .PenStyleId = lineTypes.value(l.lineType),
+                 .ScrColor = l.pen,
+                 .PrnColor = l.pen,
+                 .PenColorId = l.pen,
+                 .TxdId = numbers.textTypes.value(l.textType, doc.textTypes().readAll().front().TxdId)});
         const auto ids = stored<tLay>(doc.layers(), rows, &tLay::LayId);
         for (size_t i = 0; i < ids.size(); ++i) numbers.layers.insert(layers()[i].nr, ids[i]);
     }
@@ -143,7 +185,8 @@ struct Tables {
         groups = doc.layers().groups();
         std::vector<tLayMember> members;
         for (const LayerRow &l : layers()) {
-            const auto g = std::ranges::find(groups, utf16(layerGroups()[size_t(l.group)]), &tGroup::GroupName);
+            const auto g =
+                std::ranges::find(groups, utf16(layerGroups()[size_t(l.group)]), &tGroup::GroupName);
             members.push_back({g->GroupId, numbers.layers.value(l.nr)});
         }
         doc.layers().writeMembers(members);
@@ -167,8 +210,8 @@ void makeVillage(SqliteDoc &doc)
         tables.writeSymbolizations();
         tables.writeLineTypes(true);
         Draft draft(tables.numbers);
-        for (const auto chapter : {draftStreets, draftParcels, draftFields, draftBrook, draftUtilities, draftRelief,
-                                   draftControl, draftSheet})
+        for (const auto chapter : {draftStreets, draftParcels, draftFields, draftBrook, draftUtilities,
+                                   draftRelief, draftControl, draftSheet})
             chapter(draft);
         doc.addElements(draft.elements);
         std::vector<qint16> ids;

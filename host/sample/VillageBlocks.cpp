@@ -5,7 +5,7 @@
 namespace refhost::village {
 namespace {
 
-constexpr double kMiddle = 0.5;                     // t at which the gardens of two fronts meet, on the average
+constexpr double kMiddle = 0.5; // t at which the gardens of two fronts meet, on the average
 
 } // namespace
 
@@ -40,7 +40,9 @@ std::vector<double> Block::cuts(Dice &dice, bool top_) const
     double sum = 0;
     while (sum < length - plotWidth * 0.6) {
         const double kind = dice.unit();
-        const double w = plotWidth * (kind < 0.2 ? dice.in(0.62, 0.8) : kind > 0.85 ? dice.in(1.25, 1.6) : dice.in(0.85, 1.15));
+        const double w = plotWidth * (kind < 0.2    ? dice.in(0.62, 0.8)
+                                      : kind > 0.85 ? dice.in(1.25, 1.6)
+                                                    : dice.in(0.85, 1.15));
         widths.push_back(w);
         sum += w;
     }

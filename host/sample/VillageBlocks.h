@@ -14,12 +14,16 @@ struct Plot {
     int house = 0;                                  ///< house number
     Spot front() const { return unit(frontRight - frontLeft); }
     double width() const { return lengthOf(frontRight - frontLeft); }
-    double depth() const { return lengthOf(between(backLeft, backRight, 0.5) - between(frontLeft, frontRight, 0.5)); }
+    double depth() const
+    {
+        return lengthOf(between(backLeft, backRight, 0.5) - between(frontLeft, frontRight, 0.5));
+    }
     /// `across` metres from the left side, `deep` metres from the street.
     Spot at(double across, double deep) const;
 };
 
-/// What lies between two streets and two lanes. s runs from the left lane to the right, t from below to above, 0..1.
+/// What lies between two streets and two lanes. s runs from the left lane to the right, t from below to
+/// above, 0..1.
 struct Block {
     Course left, right;                             ///< u of v
     double leftHalf, rightHalf;                     ///< half widths of what lies there, metres

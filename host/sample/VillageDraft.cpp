@@ -79,7 +79,8 @@ Element &Draft::textAt(qint16 layer, qint16 type, Place at, const QString &text,
     e.text = text;
     e.rotation = rotation;
     e.txdId = m_numbers.textTypes.value(type, -1);
-    e.align = kBaseline + (type == 8 || type == 9 ? 0 : 6);   // heights and point numbers stand right of their point
+    e.align =
+        kBaseline + (type == 8 || type == 9 ? 0 : 6); // heights and point numbers stand right of their point
     return e;
 }
 
@@ -102,7 +103,8 @@ void Draft::point(qint16 layer, const QString &name, Spot at)
 {
     const Place p = placeOf(at);
     const double height = std::round(heightAt(p) * 100) / 100;
-    points.push_back({.Name = name, .X = p.x, .Y = p.y, .Z = height, .LayId = m_numbers.layers.value(layer, -1)});
+    points.push_back(
+        {.Name = name, .X = p.x, .Y = p.y, .Z = height, .LayId = m_numbers.layers.value(layer, -1)});
 }
 
 double Draft::upright(Spot direction)

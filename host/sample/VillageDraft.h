@@ -15,7 +15,8 @@ struct Numbers {
     QHash<qint16, qint16> layers, textTypes, symbols;
 };
 
-/// The elements of the sample while they are thought up. Layers, text types and symbols by the numbers of the tables.
+/// The elements of the sample while they are thought up. Layers, text types and symbols by the numbers of the
+/// tables.
 class Draft {
 public:
     explicit Draft(const Numbers &numbers) : m_numbers(numbers) {}

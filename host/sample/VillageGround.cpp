@@ -31,8 +31,8 @@ double churchLane(double v) { return -66 - 0.1 * v + 3 * std::sin(v / 37); }
 double schoolLane(double v) { return kBridgeAt + 0.07 * (v + 130) + 2.5 * std::sin((v + 130) / 41); }
 double eastLane(double v) { return 268 - 0.13 * v + 2 * std::sin(v / 33); }
 double fieldLane(double v) { return kBridgeAt + 0.06 * (v + 130); }
-double westEnd(double v) { return -372 + 0.06 * v; }
-double eastEnd(double v) { return 376 - 0.05 * v; }
+double westEnd(double v) { return -366 - 0.02 * v; }
+double eastEnd(double v) { return 370 - 0.03 * v; }
 
 Place placeOf(Spot s)
 {
@@ -46,14 +46,18 @@ Spot spotOf(Place p)
     return {c * x + d * y, -d * x + c * y};
 }
 
-double turnOf(Spot direction) { return (std::atan2(direction.v, direction.u) + kTurn) * 180 / std::numbers::pi; }
+double turnOf(Spot direction)
+{
+    return (std::atan2(direction.v, direction.u) + kTurn) * 180 / std::numbers::pi;
+}
 
 double heightAt(Place p)
 {
     const Spot s = spotOf(p);
     const double fromBrook = s.v - brook(s.u);
     const double slope = fromBrook > 0 ? 0.026 * fromBrook : -0.045 * fromBrook;
-    const double swell = 1.6 * std::sin(s.u / 110 + 0.8) * std::cos(s.v / 140) + 0.7 * std::sin((s.u + s.v) / 61);
+    const double swell =
+        1.6 * std::sin(s.u / 110 + 0.8) * std::cos(s.v / 140) + 0.7 * std::sin((s.u + s.v) / 61);
     return 142.4 - 0.006 * s.u + slope + swell * std::min(1.0, std::abs(fromBrook) / 60);
 }
 

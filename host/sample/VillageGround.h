@@ -4,7 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-/// The ground that the sample village stands on. Village coordinates: u along the streets, v across them, metres.
+/// The ground that the sample village stands on. Village coordinates: u along the streets, v across them,
+/// metres.
 namespace refhost::village {
 
 struct Spot {
@@ -30,7 +31,8 @@ private:
     std::uint64_t m_state;
 };
 
-/// A line given by a function: v of u for the streets along the valley and the brook, u of v for the cross streets.
+/// A line given by a function: v of u for the streets along the valley and the brook, u of v for the cross
+/// streets.
 using Course = double (*)(double);
 double northEdge(double u);
 double upperStreet(double u);

@@ -33,7 +33,8 @@ void parcel(Draft &d, Register &r, const Plot &plot)
     d.line(101, {plot.frontLeft, plot.frontRight});
     boundaryPoint(d, r, plot.frontLeft);
     const double deep = std::min(kNumberAt, plot.depth() - 7) / plot.depth();
-    const Spot at = between(between(plot.frontLeft, plot.frontRight, 0.5), between(plot.backLeft, plot.backRight, 0.5), deep);
+    const Spot at = between(between(plot.frontLeft, plot.frontRight, 0.5),
+                            between(plot.backLeft, plot.backRight, 0.5), deep);
     d.text(102, 1, at, nextParcel(r, d.dice), plot.front());
     furnish(d, plot);
 }
@@ -42,9 +43,10 @@ void parcel(Draft &d, Register &r, const Plot &plot)
 void row(Draft &d, Register &r, const Block &b, bool top)
 {
     const std::vector<double> cuts = top ? b.topCuts : b.bottomCuts;
-    int house = top ? 2 : 1;                     // even numbers on one side of a street, odd ones on the other
+    int house = top ? 2 : 1; // even numbers on one side of a street, odd ones on the other
     for (size_t i = 0; i + 1 < cuts.size(); ++i) {
-        Plot plot{b.corner(cuts[i], top), b.corner(cuts[i + 1], top), b.back(cuts[i], top), b.back(cuts[i + 1], top)};
+        Plot plot{b.corner(cuts[i], top), b.corner(cuts[i + 1], top), b.back(cuts[i], top),
+                  b.back(cuts[i + 1], top)};
         if (top) std::swap(plot.frontLeft, plot.frontRight), std::swap(plot.backLeft, plot.backRight);
         plot.house = house;
         house += 2;
@@ -64,7 +66,8 @@ void backLine(Draft &d, const Block &b)
     std::ranges::sort(cuts);
     std::vector<Spot> course;
     for (double s : cuts)
-        if (course.empty() || lengthOf(b.back(s, b.frontTop) - course.back()) > 0.05) course.push_back(b.back(s, b.frontTop));
+        if (course.empty() || lengthOf(b.back(s, b.frontTop) - course.back()) > 0.05)
+            course.push_back(b.back(s, b.frontTop));
     d.line(101, course);
 }
 

@@ -20,7 +20,8 @@ Place nodeAt(int column, int row) { return {kSheet.west + column * kStep, kSheet
 /// Where the contour crosses the edge; the nodes lie on different sides of it.
 Place crossing(const Edge &e, double height)
 {
-    const Place a = nodeAt(e.column, e.row), b = e.up ? nodeAt(e.column, e.row + 1) : nodeAt(e.column + 1, e.row);
+    const Place a = nodeAt(e.column, e.row),
+                b = e.up ? nodeAt(e.column, e.row + 1) : nodeAt(e.column + 1, e.row);
     const double ha = heightAt(a), hb = heightAt(b), t = (height - ha) / (hb - ha);
     const auto round = [](double v) { return std::round(v * 100) / 100; };
     return {round(a.x + (b.x - a.x) * t), round(a.y + (b.y - a.y) * t)};
@@ -32,7 +33,8 @@ using Links = std::multimap<Edge, Edge>;
 Links linksOf(double height)
 {
     Links links;
-    const int columns = int((kSheet.east - kSheet.west) / kStep), rows = int((kSheet.north - kSheet.south) / kStep);
+    const int columns = int((kSheet.east - kSheet.west) / kStep),
+              rows = int((kSheet.north - kSheet.south) / kStep);
     for (int r = 0; r < rows; ++r)
         for (int c = 0; c < columns; ++c) {
             const auto above = [&](int dc, int dr) { return heightAt(nodeAt(c + dc, r + dr)) > height; };

@@ -42,7 +42,7 @@ void draftSheet(Draft &d)
     d.textAt(605, 11, {middle, kSheet.south - 20}, QStringLiteral("M = 1 : 1000"));
     d.textAt(605, 11, {kSheet.west + 90, kSheet.south - 20}, QStringLiteral("Vetületi rendszer: EOV"));
     d.textAt(605, 11, {kSheet.east - 110, kSheet.south - 20}, QStringLiteral("Magasságok: Balti alapszint"));
-    d.symbolAt(605, 41, {kSheet.east - 40, kSheet.north - 50});
+    d.symbolAt(605, 41, {kSheet.east - 25, kSheet.north - 85});
 }
 
 void draftControl(Draft &d)
@@ -53,13 +53,20 @@ void draftControl(Draft &d)
         Spot at;
     };
     const Control all[] = {
-        {601, 1, u"65-3241", {-338, 214}}, {601, 1, u"65-3242", {322, -316}}, {601, 1, u"65-3307", {342, 246}},
-        {601, 3, u"1001", {-230, mainStreet(-230) - 4.4}}, {601, 3, u"1002", {-52, mainStreet(-52) + 4.6}},
-        {601, 3, u"1003", {110, mainStreet(110) + 4.6}},   {601, 3, u"1004", {290, mainStreet(290) - 4.4}},
-        {601, 3, u"1005", {-205, upperStreet(-205) - 3}},  {601, 3, u"1006", {40, upperStreet(40) + 3}},
-        {601, 3, u"1007", {-140, lowerStreet(-140) + 3}},  {601, 3, u"1008", {108, lowerStreet(108) - 3}},
+        {601, 1, u"65-3241", {-338, 214}},
+        {601, 1, u"65-3242", {322, -316}},
+        {601, 1, u"65-3307", {342, 246}},
+        {601, 3, u"1001", {-230, mainStreet(-230) - 4.4}},
+        {601, 3, u"1002", {-52, mainStreet(-52) + 4.6}},
+        {601, 3, u"1003", {110, mainStreet(110) + 4.6}},
+        {601, 3, u"1004", {290, mainStreet(290) - 4.4}},
+        {601, 3, u"1005", {-205, upperStreet(-205) - 3}},
+        {601, 3, u"1006", {40, upperStreet(40) + 3}},
+        {601, 3, u"1007", {-140, lowerStreet(-140) + 3}},
+        {601, 3, u"1008", {108, lowerStreet(108) - 3}},
         {601, 3, u"1009", {300, lowerStreet(300) + 3}},
-        {602, 2, u"MAP 217", {-33, mainStreet(-33) + 12.6}}, {602, 2, u"MAP 218", {157, mainStreet(157) - 16}},
+        {602, 2, u"MAP 217", {-33, mainStreet(-33) + 12.6}},
+        {602, 2, u"MAP 218", {157, mainStreet(157) - 16}},
     };
     for (const Control &c : all) {
         d.symbol(c.layer, c.symbol, c.at);

@@ -83,7 +83,8 @@ void street(Draft &d, const Street &s)
     d.line(302, s.paved > 3 ? along(s.course, kRoadFrom, kRoadTo) : along(s.course, kFrom, kTo));
     for (double u : {-300.0, -30.0, 200.0, 330.0}) {
         const Spot at{u, s.course(u) - 0.9};
-        d.text(305, 4, at, QString::fromUtf16(s.name), Spot{u + 20, s.course(u + 20)} - Spot{u - 20, s.course(u - 20)});
+        d.text(305, 4, at, QString::fromUtf16(s.name),
+               Spot{u + 20, s.course(u + 20)} - Spot{u - 20, s.course(u - 20)});
     }
     if (s.paved < 3) return;
     for (double side : {-1.0, 1.0})
@@ -106,7 +107,8 @@ void lane(Draft &d, const Lane &l)
     corners(d, l, *above, -1);
     if (cross != to) corners(d, l, kStreets[1], 1), corners(d, l, kStreets[1], -1);
     const double at = l.nameAt;
-    d.text(305, 4, {l.course(at), at}, QString::fromUtf16(l.name), Spot{l.course(at + 9), at + 9} - Spot{l.course(at - 9), at - 9});
+    d.text(305, 4, {l.course(at), at}, QString::fromUtf16(l.name),
+           Spot{l.course(at + 9), at + 9} - Spot{l.course(at - 9), at - 9});
 }
 
 /// The road over the brook to the fields.
@@ -121,7 +123,8 @@ void fieldRoad(Draft &d)
     }
     for (double v : {bank + 7.5, bank - 7.5})
         for (double side : {-1.0, 1.0})
-            d.line(306, {{course(v) + side * 2.76, v}, {course(v) + side * 4.4, v + (v > bank ? 1.6 : -1.6)}});
+            d.line(306,
+                   {{course(v) + side * 2.76, v}, {course(v) + side * 4.4, v + (v > bank ? 1.6 : -1.6)}});
     d.text(306, 6, {kBridgeAt + 12, bank + 9}, QStringLiteral("híd"));
     d.text(305, 4, {course(-190), -196}, QStringLiteral("Malom utca"), {0.06, 1});
     d.line(302, across(course, lowerStreet(kBridgeAt), kRoadEnd));

@@ -30,9 +30,11 @@ const PenRow kPens[] = {
 };
 
 constexpr const char16_t *kLayerGroups[] = {
-    u"Földrészletek", u"Épületek", u"Közlekedés", u"Vízrajz, domborzat, növényzet", u"Közművek", u"Alappontok, keret",
+    u"Földrészletek", u"Épületek",          u"Közlekedés", u"Vízrajz, domborzat, növényzet",
+    u"Közművek",      u"Alappontok, keret",
 };
-constexpr const char16_t *kSymbolGroups[] = {u"Alappontok", u"Növényzet", u"Közművek", u"Vonaljelek", u"Egyéb jelek"};
+constexpr const char16_t *kSymbolGroups[] = {u"Alappontok", u"Növényzet", u"Közművek", u"Vonaljelek",
+                                             u"Egyéb jelek"};
 constexpr const char16_t *kTextGroups[] = {u"Földrészletek", u"Megírások", u"Magasságok"};
 
 constexpr LayerRow kLayers[] = {
@@ -116,23 +118,28 @@ constexpr SymbolRow kSymbols[] = {
     {4, u"Határpont", u"Állandósított határpont", 0, 1.0f, 13, 105, "c 0,0 50"},
     {5, u"Magasság", u"Magassági pont", 0, 0.7f, 20, 407, "-50,0 50,0;0,-50 0,50"},
     {11, u"Lombos fa", u"Lombos fa", 1, 3.0f, 13, 403,
-     "c 0,0 8;-15,42 5,50 25,40 30,38 46,25 50,5 42,-12 40,-15 30,-40 10,-46 8,-46 -12,-50 -35,-38 -36,-36 -50,-14 "
+     "c 0,0 8;-15,42 5,50 25,40 30,38 46,25 50,5 42,-12 40,-15 30,-40 10,-46 8,-46 -12,-50 -35,-38 -36,-36 "
+     "-50,-14 "
      "-46,6 -46,8 -42,28 -15,42"},
     {12, u"Fenyőfa", u"Tűlevelű fa", 1, 3.0f, 13, 403,
      "0,50 -30,10 -12,14 -42,-24 42,-24 12,14 30,10 0,50;0,-24 0,-50;-10,-50 10,-50"},
     {13, u"Gyümölcsfa", u"Gyümölcsfa", 1, 2.0f, 13, 403, "c 0,14 36;0,-22 0,-50;-14,-50 20,-50"},
     {14, u"Bokor", u"Bokor", 1, 1.4f, 13, 403, "c -24,-14 24;c 24,-14 24;c 0,24 24"},
     {15, u"Rét", u"Rét, legelő", 1, 1.6f, 13, 403, "-40,-30 -40,20;0,-40 0,40;40,-30 40,20"},
-    {16, u"Szőlő", u"Szőlőművelés", 1, 1.6f, 13, 403, "0,-50 0,50;0,-20 20,-10 22,14 0,30;0,-36 -18,-28 -20,-6 0,8"},
+    {16, u"Szőlő", u"Szőlőművelés", 1, 1.6f, 13, 403,
+     "0,-50 0,50;0,-20 20,-10 22,14 0,30;0,-36 -18,-28 -20,-6 0,8"},
     {21, u"Szennyvízakna", u"Szennyvíz akna", 2, 2.0f, 18, 506, "c 0,0 50;-35,-35 35,35;-35,35 35,-35"},
     {22, u"Vízakna", u"Víz akna", 2, 2.0f, 18, 506, "c 0,0 50;-30,25 0,-30 30,25"},
-    {23, u"Tűzcsap", u"Föld feletti tűzcsap", 2, 2.0f, 20, 507, "c 0,0 30;0,30 0,50;-50,0 -30,0;30,0 50,0;-20,50 20,50"},
+    {23, u"Tűzcsap", u"Föld feletti tűzcsap", 2, 2.0f, 20, 507,
+     "c 0,0 30;0,30 0,50;-50,0 -30,0;30,0 50,0;-20,50 20,50"},
     {24, u"Elzáró", u"Elzáró szerelvény", 2, 1.8f, 18, 507, "-50,-30 50,30 50,-30 -50,30 -50,-30"},
     {25, u"Oszlop", u"Villanyoszlop", 2, 1.6f, 20, 508, "c 0,0 50;c 0,0 8"},
-    {26, u"Lámpa", u"Közvilágítási lámpa", 2, 2.2f, 18, 508, "c 0,0 22;-50,0 -22,0;22,0 50,0;0,22 0,50;0,-50 0,-22"},
+    {26, u"Lámpa", u"Közvilágítási lámpa", 2, 2.2f, 18, 508,
+     "c 0,0 22;-50,0 -22,0;22,0 50,0;0,22 0,50;0,-50 0,-22"},
     {27, u"Kút", u"Ásott kút", 2, 2.0f, 18, 207, "c 0,0 50;c 0,0 26"},
     {31, u"Kerítésvonás", u"Kerítés vonás", 3, 1.0f, 13, 206, "0,0 0,70"},
-    {32, u"G betű", u"Gáz betűjel", 3, 2.2f, 20, 501, "34,28 20,46 -6,50 -30,34 -38,0 -30,-34 -6,-50 20,-46 36,-28 36,-4 6,-4"},
+    {32, u"G betű", u"Gáz betűjel", 3, 2.2f, 20, 501,
+     "34,28 20,46 -6,50 -30,34 -38,0 -30,-34 -6,-50 20,-46 36,-28 36,-4 6,-4"},
     {33, u"V betű", u"Víz betűjel", 3, 2.2f, 20, 502, "-36,50 0,-50 36,50"},
     {34, u"SZ betű", u"Szennyvíz betűjel", 3, 2.2f, 20, 503,
      "-18,34 -34,50 -60,50 -74,34 -70,12 -24,-10 -16,-32 -34,-50 -62,-50 -78,-32;10,20 64,20 6,-50 68,-50"},
@@ -144,10 +151,12 @@ constexpr SymbolRow kSymbols[] = {
      "0,50 -14,-40 0,-26 14,-40 0,50;0,50 0,-26;-10,56 -10,76 10,56 10,76"},
     {42, u"Őrkereszt", u"Hálózati kereszt", 4, 8.0f, 13, 604, "-50,0 50,0;0,-50 0,50"},
     {43, u"Templom", u"Templom jele", 4, 4.0f, 35, 203, "0,-50 0,50;-24,20 24,20"},
-    {44, u"Emlékmű", u"Emlékmű, szobor", 4, 2.6f, 20, 203, "-40,-50 40,-50;-24,-50 -24,-20 24,-20 24,-50;0,-20 0,50"},
+    {44, u"Emlékmű", u"Emlékmű, szobor", 4, 2.6f, 20, 203,
+     "-40,-50 40,-50;-24,-50 -24,-20 24,-20 24,-50;0,-20 0,50"},
 };
 
-constexpr const char16_t *kSans = u"DejaVu Sans", *kNarrow = u"DejaVu Sans Condensed", *kSerif = u"DejaVu Serif";
+constexpr const char16_t *kSans = u"DejaVu Sans", *kNarrow = u"DejaVu Sans Condensed",
+                         *kSerif = u"DejaVu Serif";
 constexpr TextTypeRow kTextTypes[] = {
     {1, u"Helyrajzi szám", 0, kNarrow, 1.8f, 400, false, 6, 102},
     {2, u"Alrészlet jel", 0, kNarrow, 1.5f, 400, false, 6, 104},

@@ -10,8 +10,9 @@ struct Main {
     double half;                         ///< half the width of the public ground
 };
 const Main kMains[] = {
-    {upperStreet, true, -352, 356, 5}, {mainStreet, true, -372, 374, 8},   {lowerStreet, true, -350, 352, 5.5},
-    {westLane, false, -118, -8, 4.5},  {churchLane, false, -118, 112, 4.5}, {schoolLane, false, -118, -8, 4.5},
+    {upperStreet, true, -352, 356, 5},   {mainStreet, true, -372, 374, 8},
+    {lowerStreet, true, -350, 352, 5.5}, {westLane, false, -118, -8, 4.5},
+    {churchLane, false, -118, 112, 4.5}, {schoolLane, false, -118, -8, 4.5},
     {eastLane, false, -118, 112, 4.5},
 };
 
@@ -22,7 +23,10 @@ std::vector<Spot> run(const Main &m, double from, double to, double offset)
 
 Spot spotOn(const Main &m, double at, double offset) { return run(m, at, at + 0.5, offset).front(); }
 
-double turnAt(const Main &m, double at) { return Draft::upright(spotOn(m, at + 4, 0) - spotOn(m, at - 4, 0)); }
+double turnAt(const Main &m, double at)
+{
+    return Draft::upright(spotOn(m, at + 4, 0) - spotOn(m, at - 4, 0));
+}
 
 double vergeOf(const Main &m) { return m.half - 1.8; }   // between pavement and parcels
 
@@ -30,8 +34,10 @@ void pipes(Draft &d, const Main &m)
 {
     d.line(501, run(m, m.from, m.to, vergeOf(m)));
     d.line(502, run(m, m.from, m.to, -vergeOf(m)));
-    for (double at = m.from + 14; at < m.to - 10; at += d.dice.in(70, 110)) d.symbol(507, 24, spotOn(m, at, -vergeOf(m)), turnAt(m, at));
-    for (double at = m.from + 40; at < m.to - 10; at += d.dice.in(110, 150)) d.symbol(507, 23, spotOn(m, at, -m.half + 0.8), turnAt(m, at));
+    for (double at = m.from + 14; at < m.to - 10; at += d.dice.in(70, 110))
+        d.symbol(507, 24, spotOn(m, at, -vergeOf(m)), turnAt(m, at));
+    for (double at = m.from + 40; at < m.to - 10; at += d.dice.in(110, 150))
+        d.symbol(507, 23, spotOn(m, at, -m.half + 0.8), turnAt(m, at));
     double before = m.from + 6;          // sewers run straight from manhole to manhole
     d.symbol(506, 21, spotOn(m, before, 1.1), turnAt(m, before));
     for (double at = before + 44; at < m.to; at += d.dice.in(38, 50)) {
@@ -58,7 +64,8 @@ void connections(Draft &d, const Main &m)
 {
     for (double at = m.from + 12; at < m.to - 8; at += d.dice.in(15, 22)) {
         if (d.dice.chance(0.7)) d.line(501, {spotOn(m, at, vergeOf(m)), spotOn(m, at, m.half + 1.5)});
-        if (d.dice.chance(0.7)) d.line(502, {spotOn(m, at + 2.5, -vergeOf(m)), spotOn(m, at + 2.5, -m.half - 1.5)});
+        if (d.dice.chance(0.7))
+            d.line(502, {spotOn(m, at + 2.5, -vergeOf(m)), spotOn(m, at + 2.5, -m.half - 1.5)});
     }
 }
 

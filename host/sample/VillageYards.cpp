@@ -85,7 +85,8 @@ std::vector<Spot> dwelling(Draft &d, const Plot &p)
         return rectangle(p, d.dice.in(0.6, 1.2), d.dice.in(0, 1.5), std::min(width, p.width() - 5), depth);
     }
     const double side = std::min(d.dice.in(9, 11), p.width() - 3.6), setBack = d.dice.in(3.5, 6);
-    auto ring = rectangle(p, d.dice.in(1.2, std::max(1.4, p.width() - side - 3)), setBack, side, side * d.dice.in(0.9, 1.1));
+    auto ring = rectangle(p, d.dice.in(1.2, std::max(1.4, p.width() - side - 3)), setBack, side,
+                          side * d.dice.in(0.9, 1.1));
     if (d.dice.chance(0.5)) return ring;
     const Spot e = unit(ring[1] - ring[0]), n = unit(ring[3] - ring[0]); // a porch or a veranda
     const double out = d.dice.in(2, 3.2), half = lengthOf(ring[1] - ring[0]) * 0.55;
@@ -97,7 +98,9 @@ void fences(Draft &d, const Plot &p, double deepest)
     const double gate = p.width() * d.dice.in(0.68, 0.8);
     d.line(206, {p.at(0.2, 0), p.at(gate, 0)});
     d.line(206, {p.at(gate + 3.4, 0), p.at(std::max(gate + 3.6, p.width() - 0.2), 0)});
-    if (d.dice.chance(0.6)) d.line(206, {between(p.frontLeft, p.backLeft, 0), between(p.frontLeft, p.backLeft, std::min(1.0, deepest / p.depth()))});
+    if (d.dice.chance(0.6))
+        d.line(206, {between(p.frontLeft, p.backLeft, 0),
+                     between(p.frontLeft, p.backLeft, std::min(1.0, deepest / p.depth()))});
 }
 
 void garden(Draft &d, const Plot &p, double from)
@@ -113,8 +116,10 @@ void garden(Draft &d, const Plot &p, double from)
     }
     const int trees = 1 + d.dice.below(4);
     for (int i = 0; i < trees; ++i) {
-        const double deep = d.dice.in(std::min(from + 2, p.depth() * 0.8), p.depth() * 0.95), t = deep / p.depth();
-        const Spot at = between(between(p.frontLeft, p.backLeft, t), between(p.frontRight, p.backRight, t), d.dice.in(0.15, 0.85));
+        const double deep = d.dice.in(std::min(from + 2, p.depth() * 0.8), p.depth() * 0.95),
+                     t = deep / p.depth();
+        const Spot at = between(between(p.frontLeft, p.backLeft, t), between(p.frontRight, p.backRight, t),
+                                d.dice.in(0.15, 0.85));
         d.symbol(403, d.dice.chance(0.75) ? 13 : 14, at, 0, std::round(d.dice.in(8, 13)) / 10);
     }
 }
@@ -123,7 +128,8 @@ void outbuildings(Draft &d, const Plot &p, double from)
 {
     if (p.depth() < from + 12 || !d.dice.chance(0.82)) return;
     const double width = d.dice.in(3.6, 5.5), depth = d.dice.in(5, 11);
-    building(d, 202, 0, rectangle(p, d.dice.in(0.6, 1), from + d.dice.in(1, 4), std::min(width, p.width() - 3), depth));
+    building(d, 202, 0,
+             rectangle(p, d.dice.in(0.6, 1), from + d.dice.in(1, 4), std::min(width, p.width() - 3), depth));
     if (p.depth() < kGardenAt + 6 || p.width() < 13 || !d.dice.chance(0.3)) return;
     const double barn = std::min(p.width() - 6, d.dice.in(7, 10));
     building(d, 202, 0, rectangle(p, p.width() - barn - 1.5, kGardenAt - 7.5, barn, 6));
@@ -140,12 +146,14 @@ void furnish(Draft &d, const Plot &p)
     d.text(204, 3, centreOf({house[0], house[1], house[2], house[3]}), QString::number(p.house), p.front());
     double rear = 0;                                           // of the house, from the street
     const Spot in = unit(p.at(0, 1) - p.at(0, 0));
-    for (const Spot &s : house) rear = std::max(rear, (s - p.frontLeft).u * in.u + (s - p.frontLeft).v * in.v);
+    for (const Spot &s : house)
+        rear = std::max(rear, (s - p.frontLeft).u * in.u + (s - p.frontLeft).v * in.v);
     outbuildings(d, p, rear);
     fences(d, p, std::min(p.depth(), kGardenAt));
     garden(d, p, std::min(p.depth() * 0.7, kGardenAt));
     if (d.dice.chance(0.13)) d.symbol(207, 27, p.at(p.width() - 3, d.dice.in(10, 16)));
-    if (d.dice.chance(0.15)) d.symbol(403, d.dice.chance(0.5) ? 11 : 12, p.at(p.width() - 2.2, d.dice.in(3, 8)));
+    if (d.dice.chance(0.15))
+        d.symbol(403, d.dice.chance(0.5) ? 11 : 12, p.at(p.width() - 2.2, d.dice.in(3, 8)));
 }
 
 } // namespace refhost::village

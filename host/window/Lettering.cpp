@@ -50,7 +50,8 @@ double leftOf(int align, double width)
 double extentOf(const QPainterPath &path)
 {
     const QRectF r = path.controlPointRect();
-    return std::hypot(std::max(std::abs(r.left()), std::abs(r.right())), std::max(std::abs(r.top()), std::abs(r.bottom())));
+    return std::hypot(std::max(std::abs(r.left()), std::abs(r.right())),
+                      std::max(std::abs(r.top()), std::abs(r.bottom())));
 }
 
 SymbolShape strokedShape(const ZolWDoc::tSid &s, const ZolWDoc::Glyph &glyph)
@@ -91,7 +92,8 @@ SymbolShape shapeOf(const ZolWDoc::tSid &s, const ZolWDoc::Glyph &vectorGlyph)
     const QFontMetricsF metrics(font);
     const QString character = characterOf(s);
     QPainterPath glyph;
-    glyph.addText(leftOf(s.Align, metrics.horizontalAdvance(character)), baselineOf(s.Align, metrics), font, character);
+    glyph.addText(leftOf(s.Align, metrics.horizontalAdvance(character)), baselineOf(s.Align, metrics), font,
+                  character);
     const double mm = s.Size_mm / kPixels;
     const QTransform place(mm * orOne(s.XwFact), 0, 0, -mm * orOne(s.YwFact), s.MoveXmm, s.MoveYmm);
     shape.path = place.map(glyph);
@@ -117,7 +119,8 @@ QPainterPath textShape(const QString &text, const ZolWDoc::tTxd *type, int align
     else first = letter;
     QPainterPath path;
     for (qsizetype i = 0; i < rows.size(); ++i)
-        path.addText(leftOf(align, metrics.horizontalAdvance(rows[i])), first + rowStep * double(i), font, rows[i]);
+        path.addText(leftOf(align, metrics.horizontalAdvance(rows[i])), first + rowStep * double(i), font,
+                     rows[i]);
     return QTransform::fromScale(orOne(t.XwFact) / letter, -orOne(t.YwFact) / letter).map(path);
 }
 

@@ -7,7 +7,8 @@
 
 namespace refhost {
 
-/// What one symbol looks like at scale 1, unturned: millimetres on paper about its insertion point, y upwards.
+/// What one symbol looks like at scale 1, unturned: millimetres on paper about its insertion point, y
+/// upwards.
 struct SymbolShape {
     QPainterPath path;
     bool stroked = false;  ///< false: the path is filled
@@ -16,8 +17,8 @@ struct SymbolShape {
 };
 SymbolShape shapeOf(const ZolWDoc::tSid &, const ZolWDoc::Glyph &vectorGlyph);
 
-/// A text in its text type, unturned, about its base point, y upwards, in units of the letter height; `align` as in
-/// tTxd. The letter height is that of a capital.
+/// A text in its text type, unturned, about its base point, y upwards, in units of the letter height; `align`
+/// as in tTxd. The letter height is that of a capital.
 QPainterPath textShape(const QString &text, const ZolWDoc::tTxd *type, int align);
 
 } // namespace refhost

@@ -13,7 +13,8 @@ constexpr int kLeastPerTurn = 48, kMostPerTurn = 720;
 int piecesOf(double radius, double angle)
 {
     const double half = radius > kSagitta ? std::acos(1 - kSagitta / radius) : kPi / 4;
-    const double perTurn = std::clamp(kPi / std::max(half, 1e-6), double(kLeastPerTurn), double(kMostPerTurn));
+    const double perTurn =
+        std::clamp(kPi / std::max(half, 1e-6), double(kLeastPerTurn), double(kMostPerTurn));
     return std::max(1, int(std::ceil(perTurn * std::abs(angle) / (2 * kPi))));
 }
 
@@ -24,7 +25,8 @@ void appendArc(QPolygonF &to, QPointF end, double bulge)
     const double length = std::hypot(chord.x(), chord.y());
     if (length == 0 || !std::isfinite(bulge)) return to.append(end);
     const double angle = 4 * std::atan(bulge);
-    const double away = (1 - bulge * bulge) / (4 * bulge); // of the centre from the chord, in chords, to the left
+    const double away =
+        (1 - bulge * bulge) / (4 * bulge); // of the centre from the chord, in chords, to the left
     const QPointF centre = (start + end) / 2 + QPointF(-chord.y(), chord.x()) * away;
     const double radius = std::hypot(start.x() - centre.x(), start.y() - centre.y());
     const double from = std::atan2(start.y() - centre.y(), start.x() - centre.x());

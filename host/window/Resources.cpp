@@ -51,6 +51,7 @@ Resources resourcesOf(SqliteDoc &doc)
     r.lineTypes = doc.lineTypes().readAll();
     r.symbolizations = doc.lineSymbolizations().readAll();
     r.glyphs = glyphsOf(doc, r.symbols.rows());
+    r.currentLayer = doc.layers().currentId();
     r.pens = doc.penColors().read();
     r.palette = doc.penColors().palette();
     r.metresPerMm = doc.info().scale / 1000;

@@ -39,7 +39,8 @@ private:
     QHash<qint16, int> m_at;
 };
 
-/// The tables of a document as a drawing needs them: copied once, so that nothing that paints asks the document.
+/// The tables of a document as a drawing needs them: copied once, so that nothing that paints asks the
+/// document.
 struct Resources {
     ById<ZolWDoc::tLay, &ZolWDoc::tLay::LayId> layers;  ///< by number
     ById<ZolWDoc::tSid, &ZolWDoc::tSid::SidId> symbols;
@@ -49,6 +50,7 @@ struct Resources {
     QHash<qint16, ZolWDoc::Glyph> glyphs;               ///< of the symbols of vector fonts, by symbol
     ZolWDoc::PenColorTable pens;
     ZolWDoc::Palette palette{};
+    qint16 currentLayer = -1;                           ///< -1 = none
     double metresPerMm = 0.5;                           ///< a paper millimetre in the drawing
 
     Look lookOf(const Element &) const;

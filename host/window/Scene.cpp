@@ -24,8 +24,27 @@ double distance(QPointF p, QPointF a, QPointF b)
 double distance(QPointF p, const QPolygonF &line)
 {
     double least = line.isEmpty() ? kFar : distance(p, line.front(), line.front());
-    for (qsizetype i = 0; i + 1 < line.size(); ++i) least = std::min(least, distance(p, line[i], line[i + 1]));
+    for (qsizetype i = 0; i + 1 < line.size(); ++i)
+        least = std::min(least, distance(p, line[i], line[i + 1]));
     return least;
+}
+
+QRectF united(const std::vector<QRectF> &boxes)
+{
+    QRectF all;
+    for (const QRectF &box : boxes) all = all.isNull() ? box : all.united(box);
+    return all;
+}
+
+/// The values between which all but a share at either end lie.
+std::pair<double, double> middleOf(const std::vector<QRectF> &boxes, double share,
+                                   double (*value)(const QRectF &))
+{
+    std::vector<double> values;
+    for (const QRectF &box : boxes) values.push_back(value(box));
+    std::ranges::sort(values);
+    const size_t cut = size_t(share * double(values.size()));
+    return {values[cut], values[values.size() - 1 - cut]};
 }
 
 bool crosses(const QRectF &r, const QPolygonF &line)
@@ -35,7 +54,8 @@ bool crosses(const QRectF &r, const QPolygonF &line)
                             {r.bottomRight(), r.bottomLeft()}, {r.bottomLeft(), r.topLeft()}};
     for (qsizetype i = 0; i + 1 < line.size(); ++i)
         for (const QLineF &side : sides)
-            if (QLineF(line[i], line[i + 1]).intersects(side, nullptr) == QLineF::BoundedIntersection) return true;
+            if (QLineF(line[i], line[i + 1]).intersects(side, nullptr) == QLineF::BoundedIntersection)
+                return true;
     return false;
 }
 
@@ -53,22 +73,38 @@ Scene::Scene(Resources resources, std::vector<Element> elements)
 
 bool Scene::shown(int layer) const { return layer < 0 || m_resources.layers.rows()[size_t(layer)].Visible; }
 
-QRectF Scene::bounds() const
+std::vector<QRectF> Scene::boxesOf(bool onlyShown) const
 {
-    QRectF all, visible;
+    std::vector<QRectF> boxes;
     for (size_t i = 0; i < m_elements.size(); ++i) {
-        QRectF box = m_boxes[i];
-        if (box.isNull()) continue;
-        if (m_textAt[i].first >= 0) box = QRectF(box.center(), QSizeF(1e-9, 1e-9)); // its reach is a large estimate
-        all = all.isNull() ? box : all.united(box);
-        if (shown(m_resources.layers.indexOf(m_elements[i].layId))) visible = visible.isNull() ? box : visible.united(box);
+        const QRectF &box = m_boxes[i];
+        if (box.isNull() || (onlyShown && !shown(m_resources.layers.indexOf(m_elements[i].layId)))) continue;
+        const bool isText = m_textAt[i].first >= 0; // its reach is a large estimate
+        boxes.push_back(isText ? QRectF(box.center(), QSizeF(1e-6, 1e-6)) : box);
     }
-    return visible.isNull() ? all : visible;
+    return boxes.empty() && onlyShown ? boxesOf(false) : boxes;
+}
+
+QRectF Scene::bounds() const { return united(boxesOf(true)); }
+
+QRectF Scene::mainBounds() const
+{
+    constexpr double share = 0.02, margin = 0.15, speck = 20;
+    const std::vector<QRectF> boxes = boxesOf(true);
+    const QRectF all = united(boxes);
+    if (boxes.empty()) return all;
+    const auto [left, right] = middleOf(boxes, share, [](const QRectF &r) { return r.center().x(); });
+    const auto [low, high] = middleOf(boxes, share, [](const QRectF &r) { return r.center().y(); });
+    const double reach = std::max({(right - left) * margin, (high - low) * margin, 1e-6});
+    const QRectF most =
+        QRectF(QPointF(left, low), QPointF(right, high)).adjusted(-reach, -reach, reach, reach);
+    return std::max(all.width() / most.width(), all.height() / most.height()) > speck ? most & all : all;
 }
 
 const Pattern &Scene::patternOf(const Chunk &chunk, const ZolWDoc::tPenStyle &type) const
 {
-    if (!chunk.pattern) chunk.pattern = std::make_unique<Pattern>(madePattern(chunk.lines, type, m_resources));
+    if (!chunk.pattern)
+        chunk.pattern = std::make_unique<Pattern>(madePattern(chunk.lines, type, m_resources));
     return *chunk.pattern;
 }
 
@@ -78,6 +114,7 @@ const QPainterPath &Scene::pathOf(const TextItem &t) const
         const QString &text = m_elements[size_t(t.element)].text;
         const QPainterPath shape = textShape(text, m_resources.textTypes.find(t.txdId), t.align);
         t.path = placed(t.at, t.rotation, t.height, t.height).map(shape);
+        t.inked = t.path.controlPointRect();
     }
     return t.path;
 }
@@ -113,12 +150,15 @@ std::vector<int> Scene::elementsIn(const QRectF &local, bool wholly) const
 {
     std::vector<int> inside;
     for (size_t i = 0; i < m_elements.size(); ++i) {
-        if (!m_boxes[i].intersects(local) || !shown(m_resources.layers.indexOf(m_elements[i].layId))) continue;
+        if (!m_boxes[i].intersects(local) || !shown(m_resources.layers.indexOf(m_elements[i].layId)))
+            continue;
         const bool boxed = m_textAt[i].first >= 0 || m_elements[i].kind == ElementKind::Symbol;
         const std::vector<QPolygonF> lines = boxed ? std::vector<QPolygonF>{outlineOf(int(i)).toFillPolygon()}
                                                    : outlinesOf(m_elements[i], m_origin);
-        const bool in = std::ranges::all_of(lines, [&](const QPolygonF &l) { return local.contains(l.boundingRect()); });
-        if (in || (!wholly && std::ranges::any_of(lines, [&](const QPolygonF &l) { return crosses(local, l); })))
+        const bool in =
+            std::ranges::all_of(lines, [&](const QPolygonF &l) { return local.contains(l.boundingRect()); });
+        if (in ||
+            (!wholly && std::ranges::any_of(lines, [&](const QPolygonF &l) { return crosses(local, l); })))
             inside.push_back(int(i));
     }
     return inside;
@@ -130,7 +170,8 @@ QPainterPath Scene::outlineOf(int element) const
     const auto [tile, place] = m_textAt[size_t(element)];
     if (tile >= 0) {
         const TextItem &t = m_texts[size_t(tile)].items[size_t(place)];
-        const QPainterPath shape = textShape(m_elements[size_t(element)].text, m_resources.textTypes.find(t.txdId), t.align);
+        const QPainterPath shape =
+            textShape(m_elements[size_t(element)].text, m_resources.textTypes.find(t.txdId), t.align);
         path.addPolygon(placed(t.at, t.rotation, t.height, t.height).map(QPolygonF(shape.boundingRect())));
     } else if (m_elements[size_t(element)].kind == ElementKind::Symbol) {
         path.addRect(m_boxes[size_t(element)]);

@@ -10,20 +10,20 @@ namespace refhost {
 namespace {
 
 constexpr double kElementsPerTile = 50;
-constexpr qsizetype kLongLine = 24;          // points: longer lines are cut, so that each part has its own tile
+constexpr qsizetype kLongLine = 24; // points: longer lines are cut, so that each part has its own tile
 constexpr int kMostTilesPerSide = 64;
-constexpr double kPointArmMm = 0.6;          // a point is drawn as a cross
 constexpr double kLetterMm = 2.5;            // of texts that know neither size nor text type
 constexpr double kWidestLetter = 1.6;        // letter heights that one character can take
 
 bool isFinite(const Element &e)
 {
-    return std::ranges::all_of(e.vertices, [](const Vertex &v) { return std::isfinite(v.x) && std::isfinite(v.y); });
+    return std::ranges::all_of(e.vertices,
+                               [](const Vertex &v) { return std::isfinite(v.x) && std::isfinite(v.y); });
 }
 
 QRectF boxOf(const std::vector<QPolygonF> &outlines)
 {
-    constexpr double least = 1e-9; // QRectF drops empty rectangles when it unites
+    constexpr double least = 1e-6; // empty rectangles neither unite nor intersect
     QRectF box;
     for (const QPolygonF &p : outlines) {
         QRectF r = p.boundingRect();
@@ -58,6 +58,15 @@ std::vector<QPolygonF> woundFor(std::vector<QPolygonF> rings)
         if ((areaOf(rings[i]) < 0) != hole) std::ranges::reverse(rings[i]);
     }
     return rings;
+}
+
+void addItem(Chunk &chunk, Item item)
+{
+    item.path.setFillRule(Qt::WindingFill);
+    chunk.path.setFillRule(Qt::WindingFill);
+    chunk.path.addPath(item.path);
+    chunk.largest = std::max({chunk.largest, item.box.width(), item.box.height()});
+    chunk.items.push_back(std::move(item));
 }
 
 double median(std::vector<double> &values)
@@ -95,7 +104,8 @@ SceneBuilder::SceneBuilder(const Resources &resources, const std::vector<Element
         boxes[i] = boxOf(outlinesOf(elements[i], origin));
         m_all = m_all.isNull() ? boxes[i] : m_all.united(boxes[i]);
     }
-    m_tilesPerSide = std::clamp(int(std::sqrt(double(elements.size()) / kElementsPerTile)), 1, kMostTilesPerSide);
+    m_tilesPerSide =
+        std::clamp(int(std::sqrt(double(elements.size()) / kElementsPerTile)), 1, kMostTilesPerSide);
     for (size_t i = 0; i < elements.size(); ++i)
         if (!boxes[i].isNull()) add(int(i));
     for (auto &[key, chunks] : m_chunks) {
@@ -136,15 +146,16 @@ void SceneBuilder::add(int index)
 
 void SceneBuilder::addLines(const std::vector<QPolygonF> &outlines, BatchKey key)
 {
-    if (!key.filled && key.lineType < 0 && outlines.front().size() > kLongLine) return addInParts(outlines.front(), key);
+    if (!key.filled && key.lineType < 0 && outlines.front().size() > kLongLine)
+        return addInParts(outlines.front(), key);
     const QRectF box = boxOf(outlines);
     Chunk &chunk = chunkFor(key, box);
-    chunk.path.setFillRule(Qt::WindingFill);
-    chunk.largest = std::max({chunk.largest, box.width(), box.height()});
+    QPainterPath path;
     for (const QPolygonF &line : key.filled ? woundFor(outlines) : outlines) {
-        chunk.path.addPolygon(line);
+        path.addPolygon(line);
         if (key.lineType >= 0) chunk.lines.push_back(line);
     }
+    addItem(chunk, {box, path});
 }
 
 void SceneBuilder::addInParts(const QPolygonF &line, const BatchKey &key)
@@ -157,12 +168,8 @@ void SceneBuilder::addInParts(const QPolygonF &line, const BatchKey &key)
 
 void SceneBuilder::addPoint(QPointF at, BatchKey key)
 {
-    const double arm = kPointArmMm * m_resources.metresPerMm;
-    key.pass = Pass::Symbols;
-    Chunk &chunk = chunkFor(key, QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
-    chunk.path.addPolygon(QPolygonF{at - QPointF(arm, 0), at + QPointF(arm, 0)});
-    chunk.path.addPolygon(QPolygonF{at - QPointF(0, arm), at + QPointF(0, arm)});
-    chunk.largest = std::numeric_limits<double>::infinity(); // points stay visible from any height
+    key.pass = Pass::Symbols, key.width = 0, key.lineType = -1;
+    chunkFor(key, QRectF(at, QSizeF(1e-6, 1e-6))).points.append(at);
 }
 
 QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)
@@ -170,18 +177,16 @@ QRectF SceneBuilder::addSymbol(const Element &e, QPointF at, BatchKey key)
     const SymbolShape &shape = shapeOfSymbol(e.sidId);
     if (shape.path.isEmpty()) { // a symbol that is not there still marks its place
         addPoint(at, key);
-        return QRectF(at, QSizeF(1e-9, 1e-9));
+        return QRectF(at, QSizeF(1e-6, 1e-6));
     }
     const double unit = m_resources.metresPerMm * (e.scale == 0 ? 1 : e.scale);
-    const double extent = shape.extent * std::abs(unit);
-    const QRectF box(at - QPointF(extent, extent), at + QPointF(extent, extent));
+    const QPainterPath path = placed(at, e.rotation, unit, std::abs(unit)).map(shape.path);
+    const double half = shape.width * std::abs(unit) / 2 + 1e-6;
+    const QRectF box = path.controlPointRect().adjusted(-half, -half, half, half);
     key.pass = Pass::Symbols;
     key.filled = !shape.stroked;
     key.width = shape.stroked ? shape.width * m_resources.metresPerMm : 0;
-    Chunk &chunk = chunkFor(key, box);
-    chunk.path.setFillRule(Qt::WindingFill);
-    chunk.path.addPath(placed(at, e.rotation, unit, std::abs(unit)).map(shape.path));
-    chunk.largest = std::max(chunk.largest, 2 * extent);
+    addItem(chunkFor(key, box), {box, path});
     return box;
 }
 
@@ -190,11 +195,17 @@ QRectF SceneBuilder::addText(int index, QPointF at, const Look &look)
     const Element &e = m_elements[size_t(index)];
     const ZolWDoc::tTxd *type = m_resources.textTypes.find(look.txdId);
     const double typeMm = type && type->Size_mm > 0 ? double(type->Size_mm) : kLetterMm;
-    TextItem item{.at = at, .rotation = e.rotation, .layer = m_resources.layers.indexOf(e.layId),
-                  .pen = std::clamp<int>(look.pen, 0, 255), .txdId = look.txdId, .align = e.align, .element = index};
+    TextItem item{.at = at,
+                  .rotation = e.rotation,
+                  .layer = m_resources.layers.indexOf(e.layId),
+                  .pen = std::clamp<int>(look.pen, 0, 255),
+                  .txdId = look.txdId,
+                  .align = e.align,
+                  .element = index};
     item.height = e.size > 0 ? e.size : typeMm * m_resources.metresPerMm;
     qsizetype longest = 0, rows = 0;
-    for (const QStringView row : QStringView(e.text).split(u'\n')) longest = std::max(longest, row.size()), ++rows;
+    for (const QStringView row : QStringView(e.text).split(u'\n'))
+        longest = std::max(longest, row.size()), ++rows;
     const double stretch = type ? std::max({double(type->XwFact), double(type->YwFact), 1.0}) : 1.0;
     const double rowStep = type ? std::max(double(type->RowDist), 2.0) : 2.0;
     item.reach = item.height * stretch * (double(longest) * kWidestLetter + double(rows) * rowStep + 1);
@@ -216,10 +227,14 @@ Chunk &SceneBuilder::chunkFor(const BatchKey &key, const QRectF &box)
 
 int SceneBuilder::tileOf(const QRectF &box) const
 {
-    const double w = std::max(m_all.width() / m_tilesPerSide, 1e-9), h = std::max(m_all.height() / m_tilesPerSide, 1e-9);
+    const double w = std::max(m_all.width() / m_tilesPerSide, 1e-9),
+                 h = std::max(m_all.height() / m_tilesPerSide, 1e-9);
     if (box.width() > 2 * w || box.height() > 2 * h) return -1;
-    const auto column = [this](double at, double tile) { return std::clamp(int(at / tile), 0, m_tilesPerSide - 1); };
-    return column(box.center().y() - m_all.top(), h) * m_tilesPerSide + column(box.center().x() - m_all.left(), w);
+    const auto column = [this](double at, double tile) {
+        return std::clamp(int(at / tile), 0, m_tilesPerSide - 1);
+    };
+    return column(box.center().y() - m_all.top(), h) * m_tilesPerSide +
+           column(box.center().x() - m_all.left(), w);
 }
 
 const SymbolShape &SceneBuilder::shapeOfSymbol(qint16 id)

@@ -42,7 +42,7 @@ private:
     QHash<qint16, SymbolShape> m_shapes;
 };
 
-QPointF originOf(const std::vector<Element> &);    ///< whole metres amid the elements; survives single runaways
+QPointF originOf(const std::vector<Element> &); ///< whole metres amid the elements; survives single runaways
 QTransform placed(QPointF at, double rotation, double xScale, double yScale);
 
 } // namespace refhost

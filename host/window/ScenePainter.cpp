@@ -10,8 +10,10 @@ namespace {
 
 constexpr double kLeastDash = 2;       // pixels: shorter dashes are drawn as a line through
 constexpr double kLeastSymbol = 2;     // pixels: smaller symbols are left out
+constexpr double kPointArm = 3;        // pixels of the crosses that points are
 constexpr double kLeastText = 2.6;     // pixels a capital must have
 constexpr double kHairline = 1.25;     // device pixels: thinner lines are drawn as one
+constexpr double kRoundness = 3;       // device pixels: from here on round joins can be told from cut ones
 
 /// One painting of a scene.
 class Run {
@@ -21,8 +23,9 @@ public:
           m_colors(screenColorsOn(style.background, s.resources().pens, s.resources().palette, style.colors)),
           m_visible(clip.isNull() ? v.visible() : v.localRect(clip)), m_ratio(p.device()->devicePixelRatioF())
     {
-        const double hair = 2 / v.pxPerMetre; // lines have a thickness
-        m_visible.adjust(-hair, -hair, hair, hair);
+        double widest = 2 / v.pxPerMetre; // lines have a thickness: their boxes have none
+        for (const Batch &b : s.batches()) widest = std::max(widest, b.key.width);
+        m_visible.adjust(-widest, -widest, widest, widest);
     }
     void paint()
     {
@@ -42,9 +45,18 @@ private:
     }
     void setStroke(const QColor &color, double metres, Qt::PenCapStyle cap)
     {
-        const bool hair = metres * m_view.pxPerMetre * m_ratio < kHairline;
-        m_painter.setPen(QPen(color, hair ? 0 : metres, Qt::SolidLine, cap, Qt::RoundJoin));
+        const double width = metres * m_view.pxPerMetre * m_ratio;
+        const Qt::PenJoinStyle join = width < kRoundness ? Qt::BevelJoin : Qt::RoundJoin;
+        m_painter.setPen(QPen(color, isHair(metres) ? 0 : metres, Qt::SolidLine, cap, join));
         m_painter.setBrush(Qt::NoBrush);
+    }
+    bool isHair(double metres) const { return metres * m_view.pxPerMetre * m_ratio < kHairline; }
+    /// The chunk with the pen or brush that is set.
+    void paintItems(const Chunk &c, bool hair)
+    {
+        if (hair) return m_painter.drawPath(c.path);
+        for (const Item &item : c.items)
+            if (item.box.intersects(m_visible)) m_painter.drawPath(item.path);
     }
     void setFill(const QColor &color)
     {
@@ -53,13 +65,27 @@ private:
     }
     void paintBatch(const Batch &b)
     {
-        const ZolWDoc::tPenStyle *type = b.key.lineType < 0 ? nullptr : m_scene.resources().lineTypes.find(qint16(b.key.lineType));
+        const ZolWDoc::tPenStyle *type =
+            b.key.lineType < 0 ? nullptr : m_scene.resources().lineTypes.find(qint16(b.key.lineType));
         if (type) return paintPatterned(b, *type);
         if (b.key.filled) setFill(colorOf(b.key.pen));
         else setStroke(colorOf(b.key.pen), b.key.width, Qt::RoundCap);
         const double least = b.key.pass == Pass::Symbols ? kLeastSymbol : 0;
-        for (const Chunk &c : b.chunks)
-            if (seen(c.box, b.key.width) && c.largest * m_view.pxPerMetre >= least) m_painter.drawPath(c.path);
+        for (const Chunk &c : b.chunks) {
+            if (!seen(c.box, b.key.width + kPointArm / m_view.pxPerMetre)) continue;
+            const bool large = c.largest * m_view.pxPerMetre >= least;
+            if (large) paintItems(c, !b.key.filled && isHair(b.key.width));
+            if (!c.points.isEmpty()) paintPoints(c.points);
+        }
+    }
+    void paintPoints(const QList<QPointF> &points)
+    {
+        const double arm = kPointArm / m_view.pxPerMetre;
+        QList<QLineF> crosses;
+        for (const QPointF &p : points)
+            crosses << QLineF(p.x() - arm, p.y(), p.x() + arm, p.y())
+                    << QLineF(p.x(), p.y() - arm, p.x(), p.y() + arm);
+        m_painter.drawLines(crosses);
     }
     void paintPatterned(const Batch &b, const ZolWDoc::tPenStyle &type)
     {
@@ -71,7 +97,7 @@ private:
             if (!seen(c.box, b.key.width + reach)) continue;
             if (type.PenDown && !dashed) {
                 setStroke(colorOf(b.key.pen), b.key.width, Qt::RoundCap);
-                m_painter.drawPath(c.path);
+                paintItems(c, isHair(b.key.width));
             }
             if (dashed || marked) paintParts(m_scene.patternOf(c, type), b, {dashed && type.PenDown, marked});
         }
@@ -97,8 +123,10 @@ private:
             if (t.height * m_view.pxPerMetre < kLeastText || !m_scene.shown(t.layer)) continue;
             const QRectF box(t.at - QPointF(t.reach, t.reach), t.at + QPointF(t.reach, t.reach));
             if (!box.intersects(m_visible)) continue;
+            const QPainterPath &path = m_scene.pathOf(t);
+            if (!t.inked.intersects(m_visible)) continue;
             setFill(colorOf(t.pen));
-            m_painter.drawPath(m_scene.pathOf(t));
+            m_painter.drawPath(path);
         }
     }
 
@@ -112,7 +140,8 @@ private:
 
 } // namespace
 
-void renderTo(QPainter &p, const Scene &scene, const Viewport &view, const PaintStyle &style, const QRectF &clip)
+void renderTo(QPainter &p, const Scene &scene, const Viewport &view, const PaintStyle &style,
+              const QRectF &clip)
 {
     const QRectF area = clip.isNull() ? QRectF(QPointF(0, 0), QSizeF(view.size)) : clip;
     p.save();

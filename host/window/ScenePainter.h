@@ -13,8 +13,8 @@ struct PaintStyle {
     Colors colors = Colors::Screen;
 };
 
-/// Paints the part of the scene that the viewport shows and that lies in `clip` (screen pixels; empty = everything),
-/// background included. Shared by the window, pictures and tests.
+/// Paints the part of the scene that the viewport shows and that lies in `clip` (screen pixels; empty =
+/// everything), background included. Shared by the window, pictures and tests.
 void renderTo(QPainter &, const Scene &, const Viewport &, const PaintStyle &, const QRectF &clip = {});
 
 /// The whole scene on a surface of that size.

@@ -35,10 +35,17 @@ struct PatternPart {
 /// The dashes and symbols of a chunk's lines; made when they are first large enough to be seen.
 using Pattern = std::vector<PatternPart>;
 
+/// One element of a chunk, or a part of a long line.
+struct Item {
+    QRectF box;
+    QPainterPath path;
+};
 /// The part of a batch that lies in one tile of the drawing. Local metres.
 struct Chunk {
     QRectF box;
-    QPainterPath path;                       ///< of plain lines, symbols and fills; stands for a pattern seen from afar
+    QPainterPath path;                       ///< of all items, for thin lines: one call draws them all
+    std::vector<Item> items;                 ///< for wide lines, which are dear: only what is seen is drawn
+    QList<QPointF> points;                   ///< drawn as crosses of one size on the screen
     double largest = 0;                      ///< extent of the largest element, metres
     std::vector<QPolygonF> lines;            ///< of line types with a pattern or symbols
     mutable std::unique_ptr<Pattern> pattern;///< cache; the geometry does not depend on the magnification
@@ -59,6 +66,7 @@ struct TextItem {
     int element = -1;        ///< index of the element: the text itself
     double reach = 0;        ///< no letter is farther from `at`, metres; a safe estimate
     mutable QPainterPath path; ///< cache: in place, local metres
+    mutable QRectF inked;    ///< cache: the box of the path
 };
 struct TextTile {
     QRectF box;

@@ -5,13 +5,16 @@
 namespace refhost {
 namespace {
 
-// Of the palette: "white or black, whichever can be seen". A palette with other colours there is taken at its word.
+// Of the palette: "white or black, whichever can be seen". A palette with other colours there is taken at its
+// word.
 constexpr bool isForegroundIndex(int index) { return index == 0 || index == 7; }
 constexpr double kLeastContrast = 1.35; // ratio of luminances, 1 = the same
 
 double luminance(const QColor &c)
 {
-    const auto linear = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    const auto linear = [](double v) {
+        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    };
     return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
 }
 
@@ -25,8 +28,8 @@ bool isGrey(const QColor &c) { return c.hsvSaturationF() < 0.12 || c.valueF() < 
 
 } // namespace
 
-ScreenColors screenColorsOn(const QColor &background, const ZolWDoc::PenColorTable &pens, const ZolWDoc::Palette &palette,
-                      Colors which)
+ScreenColors screenColorsOn(const QColor &background, const ZolWDoc::PenColorTable &pens,
+                            const ZolWDoc::Palette &palette, Colors which)
 {
     const QColor foreground = luminance(background) > 0.18 ? QColor(Qt::black) : QColor(Qt::white);
     ScreenColors all;

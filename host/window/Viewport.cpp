@@ -5,7 +5,8 @@
 namespace refhost {
 namespace {
 
-constexpr double kLeastZoom = 1e-4, kMostZoom = 1e5; // pixels per metre: a continent to a hundredth of a millimetre
+constexpr double kLeastZoom = 1e-4,
+                 kMostZoom = 1e5; // pixels per metre: a continent to a hundredth of a millimetre
 constexpr double kMetresPerInch = 0.0254;
 
 } // namespace
@@ -48,9 +49,11 @@ void Viewport::zoomAt(QPointF screen, double factor)
 void Viewport::fit(const QRectF &local, double margin)
 {
     const double share = 1 - 2 * margin;
-    const double w = std::max(local.width(), 1e-3), h = std::max(local.height(), 1e-3); // a single point has no size
+    const double w = std::max(local.width(), 1e-3),
+                 h = std::max(local.height(), 1e-3); // a single point has no size
     centre = local.center();
-    pxPerMetre = std::clamp(std::min(size.width() * share / w, size.height() * share / h), kLeastZoom, kMostZoom);
+    pxPerMetre =
+        std::clamp(std::min(size.width() * share / w, size.height() * share / h), kLeastZoom, kMostZoom);
 }
 
 double Viewport::scale() const { return dpi / kMetresPerInch / pxPerMetre; }

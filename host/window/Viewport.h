@@ -7,8 +7,8 @@
 
 namespace refhost {
 
-/// Which part of a drawing is seen, and how large. Drawing coordinates are local metres (see Scene::origin), y upwards;
-/// screen coordinates are device-independent pixels, y downwards.
+/// Which part of a drawing is seen, and how large. Drawing coordinates are local metres (see Scene::origin),
+/// y upwards; screen coordinates are device-independent pixels, y downwards.
 class Viewport {
 public:
     QSize size{1, 1};

@@ -9,21 +9,25 @@ namespace QV_DOC_CONTROLS {
 
 /// The library's front door: every dialog for picking or editing a resource of a drawing is one call here.
 ///
-/// A call named b... blocks until its dialog is closed and returns true when the user confirmed; a record passed in is
-/// the first choice and, on true, the result; on false it is unchanged. An error of the document reaches the caller as
-/// the exception that the document threw, with the dialog gone. Nothing is kept between calls but the properties;
-/// title and language are shared by all objects of the process.
+/// A call named b... blocks until its dialog is closed and returns true when the user confirmed; a record
+/// passed in is the first choice and, on true, the result; on false it is unchanged. An error of the document
+/// reaches the caller as the exception that the document threw, with the dialog gone. Nothing is kept between
+/// calls but the properties; title and language are shared by all objects of the process.
 class clsDocDlgs : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool WarnInvisibleCurrentLayer READ WarnInvisibleCurrentLayer WRITE setWarnInvisibleCurrentLayer)
+    Q_PROPERTY(
+        bool WarnInvisibleCurrentLayer READ WarnInvisibleCurrentLayer WRITE setWarnInvisibleCurrentLayer)
     Q_PROPERTY(QString sAppTitle READ sAppTitle WRITE setsAppTitle)
     Q_PROPERTY(bool AutomaticItemSelection READ AutomaticItemSelection WRITE setAutomaticItemSelection)
 public:
     clsDocDlgs();
 
     bool WarnInvisibleCurrentLayer() const { return m_warnInvisible; }
-    void setWarnInvisibleCurrentLayer(bool on) { m_warnInvisible = on; } ///< asks before an invisible layer becomes current
-    void TearDown() {}                                  ///< does nothing, on purpose; as every class of the library has it
+    void setWarnInvisibleCurrentLayer(bool on)
+    {
+        m_warnInvisible = on;
+    }                  ///< asks before an invisible layer becomes current
+    void TearDown() {} ///< does nothing, on purpose; as every class of the library has it
     QString sAppTitle() const;
     void setsAppTitle(const QString &title);            ///< of every message box; "ZOLDocDlgs" when never set
 

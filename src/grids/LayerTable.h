@@ -2,6 +2,7 @@
 
 #include "facade/contract/ZOLW_Doc.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/GridManager.h"
 
 #include <QHash>
 
@@ -12,11 +13,16 @@ struct LayerNames {
     std::vector<GridChoice> lineTypes, textTypes;
     QHash<qint16, QString> lineTypeOf, textTypeOf;
 };
-QString lineTypeName(const ZolWDoc::tLay &l, const LayerNames &n);  ///< the identifier when there is no such line type
-QString textTypeName(const ZolWDoc::tLay &l, const LayerNames &n);  ///< the identifier when there is no such text type
+QString lineTypeName(const ZolWDoc::tLay &l,
+                     const LayerNames &n); ///< the identifier when there is no such line type
+QString textTypeName(const ZolWDoc::tLay &l,
+                     const LayerNames &n); ///< the identifier when there is no such text type
 inline std::vector<GridChoice> lineTypeChoices(const LayerNames &n) { return n.lineTypes; }
 inline std::vector<GridChoice> textTypeChoices(const LayerNames &n) { return n.textTypes; }
-template <auto M> constexpr auto layerField(const char *key, Text caption) { return field<M, LayerNames>(key, caption); }
+template <auto M> constexpr auto layerField(const char *key, Text caption)
+{
+    return field<M, LayerNames>(key, caption);
+}
 
 /// What the layer table says about itself.
 struct LayerTable {
@@ -25,26 +31,39 @@ struct LayerTable {
     static Names namesOf(ZolWDoc::ZOLW_Doc &doc);
 
     static constexpr const char *layout = "jsLayer";
+    static constexpr Text cardCaption{3309, u"Réteg:|/"};
+    static constexpr int numberColumn = 0, nameColumn = 1;
     static constexpr Column<Record, Names> columns[] = {
-        layerField<&Record::gNr>("gNr", {3308, u"Ssz:"}).with({3411, u"Sorszám"})
+        layerField<&Record::gNr>("gNr", {3308, u"Ssz:"})
+            .with({3411, u"Sorszám"})
+            .within(1, 32767)
             .unique({Icon::Information, {3300, u"Rétegsorszám"}, {3418, u"Létező rétegsorszám !"}}),
         layerField<&Record::Name>("Name", {3299, u"Rétegnév"})
+            .filled()
             .unique({Icon::Information, {3299, u"Rétegnév"}, {3417, u"Létező rétegnév !"}}),
         layerField<&Record::Visible>("Visible", {3307, u"Látható"}).with({3306, u"Láthatóság"}).editable(),
         layerField<&Record::PenStyleId>("PenSyleId", {3305, u"Vonaltípus"}) // published spelling
-            .named(&lineTypeName, &lineTypeChoices).editable(),
-        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().editable(),
-        layerField<&Record::PrnColor>("PrnColor", {3414, u"Nyomtatási szín"}).with({3413, u"Nyomtató szín"})
-            .color().editable(),
-        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).editable(),
-        layerField<&Record::TxdId>("TxdId", {15, u"Felirattípus"}).named(&textTypeName, &textTypeChoices).editable(),
+            .named(&lineTypeName, &lineTypeChoices)
+            .editable(),
+        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().within(0, 255).editable(),
+        layerField<&Record::PrnColor>("PrnColor", {3414, u"Nyomtatási szín"})
+            .with({3413, u"Nyomtató szín"})
+            .color()
+            .within(0, 255)
+            .editable(),
+        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).within(0, 255).editable(),
+        layerField<&Record::TxdId>("TxdId", {15, u"Felirattípus"})
+            .named(&textTypeName, &textTypeChoices)
+            .editable(),
         layerField<&Record::ElByLayer>("ElByLayer", {3304, u"Vonalak réteg szerint"}).editable(),
         layerField<&Record::TxByLayer>("TxByLayer", {3303, u"Felirat/jk. réteg szerint"})
-            .with({3302, u"Felirat/jelkulcs réteg szerint"}).editable(),
+            .with({3302, u"Felirat/jelkulcs réteg szerint"})
+            .editable(),
     };
     static ZolWDoc::LayerRole &role(ZolWDoc::ZOLW_Doc &doc) { return doc.layers(); }
     static qint16 id(const Record &l) { return l.LayId; }
-    static RowStyles styles(const Record &l);           ///< colour cells by their pens, the row by its visibility
+    static Paper paper();                     ///< title, footer and the ten captions of a printed table
+    static RowStyles styles(const Record &l); ///< colour cells by their pens, the row by its visibility
 };
 
 } // namespace QV_DOC_CONTROLS

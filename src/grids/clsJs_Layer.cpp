@@ -17,10 +17,12 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     readGroups();
     groupGrid->setSource(&m_groupRows);
     groupGrid->setMultiSelection(!singleSelection);
-    groupGrid->setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-    groupGrid->setVisible(m_showGroups);
+    groupGrid->setTooltips(
+        readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+    groupGrid->setVisible(bShowGroups());
     groupGrid->setCurrentRow(0);
-    connect(groupGrid, &Grid::currentRowMoved, this, [this](int row) { relay().guard([&] { chooseGroup(row); }); });
+    connect(groupGrid, &Grid::currentRowMoved, this,
+            [this](int row) { relay().guard([&] { chooseGroup(row); }); });
 }
 
 void clsJs_Layer::TearDown()
@@ -33,6 +35,7 @@ void clsJs_Layer::TearDown()
     m_groupRows.setGroups({});
     m_members.clear(), m_inGroup.clear();
     m_group = GroupRows::kAll;
+    m_current = m_previous = -1;
     TableManager::TearDown();
 }
 
@@ -66,7 +69,7 @@ bool clsJs_Layer::fits(const tLay &lay) const
 
 void clsJs_Layer::setbShowGroups(bool on)
 {
-    m_showGroups = on;
+    GridManager::setbShowGroups(on);
     if (m_groupGrid) m_groupGrid->setVisible(on);
 }
 
@@ -78,6 +81,7 @@ void clsJs_Layer::setbShowVisibleItems(bool on)
 
 void clsJs_Layer::setCurrentLayer(qint16 layId)
 {
+    if (!document()) return;
     if (layId != m_current) m_previous = std::exchange(m_current, layId);
     if (m_automatic) selectById(layId);
 }

@@ -8,8 +8,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and the
-/// previously current layer of its form.
+/// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and
+/// the previously current layer of its form.
 class clsJs_Layer final : public TableManager<LayerTable> { // published spelling
     Q_OBJECT
 public:
@@ -22,15 +22,17 @@ public:
     void ml_RuntimeSupport_LanguageChanged() override;  // published spelling
 
     bool AutomaticItemSelection() const { return m_automatic; }
-    void setAutomaticItemSelection(bool on) { m_automatic = on; } ///< a layer made current becomes the grid's current row
-    bool bShowGroups() const { return m_showGroups; }
-    void setbShowGroups(bool on);                       ///< whether the group grid is shown
+    void setAutomaticItemSelection(bool on)
+    {
+        m_automatic = on;
+    } ///< a layer made current becomes the grid's current row
+    void setbShowGroups(bool on) override;
     bool bShowVisibleItems() const { return m_onlyVisible; }
     void setbShowVisibleItems(bool on);                 ///< lists visible layers only
 
     qint16 currentLayer() const { return m_current; }   ///< identifier, -1 = none yet
     void setCurrentLayer(qint16 layId);                 ///< the layer current before becomes the previous one
-    qint16 previousLayer();                             ///< the current one when the previous one is gone, which it then becomes
+    qint16 previousLayer(); ///< the current one when the previous one is gone, which it then becomes
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
 
@@ -38,7 +40,12 @@ signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
 
+    void GroupChanged(bool &bIsGrouped);
+    void GridView(qint16 &js_View);
+
 private:
+    void raiseView(qint16 view) override { emit GridView(view); }
+    void raiseGrouped(bool grouped) override { emit GroupChanged(grouped); }
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
     void raiseSelection(int count) override;
     bool fits(const ZolWDoc::tLay &lay) const override;
@@ -51,7 +58,7 @@ private:
     QSet<qint16> m_inGroup;                             ///< layers of the chosen group
     qint16 m_group = GroupRows::kAll;
     qint16 m_current = -1, m_previous = -1;
-    bool m_automatic = true, m_showGroups = true, m_onlyVisible = false;
+    bool m_automatic = true, m_onlyVisible = false;
 };
 
 } // namespace QV_DOC_CONTROLS

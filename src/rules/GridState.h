@@ -6,7 +6,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// How the user left a grid, keyed by column key, so that it outlives a change of language and of the column set.
+/// How the user left a grid, keyed by column key, so that it outlives a change of language and of the column
+/// set.
 struct GridState {
     struct Column {
         QString key;

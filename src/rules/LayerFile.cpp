@@ -49,7 +49,8 @@ public:
     }
     template <class Rec> void table(const std::vector<Rec> &rows)
     {
-        if (rows.size() > size_t(std::numeric_limits<qint32>::max())) throw Refusal{Refusal::Why::TooMany, {}};
+        if (rows.size() > size_t(std::numeric_limits<qint32>::max()))
+            throw Refusal{Refusal::Why::TooMany, {}};
         number(qint32(rows.size()));
         for (const Rec &r : rows) record(r);
     }
@@ -92,7 +93,8 @@ public:
     {
         qint32 count = 0;
         number(count);
-        if (count < 0 || qint64(count) * leastBytes(Rec{}) > m_left.size()) throw Refusal{Refusal::Why::WrongCount, {}};
+        if (count < 0 || qint64(count) * leastBytes(Rec{}) > m_left.size())
+            throw Refusal{Refusal::Why::WrongCount, {}};
         rows.reserve(size_t(count));
         for (qint32 i = 0; i < count; ++i) record(rows.emplace_back());
     }

@@ -11,9 +11,9 @@ namespace QV_DOC_CONTROLS {
 
 /// What a layer save file (".z3l") holds: version, layers, groups, memberships, in this order.
 ///
-/// Little-endian. Counts and the version are 32-bit integers, identifiers, numbers and colours 16-bit; true is -1 and
-/// any other value than 0 reads as true; a string is its length in bytes (16 bits, unsigned) and its bytes in an 8-bit
-/// code page. A layer's fields stand in the order of tLay.
+/// Little-endian. Counts and the version are 32-bit integers, identifiers, numbers and colours 16-bit; true
+/// is -1 and any other value than 0 reads as true; a string is its length in bytes (16 bits, unsigned) and
+/// its bytes in an 8-bit code page. A layer's fields stand in the order of tLay.
 struct LayerFile {
     qint32 version = 0;                         ///< the host's layer-file version
     ZolWDoc::tLayArr layers;

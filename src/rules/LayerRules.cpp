@@ -22,7 +22,8 @@ std::variant<tLay, QString> copyOf(const tLay &lay, int growth, const TakenLayer
 {
     const int nr = lay.gNr + growth;
     if (nr > kHighestCopyNumber || nr < 1)
-        return join(Text{3420, u"A(z) "}, lay.gNr, Text{3295, u" sorszámú rétegről nem lehet másolatot csinálni "}, nr,
+        return join(Text{3420, u"A(z) "}, lay.gNr,
+                    Text{3295, u" sorszámú rétegről nem lehet másolatot csinálni "}, nr,
                     Text{3294, u" sorszámmal!"});
     if (taken.hasNumber(nr))
         return join(Text{3420, u"A(z) "}, nr, Text{3293, u" sorszámú réteg már van !"});
@@ -45,7 +46,8 @@ std::optional<tLay> newLayer(std::span<const tLay> all, const tLay &model)
     return lay;
 }
 
-std::optional<tLayArr> renumbered(std::span<const tLay> selected, int start, int growth, std::span<const tLay> all)
+std::optional<tLayArr> renumbered(std::span<const tLay> selected, int start, int growth,
+                                  std::span<const tLay> all)
 {
     QSet<qint16> moving;
     for (const tLay &l : selected) moving.insert(l.LayId);
@@ -90,7 +92,9 @@ bool canDeleteGroup(qint16 group, std::span<const tLayMember> members)
 tLayArr withVisibilityOf(std::span<const tLay> saved, tLayArr all, LayerMatch match)
 {
     QHash<QString, bool> visible;
-    const auto key = [match](const tLay &l) { return match == LayerMatch::ByName ? l.Name : QString::number(l.gNr); };
+    const auto key = [match](const tLay &l) {
+        return match == LayerMatch::ByName ? l.Name : QString::number(l.gNr);
+    };
     for (const tLay &l : saved) visible.insert(key(l), l.Visible);
     for (tLay &l : all) l.Visible = visible.value(key(l), l.Visible);
     return all;

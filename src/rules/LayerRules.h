@@ -29,27 +29,29 @@ private:
 /// The copy of a layer with its number raised and a name of its own, or the text that says why there is none.
 std::variant<ZolWDoc::tLay, QString> copyOf(const ZolWDoc::tLay &lay, int growth, const TakenLayers &taken);
 
-/// The layer that the "new layer" command adds: number after the highest, a free name, all else as in `model`.
-/// Empty when the highest number has no successor.
+/// The layer that the "new layer" command adds: number after the highest, a free name, all else as in
+/// `model`. Empty when the highest number has no successor.
 std::optional<ZolWDoc::tLay> newLayer(std::span<const ZolWDoc::tLay> all, const ZolWDoc::tLay &model);
 
-/// The selected layers with the numbers start, start + growth, ... in their order. Empty when a number is below 1 or
-/// above 32767, occurs twice, or belongs to a layer that is not selected.
+/// The selected layers with the numbers start, start + growth, ... in their order. Empty when a number is
+/// below 1 or above 32767, occurs twice, or belongs to a layer that is not selected.
 std::optional<ZolWDoc::tLayArr> renumbered(std::span<const ZolWDoc::tLay> selected, int start, int growth,
                                            std::span<const ZolWDoc::tLay> all);
 
 /// A number in the wide sense: blanks around it, a sign, decimals after a point; no exponent.
 bool isNumeric(QStringView text);
 
-/// What follows the first "-" of a name, trimmed. The name as it is when there is no "-" or nothing before or behind
-/// it, or when the part before it is no number and `onlyNumbers` asks for one.
+/// What follows the first "-" of a name, trimmed. The name as it is when there is no "-" or nothing before or
+/// behind it, or when the part before it is no number and `onlyNumbers` asks for one.
 QString withoutPrefix(const QString &name, bool onlyNumbers);
 
 /// True when every layer of the group is in another group too, so that none is left without one.
 bool canDeleteGroup(qint16 group, std::span<const ZolWDoc::tLayMember> members);
 
 enum class LayerMatch { ByNumber, ByName };
-/// `all` with the visibility of the saved layers of the same number or name; saved layers without a match play no part.
-ZolWDoc::tLayArr withVisibilityOf(std::span<const ZolWDoc::tLay> saved, ZolWDoc::tLayArr all, LayerMatch match);
+/// `all` with the visibility of the saved layers of the same number or name; saved layers without a match
+/// play no part.
+ZolWDoc::tLayArr withVisibilityOf(std::span<const ZolWDoc::tLay> saved, ZolWDoc::tLayArr all,
+                                  LayerMatch match);
 
 } // namespace QV_DOC_CONTROLS

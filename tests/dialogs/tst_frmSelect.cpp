@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
 using namespace QV_DOC_CONTROLS;
@@ -90,7 +91,7 @@ private slots:
         tLay lay = layer(12);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             QCOMPARE(d.jsLayer->selectedLayers(), tLayArr{layer(12)});
-            QCOMPARE(d.jsLayer->currentLayer(), qint16(-1)); // none was made current yet
+            QCOMPARE(d.jsLayer->currentLayer(), layer(12).LayId);
             d.reject();
         });
         QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
@@ -123,8 +124,9 @@ private slots:
     void noThenCancelIsACancel()
     {
         m_dialogs.setWarnInvisibleCurrentLayer(true);
-        ScriptedPrompts user({{"yesNo", QStringLiteral("ZOLDocDlgs"),
-                               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), false, Icon::Question}});
+        ScriptedPrompts user(
+            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
+              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), false, Icon::Question}});
         tLay lay = layer(10);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             pick(12, "cmdOk")(d);
@@ -134,7 +136,8 @@ private slots:
         QCOMPARE(lay, layer(10));
     }
 
-    /// Each host call of the whole road fails once; the caller gets the host's own exception and nothing has changed.
+    /// Each host call of the whole road fails once; the caller gets the host's own exception and nothing has
+    /// changed.
     void everyErrorOfTheHostReachesTheCaller()
     {
         int failed = 0;
@@ -142,9 +145,12 @@ private slots:
             tests::FaultyDoc faulty(*m_doc);
             faulty.log.failAt = failed;
             tLay lay = layer(10);
-            Act choose = pick(21, "cmdOk");
-            std::unique_ptr<tests::WhileModal<frmSelect, Act>> watch;
-            if (failed >= 7) watch = std::make_unique<tests::WhileModal<frmSelect, Act>>(choose);
+            QTimer ok; // the dialog opens only once every call before it succeeds
+            connect(&ok, &QTimer::timeout, &ok, [&] {
+                auto *const d = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
+                if (d) ok.stop(), pick(21, "cmdOk")(*d);
+            });
+            ok.start(0);
             try {
                 confirmed = m_dialogs.bSelect_Lay(faulty, lay);
             } catch (const tests::HostError &e) {
@@ -157,20 +163,21 @@ private slots:
         }
         QVERIFY2(failed > 7, qPrintable(QString::number(failed)));
     }
-    /// A command of the dialog fails while a message box stands above it: both close, and nothing is asked again.
+    /// A command of the dialog fails while a message box stands above it: both close, and nothing is asked
+    /// again.
     void anErrorBehindAQuestionClosesEverything()
     {
         m_dialogs.setWarnInvisibleCurrentLayer(true);
         tests::FaultyDoc faulty(*m_doc);
         frmSelect *open = nullptr;
-        ScriptedPrompts user({{"yesNo", QStringLiteral("ZOLDocDlgs"),
-                               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question,
-                               [&] {
-                                   faulty.log.failNext = QStringLiteral("layers.update");
-                                   open->jsLayer->setAllowEdit(true);
-                                   QTreeView &table = *child<Grid>(*open, "gridItems").table();
-                                   table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
-                               }}});
+        ScriptedPrompts user(
+            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
+              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question, [&] {
+                  faulty.log.failNext = QStringLiteral("layers.update");
+                  open->jsLayer->setAllowEdit(true);
+                  QTreeView &table = *child<Grid>(*open, "gridItems").table();
+                  table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
+              }}});
         tLay lay = layer(10);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             open = &d;

@@ -45,12 +45,19 @@ private slots:
         QTest::addColumn<QString>("after");
         const QString same = QStringLiteral("1 A, 2 B, 3 C");
         QTest::newRow("free name") << QByteArray("Name") << QVariant("Út") << "" << "" << "1 Út, 2 B, 3 C";
-        QTest::newRow("taken name") << QByteArray("Name") << QVariant("B") << "Rétegnév" << "Létező rétegnév !" << same;
+        QTest::newRow("taken name") << QByteArray("Name") << QVariant("B") << "Rétegnév"
+                                    << "Létező rétegnév !" << same;
         QTest::newRow("own name again") << QByteArray("Name") << QVariant("A") << "" << "" << same;
-        QTest::newRow("free number") << QByteArray("gNr") << QVariant("32767") << "" << "" << "32767 A, 2 B, 3 C";
-        QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám" << "Létező rétegsorszám !" << same;
+        QTest::newRow("free number") << QByteArray("gNr") << QVariant("32767") << ""
+                                     << ""
+                                     << "32767 A, 2 B, 3 C";
+        QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám"
+                                      << "Létező rétegsorszám !" << same;
         QTest::newRow("no number") << QByteArray("gNr") << QVariant("tíz") << "" << "" << same;
         QTest::newRow("no whole number") << QByteArray("gNr") << QVariant("2.5") << "" << "" << same;
+        QTest::newRow("no layer number") << QByteArray("gNr") << QVariant("0") << "" << "" << same;
+        QTest::newRow("empty name") << QByteArray("Name") << QVariant("  ") << "" << "" << same;
+        QTest::newRow("no such pen") << QByteArray("ScrColor") << QVariant("256") << "" << "" << same;
         QTest::newRow("beyond 16 bits") << QByteArray("gNr") << QVariant("32768") << "" << "" << same;
     }
     void editsAreCheckedThenWritten()
@@ -124,10 +131,12 @@ private slots:
         clsJs_Layer js;
         js.init(*m_doc, grid, nullptr, true);
         const GridStyles &styles = grid.formatStyles();
-        QCOMPARE(styles.find(QStringLiteral("7ColorId")).background.rgb() & 0xFFFFFF, m_doc->penColors().palette()[1]);
+        QCOMPARE(styles.find(QStringLiteral("7ColorId")).background.rgb() & 0xFFFFFF,
+                 m_doc->penColors().palette()[1]);
         QCOMPARE(styles.find(QStringLiteral("0ColorId")).background, QColor(0, 0, 0));
         QCOMPARE(styles.find(QStringLiteral("0ColorId")).text, QColor(255, 255, 255));
-        QVERIFY(styles.contains(QStringLiteral("255ColorId")) && !styles.contains(QStringLiteral("256ColorId")));
+        QVERIFY(styles.contains(QStringLiteral("255ColorId")) &&
+                !styles.contains(QStringLiteral("256ColorId")));
         QCOMPARE(LayerTable::styles(layer(1)).row, QStringLiteral("OddRow"));
         QCOMPARE(LayerTable::styles(layer(2)).row, QStringLiteral("Grayed"));
         QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));
@@ -151,6 +160,21 @@ private slots:
         QCOMPARE(shown(), QStringLiteral("A B C"));
         js.setbShowVisibleItems(true);
         QCOMPARE(shown(), QStringLiteral("A C"));
+    }
+
+    void aLayerThatItsGroupLeavesOutIsNotReplaced()
+    {
+        Grid grid, groups;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, &groups, true);
+        js.selectById(layer(3).LayId);
+        std::vector<int> counts;
+        connect(&js, &clsJs_Layer::SelectedChanched, this, [&](qint32 &count) { counts.push_back(count); });
+        groups.setCurrentRow(2);                        // "Utak": even numbers
+        QVERIFY(js.selectedLayers().empty() && !js.currentRecord());
+        groups.setCurrentRow(0);
+        QCOMPARE(js.selectedLayers(), tLayArr{layer(3)});
+        QCOMPARE(counts, (std::vector<int>{0, 1}));
     }
 
     void aRefillKeepsCurrentRowAndSelectionWithTheirLayers()

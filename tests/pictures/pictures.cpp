@@ -34,12 +34,20 @@ QPalette darkPalette()
 std::unique_ptr<refhost::SqliteDoc> sample()
 {
     auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
-    const char *const names[] = {"Földrészlet határ", "Lakóépület", "Melléképület", "Kerítés", "Út burkolatszél",
-                                 "Vezeték – gáz", "Vezeték – víz", "Szintvonal", "Patak", "Alappont"};
+    const char *const names[] = {"Földrészlet határ", "Lakóépület",      "Melléképület",
+                                 "Kerítés",           "Út burkolatszél", "Vezeték – gáz",
+                                 "Vezeték – víz",     "Szintvonal",      "Patak",
+                                 "Alappont"};
     for (qint16 i = 0; i < 40; ++i)
-        doc->layers().add({.gNr = qint16(101 + i), .Name = QString::fromUtf8(names[i % 10]) + QStringLiteral(" %1").arg(i / 10),
-                           .Visible = i % 4 != 3, .PenStyleId = 1, .ScrColor = qint16(i * 6), .PrnColor = qint16(i),
-                           .PenColorId = qint16(i * 6), .TxdId = 1, .ElByLayer = i % 2 == 0});
+        doc->layers().add({.gNr = qint16(101 + i),
+                           .Name = QString::fromUtf8(names[i % 10]) + QStringLiteral(" %1").arg(i / 10),
+                           .Visible = i % 4 != 3,
+                           .PenStyleId = 1,
+                           .ScrColor = qint16(i * 6),
+                           .PrnColor = qint16(i),
+                           .PenColorId = qint16(i * 6),
+                           .TxdId = 1,
+                           .ElByLayer = i % 2 == 0});
     return doc;
 }
 
@@ -55,13 +63,16 @@ int main(int argc, char **argv)
     const QPalette light = app.palette();
     clsDocDlgs dialogs;
     const auto doc = sample();
-    for (const auto &[language, suffix] : {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}}) {
+    for (const auto &[language, suffix] :
+         {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}}) {
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? darkPalette() : light);
             QTimer::singleShot(0, &app, [&] {
                 auto *const dialog = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
-                const QString path = folder + QStringLiteral("/select-%1-%2.png").arg(QLatin1String(suffix), dark ? "dark" : "light");
+                const QString path =
+                    folder +
+                    QStringLiteral("/select-%1-%2.png").arg(QLatin1String(suffix), dark ? "dark" : "light");
                 dialog->grab().save(path);
                 std::printf("%s\n", qPrintable(path));
                 dialog->reject();

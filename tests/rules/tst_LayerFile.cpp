@@ -12,17 +12,43 @@ namespace {
 LayerFile sample()
 {
     return {7,
-            {{.LayId = 1, .gNr = 258, .Name = QStringLiteral("Út"), .Visible = true, .PenStyleId = 2, .ScrColor = 3,
-              .PrnColor = 4, .PenColorId = 5, .TxdId = 6, .ElByLayer = true, .TxByLayer = false}},
+            {{.LayId = 1,
+              .gNr = 258,
+              .Name = QStringLiteral("Út"),
+              .Visible = true,
+              .PenStyleId = 2,
+              .ScrColor = 3,
+              .PrnColor = 4,
+              .PenColorId = 5,
+              .TxdId = 6,
+              .ElByLayer = true,
+              .TxByLayer = false}},
             {{9, QStringLiteral("Ő")}},
             {{9, 1}}};
 }
 QByteArray sampleBytes() // windows-1250
 {
-    return QByteArray::fromHex("07000000" "01000000"
-                               "0100" "0201" "0200" "da74" "ffff" "0200" "0300" "0400" "0500" "0600" "ffff" "0000"
-                               "01000000" "0900" "0100" "d5"
-                               "01000000" "0900" "0100");
+    return QByteArray::fromHex("07000000"
+                               "01000000"
+                               "0100"
+                               "0201"
+                               "0200"
+                               "da74"
+                               "ffff"
+                               "0200"
+                               "0300"
+                               "0400"
+                               "0500"
+                               "0600"
+                               "ffff"
+                               "0000"
+                               "01000000"
+                               "0900"
+                               "0100"
+                               "d5"
+                               "01000000"
+                               "0900"
+                               "0100");
 }
 const QString kPage = QStringLiteral("windows-1250");
 
@@ -78,7 +104,8 @@ private slots:
         QTest::addColumn<int>("why");
         QTest::newRow("vietnamese in 1250") << QStringLiteral("Đường ế") << kPage << int(Why::LetterLacking);
         QTest::newRow("too long") << QString(65536, u'a') << kPage << int(Why::NameTooLong);
-        QTest::newRow("no such page") << QStringLiteral("a") << QStringLiteral("windows-9") << int(Why::UnknownCodePage);
+        QTest::newRow("no such page")
+            << QStringLiteral("a") << QStringLiteral("windows-9") << int(Why::UnknownCodePage);
     }
     void whatTheCodePageLacksStopsTheSave()
     {

@@ -35,7 +35,8 @@ private slots:
     {
         QTest::addColumn<int>("growth");
         QTest::addColumn<QString>("outcome");
-        const QString refused = QStringLiteral("A(z) 10 sorszámú rétegről nem lehet másolatot csinálni %1 sorszámmal!");
+        const QString refused =
+            QStringLiteral("A(z) 10 sorszámú rétegről nem lehet másolatot csinálni %1 sorszámmal!");
         QTest::newRow("free") << 5 << QStringLiteral("15 Út_15");
         QTest::newRow("name taken too") << 20 << QStringLiteral("30 Út_30_2");
         QTest::newRow("number taken") << 10 << QStringLiteral("A(z) 20 sorszámú réteg már van !");

@@ -79,7 +79,8 @@ private slots:
     void blanksInsideMessagesStay()
     {
         setLanguage(English, {});
-        QCOMPARE(join(Text{3029, u"Nincs "}, QStringLiteral("7"), Text{3028, u" érték!"}), QStringLiteral("None7 value!"));
+        QCOMPARE(join(Text{3029, u"Nincs "}, QStringLiteral("7"), Text{3028, u" érték!"}),
+                 QStringLiteral("None7 value!"));
         setLanguage(Hungarian, {});
         QCOMPARE(join(Text{3029, u"Nincs "}, 7, Text{3028, u" érték!"}), QStringLiteral("Nincs 7 érték!"));
     }
@@ -93,7 +94,8 @@ private slots:
         hub.takeOver();
         QCOMPARE(currentLanguage(), int(Romanian));
         int seen = 0;
-        const auto told = connect(&hub, &LanguageHub::LanguageChanged, this, [&] { seen = currentLanguage(); });
+        const auto told =
+            connect(&hub, &LanguageHub::LanguageChanged, this, [&] { seen = currentLanguage(); });
         host.runtime.language = Vietnamese;
         emit host.runtime.LanguageChanged();
         disconnect(told);

@@ -36,8 +36,9 @@ private slots:
     {
         clsDebug().setbCallLog(true);
         { Trace t("clsDocDlgs", "bEdit_Layers"); t.step(1); t.step(2); }
-        QCOMPARE(written(), QByteArray("\"clsDocDlgs.bEdit_Layers >>\"\r\n\"clsDocDlgs.bEdit_Layers 1\"\r\n"
-                                       "\"clsDocDlgs.bEdit_Layers 2\"\r\n\"clsDocDlgs.bEdit_Layers <<\"\r\n"));
+        QCOMPARE(written(),
+                 QByteArray("\"clsDocDlgs.bEdit_Layers >>\"\r\n\"clsDocDlgs.bEdit_Layers 1\"\r\n"
+                            "\"clsDocDlgs.bEdit_Layers 2\"\r\n\"clsDocDlgs.bEdit_Layers <<\"\r\n"));
     }
     void innerQuotesAreDoubled()
     {

@@ -28,7 +28,8 @@ struct CallLog {
     }
     QStringList writes() const      ///< calls that change the document
     {
-        return calls.filter(QRegularExpression(QStringLiteral("add|update|remove|write|make|rename|renumber|discard")));
+        return calls.filter(
+            QRegularExpression(QStringLiteral("add|update|remove|write|make|rename|renumber|discard")));
     }
 };
 
@@ -45,18 +46,39 @@ struct FaultyLayers final : ZolWDoc::LayerRole {
     qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
     void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
     int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
-    std::optional<Rec> findByNumber(qint16 n) const override { return log.on("layers.findByNumber"), real.findByNumber(n); }
-    bool remove(qint16 id, bool orphans) override { return log.on("layers.remove"), real.remove(id, orphans); }
+    std::optional<Rec> findByNumber(qint16 n) const override
+    {
+        return log.on("layers.findByNumber"), real.findByNumber(n);
+    }
+    bool remove(qint16 id, bool orphans) override
+    {
+        return log.on("layers.remove"), real.remove(id, orphans);
+    }
     void makeCurrent(const Rec &r) override { log.on("layers.makeCurrent"), real.makeCurrent(r); }
     qint16 currentId() const override { return log.on("layers.currentId"), real.currentId(); }
     std::vector<ZolWDoc::tGroup> groups() const override { return log.on("layers.groups"), real.groups(); }
-    void writeGroups(std::span<const ZolWDoc::tGroup> g) override { log.on("layers.writeGroups"), real.writeGroups(g); }
-    std::vector<ZolWDoc::tLayMember> members() const override { return log.on("layers.members"), real.members(); }
-    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override { log.on("layers.writeMembers"), real.writeMembers(m); }
+    void writeGroups(std::span<const ZolWDoc::tGroup> g) override
+    {
+        log.on("layers.writeGroups"), real.writeGroups(g);
+    }
+    std::vector<ZolWDoc::tLayMember> members() const override
+    {
+        return log.on("layers.members"), real.members();
+    }
+    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override
+    {
+        log.on("layers.writeMembers"), real.writeMembers(m);
+    }
     void writeAll(std::span<const Rec> all) override { log.on("layers.writeAll"), real.writeAll(all); }
     qint32 fileVersion() const override { return log.on("layers.fileVersion"), real.fileVersion(); }
-    void renameFromFile(const QString &p) override { log.on("layers.renameFromFile"), real.renameFromFile(p); }
-    void renumberFromFile(const QString &p) override { log.on("layers.renumberFromFile"), real.renumberFromFile(p); }
+    void renameFromFile(const QString &p) override
+    {
+        log.on("layers.renameFromFile"), real.renameFromFile(p);
+    }
+    void renumberFromFile(const QString &p) override
+    {
+        log.on("layers.renumberFromFile"), real.renumberFromFile(p);
+    }
 };
 
 /// A table with the common role only, through the log.
@@ -81,7 +103,9 @@ struct FaultyTextTypes final : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd>
     void renumber(qint16 from, qint16 to) override { on("renumber"), real.renumber(from, to); }
     qint16 takeOver(const ZolWDoc::tTxd &t) override { return on("takeOver"), real.takeOver(t); }
 };
-struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> { using FaultyTable::FaultyTable; };
+struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> {
+    using FaultyTable::FaultyTable;
+};
 struct FaultyPens final : ZolWDoc::PenColorRole {
     FaultyPens(ZolWDoc::PenColorRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::PenColorRole &real;

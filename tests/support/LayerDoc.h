@@ -6,8 +6,8 @@
 
 namespace tests {
 
-/// A document in memory that holds these layers and no others, in two groups: the system group with all of them and
-/// "Utak" with the even numbers.
+/// A document in memory that holds these layers and no others, in two groups: the system group with all of
+/// them and "Utak" with the even numbers.
 inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDoc::tLay> layers)
 {
     auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));

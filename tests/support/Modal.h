@@ -7,7 +7,8 @@
 
 namespace tests {
 
-/// Runs `act` once a dialog of type Dialog is open; fails the test when it never was, or when `act` leaves it open.
+/// Runs `act` once a dialog of type Dialog is open; fails the test when it never was, or when `act` leaves it
+/// open.
 template <class Dialog, class Act> class WhileModal {
 public:
     explicit WhileModal(Act act) : m_act(std::move(act))

@@ -14,9 +14,11 @@ using Maker = std::function<std::unique_ptr<QObject>()>;
 std::vector<std::pair<const char *, Maker>> &registry();
 bool enter(const char *name, Maker make);
 
-/// Warnings that a test expects; any other ends it as failed. The text is matched as a part, once for each call.
+/// Warnings that a test expects; any other ends it as failed. The text is matched as a part, once for each
+/// call.
 void expectWarning(const QString &part);
 
 } // namespace tests
 
-#define QVDC_TEST(Class) static const bool entered_##Class = tests::enter(#Class, [] { return std::make_unique<Class>(); });
+#define QVDC_TEST(Class)                                                                                     \
+    static const bool entered_##Class = tests::enter(#Class, [] { return std::make_unique<Class>(); });

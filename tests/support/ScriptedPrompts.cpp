@@ -8,13 +8,16 @@ namespace tests {
 
 using namespace QV_DOC_CONTROLS;
 
-ScriptedPrompts::ScriptedPrompts(std::vector<Step> steps) : m_steps(std::move(steps)), m_before(setPrompts(this)) {}
+ScriptedPrompts::ScriptedPrompts(std::vector<Step> steps)
+    : m_steps(std::move(steps)), m_before(setPrompts(this))
+{}
 
 ScriptedPrompts::~ScriptedPrompts()
 {
     setPrompts(m_before);
     for (size_t i = size_t(m_next); i < m_steps.size(); ++i)
-        QTest::qFail(qPrintable(QStringLiteral("never asked: ") + m_steps[i].title + QStringLiteral(" / ") + m_steps[i].text),
+        QTest::qFail(qPrintable(QStringLiteral("never asked: ") + m_steps[i].title + QStringLiteral(" / ") +
+                                m_steps[i].text),
                      __FILE__, __LINE__);
 }
 
@@ -22,9 +25,12 @@ QVariant ScriptedPrompts::next(const char *kind, const QString &title, const QSt
 {
     const bool left = size_t(m_next) < m_steps.size();
     const Step step = left ? m_steps[size_t(m_next)] : Step{};
-    if (!left || std::strcmp(step.kind, kind) != 0 || step.title != title || step.text != text || step.icon != icon) {
+    if (!left || std::strcmp(step.kind, kind) != 0 || step.title != title || step.text != text ||
+        step.icon != icon) {
         const QString seen = QStringLiteral("unexpected %1 (icon %2): '%3' / '%4', expected '%5' / '%6'")
-                                 .arg(QLatin1String(kind)).arg(int(icon)).arg(title, text, step.title, step.text);
+                                 .arg(QLatin1String(kind))
+                                 .arg(int(icon))
+                                 .arg(title, text, step.title, step.text);
         QTest::qFail(qPrintable(seen), __FILE__, __LINE__);
         return {};
     }
@@ -34,12 +40,21 @@ QVariant ScriptedPrompts::next(const char *kind, const QString &title, const QSt
 }
 
 void ScriptedPrompts::tell(const Message &m, QObject *) { next("tell", m.title, m.text, m.icon); }
-bool ScriptedPrompts::yesNo(const Message &m, QObject *) { return next("yesNo", m.title, m.text, m.icon).toBool(); }
+bool ScriptedPrompts::yesNo(const Message &m, QObject *)
+{
+    return next("yesNo", m.title, m.text, m.icon).toBool();
+}
 
 std::optional<int> ScriptedPrompts::choose(const Choice &c, QObject *)
 {
     const QVariant answer = next("choose", c.title, c.text, Icon::None);
     return answer.isValid() ? std::optional(answer.toInt()) : std::nullopt;
+}
+
+std::optional<QString> ScriptedPrompts::text(const TextQuestion &q, QObject *)
+{
+    const QVariant answer = next("text", q.title, q.text + u'|' + q.preset, Icon::None);
+    return answer.isValid() ? std::optional(answer.toString()) : std::nullopt;
 }
 
 QString ScriptedPrompts::openFile(const FileQuestion &q, QObject *)

@@ -9,12 +9,12 @@
 
 namespace tests {
 
-/// What a test expects the user to be asked, in order, and what the user answers. An unexpected box fails the test
-/// and is answered as if it was closed; a box that never came fails it at the end.
+/// What a test expects the user to be asked, in order, and what the user answers. An unexpected box fails the
+/// test and is answered as if it was closed; a box that never came fails it at the end.
 class ScriptedPrompts final : public QV_DOC_CONTROLS::Prompts {
 public:
     struct Step {
-        const char *kind;                       ///< "tell", "yesNo", "choose", "openFile", "saveFile"
+        const char *kind;                       ///< "tell", "yesNo", "choose", "text", "openFile", "saveFile"
         QString title, text;                    ///< to the letter; of a file question the text is the filter
         QVariant answer{};
         QV_DOC_CONTROLS::Icon icon = QV_DOC_CONTROLS::Icon::None;
@@ -27,6 +27,8 @@ public:
     void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
     bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     std::optional<int> choose(const QV_DOC_CONTROLS::Choice &, QObject *) override;
+    std::optional<QString> text(const QV_DOC_CONTROLS::TextQuestion &,
+                                QObject *) override; ///< expects text + '|' + preset
     QString openFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override;
     QString saveFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override;
 

@@ -106,7 +106,8 @@ int main(int argc, char **argv)
     if (only) arguments.removeAt(1);
 
     const QString log = home.filePath(QStringLiteral("log.txt"));
-    arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o") << log + QStringLiteral(",txt");
+    arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
+              << log + QStringLiteral(",txt");
 
     int failed = 0, run = 0;
     for (const auto &[name, make] : tests::registry()) {

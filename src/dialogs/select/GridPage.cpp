@@ -1,9 +1,20 @@
 #include "dialogs/select/GridPage.h"
 
+#include "dialogs/viewtools/ViewTools.h"
+#include "dialogs/viewtools/frmPreview.h"
+#include "grids/frame/FindInColumn.h"
 #include "kit/forms/Twips.h"
+#include "kit/paper/copySheet.h"
 
-#include <QHBoxLayout>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QMimeData>
 #include <QResizeEvent>
+#include <QShortcut>
+#include <QToolBar>
+#include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -11,24 +22,57 @@ namespace {
 constexpr int kPaneTwips = 2400;        ///< first width of the group list
 constexpr int kEdgeTwips = 500;         ///< the splitter stays this far from both edges
 
+constexpr std::pair<GridView, const char *> kViewTool[] = {{GridView::Table, "miView_Table"},
+                                                           {GridView::Card, "miView_Card"},
+                                                           {GridView::CardMin, "miView_CardMin"}};
+
+/// A grid on paper: what it shows, under the captions that its table has for paper.
+class PaperSheet final : public SheetSource {
+public:
+    PaperSheet(const Grid &grid, const GridManager &manager)
+        : m_grid(grid), m_manager(manager), m_sheet(grid.sheet())
+    {}
+    std::vector<Column> sheetColumns() const override
+    {
+        std::vector<Column> columns = m_sheet->sheetColumns();
+        const QStringList captions = m_manager.paper().captions; // asked again: the language may have changed
+        const std::vector<int> shown = m_grid.shownColumns();
+        for (size_t i = 0; !captions.isEmpty() && i < columns.size(); ++i)
+            columns[i].caption = captions[shown[i]];
+        return columns;
+    }
+    int sheetRows() const override { return m_sheet->sheetRows(); }
+    Row sheetRow(int row) const override { return m_sheet->sheetRow(row); }
+
+private:
+    const Grid &m_grid;
+    const GridManager &m_manager;
+    std::unique_ptr<SheetSource> m_sheet;
+};
+
 } // namespace
 
 GridPage::GridPage(ErrorRelay &relay, QWidget *parent)
     : QWidget(parent), imgSplitter(new QSplitter(Qt::Horizontal, this)), gridGroups(new Grid(imgSplitter)),
-      gridItems(new Grid(imgSplitter)), m_relay(relay)
+      gridItems(new Grid(imgSplitter)), ab1(new ToolSet(kViewTools, relay, this)), m_relay(relay),
+      m_view(*gridItems, this)
 {
     imgSplitter->setObjectName(QStringLiteral("imgSplitter"));
     gridGroups->setObjectName(QStringLiteral("gridGroups"));
+    gridGroups->setListOnly(true);
     gridItems->setObjectName(QStringLiteral("gridItems"));
+    ab1->setObjectName(QStringLiteral("ab1"));
     imgSplitter->setOpaqueResize(false);        // laid out when the drag ends
     imgSplitter->setChildrenCollapsible(false);
     imgSplitter->setStretchFactor(0, 0);        // the pane keeps its width, the grid fills the rest
     imgSplitter->setStretchFactor(1, 1);
     for (Grid *g : {gridGroups, gridItems}) g->setMinimumWidth(pixelsOf(kEdgeTwips, *this));
-    auto *const row = new QHBoxLayout(this);
-    row->setContentsMargins({});
-    row->addWidget(imgSplitter);
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(ab1->toolBar("mnuBar"));
+    column->addWidget(imgSplitter, 1);
     setFocusProxy(gridItems);
+    connectTools();
     retranslate();
 }
 
@@ -41,15 +85,83 @@ void GridPage::TearDown()
     m_manager.reset();
 }
 
+void GridPage::connectTools()
+{
+    ab1->connectTools(m_view, kViewCommands);
+    for (const auto &[view, tool] : kViewTool) ab1->on(tool, [this, v = view] { gridItems->setView(v); });
+    ab1->on("miFind", [this] { find(); });
+    ab1->on("miPrintPreview", [this] { print(); });
+    ab1->on("miSelectAll", [this] { gridItems->selectAll(); });
+    ab1->on("miUnselectAll", [this] { gridItems->selectRows({}); });
+    const auto showsGroups = [this] { return m_manager && m_manager->bShowGroups(); };
+    const auto show = [this](bool on) { m_manager->setbShowGroups(on), ab1->refresh(); };
+    ab1->on("miShowGroups", [show] { show(true); }, [=, this] { return m_hasGroups && !showsGroups(); });
+    ab1->on("miHideGroups", [show] { show(false); }, [=, this] { return m_hasGroups && showsGroups(); });
+
+    connect(gridItems, &Grid::contextMenuAsked, this,
+            [this](int, int column, QPoint where) { popUpViewMenu(column, where); });
+    connect(gridItems, &Grid::groupingChanged, ab1, &ToolSet::refresh);
+    const auto *const copies = new QShortcut(QKeySequence::Copy, gridItems, nullptr, nullptr,
+                                             Qt::WidgetWithChildrenShortcut);
+    connect(copies, &QShortcut::activated, this, &GridPage::copy);
+    showView(qint16(gridItems->view()));
+}
+
+void GridPage::popUpViewMenu(int column, QPoint where)
+{
+    m_column = column;
+    QMenu *const menu = ab1->popUp("bndPopUp_View");
+    menu->popup(where);
+    connect(
+        menu, &QMenu::aboutToHide, this,
+        [this] {
+            QMetaObject::invokeMethod(
+                this, [this] { m_column = -1; }, Qt::QueuedConnection);
+        },
+        Qt::SingleShotConnection);
+}
+
+/// In the column under the mouse, or in the current cell's.
+void GridPage::find()
+{
+    const QModelIndex current = gridItems->activeView()->currentIndex();
+    const std::vector<int> shown = gridItems->shownColumns();
+    const int column = m_column >= 0       ? m_column
+                       : current.isValid() ? current.column()
+                       : shown.empty()     ? -1
+                                           : shown[0];
+    if (column >= 0 && m_manager) findInColumn(*gridItems, m_manager->source(), column, m_relay);
+}
+
+void GridPage::print()
+{
+    if (!m_manager) return;
+    const PaperSheet sheet(*gridItems, *m_manager);
+    frmPreview().showPages(sheet, [this] { return m_manager->paper().titles; }, this);
+}
+
+void GridPage::copy()
+{
+    QApplication::clipboard()->setMimeData(copySheet(*gridItems->sheet()).release());
+}
+
+void GridPage::showView(qint16 view)
+{
+    for (const auto &[style, tool] : kViewTool)
+        if (qint16(style) == view) ab1->setChecked(tool, true);
+}
+
 void GridPage::retranslate()
 {
     gridGroups->setTitle(txt(Text{20155, u"Rétegcsoportok"}));
     gridItems->setTitle(txt(Text{3283, u"Rétegek"}));
+    ab1->retranslate();
 }
 
 void GridPage::arrange(const ResourceKind &kind)
 {
     setPaneWidth(0);
+    m_hasGroups = kind.groupPane;
     gridGroups->setVisible(kind.groupPane);
     if (kind.groupPane) setPaneWidth(kPaneTwips);
 }

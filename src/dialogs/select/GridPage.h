@@ -1,14 +1,17 @@
 #pragma once
 
 #include "dialogs/select/ResourceKinds.h"
+#include "dialogs/viewtools/ViewCommands.h"
 #include "grids/frame/GridManager.h"
 #include "kit/grid/Grid.h"
+#include "kit/tools/ToolSet.h"
 
 #include <QSplitter>
 
 namespace QV_DOC_CONTROLS {
 
-/// One table as the user works with it: its grid, the group list left of it, and the manager that runs both.
+/// One table as the user works with it: its tools, its grid, the group list left of it, and the manager that
+/// runs them.
 ///
 /// Belongs to a dialog and knows none; the page owns its manager. TearDown() may be repeated.
 class GridPage final : public QWidget {
@@ -26,14 +29,17 @@ public:
         manager->setRelay(m_relay);
         Manager &made = *manager;
         m_manager = std::move(manager);
+        ab1->refresh();
         return made;
     }
     void TearDown();                            ///< tears the manager down and drops it
     void retranslate();
+    void showView(qint16 view);                 ///< checks the view tool that matches
 
     QSplitter *const imgSplitter;               // published names
     Grid *const gridGroups;
     Grid *const gridItems;
+    ToolSet *const ab1;
 
 protected:
     void resizeEvent(QResizeEvent *) override;
@@ -41,8 +47,16 @@ protected:
 private:
     void arrange(const ResourceKind &kind);
     void setPaneWidth(int twips);
+    void connectTools();
+    void popUpViewMenu(int column, QPoint where);
+    void find();
+    void print();
+    void copy();
     ErrorRelay &m_relay;
+    ViewCommands m_view;
     std::unique_ptr<GridManager> m_manager;
+    bool m_hasGroups = false;
+    int m_column = -1; ///< under the mouse when the menu came; -1 = the current cell's
     int m_paneTwips = 0;                        ///< wanted until the splitter has a size of its own
 };
 

@@ -6,7 +6,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// One kind of resource: a mode of the selection dialog and, with the same number, a page of the setup dialog.
+/// One kind of resource: a mode of the selection dialog and, with the same number, a page of the setup
+/// dialog.
 struct ResourceKind {
     Text selectCaption;
     bool groupPane;                             ///< a group list stands left of the grid

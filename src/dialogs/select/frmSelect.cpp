@@ -45,7 +45,8 @@ void frmSelect::buildFrame(int mode, QWidget *owner)
     m_mode = mode;
     m_ok = false;
     setWindowTitle(txt(resourceKind(mode).selectCaption));
-    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow()) setParent(over, windowFlags());
+    if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow())
+        setParent(over, windowFlags());
     restoreSize(*this, QStringLiteral("frmSelect"));
 }
 
@@ -56,12 +57,15 @@ bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
     jsLayer = &m_page->open<clsJs_Layer>(m_mode);
     connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSelect::jsLayer_CurrentChanced);
     connect(jsLayer, &clsJs_Layer::SelectedChanched, this, &frmSelect::jsLayer_SelectedChanched);
+    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
+    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
     jsLayer->init(oDoc, *m_page->gridItems, m_page->gridGroups, true);
-    jsLayer->selectById(lay.LayId);
+    if (jsLayer->selectById(lay.LayId)) jsLayer->setCurrentLayer(lay.LayId);
     const bool ok = run();
     TearDown();
     if (!ok) return false;
-    oDoc.layers().makeCurrent(m_lay); // before the caller's record changes, which an error here leaves as it was
+    oDoc.layers().makeCurrent(
+        m_lay); // before the caller's record changes, which an error here leaves as it was
     lay = m_lay;
     return true;
 }
@@ -75,7 +79,11 @@ bool frmSelect::run()
 }
 
 void frmSelect::jsLayer_CurrentChanced(tLay &lay) { m_lay = lay; }
-void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {} // one layer is picked: nothing follows the count
+void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
+} // one layer is picked: nothing follows the count
+
+void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
+void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 
 void frmSelect::accept()
 {
@@ -95,8 +103,9 @@ void frmSelect::confirmLayer()
     if (chosen.empty()) return reject();
     const tLay &first = chosen.front();
     if (m_warnInvisible && !first.Visible) {
-        const QString question = join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
-                                      QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
+        const QString question =
+            join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
+                 QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
         const bool confirmed = prompts().yesNo({Icon::Question, appTitle(), question}, this);
         m_relay.checkpoint();
         m_ok = confirmed;

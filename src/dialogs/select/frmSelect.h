@@ -11,26 +11,30 @@ namespace QV_DOC_CONTROLS {
 
 class clsJs_Layer;
 
-/// The modal dialog in which the user picks one resource of a document. Made anew for every call; the caller's record
-/// is written only when the user confirmed. An error of the host closes the dialog and reaches the caller.
+/// The modal dialog in which the user picks one resource of a document. Made anew for every call; the
+/// caller's record is written only when the user confirmed. An error of the host closes the dialog and
+/// reaches the caller.
 class frmSelect final : public QDialog {
     Q_OBJECT
 public:
     frmSelect();
     ~frmSelect() override;
 
-    /// True when the user confirmed: `lay` then is the chosen layer and the document's current one. `lay` also says
-    /// which layer is current at first. `owner` null = the active window.
+    /// True when the user confirmed: `lay` then is the chosen layer and the document's current one. `lay`
+    /// also says which layer is current at first. `owner` null = the active window.
     bool bDoSelect_Lay(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tLay &lay, QWidget *owner);
 
     bool WarnInvisibleCurrentLayer() const { return m_warnInvisible; }
     void setWarnInvisibleCurrentLayer(bool on) { m_warnInvisible = on; }
     qint32 lDebugId() const { return m_identity; }
-    void TearDown();                                    ///< drops the manager and the document; may be repeated
+    void TearDown(); ///< drops the manager and the document; may be repeated
     void ml_RuntimeSupport_LanguageChanged();           // published spelling
 
     void jsLayer_CurrentChanced(ZolWDoc::tLay &lay);    // published spelling
     void jsLayer_SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay); // published spelling
+
+    void jsLayer_GroupChanged(bool &bIsGrouped);
+    void jsLayer_GridView(qint16 &js_View);
 
     clsJs_Layer *jsLayer = nullptr;                     ///< the page's, while the dialog selects layers
 

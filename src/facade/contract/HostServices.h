@@ -8,8 +8,8 @@
 
 #include <optional>
 
-/// What the library asks of the program around it, beside the document. Every service has a default in the library;
-/// a host replaces those it cares about. All belong to the host and outlive every library object.
+/// What the library asks of the program around it, beside the document. Every service has a default in the
+/// library; a host replaces those it cares about. All belong to the host and outlive every library object.
 namespace ZolWDoc {
 
 struct ZOLW_Doc;
@@ -20,7 +20,10 @@ class LanguageRuntime : public QObject {
 public:
     using QObject::QObject;
     virtual int currentLanguage() const = 0;            ///< locale identifier, e.g. 1038; 0 = not decided
-    virtual int componentLanguage(const QString &) const { return currentLanguage(); } ///< argument: the component
+    virtual int componentLanguage(const QString &) const
+    {
+        return currentLanguage();
+    } ///< argument: the component
 signals:
     void LanguageChanged();                             // published spelling
 };
@@ -97,7 +100,10 @@ struct HostServices {
     virtual EnvironmentService *environment() { return nullptr; }
     virtual ErrorReporter *errors() { return nullptr; }
     virtual ColorService *colors() { return nullptr; }
-    virtual VectorFontProvider *vectorFonts(const ZOLW_Doc *) { return nullptr; } ///< of that document; may be null
+    virtual VectorFontProvider *vectorFonts(const ZOLW_Doc *)
+    {
+        return nullptr;
+    } ///< of that document; may be null
 };
 
 } // namespace ZolWDoc

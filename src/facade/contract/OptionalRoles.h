@@ -58,13 +58,15 @@ struct CommandScopeRole {
     virtual void endCommand() = 0;                      ///< what was written is durable when it returns
 };
 
-/// An edit span of one table that can be taken back whole. The host keeps before-images; it is no database transaction:
-/// what happens to other tables meanwhile stays. A span that a crash left open is reported when the document is opened.
+/// An edit span of one table that can be taken back whole. The host keeps before-images; it is no database
+/// transaction: what happens to other tables meanwhile stays. A span that a crash left open is reported when
+/// the document is opened.
 struct ChangeScopeRole {
     virtual ~ChangeScopeRole() = default;
     virtual void beginChanges(TableKind) = 0;           ///< throws while a span of that table is open
     virtual void commitChanges(TableKind) = 0;          ///< keeps the changes; the span is closed
-    virtual void discardChanges(TableKind) = 0;         ///< records, groups and identifiers as they were; the span is closed
+    virtual void
+        discardChanges(TableKind) = 0; ///< records, groups and identifiers as they were; the span is closed
     virtual bool changesOpen(TableKind) const = 0;
 };
 

@@ -10,7 +10,8 @@
 /// The host's side: what the library and the drawing program exchange. Plain values, copied freely.
 namespace ZolWDoc {
 
-/// The tables of a document; the first six are also the modes of the selection dialog and the pages of the setup dialog.
+/// The tables of a document; the first six are also the modes of the selection dialog and the pages of the
+/// setup dialog.
 enum class TableKind { Layers, TextTypes, LineTypes, Symbols, PenColors, LineSymbolizations, Points };
 
 /// One layer. Member order is the field order of ".z3l" files.
@@ -43,7 +44,8 @@ struct tLayMember {
     bool operator==(const tLayMember &) const = default;
 };
 
-/// One point symbol: a glyph of a font with its size and insertion point. Member order is the published field order.
+/// One point symbol: a glyph of a font with its size and insertion point. Member order is the published field
+/// order.
 struct tSid {
     qint16 SidId = -1;       ///< number the user sees and identifier in one; unique
     QString GroupName;       ///< name of GroupId's group
@@ -128,7 +130,8 @@ struct tPenStyle {
     QString Name;                 ///< unique
     float Size = 0;               ///< thickness, millimetres
     bool PenDown = true;          ///< false: the line is not drawn
-    std::vector<double> Pattern;  ///< dash and gap lengths in turn, millimetres, dash first; empty = continuous
+    std::vector<double>
+        Pattern; ///< dash and gap lengths in turn, millimetres, dash first; empty = continuous
     std::vector<qint16> Slots;    ///< numbers of the attached line symbolizations; 0 = empty slot
     bool operator==(const tPenStyle &) const = default;
 };

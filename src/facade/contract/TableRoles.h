@@ -13,8 +13,9 @@ struct LayerRole : TableRole<tLay> {
     using TableRole<tLay>::removeAll;
 
     virtual std::optional<tLay> findByNumber(qint16 gNr) const = 0;
-    /// Removes a layer with its memberships. What stands on it and would be left without a layer is removed too with
-    /// `alsoOrphans`; otherwise it stays in the drawing, on no layer. False = there is no such layer.
+    /// Removes a layer with its memberships. What stands on it and would be left without a layer is removed
+    /// too with `alsoOrphans`; otherwise it stays in the drawing, on no layer. False = there is no such
+    /// layer.
     virtual bool remove(qint16 id, bool alsoOrphans) = 0;
     bool remove(qint16 id) override { return remove(id, false); }
     virtual void removeAll(std::span<const qint16> ids, bool alsoOrphans, int &done);
@@ -29,7 +30,8 @@ struct LayerRole : TableRole<tLay> {
     virtual void writeMembers(std::span<const tLayMember> all) = 0;
     virtual qint16 groupOf(qint16 layId) const;   ///< its first group, -1 = in none; reads the memberships
 
-    virtual void writeAll(std::span<const tLay> all) = 0;  ///< the whole table at once: the same identifiers, new values
+    virtual void
+    writeAll(std::span<const tLay> all) = 0; ///< the whole table at once: the same identifiers, new values
     virtual qint32 fileVersion() const = 0;                ///< head of layer files
     virtual void renameFromFile(const QString &path) = 0;    ///< the host reads the text file and applies it
     virtual void renumberFromFile(const QString &path) = 0;  ///< the host reads the text file and applies it
@@ -39,7 +41,8 @@ struct LayerRole : TableRole<tLay> {
 struct TextTypeRole : TableRole<tTxd> {
     virtual GroupRole &groups() = 0;
     virtual void renumber(qint16 from, qint16 to) = 0;  ///< references follow; throws when `to` is taken
-    virtual qint16 takeOver(const tTxd &) = 0;          ///< a record of a set file, without name and group; the host names and numbers it
+    virtual qint16 takeOver(
+        const tTxd &) = 0; ///< a record of a set file, without name and group; the host names and numbers it
 };
 
 /// Symbols; `remove` refuses while the symbol is used.

@@ -11,8 +11,9 @@ namespace ZolWDoc {
 
 /// The host's drawing document: every table behind one role each.
 ///
-/// Owned by the host. The library keeps the reference for one dialog only, until TearDown(). All calls come on the
-/// user-interface thread. Whatever a role throws reaches the caller of the library operation that was running.
+/// Owned by the host. The library keeps the reference for one dialog only, until TearDown(). All calls come
+/// on the user-interface thread. Whatever a role throws reaches the caller of the library operation that was
+/// running.
 struct ZOLW_Doc { // published spelling
     virtual ~ZOLW_Doc();
 
@@ -24,7 +25,7 @@ struct ZOLW_Doc { // published spelling
     virtual SymbolizationRole &lineSymbolizations() = 0;
     virtual PointRole &points() = 0;
     virtual KhRole &khItems() = 0;
-    virtual void redrawAll() = 0;                       ///< all views, after a change that alters the drawing's look
+    virtual void redrawAll() = 0; ///< all views, after a change that alters the drawing's look
 
     // Optional; null = the host lacks it.
     virtual LayerFileRole *layerFiles() { return nullptr; }

@@ -56,38 +56,41 @@ QString unescaped(QStringView text)
     return out;
 }
 
-/// Lines "identifier <tab> text"; backslash escapes n, t and itself. Lines of another form are passed over.
-void readTable(const QString &path, Table &into)
+/// The lines of a UTF-8 text file, whatever ends them.
+QStringList linesOf(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return;
-    const QString all = QString::fromUtf8(file.readAll());
-    for (QStringView line : QStringView(all).split(u'\n')) {
-        const qsizetype tab = line.indexOf(u'\t');
-        bool isNumber = false;
-        const int id = tab < 0 ? 0 : line.left(tab).toInt(&isNumber);
-        if (isNumber) into.insert(id, unescaped(line.mid(tab + 1)));
-    }
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(file.readAll()).remove(u'\r').split(u'\n');
+}
+
+/// "identifier <tab> text"; backslash escapes n, t and itself. Lines of another form are passed over.
+void readLine(QStringView line, Table &into)
+{
+    const qsizetype tab = line.indexOf(u'\t');
+    bool isNumber = false;
+    const int id = tab < 0 ? 0 : line.left(tab).toInt(&isNumber);
+    if (isNumber) into.insert(id, unescaped(line.mid(tab + 1)));
 }
 
 void readFolder(const QString &folder)
 {
     for (size_t i = 0; i < std::size(kLanguages); ++i)
-        readTable(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv"), state().tables[i]);
+        for (const QString &line :
+             linesOf(folder + u'/' + QLatin1String(kLanguages[i].file) + QLatin1String(".tsv")))
+            readLine(line, state().tables[i]);
 }
 
+/// Its lines begin with the locale that they belong to.
 void readDevelopmentFile()
 {
     if (qEnvironmentVariableIsEmpty("QV_DOC_CONTROLS_DEVELOPMENT") || !QCoreApplication::instance()) return;
-    QFile file(QCoreApplication::applicationDirPath() + QStringLiteral("/QV_DOC_CONTROLS.res"));
-    if (!file.open(QIODevice::ReadOnly)) return;
-    const QString all = QString::fromUtf8(file.readAll());
-    for (QStringView line : QStringView(all).split(u'\n')) {
-        const auto fields = line.split(u'\t');
-        if (fields.size() != 3) continue;
-        const auto row = std::ranges::find(kLanguages, fields[0].toInt(), &LanguageRow::localeId);
+    for (const QString &line :
+         linesOf(QCoreApplication::applicationDirPath() + QLatin1String("/QV_DOC_CONTROLS.res"))) {
+        const int locale = line.section(u'\t', 0, 0).toInt();
+        const auto row = std::ranges::find(kLanguages, locale, &LanguageRow::localeId);
         if (row != std::end(kLanguages))
-            state().tables[size_t(row - kLanguages)].insert(fields[1].toInt(), unescaped(fields[2]));
+            readLine(line.section(u'\t', 1), state().tables[size_t(row - kLanguages)]);
     }
 }
 

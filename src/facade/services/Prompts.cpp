@@ -12,7 +12,8 @@ Prompts &(*s_default)() = nullptr;
 
 Prompts &prompts()
 {
-    Q_ASSERT_X(s_set || s_default, "prompts", "no message boxes: link the widgets library or call setPrompts()");
+    Q_ASSERT_X(s_set || s_default, "prompts",
+               "no message boxes: link the widgets library or call setPrompts()");
     return s_set ? *s_set : s_default();
 }
 

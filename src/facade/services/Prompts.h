@@ -22,6 +22,11 @@ struct Choice {
     QStringList items;
     int preset = 0;                             ///< index of the item offered first
 };
+/// A line of text.
+struct TextQuestion {
+    QString title, text;
+    QString preset;                             ///< proposed answer
+};
 struct FileQuestion {
     QString title;
     QString filter;                             ///< "name|pattern|name|pattern"
@@ -29,15 +34,19 @@ struct FileQuestion {
     QString suffix;                             ///< added when the user types none, e.g. "z3l"
 };
 
-/// The only door to the user: every message, question and file choice. The product puts boxes behind it, tests a
-/// script. `asker` is the window (or a widget in it) that the box belongs to; null = the active window.
+/// The only door to the user: every message, question, prompt and file choice. The product puts boxes behind
+/// it, tests a script. `asker` is the window (or a widget in it) that the box belongs to; null = the active
+/// window.
 struct Prompts {
     virtual ~Prompts() = default;
     virtual void tell(const Message &, QObject *asker = nullptr) = 0;
     virtual bool yesNo(const Message &, QObject *asker = nullptr) = 0;             ///< closing the box is No
     virtual std::optional<int> choose(const Choice &, QObject *asker = nullptr) = 0; ///< empty = cancelled
+    virtual std::optional<QString> text(const TextQuestion &,
+                                        QObject *asker = nullptr) = 0;             ///< empty = cancelled
     virtual QString openFile(const FileQuestion &, QObject *asker = nullptr) = 0;  ///< empty = cancelled
-    virtual QString saveFile(const FileQuestion &, QObject *asker = nullptr) = 0;  ///< empty = cancelled; asks before replacing
+    virtual QString saveFile(const FileQuestion &,
+                             QObject *asker = nullptr) = 0; ///< empty = cancelled; asks before replacing
 };
 
 Prompts &prompts();

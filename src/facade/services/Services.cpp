@@ -33,7 +33,8 @@ struct IniStore final : ZolWDoc::SettingsStore {
     {
         return fileOf(application).value(section + u'/' + key, fallback).toString();
     }
-    void write(const QString &application, const QString &section, const QString &key, const QString &value) override
+    void write(const QString &application, const QString &section, const QString &key,
+               const QString &value) override
     {
         fileOf(application).setValue(section + u'/' + key, value);
     }
@@ -43,19 +44,54 @@ struct IniStore final : ZolWDoc::SettingsStore {
     }
 };
 
+/// The host's store, whose errors are swallowed: a lost window size must not end a dialog.
+struct QuietStore final : ZolWDoc::SettingsStore {
+    ZolWDoc::SettingsStore *own = nullptr;
+    QString read(const QString &application, const QString &section, const QString &key,
+                 const QString &fallback) const override
+    {
+        try {
+            return own->read(application, section, key, fallback);
+        } catch (...) {
+            return fallback;
+        }
+    }
+    void write(const QString &application, const QString &section, const QString &key,
+               const QString &value) override
+    {
+        try {
+            own->write(application, section, key, value);
+        } catch (...) {
+        }
+    }
+    void remove(const QString &application, const QString &section, const QString &key) override
+    {
+        try {
+            own->remove(application, section, key);
+        } catch (...) {
+        }
+    }
+};
+
 struct UndecidedLanguage final : ZolWDoc::LanguageRuntime {
     int currentLanguage() const override { return 0; }
 };
 
 } // namespace
 
-void setHostServices(ZolWDoc::HostServices *host) { state().host = host; }
+void setHostServices(ZolWDoc::HostServices *host)
+{
+    state().host = host;
+    if (!state().title.isEmpty()) setAppTitle(state().title); // the new host's error reports get it too
+}
 
 ZolWDoc::SettingsStore &settingsStore()
 {
     static IniStore store;
-    ZolWDoc::SettingsStore *own = state().host ? state().host->store() : nullptr;
-    return own ? *own : store;
+    static QuietStore quiet;
+    quiet.own = state().host ? state().host->store() : nullptr;
+    if (!quiet.own) quiet.own = &store;
+    return quiet;
 }
 
 const ZolWDoc::GlobalSettings &globalSettings()
@@ -81,9 +117,13 @@ ZolWDoc::VectorFontProvider *vectorFonts(const ZolWDoc::ZOLW_Doc *doc)
 
 QString settingsFolder()
 {
-    ZolWDoc::EnvironmentService *own = state().host ? state().host->environment() : nullptr;
-    const QString folder = own ? own->settingsFolder()
-        : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/QV_DOC_CONTROLS");
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                     QStringLiteral("/QV_DOC_CONTROLS");
+    try {
+        if (ZolWDoc::EnvironmentService *own = state().host ? state().host->environment() : nullptr)
+            folder = own->settingsFolder();
+    } catch (...) { // kept layouts and sizes are a comfort, no reason to end a dialog
+    }
     QDir().mkpath(folder);
     return folder;
 }
@@ -104,7 +144,8 @@ QString appTitle() { return state().title; }
 void setAppTitle(const QString &title)
 {
     state().title = title;
-    if (ZolWDoc::ErrorReporter *errors = state().host ? state().host->errors() : nullptr) errors->setTitle(title);
+    if (ZolWDoc::ErrorReporter *errors = state().host ? state().host->errors() : nullptr)
+        errors->setTitle(title);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -13,8 +13,9 @@ void setLogFileName(const QString &path);
 bool debugFlag();
 void setDebugFlag(bool on);
 
-/// Writes "type.member >>" now, "type.member <n>" at each step and "type.member <<" at its end, while the trace switch
-/// is on. Takes literals and builds nothing while the switch is off. The log is opened and closed for every line.
+/// Writes "type.member >>" now, "type.member <n>" at each step and "type.member <<" at its end, while the
+/// trace switch is on. Takes literals and builds nothing while the switch is off. The log is opened and
+/// closed for every line.
 class Trace {
 public:
     Trace(const char *type, const char *member) : m_type(type), m_member(member) { mark(">>"); }
@@ -29,8 +30,8 @@ private:
     const char *m_member;
 };
 
-/// The living forms and grid managers of the library, each with its debug identity: what a host looks through when it
-/// suspects that something was not released.
+/// The living forms and grid managers of the library, each with its debug identity: what a host looks through
+/// when it suspects that something was not released.
 class TraceObjects {
 public:
     struct Entry {

@@ -4,6 +4,7 @@
 #include "facade/services/Text.h"
 #include "kit/grid/GridSource.h"
 
+#include <limits>
 #include <type_traits>
 
 namespace QV_DOC_CONTROLS {
@@ -14,13 +15,13 @@ struct Refusal {
     Text title, text;
 };
 
-/// One column of a table: bound to a member of its record by address; "must be unique" is data too. `Names` is what the
-/// table looks up once per fill, to show identifiers by name and to offer them as choices.
+/// One column of a table: bound to a member of its record by address; "must be unique" is data too. `Names`
+/// is what the table looks up once per fill, to show identifiers by name and to offer them as choices.
 template <class Rec, class Names> struct Column {
     const char *key;                                    ///< published, kept as spelt
     Text caption;
     QVariant (*get)(const Rec &);
-    bool (*put)(Rec &, const QVariant &);               ///< false = no value of this column: the edit is dropped
+    bool (*put)(Rec &, const QVariant &); ///< false = no value of this column: the edit is dropped
     QString (*shown)(const Rec &, const Names &);
     CellKind kind;
     Text longCaption{};
@@ -28,11 +29,28 @@ template <class Rec, class Names> struct Column {
     std::optional<Refusal> taken{};                     ///< set: shown when another row has the value
     std::vector<GridChoice> (*choices)(const Names &) = nullptr;
 
+    int least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max(); ///< of a number
+    bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
+
+    constexpr Column within(int from, int to) const { auto c = *this; c.least = from, c.most = to; return c; }
+    constexpr Column filled() const
+    {
+        auto c = *this;
+        c.proper = [](const QVariant &v) { return !v.toString().trimmed().isEmpty(); };
+        return c;
+    }
+    bool takes(const QVariant &value) const
+    {
+        if (proper && !proper(value)) return false;
+        return kind == CellKind::Text || kind == CellKind::Check ||
+               (value.toInt() >= least && value.toInt() <= most);
+    }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
     constexpr Column color() const { auto c = *this; c.kind = CellKind::Color; return c; }
-    constexpr Column named(QString (*by)(const Rec &, const Names &), std::vector<GridChoice> (*offer)(const Names &)) const
+    constexpr Column named(QString (*by)(const Rec &, const Names &),
+                           std::vector<GridChoice> (*offer)(const Names &)) const
     {
         auto c = *this;
         c.kind = CellKind::List, c.shown = by, c.choices = offer;
@@ -48,7 +66,8 @@ template <class T> constexpr CellKind kindOf()
     else return std::is_arithmetic_v<T> ? CellKind::Number : CellKind::Text;
 }
 
-/// Takes over an edited value; text that is no whole number of the member's range is no value of a number column.
+/// Takes over an edited value; text that is no whole number of the member's range is no value of a number
+/// column.
 template <class T> bool assign(T &member, const QVariant &value)
 {
     if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {

@@ -5,7 +5,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// The group list beside a table: the pseudo-group "MIND", which stands for all records, and the table's groups.
+/// The group list beside a table: the pseudo-group "MIND", which stands for all records, and the table's
+/// groups.
 class GroupRows final : public GridSource {
 public:
     static constexpr qint16 kAll = -1;                  ///< identifier of the pseudo-group

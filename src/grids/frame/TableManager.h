@@ -4,6 +4,7 @@
 #include "facade/services/Services.h"
 #include "grids/frame/ColorStyles.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
 #include "kit/grid/Grid.h"
 
@@ -28,22 +29,32 @@ public:
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         m_all.clear(), m_shown.clear();
+        m_leftOut.reset();
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
         readCaptions();
-        if (m_grid) m_grid->captionsChanged();
+        if (!m_grid) return;
+        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        m_grid->captionsChanged();
+        loadGridLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
-    /// Reads the whole table again; current row and selection stay with their records. Throws the host's error.
+    void saveLayout() override { if (m_grid) saveGridLayout(*m_grid, Table::layout); }
+    const GridSource &source() const override { return *this; }
+    Paper paper() const override { return Table::paper(); }
+    /// Reads the whole table again; current row and selection stay with their records. Throws the host's
+    /// error.
     void fill()
     {
         if (!m_doc) return;
         auto all = Table::role(*m_doc).readAll();
         auto names = Table::namesOf(*m_doc);
+        const auto before = selectedIds();
         m_grid->refill([&] {
             m_all = std::move(all), m_names = std::move(names);
             showWhatFits();
         });
+        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
         raiseCurrentRow();
     }
     /// Makes the record with this identifier the grid's current row; false when it is not shown.
@@ -72,12 +83,19 @@ protected:
         m_doc = &doc, m_grid = &grid;
         buildColorStyles(grid, doc);
         grid.setAllowEdit(AllowEdit());
-        grid.setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+        grid.setTooltips(
+            readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
         m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
         showWhatFits();
         grid.setSource(this);
+        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        QObject::connect(&grid, &Grid::viewChanged, this, [this](GridView v) { raiseView(qint16(v)); });
+        QObject::connect(&grid, &Grid::groupingChanged, this,
+                         [this](bool grouped) { raiseGrouped(grouped); });
+        loadGridLayout(grid, Table::layout);
         QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
-        QObject::connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        QObject::connect(&grid, &Grid::selectionMoved, this,
+                         [this] { raiseSelection(m_grid->selectedCount()); });
         QObject::connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
                          [this] { ml_RuntimeSupport_LanguageChanged(); });
     }
@@ -87,7 +105,18 @@ protected:
     ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
-    void showAgain() { if (m_grid) m_grid->refill([this] { showWhatFits(); }); } ///< fits() answers otherwise now
+    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
+    /// it is current again when it is listed again and no other one was chosen meanwhile.
+    void showAgain()
+    {
+        if (!m_grid) return;
+        const auto before = selectedIds();
+        if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
+        m_grid->refill([this] { showWhatFits(); }, Grid::Gone::Nothing);
+        const bool isBack =
+            !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
+        if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
+    }
 
     // --- the grid's view of the records
     const std::vector<GridColumn> &columns() const override { return m_columns; }
@@ -116,26 +145,35 @@ private:
         for (int i = 0; i < int(m_all.size()); ++i)
             if (fits(m_all[size_t(i)])) m_shown.push_back(i);
     }
+    std::vector<qint16> selectedIds() const
+    {
+        std::vector<qint16> ids;
+        for (const Record &r : selected()) ids.push_back(Table::id(r));
+        return ids;
+    }
     void readCaptions()
     {
         m_columns.clear();
         for (const auto &c : Table::columns)
-            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption), c.longCaption.id ? txt(c.longCaption) : QString(),
-                                 c.kind, c.canEdit, 0});
+            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
+                                 c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
     }
     void raiseCurrentRow()
     {
         if (const auto now = currentRecord()) raiseCurrent(*now);
     }
-    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed "10" is text.
+    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed
+    /// "10" is text.
     bool tryEdit(int row, int c, const QVariant &value)
     {
         const auto &column = Table::columns[c];
         Record edited = recordAt(row);
-        if (!m_doc || !column.put(edited, value)) return false;
+        if (!m_doc || !column.put(edited, value) || !column.takes(column.get(edited))) return false;
         const QVariant now = column.get(edited);
         if (now == column.get(recordAt(row))) return false;
-        const auto has = [&](const Record &r) { return Table::id(r) != Table::id(edited) && column.get(r) == now; };
+        const auto has = [&](const Record &r) {
+            return Table::id(r) != Table::id(edited) && column.get(r) == now;
+        };
         if (column.taken && std::ranges::any_of(m_all, has)) {
             prompts().tell({column.taken->icon, txt(column.taken->title), txt(column.taken->text)}, m_grid);
             return false;
@@ -151,6 +189,7 @@ private:
     std::vector<Record> m_all;
     std::vector<int> m_shown;                           ///< rows of the grid as indexes into m_all
     typename Table::Names m_names;
+    std::optional<qint16> m_leftOut;                    ///< the record last current that fits() left out
     std::vector<GridColumn> m_columns;
 };
 

@@ -2,6 +2,7 @@
 
 #include "facade/services/Text.h"
 #include "kit/ask/ChoiceBox.h"
+#include "kit/ask/TextBox.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -61,7 +62,8 @@ void nameParts(QFileDialog &dialog, bool opens)
     dialog.setLabelText(QFileDialog::LookIn, txt(Text{20178, u"Hely:"}));
     dialog.setLabelText(QFileDialog::FileName, txt(Text{20179, u"Fájlnév:"}));
     dialog.setLabelText(QFileDialog::FileType, txt(Text{20180, u"Fájltípus:"}));
-    dialog.setLabelText(QFileDialog::Accept, opens ? txt(Text{20181, u"Megnyitás"}) : txt(Text{20182, u"Mentés"}));
+    dialog.setLabelText(QFileDialog::Accept,
+                        opens ? txt(Text{20181, u"Megnyitás"}) : txt(Text{20182, u"Mentés"}));
     dialog.setLabelText(QFileDialog::Reject, txt(Text{2801, u"Mégse"}));
 }
 
@@ -83,8 +85,12 @@ QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode m
     nameParts(dialog, opens);
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
-        const QString question = QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
-        if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Question, q.title, question}, asker)) return path;
+        const QString question =
+            QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
+        if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Question, q.title, question}, asker))
+            return path;
+        const QWidget *const owner = windowOf(asker);
+        if (owner && !owner->isVisible()) break; // closed meanwhile, because of an error
     }
     return {};
 }
@@ -119,6 +125,12 @@ std::optional<int> BoxPrompts::choose(const Choice &c, QObject *asker)
 {
     ChoiceBox box(c, windowOf(asker));
     return box.exec() == QDialog::Accepted ? std::optional(box.chosen()) : std::nullopt;
+}
+
+std::optional<QString> BoxPrompts::text(const TextQuestion &q, QObject *asker)
+{
+    TextBox box(q, windowOf(asker));
+    return box.exec() == QDialog::Accepted ? std::optional(box.answer()) : std::nullopt;
 }
 
 QString BoxPrompts::openFile(const FileQuestion &q, QObject *asker)

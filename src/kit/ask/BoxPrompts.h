@@ -10,6 +10,7 @@ public:
     void tell(const Message &, QObject *asker) override;
     bool yesNo(const Message &, QObject *asker) override;
     std::optional<int> choose(const Choice &, QObject *asker) override;
+    std::optional<QString> text(const TextQuestion &, QObject *asker) override;
     QString openFile(const FileQuestion &, QObject *asker) override;
     QString saveFile(const FileQuestion &, QObject *asker) override;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <exception>
 #include <functional>
 
@@ -9,9 +11,10 @@ namespace QV_DOC_CONTROLS {
 
 /// Carries an error of the host past Qt's event loop, which no exception may cross.
 ///
-/// Every command, cell edit and control event that can reach the host runs inside guard(). An error is kept, the
-/// relay's dialog and what stands above it are closed, and exec() throws it again to the caller of the entry operation.
-/// A relay with a sink has no dialog: it hands the error on at once (a host's own form, say).
+/// Every command, cell edit and control event that can reach the host runs inside guard(). An error is kept,
+/// the relay's dialog and what stands above it are closed, and exec() throws it again to the caller of the
+/// entry operation. A relay with a sink has no dialog: it hands the error on at once (a host's own form,
+/// say).
 class ErrorRelay {
 public:
     using Sink = std::function<void(std::exception_ptr)>;
@@ -29,6 +32,7 @@ public:
         } catch (const Stopped &) { // the error is already kept
         } catch (...) {
             keep(std::current_exception());
+            return false;
         }
         return !failed();
     }
@@ -37,7 +41,7 @@ public:
     bool failed() const { return bool(m_error); }
 
     int exec(QDialog &dialog);                  ///< runs it modally; throws what was kept
-    static ErrorRelay &reporting();             ///< tells the user through prompts(); for controls on a host's form
+    static ErrorRelay &reporting(); ///< tells the user through prompts(); for controls on a host's form
 
 private:
     struct Stopped {};

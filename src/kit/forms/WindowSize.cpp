@@ -22,10 +22,15 @@ int storedPixels(const QWidget &window, const QString &key, int fallback)
 
 } // namespace
 
-void restoreSize(QWidget &window, const QString &form)
+QSize sizeOfLetters(const QWidget &window, int across, int down)
 {
     const QFontMetrics letters(window.font());
-    const QSize usual(letters.averageCharWidth() * 120, letters.height() * 28);
+    return {letters.averageCharWidth() * across, letters.height() * down};
+}
+
+void restoreSize(QWidget &window, const QString &form, QSize usual)
+{
+    if (!usual.isValid()) usual = sizeOfLetters(window, 160, 28);
     const QSize wanted(storedPixels(window, keyOf(form, "-Width"), usual.width()),
                        storedPixels(window, keyOf(form, "-Height"), usual.height()));
     const QScreen *const screen = window.screen();
@@ -34,8 +39,10 @@ void restoreSize(QWidget &window, const QString &form)
 
 void keepSizeOf(const QWidget &window, const QString &form)
 {
-    settingsStore().write(kApplication, kSection, keyOf(form, "-Width"), QString::number(twipsOf(window.width(), window)));
-    settingsStore().write(kApplication, kSection, keyOf(form, "-Height"), QString::number(twipsOf(window.height(), window)));
+    settingsStore().write(kApplication, kSection, keyOf(form, "-Width"),
+                          QString::number(twipsOf(window.width(), window)));
+    settingsStore().write(kApplication, kSection, keyOf(form, "-Height"),
+                          QString::number(twipsOf(window.height(), window)));
 }
 
 } // namespace QV_DOC_CONTROLS

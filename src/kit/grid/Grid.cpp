@@ -9,7 +9,7 @@
 #include "kit/grid/GridSelection.h"
 #include "kit/grid/GridTable.h"
 #include "kit/grid/GroupBox.h"
-#include "kit/grid/InterfaceLocale.h"
+#include "facade/services/InterfaceLocale.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -162,7 +162,7 @@ void Grid::showCurrent(int column)
     if (at.isValid()) activeView()->scrollTo(at);
 }
 
-void Grid::refill(const std::function<void()> &change)
+void Grid::refill(const std::function<void()> &change, Gone gone)
 {
     if (!m_source) return change();
     std::vector<qint64> selected;
@@ -176,14 +176,14 @@ void Grid::refill(const std::function<void()> &change)
     QScopedValueRollback quiet(m_quiet, true);
     m_pending.clear();
     m_model->refill(change);
-    restoreRows(selected, current, place);
+    restoreRows(selected, current, gone == Gone::NextRow ? place : -1);
     showCurrent(column);
     activeView()->verticalScrollBar()->setValue(scrolled);
     updateCounts();
     m_idle.start(0, this);
 }
 
-void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int place)
+void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace)
 {
     QHash<qint64, int> rowOf;
     rowOf.reserve(m_source->rowCount());
@@ -192,7 +192,8 @@ void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> c
     for (qint64 id : selected)
         if (const auto found = rowOf.constFind(id); found != rowOf.constEnd()) rows.push_back(*found);
     const auto &shown = m_model->engine().shownRows();
-    const int heir = shown.empty() ? -1 : shown[std::min(size_t(place), shown.size() - 1)];
+    const int heir =
+        shown.empty() || heirPlace < 0 ? -1 : shown[std::min(size_t(heirPlace), shown.size() - 1)];
     m_current = current ? rowOf.value(*current, heir) : -1;
     if (rows.empty() && !selected.empty() && m_current >= 0) rows.push_back(m_current);
     m_selection->setRows(rows);

@@ -46,9 +46,10 @@ public:
 
     void setSource(GridSource *source);             ///< not owned; null = empty, and inert
     /// Runs `change`, which gives the source other rows; then current row, selection and place are as they
-    /// were, by identifier. A current record that is gone leaves its place to the row that moved there.
-    /// Raises nothing.
-    void refill(const std::function<void()> &change);
+    /// were, by identifier. What a current record that is gone leaves behind is said by `gone`. Raises
+    /// nothing.
+    enum class Gone { NextRow, Nothing };           ///< the row that moved to its place is current; none is
+    void refill(const std::function<void()> &change, Gone gone = Gone::NextRow);
     void rowEdited(int row);                        ///< one row's values changed; it moves to its place
     void captionsChanged();                         ///< columns carry new captions, maybe of another language
 
@@ -116,7 +117,7 @@ private:
     void attach(QAbstractItemView &view);
     GridCards &cards();
     void relist(const std::function<void()> &change);
-    void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int place);
+    void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace);
     void showCurrent(int column);
     void currentChanged(const QModelIndex &now);
     void toggleBand(int band);

@@ -1,7 +1,7 @@
 #include "kit/grid/GridModel.h"
 
 #include "facade/services/Text.h"
-#include "kit/grid/InterfaceLocale.h"
+#include "facade/services/InterfaceLocale.h"
 
 #include <cmath>
 

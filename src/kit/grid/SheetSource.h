@@ -8,7 +8,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// A table as it stands on paper or on the clipboard: exactly what the grid shows, in its order, with its groups.
+/// A table as it stands on paper or on the clipboard: exactly what the grid shows, in its order, with its
+/// groups.
 class SheetSource {
 public:
     struct Column {
@@ -24,7 +25,7 @@ public:
         bool grayed = false;
     };
     struct Row {
-        int level = -1;             ///< 0..3: a group band of that level, whose text is cells[0]; -1 = a record
+        int level = -1; ///< 0..3: a group band of that level, whose text is cells[0]; -1 = a record
         std::vector<Cell> cells;    ///< one per column
     };
     virtual ~SheetSource() = default;

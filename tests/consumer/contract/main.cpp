@@ -11,7 +11,7 @@ static bool widgetsLoaded()
     bool core = false, gui = false;
     for (std::string line; std::getline(maps, line);) {
         core = core || line.find("libQt6Core") != std::string::npos;
-        gui = gui || line.find("libQt6Gui") != std::string::npos || line.find("libQt6Widgets") != std::string::npos;
+        gui = gui || line.find("libQt6Gui") != std::string::npos;
     }
     if (!core) std::puts("the libraries of this process cannot be read");
     return gui || !core;
@@ -24,6 +24,7 @@ int main()
         for (qint16 n : {10, 20}) {
             ZolWDoc::tLay lay;
             lay.gNr = n;
+            lay.Name = QString::number(n);
             doc.layers().add(lay);
         }
     });

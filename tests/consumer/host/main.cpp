@@ -21,9 +21,8 @@ static void pressInDialog(std::initializer_list<int> keys)
         for (int key : keys) {
             QWidget *const target = QApplication::focusWidget();
             if (!target) return;
-            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier), release(QEvent::KeyRelease, key, Qt::NoModifier);
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
             QApplication::sendEvent(target, &press);
-            QApplication::sendEvent(target, &release);
         }
     });
     timer->start(0);
@@ -33,7 +32,8 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     example::TinyDoc doc;
-    for (const auto &[number, name] : {std::pair(10, "Buildings"), std::pair(20, "Roads"), std::pair(30, "Water")}) {
+    constexpr std::pair<int, const char *> kLayers[] = {{10, "Buildings"}, {20, "Roads"}, {30, "Water"}};
+    for (const auto &[number, name] : kLayers) {
         ZolWDoc::tLay lay;
         lay.gNr = qint16(number);
         lay.Name = QString::fromLatin1(name);

@@ -2,7 +2,7 @@
 #include "support/Registry.h"
 
 #include "kit/grid/Grid.h"
-#include "kit/grid/InterfaceLocale.h"
+#include "facade/services/InterfaceLocale.h"
 
 #include <QAbstractItemModelTester>
 #include <QCollator>

@@ -1,0 +1,85 @@
+#include "window/DialogCalls.h"
+#include "window/HostServices.h"
+#include "window/MainWindow.h"
+#include "window/Pictures.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+using namespace refhost;
+
+namespace {
+
+/// The command line is for scripts as much as for users: its texts are English, as its option names are.
+struct Options {
+    QCommandLineParser parser;
+    QCommandLineOption language{QStringLiteral("language"),
+                                QStringLiteral("Language of this run: hu, ro, vi or en."),
+                                QStringLiteral("code")};
+    QCommandLineOption pictures{QStringLiteral("pictures"),
+                                QStringLiteral("Save a picture of each window there and end."),
+                                QStringLiteral("folder")};
+    QCommandLineOption dialog{QStringLiteral("dialog"), QStringLiteral("Open that dialog, e.g. bSelect_Lay."),
+                              QStringLiteral("call")};
+    QCommandLineOption yes{QStringLiteral("yes"),
+                           QStringLiteral("Import with the guessed unit, without asking.")};
+
+    explicit Options(const QCoreApplication &app)
+    {
+        parser.addPositionalArgument(
+            QStringLiteral("file"), QStringLiteral("A drawing (.qvd) or a .dxf file; without one a sample."));
+        parser.addHelpOption();
+        parser.addOptions({language, pictures, dialog, yes});
+        parser.process(app);
+    }
+    QString file() const { return parser.positionalArguments().value(0); }
+};
+
+int wrongUse(const char *what, const QString &value)
+{
+    std::fprintf(stderr, "%s: %s (see --help)\n", what, qPrintable(value));
+    return 2;
+}
+
+bool load(MainWindow &window, const QString &file, bool yes)
+{
+    if (file.isEmpty()) return window.files().openSample();
+    if (file.endsWith(QStringLiteral(".dxf"), Qt::CaseInsensitive)) {
+        const bool unseen =
+            QGuiApplication::platformName() == QStringLiteral("offscreen"); // nobody could answer
+        return window.files().importFile(file, !yes && !unseen);
+    }
+    return window.files().openFile(file);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("qvdraw"));
+    const Options options(app);
+    HostServices services;
+    if (options.parser.isSet(options.language)) {
+        const int id = Language::idOf(options.parser.value(options.language));
+        if (id == 0) return wrongUse("unknown language", options.parser.value(options.language));
+        services.language()->setForThisRun(id);
+    }
+    const DialogCall *call = dialogCall(options.parser.value(options.dialog));
+    if (options.parser.isSet(options.dialog) && !call)
+        return wrongUse("unknown dialog", options.parser.value(options.dialog));
+
+    MainWindow window(services);
+    std::unique_ptr<Pictures> pictures;
+    if (options.parser.isSet(options.pictures))
+        pictures = std::make_unique<Pictures>(options.parser.value(options.pictures));
+    window.show();
+    const bool loaded = load(window, options.file(), options.parser.isSet(options.yes));
+    if (!loaded && !window.files().drawing()) window.files().newDrawing();
+    if (pictures) pictures->save(window, QStringLiteral("MainWindow"));
+    if (call) window.run(*call);
+    if (pictures) return loaded && pictures->failures() == 0 ? 0 : 1;
+    return app.exec();
+}

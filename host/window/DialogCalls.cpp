@@ -1,0 +1,36 @@
+#include "window/DialogCalls.h"
+
+#include "document/SqliteDoc.h"
+
+#include "facade/clsDocDlgs.h"
+
+#include <algorithm>
+
+using QV_DOC_CONTROLS::clsDocDlgs;
+
+namespace refhost {
+namespace {
+
+/// Starts from the current layer; the dialog makes the chosen one current.
+bool selectLayer(clsDocDlgs &dialogs, SqliteDoc &doc)
+{
+    ZolWDoc::tLay lay = doc.layers().find(doc.layers().currentId()).value_or(ZolWDoc::tLay{});
+    return dialogs.bSelect_Lay(doc, lay);
+}
+
+constexpr DialogCall kCalls[] = {
+    {"bSelect_Lay", {30440, u"Réteg&választás…"}, Sign::Layers, selectLayer},
+};
+
+} // namespace
+
+std::span<const DialogCall> dialogCalls() { return kCalls; }
+
+const DialogCall *dialogCall(const QString &name)
+{
+    const auto row =
+        std::ranges::find_if(kCalls, [&](const DialogCall &c) { return QLatin1String(c.name) == name; });
+    return row == std::end(kCalls) ? nullptr : row;
+}
+
+} // namespace refhost

@@ -1,0 +1,136 @@
+#include "window/DrawingEdits.h"
+
+#include "facade/services/Prompts.h"
+#include "facade/services/Text.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+using namespace QV_DOC_CONTROLS;
+
+namespace refhost {
+namespace {
+
+constexpr int kBaseline = 24; // text-align flag
+
+/// One line that is typed in the drawing; Esc and leaving it empty place nothing.
+class TextEntry final : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+protected:
+    void keyPressEvent(QKeyEvent *e) override
+    {
+        if (e->key() == Qt::Key_Escape) {
+            clear();
+            clearFocus();
+            return deleteLater();
+        }
+        QLineEdit::keyPressEvent(e);
+        e->accept(); // the drawing's own keys stay out of the text
+    }
+};
+
+} // namespace
+
+DrawingEdits::DrawingEdits(DrawingView &view) : QObject(&view), m_view(view)
+{
+    connect(&view, &DrawingView::pointGiven, this, &DrawingEdits::placeAt);
+    connect(&view, &DrawingView::lineGiven, this, &DrawingEdits::placeLine);
+    connect(&view, &DrawingView::deleteWanted, this, &DrawingEdits::deleteSelected);
+    connect(&view, &DrawingView::viewChanged, this, [this] { delete m_entry; }); // its place has moved away
+}
+
+void DrawingEdits::setDrawing(OpenDrawing *drawing)
+{
+    delete m_entry;
+    m_drawing = drawing;
+}
+
+template <class Act> void DrawingEdits::guarded(Act act)
+{
+    if (!m_drawing) return;
+    try {
+        act();
+    } catch (const std::exception &e) {
+        emit failed(QString::fromUtf8(e.what()));
+    }
+}
+
+void DrawingEdits::place(Element e)
+{
+    guarded([&] {
+        e.layId = m_drawing->doc().layers().currentId();
+        m_drawing->doc().addElement(e);
+        m_drawing->touch();
+        emit changed();
+    });
+}
+
+void DrawingEdits::placeAt(QPointF world)
+{
+    if (m_view.tool() == DrawingView::Tool::Text) return askForText(world);
+    place({.kind = ElementKind::Point, .vertices = {{world.x(), world.y()}}});
+}
+
+void DrawingEdits::placeLine(const QList<QPointF> &world)
+{
+    Element e{.kind = ElementKind::Line};
+    for (const QPointF &p : world)
+        if (e.vertices.empty() || QPointF(e.vertices.back().x, e.vertices.back().y) != p)
+            e.vertices.push_back({p.x(), p.y()});
+    if (e.vertices.size() > 1) place(std::move(e));
+}
+
+void DrawingEdits::askForText(QPointF world)
+{
+    delete m_entry;
+    auto *const entry = new TextEntry(&m_view);
+    m_entry = entry;
+    entry->setObjectName(QStringLiteral("textEntry"));
+    entry->setPlaceholderText(txt(Text{30505, u"A felirat szövege"}));
+    entry->setAccessibleName(entry->placeholderText());
+    entry->resize(entry->sizeHint());
+    const QPoint at = m_view.toScreen(world).toPoint();
+    entry->move(std::clamp(at.x(), 0, std::max(0, m_view.width() - entry->width())),
+                std::clamp(at.y() - entry->height(), 0, std::max(0, m_view.height() - entry->height())));
+    connect(entry, &QLineEdit::editingFinished, this, [this, entry, world] { // Enter, or going elsewhere
+        const QString text = entry->text();
+        entry->disconnect(this);
+        entry->deleteLater();
+        m_view.setFocus();
+        if (!text.trimmed().isEmpty())
+            place({.kind = ElementKind::Text,
+                   .vertices = {{world.x(), world.y()}},
+                   .align = kBaseline,
+                   .text = text});
+    });
+    entry->show();
+    entry->setFocus();
+}
+
+void DrawingEdits::deleteSelected()
+{
+    const std::vector<int> chosen = m_view.selection();
+    if (chosen.empty()) return;
+    const QString question = join(Text{30486, u"A kijelölt elemek száma: "}, int(chosen.size()),
+                                  Text{30487, u". Törlöd őket? A törlés nem vonható vissza."});
+    if (!prompts().yesNo({Icon::Question, txt(Text{30485, u"Elemek törlése"}), question}, &m_view)) return;
+    guarded([&] {
+        std::vector<qint64> ids;
+        for (int i : chosen) ids.push_back(m_view.scene().elements()[size_t(i)].id);
+        m_drawing->doc().removeElements(ids);
+        m_drawing->touch();
+        emit changed();
+    });
+}
+
+void DrawingEdits::selectAll()
+{
+    const Scene &scene = m_view.scene();
+    std::vector<int> shown;
+    for (size_t i = 0; i < scene.elements().size(); ++i)
+        if (scene.shown(scene.resources().layers.indexOf(scene.elements()[i].layId))) shown.push_back(int(i));
+    m_view.select(std::move(shown));
+}
+
+} // namespace refhost

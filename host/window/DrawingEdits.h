@@ -1,0 +1,35 @@
+#pragma once
+
+#include "window/DrawingView.h"
+#include "window/OpenDrawing.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QLineEdit;
+
+namespace refhost {
+
+/// Places and deletes elements: what the user does in the view becomes records of the document.
+class DrawingEdits : public QObject {
+    Q_OBJECT
+public:
+    explicit DrawingEdits(DrawingView &);
+    void setDrawing(OpenDrawing *drawing);          ///< the window's; null while there is none
+    void deleteSelected();                          ///< asks with the count
+    void selectAll();                               ///< of what is shown
+signals:
+    void changed();                                 ///< the view needs a new scene
+    void failed(const QString &why);
+private:
+    void place(Element);
+    void placeAt(QPointF world);
+    void placeLine(const QList<QPointF> &world);
+    void askForText(QPointF world);
+    template <class Act> void guarded(Act);
+    DrawingView &m_view;
+    OpenDrawing *m_drawing = nullptr;
+    QPointer<QLineEdit> m_entry;                    ///< open while a text is typed
+};
+
+} // namespace refhost

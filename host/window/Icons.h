@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QIcon>
+
+namespace refhost {
+
+/// The signs of the program's commands. Each idea has one.
+enum class Sign {
+    New,
+    Open,
+    Import,
+    Save,
+    Sample,
+    Fit,
+    ZoomIn,
+    ZoomOut,
+    ZoomWindow,
+    Dark,
+    Select,
+    Point,
+    Line,
+    Lettering,
+    Delete,
+    Layers,
+    Dialog
+};
+
+/// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.
+QIcon iconOf(Sign);
+
+} // namespace refhost

@@ -1,0 +1,39 @@
+#include "dialogs/viewtools/ViewToolDialog.h"
+
+#include "facade/services/Language.h"
+#include "kit/forms/Buttons.h"
+#include "kit/forms/WindowSize.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+namespace QV_DOC_CONTROLS {
+
+ViewToolDialog::ViewToolDialog(const char *form, QWidget *owner)
+    : QDialog(owner ? owner->window() : QApplication::activeWindow()), m_identity(form),
+      m_buttons(okCancelButtons(*this)), cmdOk(m_buttons->button(QDialogButtonBox::Ok)),
+      cmdCancel(m_buttons->button(QDialogButtonBox::Cancel))
+{
+    setObjectName(QLatin1String(form));
+    connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
+            &ViewToolDialog::ml_RuntimeSupport_LanguageChanged);
+}
+
+void ViewToolDialog::ml_RuntimeSupport_LanguageChanged()
+{
+    retranslate(*m_buttons);
+    readCaptions();
+}
+
+bool ViewToolDialog::run()
+{
+    readCaptions();
+    ensurePolished();
+    restoreSize(*this, objectName(), sizeHint());
+    const bool confirmed = exec() == Accepted;
+    keepSizeOf(*this, objectName());
+    return confirmed;
+}
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,135 @@
+#include "kit/tools/ToolSet.h"
+
+#include "kit/forms/AccessKeys.h"
+#include "kit/tools/Icons.h"
+#include "kit/tools/ToolBand.h"
+
+#include <QActionGroup>
+#include <QMenu>
+
+#include <cstring>
+
+namespace QV_DOC_CONTROLS {
+namespace {
+
+bool isLine(const Tool &row) { return std::strcmp(row.name, kToolLine) == 0; }
+bool tellsAll(const Tool &row) { return row.caption.id != 0; }
+bool isOn(const Tool &row, const char *band) { return std::strcmp(row.band, band) == 0; }
+
+bool isSame(const Tool &a, const Tool &b) { return std::strcmp(a.name, b.name) == 0; }
+
+} // namespace
+
+ToolSet::ToolSet(std::span<const Tool> rows, ErrorRelay &relay, QWidget *owner)
+    : QObject(owner), m_rows(rows), m_relay(relay)
+{
+    for (const Tool &row : rows)
+        if (tellsAll(row)) makeTool(row);
+    for (const Tool &row : rows)
+        if (*row.opens) popUp(row.opens);       // all of its tools are made by now
+    retranslate();
+}
+
+QWidget *ToolSet::owner() const { return static_cast<QWidget *>(parent()); }
+
+void ToolSet::makeTool(const Tool &row)
+{
+    QAction *const action = *row.opens ? menuOf(row.opens)->menuAction() : new QAction(this);
+    action->setObjectName(QLatin1String(row.name));
+    action->setIcon(toolIcon(row.icon));
+    action->setShortcut(QKeySequence(QLatin1String(row.keys)));
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setCheckable(row.check != Check::No);
+    if (row.check == Check::OneOf) {
+        QActionGroup *&group = m_oneOf[row.band];
+        if (!group) group = new QActionGroup(this);
+        group->addAction(action);
+    }
+    owner()->addAction(action);
+    m_tools.insert(row.name, action);
+}
+
+QAction *ToolSet::tool(const char *name) const { return m_tools.value(name); }
+
+template <class Band> void ToolSet::addTo(Band &band, const char *name)
+{
+    for (const Tool &row : m_rows) {
+        if (!isOn(row, name)) continue;
+        if (isLine(row)) band.addSeparator();
+        else band.addAction(tool(row.name));
+    }
+}
+
+QToolBar *ToolSet::toolBar(const char *band)
+{
+    auto *const bar = new ToolBand(owner());
+    bar->setObjectName(QLatin1String(band));
+    addTo(*bar, band);
+    return bar;
+}
+
+QMenu *ToolSet::menuOf(const char *band)
+{
+    QMenu *&menu = m_popUps[band];
+    if (!menu) {
+        menu = new QMenu(owner());
+        menu->setObjectName(QLatin1String(band));
+        connect(menu, &QMenu::aboutToShow, this, &ToolSet::refresh);
+    }
+    return menu;
+}
+
+QMenu *ToolSet::popUp(const char *band)
+{
+    QMenu *const menu = menuOf(band);
+    if (menu->isEmpty()) {
+        addTo(*menu, band);
+        retranslate();
+    }
+    return menu;
+}
+
+void ToolSet::on(const char *name, std::function<void()> run, std::function<bool()> enabled)
+{
+    QAction *const action = tool(name);
+    Q_ASSERT_X(action, "ToolSet::on", name);
+    connect(action, &QAction::triggered, this, [this, run = std::move(run)] { m_relay.guard(run); });
+    if (enabled) m_enabled.emplace_back(action, std::move(enabled));
+}
+
+void ToolSet::refresh()
+{
+    for (const auto &[action, enabled] : m_enabled) action->setEnabled(enabled());
+}
+
+void ToolSet::setChecked(const char *name, bool on)
+{
+    if (QAction *const action = tool(name)) action->setChecked(on);
+}
+
+void ToolSet::retranslate()
+{
+    QHash<QByteArray, QString> taken;           // access keys by band
+    for (const Tool &row : m_rows) {
+        if (!tellsAll(row)) continue;
+        QAction *const action = tool(row.name);
+        const QString caption = txt(row.caption);
+        action->setText(withAccessKeys({caption}, keysBeside(row.name, taken)).first());
+        for (const Tool &place : m_rows)
+            if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        const QString plain = QString(caption).remove(QStringLiteral("..."));
+        action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
+    }
+}
+
+/// Access keys already given on any menu that shows the tool; tool bars have none.
+QString ToolSet::keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const
+{
+    QString keys;
+    for (const Tool &row : m_rows)
+        if (m_popUps.contains(row.band) && std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
+    return keys;
+}
+
+} // namespace QV_DOC_CONTROLS

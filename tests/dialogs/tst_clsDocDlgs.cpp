@@ -1,0 +1,112 @@
+#include "dialogs/select/frmSelect.h"
+#include "facade/clsDocDlgs.h"
+#include "facade/services/Language.h"
+#include "facade/services/Services.h"
+#include "facade/services/clsDebug.h"
+#include "support/LayerDoc.h"
+#include "support/Modal.h"
+#include "support/Registry.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace QV_DOC_CONTROLS;
+
+namespace {
+
+struct Runtime final : ZolWDoc::LanguageRuntime {
+    int language = 0, component = 0;
+    int currentLanguage() const override { return language; }
+    int componentLanguage(const QString &name) const override
+    {
+        return name == QLatin1String("QV_DOC_CONTROLS") ? component : 0;
+    }
+};
+struct Host final : ZolWDoc::HostServices {
+    Runtime runtime;
+    ZolWDoc::LanguageRuntime *language() override { return &runtime; }
+};
+
+} // namespace
+
+class tst_clsDocDlgs : public QObject {
+    Q_OBJECT
+private:
+    QTemporaryDir m_folder;
+    QStringList traced(const std::function<void()> &act)
+    {
+        const QString path = m_folder.filePath(QStringLiteral("trace.log"));
+        QFile::remove(path);
+        clsDebug debug;
+        debug.setsLogFileName(path);
+        debug.setbCallLog(true);
+        act();
+        debug.setbCallLog(false);
+        QFile log(path);
+        const QString all = log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
+        return QString(all).remove(u'"').split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+    }
+
+private slots:
+    void cleanup()
+    {
+        setHostServices(nullptr);
+        setLanguage(Hungarian, {});
+        setAppTitle({});
+    }
+
+    void constructionIsTracedStepByStep()
+    {
+        QCOMPARE(traced([] { clsDocDlgs dialogs; }),
+                 QStringList({"clsDocDlgs.Class_Initialize >>", "clsDocDlgs.Class_Initialize 1",
+                              "clsDocDlgs.Class_Initialize 2", "clsDocDlgs.Class_Initialize <<"}));
+    }
+    void aCallIsTracedWhateverItsEnd()
+    {
+        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        clsDocDlgs dialogs;
+        ZolWDoc::tLay lay;
+        const auto watch = tests::whileModal<frmSelect>([](frmSelect &d) { d.reject(); });
+        QCOMPARE(traced([&] { dialogs.bSelect_Lay(*doc, lay); }),
+                 QStringList({"clsDocDlgs.bSelect_Lay >>", "clsDocDlgs.bSelect_Lay 1",
+                              "clsDocDlgs.bSelect_Lay 2", "clsDocDlgs.bSelect_Lay <<"}));
+    }
+
+    void titleAndLanguageAreTheLibrarysOwn()
+    {
+        clsDocDlgs first;
+        QCOMPARE(first.sAppTitle(), QStringLiteral("ZOLDocDlgs"));
+        first.setsAppTitle(QStringLiteral("Rajz"));
+        clsDocDlgs second;
+        QCOMPARE(second.sAppTitle(), QStringLiteral("Rajz"));
+        QVERIFY(second.AutomaticItemSelection() && !second.WarnInvisibleCurrentLayer() && !second.oDocList());
+        second.TearDown();
+        second.TearDown();
+        QCOMPARE(second.sAppTitle(), QStringLiteral("Rajz"));
+    }
+    void theHostsLanguageIsTakenAtConstruction_data()
+    {
+        QTest::addColumn<int>("current");
+        QTest::addColumn<int>("component");
+        QTest::addColumn<int>("taken");
+        QTest::newRow("the program's") << int(English) << 0 << int(English);
+        QTest::newRow("the component's own goes first") << int(English) << int(Romanian) << int(Romanian);
+        QTest::newRow("undecided keeps what was set") << 0 << 0 << int(Hungarian);
+        QTest::newRow("unknown is hungarian") << 1031 << 0 << int(Hungarian);
+    }
+    void theHostsLanguageIsTakenAtConstruction()
+    {
+        QFETCH(int, current);
+        QFETCH(int, component);
+        QFETCH(int, taken);
+        Host host;
+        host.runtime.language = current, host.runtime.component = component;
+        setHostServices(&host);
+        clsDocDlgs dialogs;
+        QCOMPARE(currentLanguage(), taken);
+    }
+};
+
+QVDC_TEST(tst_clsDocDlgs)
+#include "tst_clsDocDlgs.moc"

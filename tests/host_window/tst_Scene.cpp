@@ -1,0 +1,222 @@
+#include "SmallScene.h"
+
+#include "window/Outlines.h"
+
+#include "support/Registry.h"
+
+#include <QTest>
+
+using namespace refhost;
+using tests::imageOf;
+using tests::inked;
+using tests::line;
+using tests::smallTables;
+
+class tst_Scene : public QObject {
+    Q_OBJECT
+private:
+    static Scene sceneOf(std::vector<Element> elements, Resources r = smallTables()) { return {std::move(r), std::move(elements)}; }
+
+private slots:
+    void byLayerRules_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("layer");
+        QTest::addColumn<QList<int>>("own");    // line type, pen, text type
+        QTest::addColumn<QList<int>>("drawn");
+        const int l = int(ElementKind::Line), t = int(ElementKind::Text), s = int(ElementKind::Symbol);
+        QTest::newRow("nothing of its own: the layer's") << l << 1 << QList{-1, -1, -1} << QList{5, 2, 3};
+        QTest::newRow("its own") << l << 1 << QList{6, 1, 4} << QList{6, 1, 4};
+        QTest::newRow("pen 0 is the foreground, not the layer's") << l << 1 << QList{-1, 0, -1} << QList{5, 0, 3};
+        QTest::newRow("a line on a by-layer layer; pen of the screen colour") << l << 2 << QList{5, 1, 3} << QList{6, 4, 4};
+        QTest::newRow("a text on a by-layer layer") << t << 2 << QList{5, 1, 3} << QList{6, 4, 4};
+        QTest::newRow("a symbol on a by-layer layer") << s << 2 << QList{-1, 1, -1} << QList{6, 4, 4};
+        QTest::newRow("on no layer") << l << -1 << QList{-1, -1, -1} << QList{-1, 0, -1};
+        QTest::newRow("on a layer that is not there") << l << 77 << QList{5, 3, -1} << QList{5, 3, -1};
+    }
+    void byLayerRules()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, layer);
+        QFETCH(QList<int>, own);
+        QFETCH(QList<int>, drawn);
+        const Element e{.kind = ElementKind(kind), .layId = qint16(layer), .penStyleId = qint16(own[0]),
+                        .penColorId = qint16(own[1]), .txdId = qint16(own[2])};
+        const Look look = smallTables().lookOf(e);
+        QCOMPARE((QList<int>{look.penStyleId, look.pen, look.txdId}), drawn);
+    }
+
+    void onlyOneSwitchForcesOnlyItsKind()
+    {
+        Resources r = smallTables();
+        auto rows = r.layers.rows();
+        rows[1].TxByLayer = false;
+        r.layers = rows;
+        QCOMPARE(r.lookOf({.kind = ElementKind::Text, .layId = 2, .penColorId = 1, .txdId = 3}).pen, qint16(1));
+        QCOMPARE(r.lookOf({.kind = ElementKind::Line, .layId = 2, .penColorId = 1}).pen, qint16(4));
+    }
+
+    void hiddenLayersAreNeitherDrawnNorHit()
+    {
+        const Scene scene = sceneOf({line(-50, 0, 50, 0, 2)}, smallTables(false));
+        QCOMPARE(inked(imageOf(scene, {100, 41}, -scene.origin(), 1), 20), 0);
+        QCOMPARE(scene.elementAt(-scene.origin(), 5), -1);
+        QVERIFY(scene.elementsIn(QRectF(-200, -200, 400, 400), false).empty());
+    }
+
+    void whiteAndBlackChangePlacesWithTheBackground_data()
+    {
+        QTest::addColumn<int>("pen");
+        QTest::addColumn<QColor>("background");
+        QTest::addColumn<QColor>("seen");
+        const QColor dark(0x1E, 0x1E, 0x22), red(Qt::red), grey(0x80, 0x80, 0x80);
+        QTest::newRow("white on white") << 1 << QColor(Qt::white) << QColor(Qt::black);
+        QTest::newRow("white on dark") << 1 << dark << QColor(Qt::white);
+        QTest::newRow("near black on dark") << 3 << dark << QColor(Qt::white);
+        QTest::newRow("near black on white") << 3 << QColor(Qt::white) << QColor(0x20, 0x20, 0x20);
+        QTest::newRow("red on dark") << 2 << dark << red;
+        QTest::newRow("grey on white") << 4 << QColor(Qt::white) << grey;
+        QTest::newRow("no pen on dark") << 0 << dark << QColor(Qt::white);
+    }
+    void whiteAndBlackChangePlacesWithTheBackground()
+    {
+        QFETCH(int, pen);
+        QFETCH(QColor, background);
+        QFETCH(QColor, seen);
+        const Resources r = smallTables();
+        QCOMPARE(screenColorsOn(background, r.pens, r.palette, Colors::Screen)[size_t(pen)], seen);
+    }
+
+    void printColorsAreThePensOwn()
+    {
+        const Resources r = smallTables();
+        QCOMPARE(screenColorsOn(Qt::white, r.pens, r.palette, Colors::Print)[2], QColor(0x20, 0x20, 0x20));
+    }
+
+    void dashesAppearWhenTheyAreLargeEnough()
+    {
+        const Scene scene = sceneOf({line(-500, 0, 500, 0, 2)}); // 3 metres on, 2 off
+        const QPointF middle = -scene.origin();
+        const QImage far = imageOf(scene, {200, 41}, middle, 0.5), near = imageOf(scene, {200, 41}, middle, 4);
+        QCOMPARE(inked(far, 20), 200);
+        for (const Batch &b : scene.batches())
+            for (const Chunk &c : b.chunks) QVERIFY(c.pattern != nullptr); // made by the near view
+        const int on = inked(near, 20);
+        QVERIFY2(on > 110 && on < 150, qPrintable(QString::number(on)));   // three fifths of 200, ends are soft
+    }
+    void dashesAreNotMadeForAFarView()
+    {
+        const Scene scene = sceneOf({line(-500, 0, 500, 0, 2)});
+        imageOf(scene, {200, 41}, -scene.origin(), 0.5);
+        QVERIFY(scene.batches().front().chunks.front().pattern == nullptr);
+    }
+
+    void symbolsReachOnlyAsFarAsTheirStrokes()
+    {
+        Resources r = smallTables();
+        r.symbols = {{{.SidId = 9, .Size_mm = 2, .Type = 1}}};
+        r.glyphs.insert(9, {.strokes = {{{100, 0}, {101, 0}}}, .advance = 1}); // far from its insertion point
+        const Scene scene = sceneOf({{.kind = ElementKind::Symbol, .layId = 1, .sidId = 9, .vertices = {{0, 0}}, .scale = -1}}, r);
+        const QRectF box = scene.bounds().translated(scene.origin());
+        QVERIFY2(std::abs(box.left() + 202) < 0.01 && std::abs(box.right() + 200) < 0.01, "mirrored, 2 mm a letter height");
+        QVERIFY(box.height() < 0.1);
+    }
+
+    void pointsHaveOneSizeOnTheScreen()
+    {
+        const Scene scene = sceneOf({{.kind = ElementKind::Point, .layId = 1, .vertices = {{0, 0}}}});
+        for (double zoom : {0.01, 1.0, 300.0}) QCOMPARE(inked(imageOf(scene, {41, 41}, -scene.origin(), zoom), 20), 7);
+    }
+
+    void largeCoordinatesKeepTheirHundredths()
+    {
+        const double e = 650000, n = 240000;
+        const Scene scene = sceneOf({line(e, n, e + 0.01, n), line(e, n + 0.01, e + 0.01, n + 0.01), line(e + 800, n, e + 900, n + 500)});
+        const QPointF at = scene.toLocal(e + 0.005, n + 0.005);
+        const QImage image = imageOf(scene, {100, 100}, at, 5000); // a hundredth of a metre is 50 pixels
+        QVERIFY(inked(image, 75) > 40);
+        QVERIFY(inked(image, 25) > 40);
+        QCOMPARE(inked(image, 50), 0);
+        QCOMPARE(scene.toWorld(scene.toLocal(e + 0.01, n)), QPointF(e + 0.01, n));
+    }
+
+    void aDrawingWithARunawayOpensOnItsBulk()
+    {
+        std::vector<Element> all;
+        for (int i = 0; i < 100; ++i) all.push_back(line(650000 + i, 240000, 650001 + i, 240060));
+        const Scene tidy = sceneOf(all);
+        QCOMPARE(tidy.mainBounds(), tidy.bounds());
+        all.push_back(line(0, 0, 1, 1));
+        const Scene scene = sceneOf(all);
+        QVERIFY(scene.bounds().width() > 640000);
+        QVERIFY(scene.mainBounds().width() < 150);
+        QVERIFY(scene.mainBounds().contains(scene.toLocal(650050, 240030)));
+    }
+    void aRunawayDoesNotMoveTheOrigin()
+    {
+        std::vector<Element> all;
+        for (int i = 0; i < 20; ++i) all.push_back(line(650000 + i, 240000, 650001 + i, 240001));
+        all.push_back(line(1e15, 1e15, 1e15 + 10, 1e15));
+        const QPointF origin = sceneOf(all).origin();
+        QVERIFY(std::abs(origin.x() - 650000) < 100 && std::abs(origin.y() - 240000) < 100);
+    }
+
+    void whatIsNoNumberIsLeftOut()
+    {
+        const Scene scene = sceneOf({line(qQNaN(), 0, 1, 1), line(0, 0, qInf(), 5), {.kind = ElementKind::Line}, line(0, 0, 10, 0)});
+        QCOMPARE(scene.elementsIn(QRectF(-1000, -1000, 2000, 2000), false), std::vector<int>{3});
+        QVERIFY(scene.bounds().width() < 11);
+    }
+
+    void curvesAreCutFinely_data()
+    {
+        QTest::addColumn<double>("bulge");
+        QTest::addColumn<double>("length");     // from (0,0) to (10,0)
+        QTest::newRow("straight") << 0.0 << 10.0;
+        QTest::newRow("half circle") << 1.0 << 5 * M_PI;
+        QTest::newRow("quarter, clockwise") << -std::tan(M_PI / 8) << 10 / std::sqrt(2.0) * M_PI / 2;
+    }
+    void curvesAreCutFinely()
+    {
+        QFETCH(double, bulge);
+        QFETCH(double, length);
+        const Element e{.kind = ElementKind::Line, .vertices = {{0, 0, bulge}, {10, 0}}};
+        const QPolygonF path = outlinesOf(e, {}).front();
+        double sum = 0;
+        for (qsizetype i = 1; i < path.size(); ++i) sum += QLineF(path[i - 1], path[i]).length();
+        QVERIFY(std::abs(sum - length) < 0.01 * length / 10);
+        const QPointF middle = path[path.size() / 2]; // a left turn bends to the right of the chord
+        QVERIFY(bulge == 0 || (middle.y() < 0) == (bulge > 0));
+    }
+
+    void overlappingFillsDoNotCutEachOtherOut()
+    {
+        const auto square = [](double x, double size, std::vector<int> rings = {}) {
+            Element e{.kind = ElementKind::Fill, .layId = 1, .vertices = {{x, 0}, {x + size, 0}, {x + size, size}, {x, size}}, .rings = rings};
+            return e;
+        };
+        Element holed = square(100, 40, {0, 4}); // with a hole, wound the same way
+        for (const Vertex &v : {Vertex{110, 10}, {130, 10}, {130, 30}, {110, 30}}) holed.vertices.push_back(v);
+        const Scene scene = sceneOf({square(0, 40), square(20, 40), holed});
+        const QImage image = imageOf(scene, {200, 60}, QPointF(100, 20) - scene.origin(), 1);
+        const auto at = [&image](int x, int y) { return image.pixelColor(x, 50 - y) != Qt::white; };
+        QVERIFY(at(30, 20));    // where both squares lie
+        QVERIFY(!at(120, 20));  // the hole
+        QVERIFY(at(105, 20));
+    }
+
+    void textsAreHitAndTooSmallOnesNotDrawn()
+    {
+        const Element text{.kind = ElementKind::Text, .layId = 1, .vertices = {{0, 0}}, .rotation = 90, .size = 10,
+                           .align = 24, .text = QStringLiteral("HHHH")};
+        const Scene scene = sceneOf({text});
+        QCOMPARE(scene.elementAt(QPointF(-5, 15) - scene.origin(), 0.5), 0);     // runs upwards, left of its base line
+        QCOMPARE(scene.elementAt(QPointF(15, 5) - scene.origin(), 0.5), -1);
+        const QImage large = imageOf(scene, {80, 80}, -scene.origin(), 1), small = imageOf(scene, {80, 80}, -scene.origin(), 0.1);
+        QVERIFY(inked(large, 20) > 0);
+        for (int row = 0; row < 80; ++row) QCOMPARE(inked(small, row), 0);
+    }
+};
+
+QVDC_TEST(tst_Scene)
+#include "tst_Scene.moc"
