@@ -18,6 +18,12 @@ if [ -z "${XDG_RUNTIME_DIR:-}" ]; then # Qt asks for one at every start
     mkdir -p -m 700 "$root/build/runtime" && export XDG_RUNTIME_DIR="$root/build/runtime"
 fi
 
+# Real drawings to try on, when they lie beside the checkout.
+if [ -z "${QVDC_SAMPLES+set}" ] && [ -d "$root/../shared/data" ]; then
+    QVDC_SAMPLES=$(cd "$root/../shared/data" && pwd)
+    export QVDC_SAMPLES
+fi
+
 quietly() { # quietly LOG COMMAND...: shows the output only when the command fails
     local log=$1
     shift
