@@ -310,6 +310,7 @@ void Grid::setListOnly(bool on)
 {
     m_filter->setVisible(!on);
     m_box->setVisible(!on);
+    m_header->setStretchLastSection(on);
 }
 
 void Grid::setMultiSelection(bool on)
