@@ -12,12 +12,19 @@ if(QVDC_SANITIZE)
     target_link_options(qvdc_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# A source that joins a folder must reach the meta-object compiler too: its run depends on the list of sources.
+# A source that joins a folder must reach the meta-object compiler too, which runs only when its stamp is gone or a known
+# source is newer.
 function(qvdc_follow_sources target)
     get_target_property(sources ${target} SOURCES)
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${target}.sources)
-    file(CONFIGURE OUTPUT ${list} CONTENT "${sources}\n")
-    set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS ${list})
+    set(before)
+    if(EXISTS ${list})
+        file(READ ${list} before)
+    endif()
+    if(NOT before STREQUAL "${sources}")
+        file(WRITE ${list} "${sources}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+    endif()
 endfunction()
 
 # qvdc_room(target folder LINKS libraries...): one room of the house, every source below its folder.
