@@ -83,7 +83,7 @@ private slots:
         tests::FaultyDoc faulty(*doc);
         faulty.log.failNext = failing;
         clsDocDlgs dialogs;
-        ZolWDoc::tLay lay;
+        ZolWDoc::tLay lay = doc->layers().readAll().front();
         const auto watch = tests::whileModal<frmSelect>(
             [&](frmSelect &d) { tests::child<QPushButton>(d, qPrintable(button)).click(); });
         bool failed = false;
