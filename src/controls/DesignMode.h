@@ -4,8 +4,8 @@ class QWidget;
 
 namespace QV_DOC_CONTROLS {
 
-/// Whether a control stands on a form that is being designed, where it shows its properties and does not work.
-/// A preview of the form in the designer is none: there it works as in a program.
+/// Whether a control stands on a form that is being designed, where it shows its properties and does not
+/// work. In the designer's preview of a form it works as in a program.
 bool isDesigned(const QWidget &control);
 void setDesignedTest(bool (*test)(const QWidget &)); ///< the designer's; null = nothing is designed here
 

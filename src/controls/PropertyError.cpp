@@ -7,7 +7,9 @@ namespace {
 
 std::string messageOf(PropertyError::Number number, const char *property)
 {
-    const auto text = [&](Text refusal) { return join(refusal, QString::fromLatin1(property)).toStdString(); };
+    const auto text = [property](Text refusal) {
+        return join(refusal, QString::fromLatin1(property)).toStdString();
+    };
     switch (number) {
     case PropertyError::SetNotSupportedAtRunTime:
         return text({22000, u"A tulajdonság futás közben nem állítható be: "});
