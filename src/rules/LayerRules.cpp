@@ -1,9 +1,9 @@
 #include "rules/LayerRules.h"
 
 #include "facade/services/Text.h"
+#include "rules/Numeric.h"
 
 #include <QHash>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -63,12 +63,6 @@ std::optional<tLayArr> renumbered(std::span<const tLay> selected, int start, int
         nr += growth;
     }
     return out;
-}
-
-bool isNumeric(QStringView text)
-{
-    static const QRegularExpression form(QStringLiteral("^ *[+-]? *(\\d+(\\.\\d*)?|\\.\\d+) *$"));
-    return form.match(text).hasMatch();
 }
 
 QString withoutPrefix(const QString &name, bool onlyNumbers)

@@ -38,9 +38,6 @@ std::optional<ZolWDoc::tLay> newLayer(std::span<const ZolWDoc::tLay> all, const 
 std::optional<ZolWDoc::tLayArr> renumbered(std::span<const ZolWDoc::tLay> selected, int start, int growth,
                                            std::span<const ZolWDoc::tLay> all);
 
-/// A number in the wide sense: blanks around it, a sign, decimals after a point; no exponent.
-bool isNumeric(QStringView text);
-
 /// What follows the first "-" of a name, trimmed. The name as it is when there is no "-" or nothing before or
 /// behind it, or when the part before it is no number and `onlyNumbers` asks for one.
 QString withoutPrefix(const QString &name, bool onlyNumbers);
