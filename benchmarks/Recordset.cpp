@@ -30,7 +30,8 @@ const Recordset &symbols()
         for (int i = 0; i < 32000; ++i) {
             const int r = set.addRow(Recordset::RowState::Inserted);
             set.setInteger(r, 0, i + 1), set.setText(r, 1, u"Növényzet"), set.setInteger(r, 2, i % 256);
-            set.setText(r, 3, QStringLiteral("Fa %1").arg(i)), set.setText(r, 4, u"Lombos fa \"önálló\" jele");
+            set.setText(r, 3, QStringLiteral("Fa %1").arg(i)),
+                set.setText(r, 4, u"Lombos fa \"önálló\" jele");
             set.setReal(r, 5, 0.1 * (i % 90)), set.setReal(r, 6, 1), set.setText(r, 7, u"Arial");
             set.setBoolean(r, 8, i % 2), set.setReal(r, 9, i / 7.0), set.setReal(r, 10, 0);
             set.setInteger(r, 11, i % 300);

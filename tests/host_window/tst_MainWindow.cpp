@@ -53,7 +53,8 @@ private slots:
 
     void placedElementsLandOnTheCurrentLayer()
     {
-        const qint16 roads = doc().layers().add({.gNr = 7, .Name = QStringLiteral("Utak"), .Visible = false, .PenStyleId = 1, .TxdId = 1});
+        const qint16 roads = doc().layers().add(
+            {.gNr = 7, .Name = QStringLiteral("Utak"), .Visible = false, .PenStyleId = 1, .TxdId = 1});
         doc().layers().makeCurrent(*doc().layers().find(roads));
         m_window->refresh();
         QCOMPARE(status("layerStatus"), QStringLiteral("Réteg: 7 Utak (nem látható)"));
@@ -105,8 +106,11 @@ private slots:
         doc().addElements(std::vector{point, point, point});
         m_window->refresh();
         view().select({0, 2});
-        const QString title = QStringLiteral("Elemek törlése"), text = QStringLiteral("A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.");
-        ScriptedPrompts user({{"yesNo", title, text, false, Icon::Question}, {"yesNo", title, text, true, Icon::Question}});
+        const QString title = QStringLiteral("Elemek törlése"),
+                      text = QStringLiteral(
+                          "A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.");
+        ScriptedPrompts user(
+            {{"yesNo", title, text, false, Icon::Question}, {"yesNo", title, text, true, Icon::Question}});
         trigger("delete");
         QCOMPARE(doc().elementCount(), 3);
         const qint64 kept = doc().elements()[1].id;
@@ -119,13 +123,17 @@ private slots:
 
     void leavingUnsavedWorkAsks()
     {
-        const QString title = QStringLiteral("Rajz mentése"), text = QStringLiteral("A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?");
+        const QString title = QStringLiteral("Rajz mentése"),
+                      text = QStringLiteral(
+                          "A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?");
         const QString path = m_folder.filePath(QStringLiteral("új.qvd"));
         QVERIFY(m_window->files().mayLeave()); // nothing was done yet
         doc().layers().add({.gNr = 9, .Name = QStringLiteral("Kút"), .PenStyleId = 1, .TxdId = 1});
         ScriptedPrompts user({{"choose", title, text, QVariant()},
-                              {"choose", title, text, 0}, {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), QString()},
-                              {"choose", title, text, 0}, {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), path}});
+                              {"choose", title, text, 0},
+                              {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), QString()},
+                              {"choose", title, text, 0},
+                              {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), path}});
         QVERIFY(!m_window->close());           // stays
         QVERIFY(!m_window->files().openSample());  // saving was given up
         QCOMPARE(doc().layers().count(), 2);
@@ -144,7 +152,8 @@ private slots:
         const QString path = m_folder.filePath(QStringLiteral("semmi.qvd"));
         SqliteDoc *const before = &doc();
         ScriptedPrompts user({{"tell", QStringLiteral("A művelet nem sikerült"),
-                               QStringLiteral("A(z) '") + path + QStringLiteral("' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
+                               QStringLiteral("A(z) '") + path +
+                                   QStringLiteral("' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
                                QVariant(), Icon::Exclamation}});
         QVERIFY(!m_window->files().openFile(path));
         QCOMPARE(&doc(), before);
@@ -155,19 +164,22 @@ private slots:
         const QString path = m_folder.filePath(QStringLiteral("telek.dxf"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHATAR\n10\n650000.0\n20\n240000.0\n11\n650010.0\n21\n240000.0\n"
+        file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHATAR\n10\n650000.0\n20\n240000.0\n11\n650010."
+                   "0\n21\n240000.0\n"
                    "0\nENDSEC\n0\nEOF\n");
         file.close();
         ImportReport expected;
-        DxfImport::into(m_folder.filePath(QStringLiteral("same.qvd")), path, DxfImport::guessOf(path).options(), expected);
+        DxfImport::into(m_folder.filePath(QStringLiteral("same.qvd")), path,
+                        DxfImport::guessOf(path).options(), expected);
         const QString title = QStringLiteral("DXF importálása"), note = DxfImport::guessOf(path).note;
         const QString text = QStringLiteral("Milyen egységben vannak a(z) 'telek.dxf' fájl koordinátái?")
                              + (note.isEmpty() ? QString() : u'\n' + note);
-        ScriptedPrompts user({{"choose", title, text, QVariant()},
-                              {"choose", title, text, 0},
-                              {"tell", title, expected.text(), QVariant(), Icon::Information},
-                              {"choose", QStringLiteral("Rajz mentése"),
-                               QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
+        ScriptedPrompts user(
+            {{"choose", title, text, QVariant()},
+             {"choose", title, text, 0},
+             {"tell", title, expected.text(), QVariant(), Icon::Information},
+             {"choose", QStringLiteral("Rajz mentése"),
+              QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
         QVERIFY(!m_window->files().importFile(path));
         QCOMPARE(doc().elementCount(), 0);
         QVERIFY(m_window->files().importFile(path)); // metres, the first unit
@@ -189,7 +201,8 @@ private slots:
             why = e.text();
         }
         QVERIFY(why.contains(path) || why.contains(QStringLiteral("nem.dxf")));
-        ScriptedPrompts user({{"tell", QStringLiteral("A művelet nem sikerült"), why, QVariant(), Icon::Exclamation}});
+        ScriptedPrompts user(
+            {{"tell", QStringLiteral("A művelet nem sikerült"), why, QVariant(), Icon::Exclamation}});
         SqliteDoc *const before = &doc();
         QVERIFY(!m_window->files().importFile(path));
         QCOMPARE(&doc(), before);
@@ -200,7 +213,8 @@ private slots:
         trigger("line");
         m_services->language()->setCurrent(Vietnamese);
         QCOMPARE(m_window->menuBar()->actions()[0]->text(), QStringLiteral("&Tệp"));
-        QCOMPARE(m_window->findChild<QAction *>(QStringLiteral("bSelect_Lay"))->text(), QStringLiteral("Chọn &lớp…"));
+        QCOMPARE(m_window->findChild<QAction *>(QStringLiteral("bSelect_Lay"))->text(),
+                 QStringLiteral("Chọn &lớp…"));
         QVERIFY(status("countStatus").endsWith(QStringLiteral("đối tượng")));
         QCOMPARE(Language().currentLanguage(), int(Vietnamese)); // remembered
         m_services->language()->setCurrent(Hungarian);
@@ -212,7 +226,8 @@ private slots:
             m_services->language()->setForThisRun(id);
             std::vector<QList<QAction *>> menus{m_window->menuBar()->actions()};
             for (const QAction *a : m_window->menuBar()->actions())
-                if (a->menu()->actions().value(0) && !a->menu()->actions()[0]->data().toInt()) menus.push_back(a->menu()->actions());
+                if (a->menu()->actions().value(0) && !a->menu()->actions()[0]->data().toInt())
+                    menus.push_back(a->menu()->actions());
             for (const auto &menu : menus) {
                 QSet<QChar> keys;
                 for (const QAction *a : menu) {
@@ -234,7 +249,8 @@ private slots:
             if (row.sign) signs << iconOf(*row.sign).pixmap(48).toImage();
         for (const DialogCall &call : dialogCalls()) signs << iconOf(call.sign).pixmap(48).toImage();
         for (qsizetype i = 0; i < signs.size(); ++i)
-            for (qsizetype k = 0; k < i; ++k) QVERIFY2(signs[i] != signs[k], qPrintable(QStringLiteral("%1 = %2").arg(i).arg(k)));
+            for (qsizetype k = 0; k < i; ++k)
+                QVERIFY2(signs[i] != signs[k], qPrintable(QStringLiteral("%1 = %2").arg(i).arg(k)));
     }
 };
 
