@@ -3,11 +3,13 @@
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "facade/services/clsDebug.h"
+#include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
 
 #include <QFile>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -62,15 +64,40 @@ private slots:
                  QStringList({"clsDocDlgs.Class_Initialize >>", "clsDocDlgs.Class_Initialize 1",
                               "clsDocDlgs.Class_Initialize 2", "clsDocDlgs.Class_Initialize <<"}));
     }
+    void aCallIsTracedWhateverItsEnd_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("failing");
+        QTest::addColumn<QStringList>("marks");
+        const QStringList whole{"1", "2", "<<"};
+        QTest::newRow("confirmed") << "cmdOk" << QString() << whole;
+        QTest::newRow("cancelled") << "cmdCancel" << QString() << whole;
+        QTest::newRow("failed") << "cmdOk" << "layers.makeCurrent" << QStringList{"1", "<<"};
+    }
     void aCallIsTracedWhateverItsEnd()
     {
+        QFETCH(QString, button);
+        QFETCH(QString, failing);
+        QFETCH(QStringList, marks);
         const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        tests::FaultyDoc faulty(*doc);
+        faulty.log.failNext = failing;
         clsDocDlgs dialogs;
-        ZolWDoc::tLay lay;
-        const auto watch = tests::whileModal<frmSelect>([](frmSelect &d) { d.reject(); });
-        QCOMPARE(traced([&] { dialogs.bSelect_Lay(*doc, lay); }),
-                 QStringList({"clsDocDlgs.bSelect_Lay >>", "clsDocDlgs.bSelect_Lay 1",
-                              "clsDocDlgs.bSelect_Lay 2", "clsDocDlgs.bSelect_Lay <<"}));
+        ZolWDoc::tLay lay = doc->layers().readAll().front();
+        const auto watch = tests::whileModal<frmSelect>(
+            [&](frmSelect &d) { tests::child<QPushButton>(d, qPrintable(button)).click(); });
+        bool failed = false;
+        const QStringList lines = traced([&] {
+            try {
+                dialogs.bSelect_Lay(faulty, lay);
+            } catch (const tests::HostError &) {
+                failed = true;
+            }
+        });
+        QCOMPARE(failed, !failing.isEmpty());
+        QStringList expected{QStringLiteral("clsDocDlgs.bSelect_Lay >>")};
+        for (const QString &mark : marks) expected << QStringLiteral("clsDocDlgs.bSelect_Lay ") + mark;
+        QCOMPARE(lines, expected);
     }
 
     void titleAndLanguageAreTheLibrarysOwn()
