@@ -67,6 +67,23 @@ bool clsJs_Layer::fits(const tLay &lay) const
     return (m_group == GroupRows::kAll || m_inGroup.contains(lay.LayId)) && (!m_onlyVisible || lay.Visible);
 }
 
+void clsJs_Layer::write(const QString &command, const std::function<void()> &body)
+{
+    try {
+        inCommand(*document(), command, body);
+        refill();
+    } catch (...) {
+        const std::exception_ptr first = std::current_exception();
+        try {
+            refill();
+        } catch (...) { // the first error is the one to tell
+        }
+        std::rethrow_exception(first);
+    }
+}
+
+void clsJs_Layer::refill() { fill(); }
+
 void clsJs_Layer::setbShowGroups(bool on)
 {
     GridManager::setbShowGroups(on);

@@ -3,6 +3,7 @@
 #include "grids/LayerTable.h"
 #include "grids/frame/GroupRows.h"
 #include "grids/frame/TableManager.h"
+#include "grids/layer/LayerEdits.h"
 
 #include <QSet>
 
@@ -10,7 +11,7 @@ namespace QV_DOC_CONTROLS {
 
 /// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and
 /// the previously current layer of its form.
-class clsJs_Layer final : public TableManager<LayerTable> { // published spelling
+class clsJs_Layer final : public TableManager<LayerTable>, private LayerDesk { // published spelling
     Q_OBJECT
 public:
     clsJs_Layer();
@@ -36,6 +37,12 @@ public:
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
 
+    // --- commands, for the table kLayerCommands; an error goes to the relay
+    void newLayer() { command([this] { m_edits.addNew(); }); }
+
+    // --- when a command can be used
+    bool isEditable() const { return isOpen() && AllowEdit(); }
+
 signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
@@ -51,6 +58,25 @@ private:
     bool fits(const ZolWDoc::tLay &lay) const override;
     void readGroups();
     void chooseGroup(int row);
+    template <class Body> void command(Body body)
+    {
+        if (isOpen()) relay().guard(body);
+    }
+
+    // --- the desk of the commands
+    bool isOpen() const override { return document() != nullptr; }
+    ZolWDoc::ZOLW_Doc &doc() override { return *document(); }
+    ZolWDoc::tLayArr selected() const override { return TableManager::selected(); }
+    int selectedCount() const override { return grid() ? grid()->selectedCount() : 0; }
+    std::optional<ZolWDoc::tLay> current() const override { return currentRecord(); }
+    qint16 chosenGroup() const override { return m_group; }
+    void write(const QString &command, const std::function<void()> &body) override;
+    void refill() override;
+    void selectLayer(qint16 layId) override { selectById(layId); }
+    ErrorRelay &relay() const override { return GridManager::relay(); }
+    QObject *asker() const override { return grid(); }
+
+    LayerEdits m_edits{*this};
 
     GroupRows m_groupRows;
     Grid *m_groupGrid = nullptr;                        ///< the form's, until TearDown()
