@@ -14,7 +14,7 @@ namespace tests {
 class ScriptedPrompts final : public QV_DOC_CONTROLS::Prompts {
 public:
     struct Step {
-        const char *kind;                       ///< "tell", "yesNo", "choose", "text", "openFile", "saveFile"
+        const char *kind;                       ///< "tell", "show", "yesNo", "choose", "text", "openFile", "saveFile"
         QString title, text;                    ///< to the letter; of a file question the text is the filter
         QVariant answer{};
         QV_DOC_CONTROLS::Icon icon = QV_DOC_CONTROLS::Icon::None;
@@ -25,6 +25,7 @@ public:
     int asked() const { return m_next; }
 
     void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
+    void show(const QV_DOC_CONTROLS::Report &, QObject *) override; ///< expects text and lines, joined by '\n'
     bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     std::optional<int> choose(const QV_DOC_CONTROLS::Choice &, QObject *) override;
     std::optional<QString> text(const QV_DOC_CONTROLS::TextQuestion &,

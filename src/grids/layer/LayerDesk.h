@@ -17,7 +17,7 @@ class ErrorRelay;
 /// and then writes with one bulk call inside write().
 struct LayerDesk {
     virtual bool isOpen() const = 0;                    ///< there is a document
-    virtual ZolWDoc::ZOLW_Doc &doc() = 0;               ///< only asked for while there is one
+    virtual ZolWDoc::ZOLW_Doc &doc() = 0;               ///< ends the command when it was torn down meanwhile
     virtual ZolWDoc::tLayArr selected() const = 0;      ///< shown selected rows, in grid order
     virtual int selectedCount() const = 0;
     virtual std::optional<ZolWDoc::tLay> current() const = 0; ///< of the grid's current row

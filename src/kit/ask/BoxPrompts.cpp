@@ -2,6 +2,7 @@
 
 #include "facade/services/Text.h"
 #include "kit/ask/ChoiceBox.h"
+#include "kit/ask/ReportBox.h"
 #include "kit/ask/TextBox.h"
 
 #include <QApplication>
@@ -110,6 +111,8 @@ void BoxPrompts::tell(const Message &m, QObject *asker)
     box.setDefaultButton(box.addButton(txt(Text{2802, u"OK"}), QMessageBox::AcceptRole));
     box.exec();
 }
+
+void BoxPrompts::show(const Report &r, QObject *asker) { ReportBox(r, windowOf(asker)).exec(); }
 
 bool BoxPrompts::yesNo(const Message &m, QObject *asker)
 {

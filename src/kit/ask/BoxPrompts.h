@@ -8,6 +8,7 @@ namespace QV_DOC_CONTROLS {
 class BoxPrompts final : public Prompts {
 public:
     void tell(const Message &, QObject *asker) override;
+    void show(const Report &, QObject *asker) override;
     bool yesNo(const Message &, QObject *asker) override;
     std::optional<int> choose(const Choice &, QObject *asker) override;
     std::optional<QString> text(const TextQuestion &, QObject *asker) override;
