@@ -36,9 +36,7 @@ std::optional<typename Table::Record> withValue(const typename Table::Record &no
     return edited;
 }
 
-inline void tell(const Refusal &r, QObject *asker)
-{
-    prompts().tell({r.icon, txt(r.title), txt(r.text)}, asker);
-}
+inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }
+inline void tell(const Refusal &r, QObject *asker) { prompts().tell(messageOf(r), asker); }
 
 } // namespace QV_DOC_CONTROLS

@@ -16,18 +16,16 @@ public:
     {}
     bool isSure(const Doomed &d)
     {
-        const bool yes =
-            prompts().yesNo({Icon::Question, txt(m_texts.title),
-                             join(m_texts.sureBefore, d.number, m_texts.sureAfter)}, m_asker);
+        const QString question = join(m_texts.sureBefore, d.number, m_texts.sureAfter);
+        const bool yes = prompts().yesNo({Icon::Question, txt(m_texts.title), question}, m_asker);
         m_relay.checkpoint();
         return yes;
     }
     bool mayGo(const Doomed &d)
     {
         if (!d.isUsed || m_all) return true;
-        const AllYesNo answer = prompts().allYesNo(
-            {Icon::Question, txt(m_texts.title), join(m_texts.usedBefore, d.name, m_texts.usedAfter, kDelete)},
-            m_asker);
+        const QString question = join(m_texts.usedBefore, d.name, m_texts.usedAfter, kDelete);
+        const AllYesNo answer = prompts().allYesNo({Icon::Question, txt(m_texts.title), question}, m_asker);
         m_relay.checkpoint();
         m_all = answer == AllYesNo::All;
         return answer != AllYesNo::No;

@@ -4,6 +4,7 @@
 #include "grids/LayerTable.h"
 #include "grids/frame/CellEdit.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/ask/UniqueNumber.h"
 #include "rules/LayerRules.h"
 
 namespace QV_DOC_CONTROLS {
@@ -28,7 +29,25 @@ constexpr Reference kReferences[] = {{TableKind::TextTypes, &tLay::TxdId, {15, u
                                      {TableKind::LineTypes, &tLay::PenStyleId, {3305, u"Vonaltípus"}},
                                      {TableKind::PenColors, &tLay::PenColorId, {3168, u"Toll"}}};
 
+/// The layer of the current row, if it is still there.
+tLayArr currentNow(const LayerDesk &desk, const tLayArr &all)
+{
+    const auto row = desk.current();
+    return row ? asNow(std::span(&*row, 1), all) : tLayArr{};
+}
 tLayArr selectedNow(LayerDesk &desk) { return asNow(desk.selected(), desk.doc().layers().readAll()); }
+
+void report(const ShorterNames &names, const QString &title, LayerDesk &desk)
+{
+    const int changed = int(names.lines.size());
+    QString text = changed == 0 ? txt(Text{21705, u"Egyik kijelölt réteg neve sem változott."})
+                                : join(Text{21706, u"Megváltozott rétegnevek: "}, changed);
+    if (names.taken > 0)
+        text += u'\n' + join(Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "}, names.taken);
+    if (changed == 0) prompts().tell({Icon::Information, title, text}, desk.asker());
+    else prompts().show({title, text, names.lines}, desk.asker());
+    desk.relay().checkpoint();
+}
 
 } // namespace
 
@@ -79,50 +98,48 @@ void LayerValues::pick(TableKind kind)
     store(txt(value.name), before, std::move(after));
 }
 
-/// Asks for a value of the current layer until the table takes it or the user gives up. What is no value of
-/// the column is dropped as in the grid.
-void LayerValues::askFor(int column, const Ask &ask)
+void LayerValues::rename()
 {
+    constexpr int column = LayerTable::nameColumn;
     const tLayArr all = m_desk.doc().layers().readAll();
-    const auto row = m_desk.current();
-    const tLayArr now = asNow(std::span(row ? &*row : nullptr, row ? 1 : 0), all);
+    const tLayArr now = currentNow(m_desk, all);
     if (now.empty()) return;
-    QVariant typed = LayerTable::columns[column].get(now.front());
+    QString name = now.front().Name;
     for (;;) {
-        typed = ask(now.front(), typed);
+        const auto typed = prompts().text(
+            {txt(Text{21708, u"Réteg átnevezése"}), txt(Text{21709, u"A réteg új neve:"}), name},
+            m_desk.asker());
         m_desk.relay().checkpoint();
-        const auto edited = typed.isNull() ? std::nullopt : withValue<LayerTable>(now.front(), column, typed);
-        if (!edited) return;
+        const auto edited = typed ? withValue<LayerTable>(now.front(), column, *typed) : std::nullopt;
+        if (!edited) return;                            // what is no name is dropped, as in the grid
         const Refusal *const why = refusalOf<LayerTable>(*edited, column, all);
         if (!why) return store(txt(LayerTable::columns[column].caption), now, {*edited});
         tell(*why, m_desk.asker());
         m_desk.relay().checkpoint();
+        name = *typed;
     }
-}
-
-void LayerValues::rename()
-{
-    askFor(LayerTable::nameColumn, [this](const tLay &, const QVariant &proposed) -> QVariant {
-        const auto name = prompts().text({txt(Text{21708, u"Réteg átnevezése"}),
-                                          txt(Text{21709, u"A réteg új neve:"}), proposed.toString()},
-                                         m_desk.asker());
-        return name ? QVariant(*name) : QVariant();
-    });
 }
 
 void LayerValues::number()
 {
-    askFor(LayerTable::numberColumn, [this](const tLay &l, const QVariant &proposed) -> QVariant {
-        const auto number =
-            prompts().numbers({txt(Text{3300, u"Rétegsorszám"}),
-                               join(Text{21710, u"Új sorszám ehhez a réteghez: "}, l.Name),
-                               {{.label = txt(Text{3411, u"Sorszám"}),
-                                 .preset = proposed.toDouble(),
-                                 .min = 1,
-                                 .max = kHighestLayerNumber}}},
-                              m_desk.asker());
-        return number ? QVariant(int(number->front())) : QVariant();
-    });
+    constexpr int column = LayerTable::numberColumn;
+    const tLayArr all = m_desk.doc().layers().readAll();
+    const tLayArr now = currentNow(m_desk, all);
+    if (now.empty()) return;
+    tLayArr numbered = now;
+    const auto refusalFor = [&](double nr) -> std::optional<Message> {
+        numbered.front().gNr = qint16(nr);
+        const Refusal *const why = refusalOf<LayerTable>(numbered.front(), column, all);
+        return why ? std::optional(messageOf(*why)) : std::nullopt;
+    };
+    const NumberQuestion question{txt(Text{3300, u"Rétegsorszám"}),
+                                  join(Text{21710, u"Új sorszám ehhez a réteghez: "}, now.front().Name),
+                                  {{.label = txt(Text{3411, u"Sorszám"}),
+                                    .preset = double(now.front().gNr),
+                                    .min = 1,
+                                    .max = kHighestLayerNumber}}};
+    if (uniqueNumber(m_desk.relay(), question, refusalFor, m_desk.asker()))
+        store(txt(LayerTable::columns[column].caption), now, std::move(numbered));
 }
 
 void LayerValues::trimNames()
@@ -140,15 +157,7 @@ void LayerValues::trimNames()
             int written = 0;
             m_desk.doc().layers().updateAll(names.changed, written);
         });
-    QString text = names.lines.empty()
-                       ? txt(Text{21705, u"Egyik kijelölt réteg neve sem változott."})
-                       : join(Text{21706, u"Megváltozott rétegnevek: "}, int(names.lines.size()));
-    if (names.taken > 0)
-        text += join(QStringLiteral("\n"), Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "},
-                     names.taken);
-    if (names.lines.empty()) prompts().tell({Icon::Information, title, text}, m_desk.asker());
-    else prompts().show({title, text, names.lines}, m_desk.asker());
-    m_desk.relay().checkpoint();
+    report(names, title, m_desk);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -2,8 +2,6 @@
 
 #include "grids/layer/LayerDesk.h"
 
-#include <QVariant>
-
 namespace QV_DOC_CONTROLS {
 
 /// The commands that change values of layers: the current one's, those of all selected ones, or of all there
@@ -13,7 +11,7 @@ public:
     explicit LayerValues(LayerDesk &desk) : m_desk(desk) {}
     void rename();                      ///< the current layer; asks again after a refusal
     void number();                      ///< the current layer; asks again after a refusal
-    void trimNames();                   ///< strips a prefix from the selected layers' names; lists what changed
+    void trimNames();                   ///< cuts a prefix from the selected layers' names; lists what changed
     void setFlag(bool ZolWDoc::tLay::*flag, bool on);   ///< of the selected layers
     void setAllVisible(bool on);                        ///< of the whole table
     /// Text type, line type or pen colour of the selected layers, from its selection dialog.
@@ -21,8 +19,6 @@ public:
     static bool canPick(ZolWDoc::TableKind kind);
 
 private:
-    using Ask = std::function<QVariant(const ZolWDoc::tLay &, const QVariant &proposed)>; ///< null = cancelled
-    void askFor(int column, const Ask &ask);
     void store(const QString &command, const ZolWDoc::tLayArr &before, ZolWDoc::tLayArr after);
     LayerDesk &m_desk;
 };

@@ -1,7 +1,6 @@
 #include "kit/ask/BoxPrompts.h"
 
 #include "facade/services/Text.h"
-#include "kit/ask/ReportBox.h"
 #include "kit/forms/AccessKeys.h"
 
 #include <QApplication>
@@ -140,8 +139,6 @@ void BoxPrompts::tell(const Message &m, QObject *asker)
     box.setDefaultButton(box.addButton(txt(Text{2802, u"OK"}), QMessageBox::AcceptRole));
     box.exec();
 }
-
-void BoxPrompts::show(const Report &r, QObject *asker) { ReportBox(r, windowOf(asker)).exec(); }
 
 bool BoxPrompts::yesNo(const Message &m, QObject *asker)
 {

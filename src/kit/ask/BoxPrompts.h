@@ -11,7 +11,6 @@ namespace QV_DOC_CONTROLS {
 class BoxPrompts : public Prompts {
 public:
     void tell(const Message &, QObject *asker) override;
-    void show(const Report &, QObject *asker) override;
     bool yesNo(const Message &, QObject *asker) override;
     AllYesNo allYesNo(const Message &, QObject *asker) override;
     std::optional<bool> yesNoCancel(const Message &, QObject *asker) override;

@@ -1,4 +1,4 @@
-#include "kit/ask/ReportBox.h"
+#include "dialogs/values/ReportBox.h"
 
 #include "facade/services/Text.h"
 #include "kit/forms/WindowSize.h"
