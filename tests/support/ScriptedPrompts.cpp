@@ -67,6 +67,10 @@ QVariant ScriptedPrompts::next(const char *kind, const QString &title, const QSt
 }
 
 void ScriptedPrompts::tell(const Message &m, QObject *) { next("tell", m.title, m.text, m.icon); }
+void ScriptedPrompts::show(const Report &r, QObject *)
+{
+    next("show", r.title, (QStringList(r.text) + r.lines).join(u'\n'), Icon::None);
+}
 bool ScriptedPrompts::yesNo(const Message &m, QObject *)
 {
     return next("yesNo", m.title, m.text, m.icon).toBool();

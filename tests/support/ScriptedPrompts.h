@@ -26,6 +26,7 @@ public:
     int asked() const { return m_next; }
 
     void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
+    void show(const QV_DOC_CONTROLS::Report &, QObject *) override; ///< expects text and lines, joined by '\n'
     bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     QV_DOC_CONTROLS::AllYesNo allYesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     std::optional<bool> yesNoCancel(const QV_DOC_CONTROLS::Message &, QObject *) override;

@@ -2,6 +2,7 @@
 
 #include "dialogs/values/ChoiceBox.h"
 #include "dialogs/values/NumberBox.h"
+#include "dialogs/values/ReportBox.h"
 #include "dialogs/values/TextBox.h"
 
 namespace QV_DOC_CONTROLS {
@@ -15,6 +16,8 @@ Prompts &boxes()
 [[maybe_unused]] const bool s_entered = (setDefaultPrompts(&boxes), true);
 
 } // namespace
+
+void ValuePrompts::show(const Report &r, QObject *asker) { ReportBox(r, windowOf(asker)).exec(); }
 
 std::optional<int> ValuePrompts::choose(const Choice &c, QObject *asker)
 {

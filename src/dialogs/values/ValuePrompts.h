@@ -8,6 +8,7 @@ namespace QV_DOC_CONTROLS {
 /// fields.
 class ValuePrompts final : public BoxPrompts {
 public:
+    void show(const Report &, QObject *asker) override;
     std::optional<int> choose(const Choice &, QObject *asker) override;
     std::optional<QString> text(const TextQuestion &, QObject *asker) override;
     std::optional<std::vector<double>> numbers(const NumberQuestion &, QObject *asker) override;

@@ -49,6 +49,11 @@ struct ColorIndexQuestion {
     std::vector<quint32> palette;               ///< 0xRRGGBB by index, at most 256
 };
 enum class AllYesNo { All, Yes, No };
+/// What a command did, line by line.
+struct Report {
+    QString title, text;
+    QStringList lines;                          ///< may be thousands; read only, can be copied
+};
 struct FileQuestion {
     QString title;
     QString filter;                             ///< "name|pattern|name|pattern"
@@ -62,6 +67,7 @@ struct FileQuestion {
 struct Prompts {
     virtual ~Prompts() = default;
     virtual void tell(const Message &, QObject *asker = nullptr) = 0;
+    virtual void show(const Report &, QObject *asker = nullptr) = 0;
     virtual bool yesNo(const Message &, QObject *asker = nullptr) = 0;             ///< closing the box is No
     virtual AllYesNo allYesNo(const Message &, QObject *asker = nullptr) = 0;      ///< closing the box is No
     virtual std::optional<bool> yesNoCancel(const Message &,
