@@ -88,7 +88,7 @@ struct Drawing {
     int fileStyles = 0;                     ///< how many of them are the file's
     std::vector<DxfBlock> blocks;
     std::vector<DxfEntity> model;
-    std::vector<KindTally> kinds;          ///< total, paper, invisible, empty, weighted; the rest comes when written
+    std::vector<KindTally> kinds; ///< total, paper, invisible, empty, weighted; the rest comes when written
     int losses[int(Loss::Count)] = {};
     Vec2 low, high;                         ///< extent of the model; low > high when empty
 };

@@ -36,7 +36,7 @@ struct ImportGuess {
     QString codePage;           ///< as the head names it, may be empty
     double width = 0, height = 0;   ///< extent of the drawing, in the file's unit
     int objects = 0;
-    QString note;               ///< why it is not the unit that the head says, or why to look twice; else empty
+    QString note; ///< why it is not the unit that the head says, or why to look twice; else empty
     ImportOptions options() const { return {lengthUnits()[size_t(unit)].metres, scale}; }
 };
 

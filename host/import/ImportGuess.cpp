@@ -84,7 +84,8 @@ Proposal ofMap(const Clues &c)
 {
     if (c.unit >= 0 && kUnits[c.unit].metres > 0.3) return {c.unit, {}}; // there are maps in feet
     if (c.unit < 0) return {kMetre, {}};
-    return {kMetre, headSays(c.unit, {30323, u", de a koordináták térképi (méter) koordinátának látszanak."})};
+    return {kMetre,
+            headSays(c.unit, {30323, u", de a koordináták térképi (méter) koordinátának látszanak."})};
 }
 
 Proposal ofInches(const Clues &c)
@@ -98,8 +99,9 @@ Proposal asNamed(const Clues &c)
 {
     const double size = c.longer() * kUnits[c.unit].metres;
     if (size == 0 || (size >= kLeastDrawing && size <= kGreatestDrawing) || c.sheet()) return {c.unit, {}};
-    return {c.unit, headSays(c.unit, {30601, u", de akkor a rajz szokatlanul kicsi vagy nagy lenne. Nézd meg a "
-                                             u"méretét!"})};
+    return {c.unit,
+            headSays(c.unit, {30601, u", de akkor a rajz szokatlanul kicsi vagy nagy lenne. Nézd meg a "
+                                     u"méretét!"})};
 }
 
 Proposal unnamed(const Clues &c)

@@ -217,13 +217,13 @@ private slots:
     }
     void lineWeightsThatAreLostAreToldByKind()
     {
-        const Imported in(
-            Dxf{.tables = "0 TABLE|2 LAYER|0 LAYER|2 a|70 0|62 1|370 35|0 LAYER|2 b|70 0|62 1|370 -3|0 ENDTAB",
-                .entities = "0 LINE|8 a|370 50|10 0|20 0|11 1|21 0|0 LINE|8 a|370 -1|10 0|20 0|11 1|21 0|"
-                            "0 LINE|8 a|370 0|10 0|20 0|11 1|21 0|0 LINE|8 a|67 1|370 50|10 0|20 0|11 1|21 0|"
-                            "0 HATCH|8 a|370 13|2 SOLID|70 1|91 1|92 2|72 0|73 1|93 3|10 0|20 0|10 4|20 0|"
-                            "10 4|20 4|97 0|75 0|76 1"}
-                .bytes());
+        const Imported in(Dxf{
+            .tables = "0 TABLE|2 LAYER|0 LAYER|2 a|70 0|62 1|370 35|0 LAYER|2 b|70 0|62 1|370 -3|0 ENDTAB",
+            .entities = "0 LINE|8 a|370 50|10 0|20 0|11 1|21 0|0 LINE|8 a|370 -1|10 0|20 0|11 1|21 0|"
+                        "0 LINE|8 a|370 0|10 0|20 0|11 1|21 0|0 LINE|8 a|67 1|370 50|10 0|20 0|11 1|21 0|"
+                        "0 HATCH|8 a|370 13|2 SOLID|70 1|91 1|92 2|72 0|73 1|93 3|10 0|20 0|10 4|20 0|"
+                        "10 4|20 4|97 0|75 0|76 1"}
+                              .bytes());
         QCOMPARE(in.tally("LINE").weighted, 2);
         QCOMPARE(in.tally("HATCH").weighted, 1);
         QStringList notes;

@@ -126,8 +126,9 @@ private slots:
         QFETCH(bool, noted);
         const QString folder = qEnvironmentVariable("QVDC_SAMPLES");
         if (folder.isEmpty()) QSKIP("QVDC_SAMPLES does not name a folder of drawings");
-        const ImportGuess guess = DxfImport::guessOf(
-            folder + QStringLiteral("/dxf/") + QLatin1String(QTest::currentDataTag()) + QStringLiteral(".dxf"));
+        const ImportGuess guess =
+            DxfImport::guessOf(folder + QStringLiteral("/dxf/") + QLatin1String(QTest::currentDataTag()) +
+                               QStringLiteral(".dxf"));
         QTEST(lengthUnits()[size_t(guess.unit)].metres, "metres");
         QCOMPARE(guess.scale, scale);
         QCOMPARE(!guess.note.isEmpty(), noted);

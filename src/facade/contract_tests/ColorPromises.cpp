@@ -60,7 +60,8 @@ void layersUsePens(ZOLW_Doc &doc)
     using Usage = UsageRole::Usage;
     qint16 tLay::*const roles[] = {&tLay::PenColorId, &tLay::ScrColor, &tLay::PrnColor};
     const qint16 pen = 201;
-    hold(doc.usage()->usersOf(TableKind::PenColors, pen).empty(), QStringLiteral("a pen has users too early"));
+    hold(doc.usage()->usersOf(TableKind::PenColors, pen).empty(),
+         QStringLiteral("a pen has users too early"));
     tLay all = sample<tLay>().make(doc, 1);
     for (qint16 tLay::*role : roles) {
         tLay one = sample<tLay>().make(doc, 2);
