@@ -36,7 +36,7 @@ public:
     bool SingleLine() const { return m_singleLine; }
     void setSingleLine(bool on);                        ///< text box beside the list instead of below it
     QColor Backcolor() const { return propertyColor(m_backcolor); }
-    void setBackcolor(const QColor &color);             ///< of the text box; propertyColor() makes a desktop's
+    void setBackcolor(const QColor &color); ///< of the text box; propertyColor() makes a desktop's
     double WidthDiferent() const { return m_widthDiferent; } // published spelling
     void setWidthDiferent(double twips); ///< what the text box takes beyond half the line; single precision
 
