@@ -22,7 +22,8 @@ struct Options {
                                 QStringLiteral("Save a picture of each window there and end."),
                                 QStringLiteral("folder")};
     QCommandLineOption dialog{QStringLiteral("dialog"),
-                              QStringLiteral("Open that dialog, e.g. bSelect_Lay, or all, one after the other."),
+                              QStringLiteral(
+                                  "Open that dialog, e.g. bSelect_Lay, or all, one after the other."),
                               QStringLiteral("call")};
     QCommandLineOption yes{QStringLiteral("yes"),
                            QStringLiteral("Import with the guessed unit, without asking.")};
