@@ -14,7 +14,9 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     itemGrid.setMultiSelection(!singleSelection);
     m_groupGrid = groupGrid;
     if (!groupGrid) return;
-    readGroups();
+    readBeside();
+    m_groupRows.setGroups(std::move(m_readGroups));
+    m_members = std::move(m_readMembers);
     groupGrid->setSource(&m_groupRows);
     groupGrid->setMultiSelection(!singleSelection);
     groupGrid->setTooltips(
@@ -46,25 +48,66 @@ void clsJs_Layer::ml_RuntimeSupport_LanguageChanged()
     if (m_groupGrid) m_groupGrid->captionsChanged();
 }
 
-void clsJs_Layer::readGroups()
+void clsJs_Layer::readBeside()
 {
-    m_groupRows.setGroups(document()->layers().groups());
-    m_members = document()->layers().members();
+    if (!m_groupGrid) return;
+    m_readGroups = document()->layers().groups();
+    m_readMembers = document()->layers().members();
+}
+
+/// The chosen group stays with its identifier; when it is gone, the one in its place is chosen.
+void clsJs_Layer::showBeside()
+{
+    if (!m_groupGrid) return;
+    m_groupGrid->refill([this] { m_groupRows.setGroups(std::move(m_readGroups)); });
+    m_members = std::move(m_readMembers);
+    narrowTo(m_groupGrid->currentRow());
+}
+
+void clsJs_Layer::narrowTo(int row)
+{
+    m_group = m_groupRows.groupAt(row);
+    m_inGroup.clear();
+    for (const tLayMember &m : m_members)
+        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
 }
 
 void clsJs_Layer::chooseGroup(int row)
 {
     if (row < 0) return;
-    m_group = m_groupRows.groupAt(row);
-    m_inGroup.clear();
-    for (const tLayMember &m : m_members)
-        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
+    narrowTo(row);
     showAgain();
 }
 
 bool clsJs_Layer::fits(const tLay &lay) const
 {
     return (m_group == GroupRows::kAll || m_inGroup.contains(lay.LayId)) && (!m_onlyVisible || lay.Visible);
+}
+
+ZOLW_Doc &clsJs_Layer::doc()
+{
+    if (!isOpen()) ErrorRelay::stop();
+    return *document();
+}
+
+void clsJs_Layer::write(const QString &command, const std::function<void()> &body)
+{
+    writeAndFill(doc(), command, body);
+    forgetGone();
+}
+
+/// A layer that is gone is not current any more; what the document made current instead is.
+void clsJs_Layer::forgetGone()
+{
+    if (m_current >= 0 && std::ranges::find(all(), m_current, &tLay::LayId) == all().end())
+        m_current = doc().layers().currentId();
+}
+
+/// The delete key.
+bool clsJs_Layer::removeRows(std::span<const int>)
+{
+    command([this] { m_edits.remove(true); });
+    return true;
 }
 
 void clsJs_Layer::setbShowGroups(bool on)

@@ -3,6 +3,8 @@
 #include "grids/LayerTable.h"
 #include "grids/frame/GroupRows.h"
 #include "grids/frame/TableManager.h"
+#include "grids/layer/LayerEdits.h"
+#include "grids/layer/LayerValues.h"
 
 #include <QSet>
 
@@ -10,7 +12,7 @@ namespace QV_DOC_CONTROLS {
 
 /// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and
 /// the previously current layer of its form.
-class clsJs_Layer final : public TableManager<LayerTable> { // published spelling
+class clsJs_Layer final : public TableManager<LayerTable>, private LayerDesk { // published spelling
     Q_OBJECT
 public:
     clsJs_Layer();
@@ -36,6 +38,30 @@ public:
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
 
+    // --- commands, for the table kLayerCommands; an error goes to the relay
+    void newLayer() { command([this] { m_edits.addNew(); }); }
+    void copyLayers() { command([this] { m_edits.copy(); }); }
+    void renumberLayers() { command([this] { m_edits.renumber(); }); }
+    void deleteLayers() { command([this] { m_edits.remove(false); }); }
+    void modifyNames() { command([this] { m_values.trimNames(); }); }
+    void renameLayer() { command([this] { m_values.rename(); }); }
+    void numberLayer() { command([this] { m_values.number(); }); }
+    template <auto Flag, bool On> void setFlag() { command([this] { m_values.setFlag(Flag, On); }); }
+    template <bool On> void setAllVisible() { command([this] { m_values.setAllVisible(On); }); }
+    template <ZolWDoc::TableKind Kind> void pick() { command([this] { m_values.pick(Kind); }); }
+    void toggleVisibleItems() { setbShowVisibleItems(!m_onlyVisible); }
+
+    // --- when a command can be used
+    bool canEditTable() const { return isOpen() && AllowEdit(); }
+    bool canEditLayers() const { return canEditTable() && !all().empty(); }
+    bool canEditCurrent() const { return canEditTable() && grid()->currentRow() >= 0; }
+    bool canEditSelected() const { return canEditTable() && selectedCount() > 0; }
+    template <ZolWDoc::TableKind Kind> bool canPick() const
+    {
+        return canEditSelected() && LayerValues::canPick(Kind);
+    }
+    bool isOpen() const override { return TableManager::isOpen(); }
+
 signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
@@ -49,12 +75,32 @@ private:
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
     void raiseSelection(int count) override;
     bool fits(const ZolWDoc::tLay &lay) const override;
-    void readGroups();
+    bool removeRows(std::span<const int> rows) override;
+    void readBeside() override;
+    void showBeside() override;
     void chooseGroup(int row);
+    void narrowTo(int row);
+    void forgetGone();
+
+    // --- the desk of the commands
+    ZolWDoc::ZOLW_Doc &doc() override;
+    ZolWDoc::tLayArr selected() const override { return TableManager::selected(); }
+    int selectedCount() const override { return grid() ? grid()->selectedCount() : 0; }
+    std::optional<ZolWDoc::tLay> current() const override { return currentRecord(); }
+    qint16 chosenGroup() const override { return m_group; }
+    void write(const QString &command, const std::function<void()> &body) override;
+    void refill() override { fill(); }
+    void selectLayer(qint16 layId) override { selectById(layId); }
+    ErrorRelay &relay() const override { return GridManager::relay(); }
+    QObject *asker() const override { return grid(); }
+
+    LayerEdits m_edits{*this};
+    LayerValues m_values{*this};
 
     GroupRows m_groupRows;
     Grid *m_groupGrid = nullptr;                        ///< the form's, until TearDown()
-    std::vector<ZolWDoc::tLayMember> m_members;         ///< as last read
+    std::vector<ZolWDoc::tGroup> m_readGroups;          ///< until the refill that read them shows them
+    std::vector<ZolWDoc::tLayMember> m_readMembers, m_members; ///< m_members: as last shown
     QSet<qint16> m_inGroup;                             ///< layers of the chosen group
     qint16 m_group = GroupRows::kAll;
     qint16 m_current = -1, m_previous = -1;

@@ -37,7 +37,8 @@ public:
         return !failed();
     }
     /// To be called after every prompt inside a guarded body: ends the body when an error came in meanwhile.
-    void checkpoint() const { if (failed()) throw Stopped{}; }
+    void checkpoint() const { if (failed()) stop(); }
+    [[noreturn]] static void stop() { throw Stopped{}; } ///< ends the guarded body without an error
     bool failed() const { return bool(m_error); }
 
     int exec(QDialog &dialog);                  ///< runs it modally; throws what was kept

@@ -1,4 +1,4 @@
-#include "kit/ask/TextBox.h"
+#include "dialogs/values/TextBox.h"
 
 #include "kit/forms/Buttons.h"
 

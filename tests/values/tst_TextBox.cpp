@@ -1,5 +1,5 @@
-#include "kit/ask/BoxPrompts.h"
-#include "kit/ask/TextBox.h"
+#include "dialogs/values/ValuePrompts.h"
+#include "dialogs/values/TextBox.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
 
@@ -46,7 +46,7 @@ private slots:
             act(box);
             if (box.isVisible()) box.accept();
         });
-        BoxPrompts boxes;
+        ValuePrompts boxes;
         const auto given = boxes.text(
             {QStringLiteral("Keresés"), QStringLiteral("A keresett érték:"), QStringLiteral("12")}, nullptr);
         QCOMPARE(given.has_value(), !answer.isNull());

@@ -1,4 +1,4 @@
-#include "kit/ask/ChoiceBox.h"
+#include "dialogs/values/ChoiceBox.h"
 
 #include "kit/forms/Buttons.h"
 
