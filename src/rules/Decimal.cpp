@@ -1,6 +1,7 @@
 #include "rules/Decimal.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -13,10 +14,12 @@ void dropTrailingZeros(std::string &digits) { digits.erase(digits.find_last_not_
 
 Decimal::Decimal(double value)
 {
-    char text[32];                              // d.ddddddddddddddddde-ddd
-    const auto end = std::to_chars(text, text + sizeof text, std::abs(value), std::chars_format::scientific).ptr;
+    std::array<char, 32> buffer;                // d.ddddddddddddddddde-ddd
+    const char *const text = buffer.data();
+    const char *const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                          std::chars_format::scientific).ptr;
     const char *const exponent = std::find(text, end, 'e');
-    digits.assign(static_cast<const char *>(text), exponent);
+    digits.assign(text, size_t(exponent - text));
     std::erase(digits, '.');
     std::from_chars(exponent + (exponent[1] == '+' ? 2 : 1), end, point);
     ++point;

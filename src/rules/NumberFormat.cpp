@@ -49,7 +49,10 @@ private:
         if (c == u'\\' && !atEnd()) c = taken();
         addLiteral(c);
     }
-    bool afterDigit() const { return !m_section.pieces.empty() && m_section.pieces.back().kind == Kind::Digit; }
+    bool afterDigit() const
+    {
+        return !m_section.pieces.empty() && m_section.pieces.back().kind == Kind::Digit;
+    }
 
     /// Commas group when a digit follows in the whole part, and scale when no digit follows.
     void settleCommas(bool beforeDigit)
@@ -119,7 +122,8 @@ public:
             number.point = section.whole;
         }
         number.roundTo(section.decimals);
-        if (section.scientific && number.point > section.whole) --number.point, ++m_exponent; // 9.99 became 10
+        if (section.scientific && number.point > section.whole) // 9.99 became 10
+            --number.point, ++m_exponent;
         m_zero = number.isZero();
         m_whole = number.whole();
         if (int(m_whole.size()) < section.leastWhole)
@@ -218,7 +222,7 @@ QString NumberFormat::text(double value, const QLocale &locale) const
 QString NumberFormat::shortest(double value, const QLocale &locale)
 {
     const bool plain = value == 0 || (std::abs(value) >= 1e-5 && std::abs(value) < 1e15);
-    return NumberFormat(plain ? u"0.####################" : u"0.################E+0").text(value, locale);
+    return NumberFormat(plain ? u"0.######################" : u"0.################E+0").text(value, locale);
 }
 
 std::vector<NumberFormat::Outside> NumberFormat::outsides() const

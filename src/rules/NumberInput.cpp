@@ -105,7 +105,8 @@ QString rangeHint(const NumberInput &input)
 {
     if (input.isText())
         return join(Text{3016, u"Maximum "}, input.lenMax, Text{3015, u" karakter"});
-    return join(input.formatted(input.min), kAnd, input.formatted(input.max), Text{3013, u" közé eső érték!"});
+    return join(input.formatted(input.min), kAnd, input.formatted(input.max),
+                Text{3013, u" közé eső érték!"});
 }
 
 } // namespace QV_DOC_CONTROLS

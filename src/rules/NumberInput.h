@@ -16,7 +16,7 @@ struct NumberInput {
     double min = 0, max = 2147483647;           ///< both included
     QString format = QStringLiteral("0");       ///< how the number is shown, see NumberFormat
     int lenMax = 20;                            ///< of texts; a text as long as that is already too long
-    bool readsLocale = false;                   ///< typed numbers are read as a person of the locale means them
+    bool readsLocale = false;                   ///< typed numbers mean what they mean in the locale
     QLocale locale;
 
     bool isText() const { return type == kText; }
