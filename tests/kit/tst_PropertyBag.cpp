@@ -131,7 +131,8 @@ private slots:
         palette.setColor(QPalette::Text, QColor(4, 5, 6));
         for (const quint32 number : {0u, 0x0000ffu, 0xffffffu, 0x80000005u, 0x80000008u, 0x80000018u})
             QCOMPARE(systemColor(propertyColor({number})).number, number);
-        QCOMPARE(systemColor(QColor(10, 20, 30, 128)).number, 0x0a141eu); // half transparent, not the desktop's
+        QCOMPARE(systemColor(QColor(10, 20, 30, 128)).number,
+                 0x0a141eu); // half transparent, not the desktop's
         QCOMPARE(shownColor(kWindowBackground, palette), QColor(1, 2, 3));
         QCOMPARE(shownColor(kWindowText, palette), QColor(4, 5, 6));
         QCOMPARE(shownColor({0x0000ff}, palette), QColor(0, 0, 255));

@@ -33,8 +33,8 @@ public:
     std::optional<int> choose(const QV_DOC_CONTROLS::Choice &, QObject *) override;
     std::optional<QString> text(const QV_DOC_CONTROLS::TextQuestion &,
                                 QObject *) override; ///< expects text + '|' + preset
-    /// Expects text + '|' + label + '|' + preset of each field, e.g. "Milyen ...?|növekmény|100"; the answer is
-    /// a QVariantList.
+    /// Expects text + '|' + label + '|' + preset of each field, e.g. "Milyen ...?|növekmény|100"; the answer
+    /// is a QVariantList.
     std::optional<std::vector<double>> numbers(const QV_DOC_CONTROLS::NumberQuestion &, QObject *) override;
     std::optional<int> colorIndex(const QV_DOC_CONTROLS::ColorIndexQuestion &,
                                   QObject *) override; ///< expects text + '|' + preset

@@ -73,6 +73,9 @@ void NumberEntry::follow()
     emit changed();
 }
 
-NumberEntry *makeNumberEntry(const NumberField &field, QWidget *parent) { return new NumberEntry(field, parent); }
+NumberEntry *makeNumberEntry(const NumberField &field, QWidget *parent)
+{
+    return new NumberEntry(field, parent);
+}
 
 } // namespace QV_DOC_CONTROLS

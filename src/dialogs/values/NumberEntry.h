@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace QV_DOC_CONTROLS {
 
-/// A number being typed: the line, its drop-down of presets, its unit and, below, why the text cannot be taken.
-/// What is typed stays as it is until the user changes it.
+/// A number being typed: the line, its drop-down of presets, its unit and, below, why the text cannot be
+/// taken. What is typed stays as it is until the user changes it.
 class NumberEntry : public QWidget {
     Q_OBJECT
 public:

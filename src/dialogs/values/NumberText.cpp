@@ -51,7 +51,8 @@ std::optional<double> numberOf(QString text, const QString &unit)
 {
     static const QRegularExpression shape(QStringLiteral("^[+-]?[\\d.,]*\\d[.,]?$"));
     text = text.trimmed();
-    if (!unit.isEmpty() && text.endsWith(unit, Qt::CaseInsensitive)) text = text.chopped(unit.size()).trimmed();
+    if (!unit.isEmpty() && text.endsWith(unit, Qt::CaseInsensitive))
+        text = text.chopped(unit.size()).trimmed();
     text = bare(text);
     if (!shape.match(text).hasMatch()) return {};
     const QLocale locale = interfaceLocale();
@@ -64,7 +65,8 @@ std::optional<double> numberOf(QString text, const QString &unit)
 QString boundsOf(const NumberField &field)
 {
     const QString unit = field.unit.isEmpty() ? QString() : u' ' + field.unit;
-    return textOf(field.min, field.decimals) + QStringLiteral(" – ") + textOf(field.max, field.decimals) + unit;
+    return textOf(field.min, field.decimals) + QStringLiteral(" – ") + textOf(field.max, field.decimals) +
+           unit;
 }
 
 QString refusalFor(const QString &text, const NumberField &field)

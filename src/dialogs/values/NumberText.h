@@ -9,11 +9,12 @@ QString textOf(double number, int decimals);
 
 /// What a user means by the text, whatever the bounds; empty = no number.
 ///
-/// The decimal sign of the interface's language counts, and the other one of point and comma wherever it cannot
-/// be taken for a group separator. Groups of three digits may be set off, the unit may stand behind.
+/// The decimal sign of the interface's language counts, and the other one of point and comma wherever it
+/// cannot be taken for a group separator. Groups of three digits may be set off, the unit may stand behind.
 std::optional<double> numberOf(QString text, const QString &unit = {});
 
 QString boundsOf(const NumberField &);          ///< "0,1 – 100 mm"
-QString refusalFor(const QString &text, const NumberField &); ///< why it cannot be taken, naming the bounds; or empty
+QString refusalFor(const QString &text,
+                   const NumberField &); ///< why it cannot be taken, naming the bounds; or empty
 
 } // namespace QV_DOC_CONTROLS

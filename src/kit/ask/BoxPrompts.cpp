@@ -118,7 +118,8 @@ QString askFile(const FileQuestion &q, QWidget *owner, QFileDialog::AcceptMode m
         const QString path = dialog.selectedFiles().value(0);
         const QString question =
             QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
-        if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Exclamation, q.title, question}, owner))
+        if (opens || !QFileInfo::exists(path) ||
+            prompts().yesNo({Icon::Exclamation, q.title, question}, owner))
             return path;
         if (owner && !owner->isVisible()) break; // closed meanwhile, because of an error
     }
