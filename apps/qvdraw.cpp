@@ -29,12 +29,13 @@ struct Options {
     explicit Options(const QCoreApplication &app)
     {
         parser.addPositionalArgument(
-            QStringLiteral("file"), QStringLiteral("A drawing (.qvd) or a .dxf file; without one a sample."));
+            QStringLiteral("files"),
+            QStringLiteral("Drawings (.qvd) and .dxf files, a tab for each; without one a sample."),
+            QStringLiteral("[file...]"));
         parser.addHelpOption();
         parser.addOptions({language, pictures, dialog, yes});
         parser.process(app);
     }
-    QString file() const { return parser.positionalArguments().value(0); }
 };
 
 int wrongUse(const char *what, const QString &value)
@@ -43,15 +44,21 @@ int wrongUse(const char *what, const QString &value)
     return 2;
 }
 
-bool load(MainWindow &window, const QString &file, bool yes)
+bool loadFile(MainWindow &window, const QString &file, bool yes)
 {
-    if (file.isEmpty()) return window.files().openSample();
-    if (file.endsWith(QStringLiteral(".dxf"), Qt::CaseInsensitive)) {
-        const bool unseen =
-            QGuiApplication::platformName() == QStringLiteral("offscreen"); // nobody could answer
-        return window.files().importFile(file, !yes && !unseen);
-    }
-    return window.files().openFile(file);
+    if (!file.endsWith(QStringLiteral(".dxf"), Qt::CaseInsensitive)) return window.files().openFile(file);
+    const bool unseen = QGuiApplication::platformName() == QStringLiteral("offscreen"); // nobody could answer
+    return window.files().importFile(file, !yes && !unseen);
+}
+
+/// False = something was asked for that could not be opened.
+bool load(MainWindow &window, const Options &options)
+{
+    const QStringList files = options.parser.positionalArguments();
+    bool all = !files.isEmpty() || window.files().openSample();
+    for (const QString &file : files) all = loadFile(window, file, options.parser.isSet(options.yes)) && all;
+    if (!window.files().drawing()) window.files().newDrawing();
+    return all;
 }
 
 } // namespace
@@ -76,8 +83,7 @@ int main(int argc, char **argv)
     if (options.parser.isSet(options.pictures))
         pictures = std::make_unique<Pictures>(options.parser.value(options.pictures));
     window.show();
-    const bool loaded = load(window, options.file(), options.parser.isSet(options.yes));
-    if (!loaded && !window.files().drawing()) window.files().newDrawing();
+    const bool loaded = load(window, options);
     if (pictures) pictures->save(window, QStringLiteral("MainWindow"));
     if (call) window.run(*call);
     if (pictures) return loaded && pictures->failures() == 0 ? 0 : 1;

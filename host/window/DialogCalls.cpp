@@ -1,6 +1,6 @@
 #include "window/DialogCalls.h"
 
-#include "document/SqliteDoc.h"
+#include "window/DrawingPage.h"
 
 #include "facade/clsDocDlgs.h"
 
@@ -12,8 +12,9 @@ namespace refhost {
 namespace {
 
 /// Starts from the current layer; the dialog makes the chosen one current.
-bool selectLayer(clsDocDlgs &dialogs, SqliteDoc &doc)
+bool selectLayer(clsDocDlgs &dialogs, DrawingPage &page)
 {
+    SqliteDoc &doc = page.doc();
     ZolWDoc::tLay lay = doc.layers().find(doc.layers().currentId()).value_or(ZolWDoc::tLay{});
     return dialogs.bSelect_Lay(doc, lay);
 }
