@@ -8,6 +8,7 @@
 #include "rules/LayerRules.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 
@@ -41,8 +42,11 @@ tLay firstLayer(ZOLW_Doc &doc)
 
 void addMembers(LayerRole &layers, const std::vector<tLayMember> &more, std::vector<tLayMember> members)
 {
+    const auto key = [](const tLayMember &m) { return m.GroupId << 16 | quint16(m.LayId); };
+    QSet<int> known;
+    for (const tLayMember &m : members) known.insert(key(m));
     for (const tLayMember &m : more)
-        if (std::ranges::find(members, m) == members.end()) members.push_back(m);
+        if (!known.contains(key(m))) known.insert(key(m)), members.push_back(m);
     layers.writeMembers(members);
 }
 
