@@ -43,7 +43,8 @@ void report(const ShorterNames &names, const QString &title, LayerDesk &desk)
     QString text = changed == 0 ? txt(Text{21705, u"Egyik kijelölt réteg neve sem változott."})
                                 : join(Text{21706, u"Megváltozott rétegnevek: "}, changed);
     if (names.taken > 0)
-        text += u'\n' + join(Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "}, names.taken);
+        text +=
+            u'\n' + join(Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "}, names.taken);
     if (changed == 0) prompts().tell({Icon::Information, title, text}, desk.asker());
     else prompts().show({title, text, names.lines}, desk.asker());
     desk.relay().checkpoint();
