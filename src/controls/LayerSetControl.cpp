@@ -1,10 +1,12 @@
 #include "controls/LayerSetControl.h"
 
+#include "controls/DesignMode.h"
+#include "controls/PropertyError.h"
 #include "facade/services/Language.h"
 #include "facade/services/Text.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/forms/GroupRole.h"
 #include "kit/forms/QuietWheel.h"
-#include "kit/forms/Twips.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
@@ -36,9 +38,10 @@ constexpr int kEnumeratedRow = 3;
 } // namespace
 
 LayerSetControl::LayerSetControl(const char *type, QWidget *parent)
-    : QWidget(parent), cboLays(new QComboBox(this)), txtLays(new QLineEdit(this)), m_identity(type),
-      m_sLayGroup(QString::fromUtf16(kEntries[0].caption.hu)) // Hungarian in every language, on purpose
+    : QWidget(parent), cboLays(new QComboBox(this)), txtLays(new QLineEdit(this)), m_type(type),
+      m_identity(type), m_sLayGroup(QString::fromUtf16(kFirstEntry))
 {
+    announceAsGroup<LayerSetControl>();
     txtLays->setObjectName(QStringLiteral("txtLays"));
     txtLays->setMaxLength(std::numeric_limits<int>::max()); // as long as the numbers of all layers
     txtLays->installEventFilter(this);
@@ -62,42 +65,21 @@ LayerSetControl::LayerSetControl(const char *type, QWidget *parent)
 
 LayerSetControl::~LayerSetControl() = default;
 
-void LayerSetControl::setSingleLine(bool on)
-{
-    m_singleLine = on;
-    orderTabs();
-    arrange();
-}
-
-/// As one reads.
-void LayerSetControl::orderTabs()
-{
-    QWidget *const first = m_singleLine ? static_cast<QWidget *>(txtLays) : cboLays;
-    setTabOrder(first, m_singleLine ? static_cast<QWidget *>(cboLays) : txtLays);
-    setFocusProxy(first);
-}
-
-/// An order among two is none until the form's other fields are there.
-void LayerSetControl::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    orderTabs();
-}
-
-void LayerSetControl::setWidthDiferent(double twips)
-{
-    m_widthDiferent = float(twips);
-    arrange();
-}
-
 void LayerSetControl::setsLays(const QString &text)
 {
+    if (isDesigned(*this)) throw PropertyError(PropertyError::SetNotPermitted, "sLays");
     writeText(text);
     takeText();
     showSet();
 }
 
 void LayerSetControl::setsLayGroup(const QString &caption)
+{
+    if (isDesigned(*this)) throw PropertyError(PropertyError::SetNotPermitted, "sLayGroup");
+    chooseNamed(caption);
+}
+
+void LayerSetControl::chooseNamed(const QString &caption)
 {
     m_sLayGroup = caption;
     if (!select(caption)) select(kCurrent);
@@ -110,7 +92,19 @@ void LayerSetControl::setsLayGroup(const QString &caption)
 void LayerSetControl::layersArrived()
 {
     showChoices();
-    setsLayGroup(m_sLayGroup);
+    const bool kept = !m_arrived && m_set.count() > 0;
+    m_arrived = true;
+    if (!kept) return chooseNamed(m_sLayGroup);
+    select(kEnumerated);
+    showSet();
+    emit ChangeLays(m_set);
+}
+
+void LayerSetControl::layersLeft()
+{
+    m_arrived = false;
+    m_set = {};
+    describe();
 }
 
 void LayerSetControl::currentLayerArrived()
@@ -212,6 +206,7 @@ void LayerSetControl::showChoices()
 void LayerSetControl::ml_RuntimeSupport_LanguageChanged()
 {
     ErrorRelay::reporting().guard([this] { showChoices(); });
+    setAccessibleName(txt(Text{22057, u"Réteghalmaz"}));
     txtLays->setAccessibleName(txt(Text{22050, u"Rétegszámok"}));
     txtLays->setPlaceholderText(QStringLiteral("1-3,7"));
     cboLays->setAccessibleName(txt(Text{22051, u"Rétegek kiválasztása"}));
@@ -244,53 +239,6 @@ bool LayerSetControl::eventFilter(QObject *watched, QEvent *event)
     if (watched == cboLays && event->type() == QEvent::FocusIn)
         ErrorRelay::reporting().guard([this] { showChoices(); });
     return false;
-}
-
-int LayerSetControl::lineHeight() const
-{
-    return std::max(txtLays->sizeHint().height(), cboLays->sizeHint().height());
-}
-
-QSize LayerSetControl::sizeHint() const
-{
-    const QSize text = txtLays->sizeHint(), list = cboLays->sizeHint();
-    const int width = m_singleLine ? text.width() + list.width() : std::max(text.width(), list.width());
-    return {width, height()};
-}
-
-QSize LayerSetControl::minimumSizeHint() const
-{
-    const int field = txtLays->minimumSizeHint().width() + cboLays->fontMetrics().averageCharWidth() * 4;
-    return {m_singleLine ? 2 * field : field, height()};
-}
-
-void LayerSetControl::arrange()
-{
-    const int line = lineHeight(), across = width();
-    setFixedHeight(m_singleLine ? line : 2 * line);
-    if (m_singleLine) {
-        const int moved = pixelsOf(int(std::clamp(m_widthDiferent, -1e6f, 1e6f)), *this);
-        const int split = std::clamp(across / 2 + moved, 0, across);
-        txtLays->setGeometry(0, 0, split, line);
-        cboLays->setGeometry(split, 0, across - split, line);
-    } else {
-        cboLays->setGeometry(0, 0, across, line);
-        txtLays->setGeometry(0, line, across, line);
-    }
-    updateGeometry();
-}
-
-void LayerSetControl::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    arrange();
-}
-
-void LayerSetControl::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) mFont_FontChanged();
-    if (event->type() == QEvent::StyleChange) arrange();
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -33,7 +33,7 @@ void ZOL3_LayGroup::TearDown()
 {
     Trace trace("ZOL3_LayGroup", "TearDown");
     m_doc = nullptr;
-    CollectionLays() = {};
+    layersLeft();
 }
 
 void ZOL3_LayGroup::GetLaysByTextBox(QString &sLayNrs)

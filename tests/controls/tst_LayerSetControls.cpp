@@ -1,102 +1,19 @@
-#include "controls/ZOL3_LayGroup.h"
-#include "controls/usLays.h"
-#include "facade/services/Language.h"
+#include "controls/LayerSetForm.h"
+
 #include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
-#include "support/LayerDoc.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QVBoxLayout>
-#include <QWheelEvent>
-
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
+using namespace tests;
 
-namespace {
-
-/// A host's dialog with one layer set control, and what the control raised.
-template <class Control> struct Form {
-    QDialog dialog;
-    Control *control = new Control(&dialog);
-    QPushButton *ok = new QPushButton(&dialog);
-    QStringList raised; ///< the set's text at every ChangeLays
-
-    Form()
-    {
-        auto *const column = new QVBoxLayout(&dialog);
-        column->addWidget(control);
-        column->addWidget(ok);
-        ok->setDefault(true);
-        QObject::connect(control, &LayerSetControl::ChangeLays, control,
-                         [this](LayerSet &set) { raised << layerSetText(set.layers()); });
-        dialog.resize(400, 120);
-        dialog.show();
-        dialog.activateWindow();
-        QApplication::setActiveWindow(&dialog);
-        control->txtLays->setFocus();
-    }
-    QLineEdit &box() { return *control->txtLays; }
-    QComboBox &list() { return *control->cboLays; }
-    void type(const char *keys)
-    {
-        box().selectAll();
-        QTest::keyClick(&box(), Qt::Key_Delete);
-        QTest::keyClicks(&box(), QLatin1String(keys));
-    }
-    void leave() { ok->setFocus(); }
-    /// The entry of this item data, with the keyboard, as a user does.
-    void pick(int itemData)
-    {
-        list().setFocus();
-        QTest::keyClick(&list(), Qt::Key_Home);
-        while (list().currentData().toInt() != itemData) {
-            const int before = list().currentIndex();
-            QTest::keyClick(&list(), Qt::Key_Down);
-            if (list().currentIndex() == before) return QTest::qFail("no such entry", __FILE__, __LINE__);
-        }
-    }
-    QString numbers() { return layerSetText(control->CollectionLays().layers()); }
-    QStringList entries()
-    {
-        QStringList out;
-        for (int i = 0; i < list().count(); ++i)
-            out << QString::number(list().itemData(i).toInt()) + u' ' + list().itemText(i);
-        return out;
-    }
-};
-using DocForm = Form<ZOL3_LayGroup>;
-using ArrayForm = Form<usLays>;
-
-constexpr int kCurrent = -1, kAll = -2, kVisible = -3, kEnumerated = -4;
-
-} // namespace
-
-class tst_LayerSetControls : public QObject {
+class tst_LayerSetControls : public LayerSetTest {
     Q_OBJECT
-private:
-    std::unique_ptr<refhost::SqliteDoc> m_doc;
-    tLay layer(qint16 number) { return *m_doc->layers().findByNumber(number); }
-
 private slots:
-    void init()
-    {
-        setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C")},
-                                 {.gNr = 4, .Name = QStringLiteral("D")},
-                                 {.gNr = 7, .Name = QStringLiteral("E"), .Visible = false}});
-        m_doc->layers().makeCurrent(layer(3));
-    }
-    void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a control was not released"); }
+    void init() { begin(); }
+    void cleanup() { end(); }
 
     void aNewControlIsEmptyAndSilent()
     {
@@ -191,6 +108,7 @@ private slots:
             QCOMPARE(f.control->sLayGroup(), f.list().currentText());
         }
     }
+
     void theEnumeratedEntryKeepsTheSetAndIsSilent()
     {
         DocForm f;
@@ -203,6 +121,7 @@ private slots:
         QCOMPARE(f.raised, before);
         QCOMPARE(f.control->sLayGroup(), QStringLiteral("(Felsorolt rétegek)"));
     }
+
     void aGroupNamedAsTheEnumeratedEntryOnlyAdds()
     {
         auto groups = m_doc->layers().groups();
@@ -228,6 +147,7 @@ private slots:
         f.control->setsLays({});
         QCOMPARE(f.raised, QStringList({"1-3", ""}));
     }
+
     void theEntrySetByTheHostIsChosen_data()
     {
         QTest::addColumn<int>("entry");
@@ -342,6 +262,7 @@ private slots:
             QCOMPARE(f.raised, before);
         }
     }
+
     void whatItThrowsWhileTheUserActsIsTold()
     {
         tests::FaultyDoc doc(*m_doc);
@@ -383,112 +304,6 @@ private slots:
         f.list().setFocus();
         QCOMPARE(f.list().currentData().toInt(), kEnumerated);
         QCOMPARE(f.numbers(), QStringLiteral("2,4"));
-    }
-
-    void captionsFollowTheLanguage_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("visible");
-        QTest::newRow("hu") << int(Hungarian) << "(Látható rétegek)";
-        QTest::newRow("en") << int(English) << "(Visible layers)";
-        QTest::newRow("ro") << int(Romanian) << "(Straturile vizibile)";
-        QTest::newRow("vi") << int(Vietnamese) << "(Các lớp đang hiện)";
-    }
-    void captionsFollowTheLanguage()
-    {
-        QFETCH(int, language);
-        QFETCH(QString, visible);
-        setLanguage(Romanian, {});
-        DocForm with;
-        ArrayForm without;
-        QCOMPARE(with.control->sLayGroup(),
-                 QStringLiteral("(Aktuális réteg)")); // Hungarian at first, on purpose
-        with.control->setZOLW_Doc(m_doc.get());
-        without.control->SetLayArr(m_doc->layers().readAll());
-        with.pick(kVisible), without.pick(kVisible);
-        const auto raised = with.raised;
-        setLanguage(language, {});
-        emit LanguageHub::instance().LanguageChanged();
-        for (auto *control : std::initializer_list<LayerSetControl *>{with.control, without.control}) {
-            QCOMPARE(control->cboLays->currentText(), visible);
-            QCOMPARE(control->sLayGroup(), visible);
-        }
-        QCOMPARE(with.raised, raised);
-        with.type("1-2");
-        QCOMPARE(with.list().currentData().toInt(), kEnumerated);
-        with.control->setsLayGroup(visible);
-        QCOMPARE(with.numbers(), QStringLiteral("1,3-4"));
-    }
-
-    void theChildrenShareTheRoom()
-    {
-        DocForm f;
-        ZOL3_LayGroup &c = *f.control;
-        QCOMPARE(c.cboLays->geometry().united(c.txtLays->geometry()), c.rect());
-        QCOMPARE(c.cboLays->y(), 0);
-        QCOMPARE(c.txtLays->y(), c.cboLays->height());
-        const int two = c.height();
-        c.setSingleLine(true);
-        QApplication::sendPostedEvents(); // the form's layout
-        QCOMPARE(c.height() * 2, two);
-        QCOMPARE(c.txtLays->width(), c.width() / 2);
-        c.setWidthDiferent(450); // twips: 30 pixels at 96 to the inch
-        QCOMPARE(c.txtLays->width(), c.width() / 2 + 450 * c.logicalDpiX() / 1440);
-        QCOMPARE(c.cboLays->geometry(),
-                 QRect(c.txtLays->width(), 0, c.width() - c.txtLays->width(), c.height()));
-        for (const double far : {1e300, -1e300}) {
-            c.setWidthDiferent(far);
-            QVERIFY(c.txtLays->width() + c.cboLays->width() == c.width());
-        }
-        c.setWidthDiferent(0);
-        QFont large = c.font();
-        large.setPointSize(large.pointSize() * 2);
-        c.setFont(large);
-        QCOMPARE(c.txtLays->font().pointSize(), large.pointSize());
-        QVERIFY(c.height() > two / 2);
-        QCOMPARE(c.txtLays->height(), c.height());
-    }
-
-    void tabGoesAsOneReads()
-    {
-        DocForm f;
-        f.control->setFocus();
-        QVERIFY(f.list().hasFocus());
-        QTest::keyClick(&f.list(), Qt::Key_Tab);
-        QVERIFY(f.box().hasFocus());
-        f.control->setSingleLine(true);
-        f.control->setFocus();
-        QVERIFY(f.box().hasFocus());
-        QTest::keyClick(&f.box(), Qt::Key_Tab);
-        QVERIFY(f.list().hasFocus());
-    }
-
-    void theWheelScrollsOnlyAFocusedList()
-    {
-        DocForm f;
-        f.control->setZOLW_Doc(m_doc.get());
-        f.box().setFocus();
-        const QPointF at(f.list().rect().center());
-        QWheelEvent wheel(at, f.list().mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&f.list(), &wheel);
-        QCOMPARE(f.list().currentData().toInt(), kCurrent);
-        QCOMPARE(f.raised, QStringList{"3"});
-    }
-
-    void readersHearWhatItIs()
-    {
-        DocForm f;
-        f.control->setZOLW_Doc(m_doc.get());
-        f.control->setsLays(QStringLiteral("1-3"));
-        const QAccessibleInterface &box = *QAccessible::queryAccessibleInterface(&f.box());
-        QCOMPARE(box.role(), QAccessible::EditableText);
-        QCOMPARE(box.text(QAccessible::Name), QStringLiteral("Rétegszámok"));
-        QCOMPARE(box.text(QAccessible::Value), QStringLiteral("1-3"));
-        QVERIFY(box.text(QAccessible::Description).endsWith(QStringLiteral("A halmaz rétegeinek száma: 3")));
-        const QAccessibleInterface &list = *QAccessible::queryAccessibleInterface(&f.list());
-        QCOMPARE(list.role(), QAccessible::ComboBox);
-        QCOMPARE(list.text(QAccessible::Description), QStringLiteral("Rétegek kiválasztása"));
-        QCOMPARE(list.text(QAccessible::Value), QStringLiteral("(Felsorolt rétegek)"));
     }
 };
 

@@ -33,6 +33,12 @@ private:
     void trigger(const char *name) { m_window->findChild<QAction *>(QLatin1String(name))->trigger(); }
     QString status(const char *name) { return m_window->findChild<QLabel *>(QLatin1String(name))->text(); }
     Element last() { return doc().elements().back(); }
+    QString names()                 // of the tabs
+    {
+        QStringList all;
+        for (int i = 0; i < m_window->tabs().count(); ++i) all << m_window->tabs().tabText(i);
+        return all.join(QStringLiteral(", "));
+    }
 
 private slots:
     void init()
@@ -56,7 +62,7 @@ private slots:
         const qint16 roads = doc().layers().add(
             {.gNr = 7, .Name = QStringLiteral("Utak"), .Visible = false, .PenStyleId = 1, .TxdId = 1});
         doc().layers().makeCurrent(*doc().layers().find(roads));
-        m_window->refresh();
+        m_window->page().refresh();
         QCOMPARE(status("layerStatus"), QStringLiteral("Réteg: 7 Utak (nem látható)"));
 
         trigger("point");
@@ -104,7 +110,7 @@ private slots:
     {
         const Element point{.kind = ElementKind::Point, .layId = 1, .vertices = {{5, 5}}};
         doc().addElements(std::vector{point, point, point});
-        m_window->refresh();
+        m_window->page().refresh();
         view().select({0, 2});
         const QString title = QStringLiteral("Elemek törlése"),
                       text = QStringLiteral(
@@ -125,26 +131,97 @@ private slots:
     {
         const QString title = QStringLiteral("Rajz mentése"),
                       text = QStringLiteral(
-                          "A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?");
+                          "A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?"),
+                      filter = QStringLiteral("Rajzok|*.qvd");
         const QString path = m_folder.filePath(QStringLiteral("új.qvd"));
         QVERIFY(m_window->files().mayLeave()); // nothing was done yet
         doc().layers().add({.gNr = 9, .Name = QStringLiteral("Kút"), .PenStyleId = 1, .TxdId = 1});
         ScriptedPrompts user({{"choose", title, text, QVariant()},
                               {"choose", title, text, 0},
-                              {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), QString()},
+                              {"saveFile", title, filter, QString()},
                               {"choose", title, text, 0},
-                              {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), path}});
+                              {"saveFile", title, filter, path}});
         QVERIFY(!m_window->close());           // stays
-        QVERIFY(!m_window->files().openSample());  // saving was given up
+        QVERIFY(!m_window->files().close(0));  // saving was given up
         QCOMPARE(doc().layers().count(), 2);
         QVERIFY(m_window->files().mayLeave());
         QVERIFY(QFile::exists(path));
         QCOMPARE(m_window->windowTitle(), QStringLiteral("új.qvd – QVDraw"));
         QCOMPARE(FileCommands::recent().value(0), path);
         doc().layers().add({.gNr = 10, .Name = QStringLiteral("Fa"), .PenStyleId = 1, .TxdId = 1});
-        QVERIFY(m_window->files().newDrawing()); // a saved drawing is durable: nothing is asked
+        trigger("close");                      // a saved drawing is durable: nothing is asked
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz"));
         QVERIFY(m_window->files().openFile(path));
         QCOMPARE(doc().layers().count(), 3);
+    }
+
+    void eachDrawingHasATabOfItsOwn()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("a.qvd"));
+        SqliteDoc::create(path);
+        QVERIFY(m_window->files().openFile(path)); // in place of the drawing that nobody has touched
+        QCOMPARE(names(), QStringLiteral("a.qvd"));
+        QVERIFY(m_window->files().openSample());
+        trigger("new");
+        QCOMPARE(names(), QStringLiteral("a.qvd, Mintarajz, Névtelen rajz"));
+        trigger("point");
+        QTest::mouseClick(&view(), Qt::LeftButton, {}, {100, 100});
+        QCOMPARE(names(), QStringLiteral("a.qvd, Mintarajz, Névtelen rajz*"));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Névtelen rajz* – QVDraw"));
+
+        QVERIFY(m_window->files().openFile(path)); // open already: comes to the front
+        QCOMPARE(m_window->tabs().count(), 3);
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("a.qvd – QVDraw"));
+        QCOMPARE(doc().elementCount(), 0);
+        QVERIFY(
+            m_window->findChild<QAction *>(QStringLiteral("select"))->isChecked()); // each has its own tool
+        QVERIFY(status("countStatus").startsWith(u'0'));
+
+        ZolWDoc::DocumentList &all = m_window->tabs().documents();
+        QCOMPARE(all.count(), 3);
+        QVERIFY(all.item(0) == &doc() && all.item(1)->layers().count() == 40 && !all.item(3));
+        QVERIFY(m_window->files().close(1)); // nothing was done in the sample
+        QVERIFY(m_window->files().close(0));
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz*"));
+        ScriptedPrompts user(
+            {{"choose", QStringLiteral("Rajz mentése"),
+              QStringLiteral("A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
+        trigger("close");
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz"));
+        QVERIFY(!m_window->findChild<QAction *>(QStringLiteral("close"))->isEnabled());
+    }
+
+    void aFileThatIsOpenIsNotReplaced()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("b.qvd"));
+        SqliteDoc::create(path);
+        QVERIFY(m_window->files().openFile(path));
+        QVERIFY(m_window->files().openSample());
+        ScriptedPrompts user(
+            {{"saveFile", QStringLiteral("Rajz mentése"), QStringLiteral("Rajzok|*.qvd"), path},
+             {"tell", QStringLiteral("A művelet nem sikerült"),
+              QStringLiteral(
+                  "A(z) 'b.qvd' rajz egy másik lapon meg van nyitva. Zárd be ott, vagy adj meg másik nevet!"),
+              QVariant(), Icon::Exclamation}});
+        QVERIFY(!m_window->files().saveAs());
+        QCOMPARE(names(), QStringLiteral("b.qvd, Mintarajz"));
+        QCOMPARE(SqliteDoc::open(path)->layers().count(), 1);
+    }
+
+    void whatIsWrittenShowsAtOnce()
+    {
+        QVERIFY(m_window->files().openSample());
+        QVERIFY(m_window->files().newDrawing());
+        DrawingPage &sample = *m_window->tabs().page(0);
+        const qint16 current = sample.doc().layers().currentId();
+        for (ZolWDoc::tLay lay : sample.doc().layers().readAll())
+            if (lay.LayId == current) lay.Visible = false, sample.doc().layers().update(lay);
+        QVERIFY(sample.view().scene().resources().layers.find(current)->Visible); // not within the call
+        QTRY_VERIFY(!sample.view().scene().resources().layers.find(current)->Visible);
+        QVERIFY(
+            !status("layerStatus").contains(QStringLiteral("nem látható"))); // another drawing is in front
+        m_window->tabs().setCurrentIndex(0);
+        QVERIFY(status("layerStatus").endsWith(QStringLiteral("(nem látható)")));
     }
 
     void aFileThatCannotBeOpenedIsToldAndTheDrawingStays()
@@ -185,7 +262,7 @@ private slots:
         QVERIFY(m_window->files().importFile(path)); // metres, the first unit
         QCOMPARE(doc().elementCount(), 1);
         QCOMPARE(last().vertices[1].x, 650010.0);
-        QVERIFY(m_window->files().newDrawing());     // an import is work: it asks
+        trigger("close");                            // an import is work: it asks
     }
 
     void aFileThatIsNoDxfIsToldAndTheDrawingStays()

@@ -49,10 +49,10 @@ Recordset Recordset::made(const std::vector<Column> &columns)
     return Recordset(std::move(fields));
 }
 
-int Recordset::fieldNamed(QStringView name) const
+int Recordset::fieldNamed(QAnyStringView name) const
 {
     for (size_t i = 0; i < m_fields.size(); ++i)
-        if (name.compare(m_fields[i].name, Qt::CaseInsensitive) == 0) return int(i);
+        if (QAnyStringView::compare(name, m_fields[i].name, Qt::CaseInsensitive) == 0) return int(i);
     return -1;
 }
 

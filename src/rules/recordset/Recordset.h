@@ -60,7 +60,7 @@ public:
     Recordset() = default;
 
     const std::vector<RecordsetField> &fields() const { return m_fields; }
-    int fieldNamed(QStringView name) const; ///< without regard to case; -1 = no such column
+    int fieldNamed(QAnyStringView name) const; ///< without regard to case; -1 = no such column
     int rowCount() const { return int(m_rows.size()); }
     RowState state(int row) const { return m_rows[size_t(row)].state; }
 
