@@ -139,15 +139,6 @@ private slots:
         QCOMPARE(proposedGrowth(all, taken), 1);        // none fits all
     }
 
-    void noLayerIsLeftWithoutAGroup()
-    {
-        const tLayMember members[] = {{1, 10}, {1, 11}, {2, 10}, {3, 12}};
-        QVERIFY(!canDeleteGroup(1, members));
-        QVERIFY(canDeleteGroup(2, members));
-        QVERIFY(!canDeleteGroup(3, members));
-        QVERIFY(canDeleteGroup(4, members));            // an empty group
-    }
-
     void savedVisibilitiesFindTheirLayers()
     {
         tLayArr saved = layers({{1, "B"}, {2, "X"}, {9, "Y"}});

@@ -5,6 +5,7 @@
 #include "grids/frame/CellEdit.h"
 #include "grids/frame/GroupRows.h"
 #include "kit/ask/ErrorRelay.h"
+#include "rules/LayerGroupRules.h"
 #include "rules/LayerRules.h"
 
 #include <QHash>
@@ -40,6 +41,8 @@ tLay firstLayer(ZOLW_Doc &doc)
     return lay;
 }
 
+<<<<<<< HEAD
+=======
 void addMembers(LayerRole &layers, const std::vector<tLayMember> &more, std::vector<tLayMember> members)
 {
     const auto key = [](const tLayMember &m) { return m.GroupId << 16 | quint16(m.LayId); };
@@ -50,6 +53,7 @@ void addMembers(LayerRole &layers, const std::vector<tLayMember> &more, std::vec
     layers.writeMembers(members);
 }
 
+>>>>>>> main
 /// The copies that there can be of the selected layers, each with its model; says why another has none.
 struct Copies {
     tLayArr copies;
@@ -101,7 +105,7 @@ void LayerEdits::addNew()
         LayerRole &layers = m_desk.doc().layers();
         id = layers.add(*lay);
         if (m_desk.chosenGroup() != GroupRows::kAll)
-            addMembers(layers, {{m_desk.chosenGroup(), id}}, layers.members());
+            layers.writeMembers(joined(layers.members(), {&id, 1}, m_desk.chosenGroup()));
     });
     m_desk.selectLayer(id);
 }
@@ -128,7 +132,7 @@ void LayerEdits::copy()
         std::vector<qint16> ids;
         layers.addAll(made.copies, ids);
         const auto members = layers.members();
-        addMembers(layers, membersLike(made.models, ids, members), members);
+        layers.writeMembers(withMembers(members, membersLike(made.models, ids, members)));
     });
 }
 
