@@ -124,10 +124,12 @@ void ToolSet::refresh()
     for (const Bound &b : m_bound)
         if (!b.user) b.tool->setEnabled(false);
     std::erase_if(m_bound, [](const Bound &b) { return !b.user; });
-    for (const Bound &b : m_bound) {
-        if (b.behaviour.enabled) b.tool->setEnabled(b.behaviour.enabled());
-        if (b.behaviour.checked) b.tool->setChecked(b.behaviour.checked());
-    }
+    m_relay.guard([this] {
+        for (const Bound &b : m_bound) {
+            if (b.behaviour.enabled) b.tool->setEnabled(b.behaviour.enabled());
+            if (b.behaviour.checked) b.tool->setChecked(b.behaviour.checked());
+        }
+    });
 }
 
 void ToolSet::setChecked(const char *name, bool on)
