@@ -1,12 +1,13 @@
 // Saves a picture of every dialog in its states, in each language and palette, for the eye: pictures FOLDER
 #include "facade/services/Language.h"
 #include "facade/clsDocDlgs.h"
-#include "dialogs/select/frmSelect.h"
 #include "document/SqliteDoc.h"
 #include "grids/clsJs_Layer.h"
+#include "pictures/Scene.h"
 #include "support/LayerDoc.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QPalette>
 #include <QTimer>
@@ -51,6 +52,24 @@ std::unique_ptr<refhost::SqliteDoc> sample()
     return doc;
 }
 
+std::vector<tests::Scene> selectionScenes()
+{
+    return {{"select", [] {
+                 const auto doc = sample();
+                 ZolWDoc::tLay lay = doc->layers().readAll()[3];
+                 clsDocDlgs().bSelect_Lay(*doc, lay);
+             }}};
+}
+
+void saveModalWindow(const QString &path)
+{
+    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialog) qFatal("nothing is open for %s", qPrintable(path));
+    dialog->grab().save(path);
+    std::printf("%s\n", qPrintable(path));
+    dialog->reject();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -61,24 +80,22 @@ int main(int argc, char **argv)
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("out");
     QDir().mkpath(folder);
     const QPalette light = app.palette();
-    clsDocDlgs dialogs;
-    const auto doc = sample();
+    std::vector<tests::Scene> scenes = selectionScenes();
+    for (tests::Scene &scene : tests::valueScenes()) scenes.push_back(std::move(scene));
     for (const auto &[language, suffix] :
          {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}}) {
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? darkPalette() : light);
-            QTimer::singleShot(0, &app, [&] {
-                auto *const dialog = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
-                const QString path =
-                    folder +
-                    QStringLiteral("/select-%1-%2.png").arg(QLatin1String(suffix), dark ? "dark" : "light");
-                dialog->grab().save(path);
-                std::printf("%s\n", qPrintable(path));
-                dialog->reject();
-            });
-            ZolWDoc::tLay lay = doc->layers().readAll()[3];
-            dialogs.bSelect_Lay(*doc, lay);
+            for (const tests::Scene &scene : scenes) {
+                const QString path = QStringLiteral("%1/%2-%3-%4.png")
+                                         .arg(folder, QLatin1String(scene.name), QLatin1String(suffix),
+                                              dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                QTimer::singleShot(0, &app, [&] { // after what the scene does to its open box
+                    QTimer::singleShot(0, &app, [&] { saveModalWindow(path); });
+                });
+                scene.open();
+            }
         }
     }
     return 0;

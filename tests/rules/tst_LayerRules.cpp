@@ -113,7 +113,8 @@ private slots:
 
     void prefixesAreCutOneLayerAfterTheOther()
     {
-        const tLayArr all = layers({{1, "1-A"}, {2, "2-A"}, {3, "B-1-A"}, {4, "4-C"}, {5, "C"}, {6, "6-1-A"}});
+        const tLayArr all =
+            layers({{1, "1-A"}, {2, "2-A"}, {3, "B-1-A"}, {4, "4-C"}, {5, "C"}, {6, "6-1-A"}});
         const ShorterNames names = withoutPrefixes(all, false, TakenLayers(all));
         // The third takes the name that the first has given up; the last finds it taken again.
         QCOMPARE(names.lines, (QStringList{"'1-A' ---> 'A'", "'B-1-A' ---> '1-A'"}));
