@@ -65,6 +65,7 @@ void frmSelect::openLayers(ZOLW_Doc &doc, bool single)
     connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
     jsLayer->setAllowEdit(true);
     jsLayer->init(doc, *m_page->gridItems, m_page->gridGroups, single);
+    m_page->follow();
 }
 
 bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
@@ -98,7 +99,6 @@ bool frmSelect::bDoSelect_LayArr(ZOLW_Doc &oDoc, tLayArr &layers, QWidget *owner
 
 bool frmSelect::run()
 {
-    m_page->ab1->refresh();
     m_page->setFocus();
     m_relay.exec(*this);
     keepSizeOf(*this, objectName());

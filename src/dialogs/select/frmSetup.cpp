@@ -47,6 +47,7 @@ frmSetup::frmSetup()
 {
     setObjectName(QStringLiteral("frmSetup"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    m_tools->setObjectName(QStringLiteral("tools"));
     cmdOkAllDocument->setObjectName(QStringLiteral("cmdOkAllDocument"));
     m_parts->setObjectName(QStringLiteral("cmdAllDocMode"));
     build();
@@ -163,7 +164,6 @@ void frmSetup::showPage(int page)
     m_page = page;
     m_stack->setCurrentWidget(shown);
     if (isNew) (this->*kOpeners[page])(*shown);
-    shown->ab1->refresh();
     shown->setFocus();
     ml_RuntimeSupport_LanguageChanged();
 }
@@ -182,6 +182,7 @@ void frmSetup::openLayers(GridPage &page)
     jsLayer->setAutomaticItemSelection(m_automatic);
     jsLayer->setAllowEdit(true);
     jsLayer->init(*m_doc, *page.gridItems, page.gridGroups, false);
+    page.follow();
     jsLayer->setCurrentLayer(m_doc->layers().currentId());
 }
 
