@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -26,14 +27,28 @@ std::vector<qsizetype> placesIn(const QString &caption)
     return places;
 }
 
-/// Gives keys one after the other; who finds none sends another one to look again.
+/// Different letters that can be keys.
+qsizetype letterCount(const QString &caption)
+{
+    QSet<QChar> letters;
+    for (const qsizetype at : placesIn(caption)) letters.insert(caption[at].toUpper());
+    return letters.size();
+}
+
+/// Gives keys one after the other, first to those with the least choice; who finds none sends another one to
+/// look again.
 class Giver {
 public:
     explicit Giver(std::span<KeyedCaption> all) : m_all(all), m_place(all.size(), -1) {}
     void give()
     {
-        for (size_t i = 0; i < m_all.size(); ++i)
-            if (accessKeyOf(m_all[i].caption).isNull()) place(i, {});
+        std::vector<size_t> order(m_all.size());
+        std::iota(order.begin(), order.end(), size_t(0));
+        std::ranges::stable_sort(order, {}, [&](size_t i) { return letterCount(m_all[i].caption); });
+        for (const size_t i : order) {
+            QSet<QChar> tried;
+            if (accessKeyOf(m_all[i].caption).isNull()) place(i, tried);
+        }
         for (size_t i = 0; i < m_all.size(); ++i)
             if (m_place[i] >= 0) m_all[i].caption.insert(m_place[i], u'&');
     }
@@ -56,7 +71,7 @@ private:
             if (j != i && keyOf(j) == key && meets(i, j)) out.push_back(j);
         return out;
     }
-    bool place(size_t i, QSet<QChar> tried)
+    bool place(size_t i, QSet<QChar> &tried)
     {
         const std::vector<qsizetype> places = placesIn(m_all[i].caption);
         const auto key = [&](qsizetype at) { return m_all[i].caption[at].toUpper(); };
