@@ -25,14 +25,6 @@ QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
     return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
 }
 
-QRect checkRect(const QStyleOptionViewItem &option)
-{
-    const QStyle &style = styleOf(option);
-    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
-                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
-    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
-}
-
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette::ColorRole on)
 {
     QStyleOptionFocusRect focus;
@@ -54,6 +46,14 @@ bool isLegiblyWhite(const QColor &background) { return qGray(background.rgb()) <
 GridDelegate::GridDelegate(const GridModel &model, QObject *parent)
     : QStyledItemDelegate(parent), m_model(model)
 {
+}
+
+QRect GridDelegate::checkMark(const QStyleOptionViewItem &option)
+{
+    const QStyle &style = styleOf(option);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
+    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
 }
 
 QColor GridDelegate::textColor(const QStyleOptionViewItem &option, const GridStyle &style)
@@ -89,8 +89,10 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
     } else {
         painter->setPen(textColor(option, style));
-        paintText(painter, option, m_model.source()->text(row, c),
-                  kind == CellKind::Number || kind == CellKind::Color);
+        const bool right = kind == CellKind::Number || kind == CellKind::Color;
+        const QString text = m_model.source()->text(row, c);
+        if (style.bold) paintBold(painter, option, text, right);
+        else paintText(painter, option, text, right);
     }
     if (option.state & QStyle::State_HasFocus)
         paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
@@ -118,10 +120,24 @@ void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &opti
                            option.fontMetrics.elidedText(text, Qt::ElideRight, room));
 }
 
+/// One row of a table at most: nothing is kept.
+void GridDelegate::paintBold(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
+                             bool right) const
+{
+    QFont bold = option.font;
+    bold.setBold(true);
+    const int gap = padding(option.fontMetrics);
+    const QRect room = option.rect.adjusted(gap, 0, -gap, 0);
+    painter->setFont(bold);
+    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine | (right ? Qt::AlignRight : Qt::AlignLeft),
+                      QFontMetrics(bold).elidedText(text, Qt::ElideRight, room.width()));
+    painter->setFont(option.font);
+}
+
 void GridDelegate::paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const
 {
     QStyleOptionViewItem box = option;
-    box.rect = checkRect(option);
+    box.rect = checkMark(option);
     box.features |= QStyleOptionViewItem::HasCheckIndicator;
     box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
     box.state |= on ? QStyle::State_On : QStyle::State_Off;
@@ -255,7 +271,7 @@ bool GridDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const Q
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease: {
         const auto &mouse = static_cast<const QMouseEvent &>(*event);
-        if (mouse.button() != Qt::LeftButton || !checkRect(option).contains(mouse.position().toPoint()))
+        if (mouse.button() != Qt::LeftButton || !checkMark(option).contains(mouse.position().toPoint()))
             return false;
         if (event->type() == QEvent::MouseButtonPress) return false;    // the view selects the row
         if (event->type() == QEvent::MouseButtonDblClick) return true;  // its release toggles again

@@ -11,6 +11,7 @@ struct GridStyle {
     QColor background;
     QColor text;
     bool grayed = false;    ///< text in the palette's disabled colour
+    bool bold = false;
 };
 
 /// The format styles of one grid, by name.
