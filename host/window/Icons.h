@@ -22,7 +22,9 @@ enum class Sign {
     Lettering,
     Delete,
     Layers,
-    Dialog
+    SeveralLayers,
+    EditLayers,
+    Setup
 };
 
 /// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.
