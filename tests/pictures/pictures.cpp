@@ -4,7 +4,7 @@
 #include "dialogs/select/frmSelect.h"
 #include "document/SqliteDoc.h"
 #include "grids/clsJs_Layer.h"
-#include "support/LayerDoc.h"
+#include "pictures/ControlPictures.h"
 
 #include <QApplication>
 #include <QDir>
@@ -68,11 +68,14 @@ int main(int argc, char **argv)
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? darkPalette() : light);
+            const auto pathOf = [&, suffix = QLatin1String(suffix), dark = dark](const char *what) {
+                return folder +
+                       QStringLiteral("/%1-%2-%3.png").arg(QLatin1String(what), suffix, dark ? "dark" : "light");
+            };
+            saveLayerControls(*doc, pathOf("layer-controls"));
             QTimer::singleShot(0, &app, [&] {
                 auto *const dialog = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
-                const QString path =
-                    folder +
-                    QStringLiteral("/select-%1-%2.png").arg(QLatin1String(suffix), dark ? "dark" : "light");
+                const QString path = pathOf("select");
                 dialog->grab().save(path);
                 std::printf("%s\n", qPrintable(path));
                 dialog->reject();
