@@ -14,7 +14,6 @@
 #include <optional>
 
 class QAbstractItemView;
-class QTreeView;
 
 namespace QV_DOC_CONTROLS {
 
@@ -27,6 +26,7 @@ class GridModel;
 class GridSelection;
 class GridTable;
 class GroupBox;
+class LineView;
 class SheetSource;
 
 /// Codes of the view styles, as GridView events carry them.
@@ -72,6 +72,7 @@ public:
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
     void setPictureSize(QSize size);                ///< of pictures in cells, device-independent pixels
+    int columnWidth(int column) const;              ///< pixels; of a hidden column the one it had
     GridStyles &formatStyles();
 
     GridView view() const { return m_view; }
@@ -84,7 +85,7 @@ public:
     bool setState(const GridState &state);          ///< false = no column of it is here, nothing changed
     std::unique_ptr<SheetSource> sheet()
         const; ///< what is shown, for paper and clipboard; for as long as the grid stays
-    QTreeView *table() const;
+    QAbstractItemView *table() const;               ///< the table view, shown or not
     QAbstractItemView *activeView() const;
 
     const std::vector<GridColumn> &columns() const override;
@@ -114,7 +115,8 @@ private:
     void buildLayout();
     void connectViews();
     void connectTools();
-    void attach(QAbstractItemView &view);
+    void attach(LineView &view);
+    std::vector<LineView *> views() const;          ///< those made so far
     GridCards &cards();
     void relist(const std::function<void()> &change);
     void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace);
@@ -127,6 +129,7 @@ private:
     void updateCounts();
     void columnsMoved();
     int fittingWidth(int column) const;
+    int contentWidth(int column) const;
     void resetColumns();
     void sortBy(int column, bool adding);
     void seek(const QString &letter);

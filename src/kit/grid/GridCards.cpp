@@ -3,7 +3,6 @@
 #include "kit/grid/GridDelegate.h"
 #include "kit/grid/GridModel.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -17,22 +16,16 @@ constexpr int kCardLetters = 36, kCompactLetters = 26;          ///< width of a 
 } // namespace
 
 GridCards::GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : QAbstractItemView(parent), m_model(model), m_delegate(delegate)
+    : LineView(model, delegate, parent)
 {
-    setItemDelegate(&delegate);
-    setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAcceptDrops(true);
-    setTabKeyNavigation(false);
-    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(&model, change, this, [this] { m_stale = true, scheduleDelayedItemsLayout(); });
-    connect(&model, &QAbstractItemModel::rowsMoved, this, [this] { viewport()->update(); });
 }
 
-void GridCards::setDropLine(int line)
+void GridCards::linesChanged(int)
 {
-    if (std::exchange(m_dropLine, line) != line) viewport()->update();
+    m_stale = true;
+    scheduleDelayedItemsLayout();
 }
 
 void GridCards::setColumns(std::vector<int> inOrder, bool compact)
@@ -42,17 +35,10 @@ void GridCards::setColumns(std::vector<int> inOrder, bool compact)
     doItemsLayout();
 }
 
-QStyleOptionViewItem GridCards::optionFor() const
-{
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    return option;
-}
-
 /// What stands in a card, and its size.
 void GridCards::arrangeFields()
 {
-    const QStyleOptionViewItem option = optionFor();
+    const QStyleOptionViewItem option = cellOption();
     const int line = m_delegate.lineHeight(option), letter = fontMetrics().averageCharWidth();
     int bottom = line;
     m_fields.clear();
@@ -70,7 +56,7 @@ void GridCards::arrangeFields()
 void GridCards::arrange() const
 {
     if (!std::exchange(m_stale, false)) return;
-    const int gap = GridDelegate::padding(fontMetrics()), bandHeight = m_delegate.lineHeight(optionFor());
+    const int gap = GridDelegate::padding(fontMetrics()), bandHeight = m_delegate.lineHeight(cellOption());
     m_perLine = std::max(1, (viewport()->width() - gap) / (m_card.width() + gap));
     m_blocks.clear();
     const RowEngine &engine = m_model.engine();
@@ -125,7 +111,7 @@ void GridCards::updateGeometries()
 {
     arrange();
     verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setSingleStep(m_delegate.lineHeight(optionFor()));
+    verticalScrollBar()->setSingleStep(m_delegate.lineHeight(cellOption()));
     verticalScrollBar()->setRange(0, std::max(0, m_height - viewport()->height()));
     QAbstractItemView::updateGeometries();
 }
@@ -144,13 +130,13 @@ QRect GridCards::contentRect(int line) const
     const Block *block = blockOf(line);
     if (!block) return {};
     const int gap = GridDelegate::padding(fontMetrics());
-    if (block->band) return {0, block->top, viewport()->width(), m_delegate.lineHeight(optionFor())};
+    if (block->band) return {0, block->top, viewport()->width(), m_delegate.lineHeight(cellOption())};
     const int place = line - block->line;
     return {QPoint(gap + place % m_perLine * (m_card.width() + gap),
                    block->top + place / m_perLine * (m_card.height() + gap)), m_card};
 }
 
-QRect GridCards::cardRect(int line) const { return contentRect(line).translated(0, -verticalOffset()); }
+QRect GridCards::lineRect(int line) const { return contentRect(line).translated(0, -verticalOffset()); }
 
 int GridCards::fieldOf(int column) const
 {
@@ -167,11 +153,11 @@ QRect GridCards::fieldRect(const QRect &card, const Field &field) const
 QRect GridCards::visualRect(const QModelIndex &index) const
 {
     if (!index.isValid()) return {};
-    const QRect card = cardRect(index.row());
+    const QRect card = lineRect(index.row());
     if (m_model.bandOf(index) >= 0) return card;
     const int field = fieldOf(index.column());
     if (field >= 0) return fieldRect(card, m_fields[size_t(field)]);
-    return {card.left(), card.top(), card.width(), m_delegate.lineHeight(optionFor())};
+    return {card.left(), card.top(), card.width(), m_delegate.lineHeight(cellOption())};
 }
 
 int GridCards::lineNear(QPoint content) const
@@ -273,17 +259,9 @@ void GridCards::setSelection(const QRect &rect, QItemSelectionModel::SelectionFl
 
 QRegion GridCards::visualRegionForSelection(const QItemSelection &) const { return viewport()->rect(); }
 
-QItemSelectionModel::SelectionFlags GridCards::selectionCommand(const QModelIndex &index,
-                                                                const QEvent *event) const
-{
-    const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
-    if (!shift && m_model.bandOf(index) >= 0) return QItemSelectionModel::NoUpdate;
-    return QAbstractItemView::selectionCommand(index, event);
-}
-
 void GridCards::paintCard(QPainter &painter, QStyleOptionViewItem option, int line) const
 {
-    const QRect card = cardRect(line);
+    const QRect card = lineRect(line);
     const QModelIndex head = m_model.index(line, 0);
     const bool selected = selectionModel()->isSelected(head),
                current = currentIndex().row() == line && hasFocus();
@@ -321,7 +299,7 @@ void GridCards::paintEvent(QPaintEvent *event)
 {
     arrange();
     QPainter painter(viewport());
-    QStyleOptionViewItem option = optionFor();
+    QStyleOptionViewItem option = cellOption();
     painter.setFont(option.font);
     const int top = event->rect().top() + verticalOffset(),
               bottom = event->rect().bottom() + verticalOffset();
@@ -331,17 +309,14 @@ void GridCards::paintEvent(QPaintEvent *event)
     for (; block != m_blocks.end() && block->top <= bottom; ++block) {
         const int skipped = block->band ? 0 : std::max(0, (top - block->top) / pitch) * m_perLine;
         for (int line = block->line + skipped; line < block->line + block->count; ++line) {
-            option.rect = cardRect(line);
+            option.rect = lineRect(line);
             if (option.rect.top() > event->rect().bottom()) break;
             option.state.setFlag(QStyle::State_HasFocus, currentIndex().row() == line && hasFocus());
             if (block->band) m_delegate.paintBand(&painter, option, m_model.engine().bandAt(line));
             else paintCard(painter, option, line);
         }
     }
-    if (m_dropLine < 0) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(cardRect(m_dropLine).adjusted(1, 1, -1, -1));
+    paintDropLine(painter);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -101,7 +101,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
                              bool right) const
 {
-    if (m_font != option.font) m_texts.clear(), m_font = option.font;
+    if (m_font != option.font) m_texts.clear(), m_font = option.font, m_gap = padding(option.fontMetrics);
     QStaticText *glyphs = m_texts.object(text);
     if (!glyphs) {
         glyphs = new QStaticText(text);
@@ -109,7 +109,7 @@ void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &opti
         glyphs->prepare(painter->transform(), option.font);
         m_texts.insert(text, glyphs);
     }
-    const int gap = padding(option.fontMetrics), room = option.rect.width() - 2 * gap;
+    const int gap = m_gap, room = option.rect.width() - 2 * gap;
     const int top = option.rect.top() + (option.rect.height() - option.fontMetrics.height()) / 2;
     const int width = int(std::ceil(glyphs->size().width()));
     const QPoint at(option.rect.left() + gap + (right ? std::max(0, room - width) : 0), top);

@@ -3,6 +3,7 @@
 
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/Grid.h"
+#include "kit/grid/GridTable.h"
 #include "kit/grid/GroupBox.h"
 
 #include <QApplication>
@@ -15,7 +16,6 @@
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
-#include <QTreeView>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -26,7 +26,7 @@ struct Shown {
     SampleRows rows{{"alma", "körte", "barack", "szilva", "alma 10", "alma 9"}};
     QDialog dialog;
     Grid grid{&dialog};
-    QTreeView &table = *grid.table();
+    GridTable &table = *grid.findChild<GridTable *>();
 
     Shown()
     {
