@@ -3,6 +3,7 @@
 #include "facade/clsDocDlgs.h"
 #include "document/SqliteDoc.h"
 #include "grids/clsJs_Layer.h"
+#include "pictures/ControlPictures.h"
 #include "pictures/Scene.h"
 #include "support/LayerDoc.h"
 
@@ -80,6 +81,7 @@ int main(int argc, char **argv)
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("out");
     QDir().mkpath(folder);
     const QPalette light = app.palette();
+    const auto controlsDoc = sample();
     std::vector<tests::Scene> scenes = selectionScenes();
     for (tests::Scene &scene : tests::valueScenes()) scenes.push_back(std::move(scene));
     for (const auto &[language, suffix] :
@@ -87,10 +89,13 @@ int main(int argc, char **argv)
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? darkPalette() : light);
+            const auto pathOf = [&, suffix = QLatin1String(suffix), dark = dark](const char *what) {
+                return folder +
+                       QStringLiteral("/%1-%2-%3.png").arg(QLatin1String(what), suffix, dark ? "dark" : "light");
+            };
+            saveLayerControls(*controlsDoc, pathOf("layer-controls"));
             for (const tests::Scene &scene : scenes) {
-                const QString path = QStringLiteral("%1/%2-%3-%4.png")
-                                         .arg(folder, QLatin1String(scene.name), QLatin1String(suffix),
-                                              dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                const QString path = pathOf(scene.name);
                 QTimer::singleShot(0, &app, [&] { // after what the scene does to its open box
                     QTimer::singleShot(0, &app, [&] { saveModalWindow(path); });
                 });
