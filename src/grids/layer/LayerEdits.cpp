@@ -9,7 +9,6 @@
 #include "rules/LayerRules.h"
 
 #include <QHash>
-#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 
@@ -41,19 +40,6 @@ tLay firstLayer(ZOLW_Doc &doc)
     return lay;
 }
 
-<<<<<<< HEAD
-=======
-void addMembers(LayerRole &layers, const std::vector<tLayMember> &more, std::vector<tLayMember> members)
-{
-    const auto key = [](const tLayMember &m) { return m.GroupId << 16 | quint16(m.LayId); };
-    QSet<int> known;
-    for (const tLayMember &m : members) known.insert(key(m));
-    for (const tLayMember &m : more)
-        if (!known.contains(key(m))) known.insert(key(m)), members.push_back(m);
-    layers.writeMembers(members);
-}
-
->>>>>>> main
 /// The copies that there can be of the selected layers, each with its model; says why another has none.
 struct Copies {
     tLayArr copies;
