@@ -6,6 +6,7 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QToolBar>
 
 #include <cstring>
 
@@ -60,11 +61,13 @@ template <class Band> void ToolSet::addTo(Band &band, const char *name)
     }
 }
 
-QToolBar *ToolSet::toolBar(const char *band)
+QToolBar *ToolSet::toolBar(const char *band, Text name)
 {
     auto *const bar = new ToolBand(owner());
     bar->setObjectName(QLatin1String(band));
     addTo(*bar, band);
+    m_bars.emplace_back(bar, name);
+    bar->setAccessibleName(txt(name));
     return bar;
 }
 
@@ -109,6 +112,7 @@ void ToolSet::setChecked(const char *name, bool on)
 
 void ToolSet::retranslate()
 {
+    for (const auto &[bar, name] : m_bars) bar->setAccessibleName(txt(name));
     QHash<QByteArray, QString> taken;           // access keys by band
     for (const Tool &row : m_rows) {
         if (!tellsAll(row)) continue;
@@ -118,7 +122,7 @@ void ToolSet::retranslate()
         for (const Tool &place : m_rows)
             if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        const QString plain = QString(caption).remove(QStringLiteral("..."));
+        const QString plain = QString(caption).remove(QStringLiteral("...")).remove(u'…');
         action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
     }
 }

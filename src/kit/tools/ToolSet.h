@@ -23,7 +23,7 @@ public:
     /// Rows and relay outlive the set
     ToolSet(std::span<const Tool> rows, ErrorRelay &relay, QWidget *owner);
 
-    QToolBar *toolBar(const char *band);        ///< new, the owner's
+    QToolBar *toolBar(const char *band, Text name = {21351, u"A táblázat eszközei"}); ///< new, the owner's
     QMenu *popUp(const char *band);             ///< the same for every call, the owner's
     QAction *tool(const char *name) const;      ///< null = no such tool
 
@@ -54,6 +54,7 @@ private:
     ErrorRelay &m_relay;
     QHash<QByteArray, QAction *> m_tools;
     QHash<QByteArray, QMenu *> m_popUps;
+    std::vector<std::pair<QToolBar *, Text>> m_bars;    ///< and what a screen reader calls them
     QHash<QByteArray, QActionGroup *> m_oneOf;  ///< by band
     std::vector<std::pair<QAction *, std::function<bool()>>> m_enabled;
 };
