@@ -174,19 +174,22 @@ private:
             m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
                                  c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
     }
-    void raiseCurrentRow()
-    {
-        if (const auto now = currentRecord()) raiseCurrent(*now);
-    }
+    void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
         const auto edited = withValue<Table>(recordAt(row), c, value);
         if (!edited) return false;
         if (const Refusal *const why = refusalOf<Table>(*edited, c, m_all)) return tell(*why, m_grid), false;
-        ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
-                           [&] { Table::role(*m_doc).update(*edited); });
-        m_all[size_t(m_shown[size_t(row)])] = *edited;
+        Record &shown = m_all[size_t(m_shown[size_t(row)])];
+        try {
+            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
+                               [&] { Table::role(*m_doc).update(*edited); });
+        } catch (...) { // what the document has now, an error of its own apart
+            relay().tryQuietly([&] { shown = Table::role(*m_doc).find(Table::id(shown)).value_or(shown); });
+            throw;
+        }
+        shown = *edited;
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }

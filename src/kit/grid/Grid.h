@@ -14,7 +14,6 @@
 #include <optional>
 
 class QAbstractItemView;
-class QTreeView;
 
 namespace QV_DOC_CONTROLS {
 
@@ -27,6 +26,7 @@ class GridModel;
 class GridSelection;
 class GridTable;
 class GroupBox;
+class LineView;
 class SheetSource;
 
 /// Codes of the view styles, as GridView events carry them.
@@ -78,6 +78,7 @@ public:
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
     void setPictureSize(QSize size);                ///< of pictures in cells, device-independent pixels
+    int columnWidth(int column) const;              ///< pixels; of a hidden column the one it had
     GridStyles &formatStyles();
 
     GridView view() const { return m_view; }
@@ -86,11 +87,13 @@ public:
     void setFilterText(const QString &text);
     void focusFilter();
     void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
+    void collapseBandOf(int row); ///< the innermost open band over the row; asked again, the one over that
+    bool canCollapseBandOf(int row) const { return openBandOf(row) >= 0; }
     GridState state() const;
     bool setState(const GridState &state);          ///< false = no column of it is here, nothing changed
     std::unique_ptr<SheetSource> sheet()
         const; ///< what is shown, for paper and clipboard; for as long as the grid stays
-    QTreeView *table() const;
+    QAbstractItemView *table() const;               ///< the table view, shown or not
     QAbstractItemView *activeView() const;
 
     const std::vector<GridColumn> &columns() const override;
@@ -120,19 +123,22 @@ private:
     void buildLayout();
     void connectViews();
     void connectTools();
-    void attach(QAbstractItemView &view);
+    void attach(LineView &view);
+    std::vector<LineView *> views() const;          ///< those made so far
     GridCards &cards();
     void relist(const std::function<void()> &change);
     void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace);
     void showCurrent(int column);
     void currentChanged(const QModelIndex &now);
     void toggleBand(int band);
+    int openBandOf(int row) const;
     void place(int row);
     void placePending();
     void applyFilter();
     void updateCounts();
     void columnsMoved();
     int fittingWidth(int column) const;
+    int contentWidth(int column) const;
     void resetColumns();
     void sortBy(int column, bool adding);
     void seek(const QString &letter);

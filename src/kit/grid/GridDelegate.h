@@ -53,6 +53,7 @@ private:
     QSize m_pictureSize;
     mutable QCache<QString, QStaticText> m_texts{2000}; ///< lately painted, in m_font
     mutable QFont m_font;
+    mutable int m_gap = 0;                      ///< of m_font: measuring a blank for every cell is dear
 };
 
 } // namespace QV_DOC_CONTROLS

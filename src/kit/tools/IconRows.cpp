@@ -25,6 +25,9 @@ constexpr IconRow kIcons[] = {
     {"printPreview", "M7.5 14.5h-5v-13h6l3 3v1.5M8.5 1.5v3h3M7.5 10a2.5 2.5 0 1 0 5 0a2.5 2.5 0 1 0 -5 0"
                      "M11.9 11.9L14.5 14.5"},
     {"print", "M4.5 5.5v-4h7v4M4.5 11.5h-3v-6h13v6h-3M4.5 9.5h7v5h-7z"},
+    {"savePdf", "M7.5 14.5h-5v-13h6l3 3v2M8.5 1.5v3h3M12 8v6.5M9.5 12l2.5 2.5l2.5 -2.5"},
+    {"pagePrevious", "M3.5 1.5h9v13h-9zM8 11v-6M5.5 7.5l2.5 -2.5l2.5 2.5"},
+    {"pageNext", "M3.5 1.5h9v13h-9zM8 5v6M5.5 8.5l2.5 2.5l2.5 -2.5"},
     {"pageSetup", "M2.5 1.5h11v13h-11zM5.5 4.5h5v7h-5z"},
     // selection
     {"selectAll", "M1.5 1.5h13v13h-13zM4.5 8l2.5 2.8l4.5 -5.3"},

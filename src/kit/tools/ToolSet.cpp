@@ -7,6 +7,7 @@
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolBar>
 
 #include <cstring>
 
@@ -124,10 +125,12 @@ void ToolSet::refresh()
     for (const Bound &b : m_bound)
         if (!b.user) b.tool->setEnabled(false);
     std::erase_if(m_bound, [](const Bound &b) { return !b.user; });
-    for (const Bound &b : m_bound) {
-        if (b.behaviour.enabled) b.tool->setEnabled(b.behaviour.enabled());
-        if (b.behaviour.checked) b.tool->setChecked(b.behaviour.checked());
-    }
+    m_relay.guard([this] {
+        for (const Bound &b : m_bound) {
+            if (b.behaviour.enabled) b.tool->setEnabled(b.behaviour.enabled());
+            if (b.behaviour.checked) b.tool->setChecked(b.behaviour.checked());
+        }
+    });
 }
 
 void ToolSet::setChecked(const char *name, bool on)
@@ -146,7 +149,7 @@ void ToolSet::retranslate()
         for (const Tool &place : m_rows)
             if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        const QString plain = QString(caption).remove(QStringLiteral("..."));
+        const QString plain = QString(caption).remove(QStringLiteral("...")).remove(u'…');
         action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
     }
     for (const auto &[bar, name] : m_bars) bar->setAccessibleName(txt(name));
