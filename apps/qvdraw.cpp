@@ -21,7 +21,9 @@ struct Options {
     QCommandLineOption pictures{QStringLiteral("pictures"),
                                 QStringLiteral("Save a picture of each window there and end."),
                                 QStringLiteral("folder")};
-    QCommandLineOption dialog{QStringLiteral("dialog"), QStringLiteral("Open that dialog, e.g. bSelect_Lay."),
+    QCommandLineOption dialog{QStringLiteral("dialog"),
+                              QStringLiteral(
+                                  "Open that dialog, e.g. bSelect_Lay, or all, one after the other."),
                               QStringLiteral("call")};
     QCommandLineOption yes{QStringLiteral("yes"),
                            QStringLiteral("Import with the guessed unit, without asking.")};
@@ -29,13 +31,23 @@ struct Options {
     explicit Options(const QCoreApplication &app)
     {
         parser.addPositionalArgument(
-            QStringLiteral("file"), QStringLiteral("A drawing (.qvd) or a .dxf file; without one a sample."));
+            QStringLiteral("files"),
+            QStringLiteral("Drawings (.qvd) and .dxf files, a tab for each; without one a sample."),
+            QStringLiteral("[file...]"));
         parser.addHelpOption();
         parser.addOptions({language, pictures, dialog, yes});
         parser.process(app);
     }
-    QString file() const { return parser.positionalArguments().value(0); }
 };
+
+/// False = there is no such call.
+bool callsOf(const QString &name, std::vector<const DialogCall *> &calls)
+{
+    const size_t before = calls.size();
+    for (const DialogCall &call : dialogCalls())
+        if (name == QStringLiteral("all") || name == QLatin1String(call.name)) calls.push_back(&call);
+    return calls.size() > before;
+}
 
 int wrongUse(const char *what, const QString &value)
 {
@@ -43,15 +55,21 @@ int wrongUse(const char *what, const QString &value)
     return 2;
 }
 
-bool load(MainWindow &window, const QString &file, bool yes)
+bool loadFile(MainWindow &window, const QString &file, bool yes)
 {
-    if (file.isEmpty()) return window.files().openSample();
-    if (file.endsWith(QStringLiteral(".dxf"), Qt::CaseInsensitive)) {
-        const bool unseen =
-            QGuiApplication::platformName() == QStringLiteral("offscreen"); // nobody could answer
-        return window.files().importFile(file, !yes && !unseen);
-    }
-    return window.files().openFile(file);
+    if (!file.endsWith(QStringLiteral(".dxf"), Qt::CaseInsensitive)) return window.files().openFile(file);
+    const bool unseen = QGuiApplication::platformName() == QStringLiteral("offscreen"); // nobody could answer
+    return window.files().importFile(file, !yes && !unseen);
+}
+
+/// False = something was asked for that could not be opened.
+bool load(MainWindow &window, const Options &options)
+{
+    const QStringList files = options.parser.positionalArguments();
+    bool all = !files.isEmpty() || window.files().openSample();
+    for (const QString &file : files) all = loadFile(window, file, options.parser.isSet(options.yes)) && all;
+    if (!window.files().drawing()) window.files().newDrawing();
+    return all;
 }
 
 } // namespace
@@ -67,19 +85,19 @@ int main(int argc, char **argv)
         if (id == 0) return wrongUse("unknown language", options.parser.value(options.language));
         services.language()->setForThisRun(id);
     }
-    const DialogCall *call = dialogCall(options.parser.value(options.dialog));
-    if (options.parser.isSet(options.dialog) && !call)
-        return wrongUse("unknown dialog", options.parser.value(options.dialog));
+    std::vector<const DialogCall *> calls;
+    for (const QString &name : options.parser.values(options.dialog)) {
+        if (!callsOf(name, calls)) return wrongUse("unknown dialog", name);
+    }
 
     MainWindow window(services);
     std::unique_ptr<Pictures> pictures;
     if (options.parser.isSet(options.pictures))
         pictures = std::make_unique<Pictures>(options.parser.value(options.pictures));
     window.show();
-    const bool loaded = load(window, options.file(), options.parser.isSet(options.yes));
-    if (!loaded && !window.files().drawing()) window.files().newDrawing();
+    const bool loaded = load(window, options);
     if (pictures) pictures->save(window, QStringLiteral("MainWindow"));
-    if (call) window.run(*call);
+    for (const DialogCall *call : calls) window.run(*call);
     if (pictures) return loaded && pictures->failures() == 0 ? 0 : 1;
     return app.exec();
 }

@@ -35,7 +35,12 @@ public:
     void rollback() noexcept;
     int depth() const { return m_depth; }
 
-    void touch(ZolWDoc::TableKind kind) { ++m_revisions[size_t(kind)]; }
+    void touch(ZolWDoc::TableKind kind)             ///< the table is being changed
+    {
+        ++m_revisions[size_t(kind)];
+        if (onTouch) onTouch();
+    }
+    std::function<void()> onTouch;
     quint64 revision(ZolWDoc::TableKind kind);
     [[noreturn]] void fail(const QSqlError &error) const;
 

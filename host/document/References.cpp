@@ -7,6 +7,7 @@ using Usage = ZolWDoc::UsageRole::Usage;
 using By = Usage::By;
 
 namespace {
+// Rows of one target and table stand together.
 constexpr Reference kRows[] = {
     {TableKind::Layers, By::Elements, "elements", "layer", nullptr, true},
     {TableKind::Layers, By::Elements, "points", "layer", nullptr, true},
@@ -20,6 +21,8 @@ constexpr Reference kRows[] = {
     {TableKind::Symbols, By::LineSymbolizations, "symbolizations", "symbol", "name", true},
     {TableKind::PenColors, By::Elements, "elements", "pen", nullptr, true},
     {TableKind::PenColors, By::Layers, "layers", "pen", "name", true},
+    {TableKind::PenColors, By::Layers, "layers", "screen_color", "name", true},
+    {TableKind::PenColors, By::Layers, "layers", "print_color", "name", true},
     {TableKind::LineSymbolizations, By::LineTypes, "line_type_slots", "symbolization", "name", true},
 };
 QString text(const char *latin) { return QString::fromLatin1(latin); }
@@ -54,19 +57,26 @@ std::vector<int> usesOfAll(Database &db, TableKind kind, std::span<const qint16>
     return all;
 }
 
+/// Rows are counted, not columns: a layer that draws, shows and prints with one pen is one user of it.
 std::vector<Usage> usersOf(Database &db, TableKind kind, qint16 id)
 {
     std::vector<Usage> all;
-    for (const Reference &r : kRows) {
-        if (r.target != kind) continue;
-        Statement s(db,
-                    QStringLiteral("SELECT count(*), %3 FROM %1 WHERE %2=?")
-                        .arg(text(r.table), text(r.column),
-                             r.name ? QStringLiteral("min(%1)").arg(text(r.name)) : QStringLiteral("''")));
-        s.exec(int(id));
-        if (!s.next() || s.number() == 0) continue;
-        if (!all.empty() && all.back().by == r.by) all.back().count += s.number();
-        else all.push_back({r.by, s.number(), s.value(1).toString()});
+    for (auto r = std::begin(kRows); r != std::end(kRows);) {
+        const Reference &first = *r;
+        const auto sameTable = [&](const Reference &o) {
+            return o.target == first.target && qstrcmp(o.table, first.table) == 0;
+        };
+        QStringList columns;
+        for (; r != std::end(kRows) && sameTable(*r); ++r) columns << text(r->column) + QStringLiteral("=?");
+        if (first.target != kind) continue;
+        Statement s(db, QStringLiteral("SELECT count(*), %3 FROM %1 WHERE %2")
+                            .arg(text(first.table), columns.join(QStringLiteral(" OR ")),
+                                 first.name ? QStringLiteral("min(%1)").arg(text(first.name))
+                                            : QStringLiteral("''")));
+        for (int i = 0; i < int(columns.size()); ++i) s.bind(i, int(id));
+        if (!s.exec().next() || s.number() == 0) continue;
+        if (!all.empty() && all.back().by == first.by) all.back().count += s.number();
+        else all.push_back({first.by, s.number(), s.value(1).toString()});
     }
     return all;
 }

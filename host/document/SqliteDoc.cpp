@@ -59,6 +59,7 @@ void claim(const QString &path)
 SqliteDoc::SqliteDoc(std::unique_ptr<Parts> parts) : m_parts(std::move(parts))
 {
     m_parts->lateBound.setDocument(this);
+    m_parts->db.onTouch = [this] { if (onWrite) onWrite(); };
 }
 SqliteDoc::~SqliteDoc() = default;
 

@@ -56,6 +56,8 @@ public:
     ZolWDoc::VectorFontProvider &ownFont();              ///< the provider of that one font
 
     std::function<void()> onRedraw;                      ///< called by redrawAll()
+    /// Called while a table is written to: note it, and read when the write is done.
+    std::function<void()> onWrite;
 
     // --- the contract
     ZolWDoc::LayerRole &layers() override;

@@ -41,7 +41,8 @@ TextFile::TextFile(const QString &path, Text expected) : m_path(path), m_expecte
         throw DocumentError(fileText(path, join(Text{30081, u"' fájl nem olvasható. Ellenőrizd a nevét és a "
                                                             u"jogosultságokat! Részletek: "},
                                                 file.errorString())));
-    const QString all = decoded(file.readAll());
+    QString all = decoded(file.readAll());
+    all.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
     int lineNumber = 0;
     for (QStringView line : QStringView(all).split(u'\n')) {
         ++lineNumber;

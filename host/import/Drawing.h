@@ -67,13 +67,14 @@ struct KindTally {
     int empty = 0;              ///< nothing to draw, e.g. a blank text
     int unused = 0;             ///< in blocks that stand nowhere
     int lost = 0;               ///< there is no counterpart
+    int weighted = 0;           ///< have a line weight of their own, which elements cannot have
     bool operator==(const KindTally &) const = default;
 };
 
 /// Where the document says it less exactly than the file; the number is the index of a text.
 enum class Loss {
     TrueColors, LineTypeTexts, LineTypePhases, Splines, HatchPatterns, Widths, MixedTexts, MirroredTexts,
-    TiltedPlanes, ShapeFonts, Depths, Gradients, Count
+    TiltedPlanes, ShapeFonts, Depths, Gradients, LayerWeights, Count
 };
 
 struct Drawing {
@@ -87,7 +88,7 @@ struct Drawing {
     int fileStyles = 0;                     ///< how many of them are the file's
     std::vector<DxfBlock> blocks;
     std::vector<DxfEntity> model;
-    std::vector<KindTally> kinds;          ///< total, paper, invisible, empty; the rest is known when written
+    std::vector<KindTally> kinds; ///< total, paper, invisible, empty, weighted; the rest comes when written
     int losses[int(Loss::Count)] = {};
     Vec2 low, high;                         ///< extent of the model; low > high when empty
 };

@@ -74,6 +74,7 @@ void DrawingBuilder::addLayer(const QString &name, const EntityHead &head, int f
     const int color = colorOf(head.color, head.trueColor);
     const DxfLayer layer{name, color == kByBlock || color == kByLayer ? 7 : color,
                          lineTypeOf(text(head.lineType)), head.color >= 0 && !(flags & 1)};
+    if (head.weighted) note(Loss::LayerWeights);
     const int at = layerOf(name);
     m_drawing.layers[size_t(at)] = layer;
 }
@@ -201,6 +202,7 @@ bool DrawingBuilder::open(const EntityHead &head)
     if (head.paper || m_paperBlock || head.invisible) return false;
     m_head = {};
     m_head.kind = kindOf(head.kind);
+    m_drawing.kinds[size_t(m_head.kind)].weighted += head.weighted;
     m_head.layer = rawLayer(head.layer);
     m_head.color = colorOf(head.color, head.trueColor);
     m_head.lineType = rawLineType(head.lineType);

@@ -14,6 +14,7 @@ struct EntityHead {
     int color = kByLayer;       ///< colour index, negative = layer off
     int trueColor = -1;         ///< 0xRRGGBB, -1 = none
     double lineTypeScale = 1;
+    bool weighted = false;      ///< says how thick its own lines are
     bool paper = false, invisible = false;
     std::string kind;
 };

@@ -36,10 +36,9 @@ struct ImportGuess {
     QString codePage;           ///< as the head names it, may be empty
     double width = 0, height = 0;   ///< extent of the drawing, in the file's unit
     int objects = 0;
-    QString note;               ///< why the unit is not the one that the head says; else empty
+    QString note; ///< why it is not the unit that the head says, or why to look twice; else empty
     ImportOptions options() const { return {lengthUnits()[size_t(unit)].metres, scale}; }
 };
-std::span<const int> usualScales();             ///< denominators, from 1:100 to 1:25000
 
 struct ImportReport {
     int elements[6] = {};       ///< per ElementKind

@@ -193,6 +193,7 @@ private:
                 .color = attributes.getColor(),
                 .trueColor = attributes.getColor24(),
                 .lineTypeScale = attributes.getLinetypeScale(),
+                .weighted = valueAt(m_object, 370) != nullptr,
                 .paper = attributes.isInPaperSpace(),
                 .invisible = numberAt(m_object, 60) == 1,
                 .kind = m_object.empty() ? std::string() : m_object.front().value};
@@ -208,6 +209,7 @@ private:
                 .color = wholeOf(numberAt(m_object, 62, kByLayer)),
                 .trueColor = wholeOf(numberAt(m_object, 420, -1)),
                 .lineTypeScale = numberAt(m_object, 48, 1),
+                .weighted = valueAt(m_object, 370) != nullptr,
                 .paper = numberAt(m_object, 67) == 1,
                 .invisible = numberAt(m_object, 60) == 1,
                 .kind = m_object.front().value};

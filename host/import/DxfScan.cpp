@@ -52,16 +52,17 @@ bool placed(std::string_view kind)
 /// line type for the reader, which takes that group for the name of a variable.
 constexpr bool drawn(int code)
 {
-    constexpr int kOthers[] = {5, 9, 100, 102, 105, 310, 330, 340, 347, 348, 350, 360, 370, 380, 390};
+    constexpr int kOthers[] = {5, 9, 100, 102, 105, 310, 330, 340, 347, 348, 350, 360, 380, 390};
     return std::ranges::find(kOthers, code) == std::end(kOthers);
 }
 
-/// Depths and directions are mostly what they are without being said; each costs the reader as much as a
-/// coordinate.
+/// Depths, directions and line weights are mostly what they are without being said (below zero a weight is
+/// that of the layer or the usual one); each costs the reader as much as a coordinate.
 bool understood(int code, std::string_view value)
 {
     const bool depth = (code >= 30 && code <= 33) || code == 38 || code == 39 || code == 210 || code == 220;
-    return (depth && numberOfText(value, 1) == 0) || (code == 230 && numberOfText(value) == 1);
+    return (depth && numberOfText(value, 1) == 0) || (code == 230 && numberOfText(value) == 1)
+           || (code == 370 && numberOfText(value, -1) < 0);
 }
 
 /// What an object of a table is read for.
@@ -282,7 +283,21 @@ void DxfScan::countObject(std::string_view kind)
         count->second.paper += paper;
         count->second.invisible += invisible && !paper;
     }
-    if (m_section != "ENTITIES" || paper || !placed(kind)) return;
+    if (!paper) measureObject(kind);
+}
+
+void DxfScan::measureObject(std::string_view kind)
+{
+    if (kind == "TEXT" || kind == "MTEXT") {
+        double height = 0;
+        std::string_view text;
+        for (const View &p : m_object) {
+            if (p.code == 40) height = numberOfText(p.value);
+            if (p.code == 1) text = p.value;
+        }
+        m_lettering.take(height, text);
+    }
+    if (m_section != "ENTITIES" || !placed(kind)) return;
     double x = 0;
     for (const View &p : m_object) {
         if (p.code == 10) x = numberOfText(p.value);

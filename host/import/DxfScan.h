@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/Affine.h"
+#include "import/LetteringClues.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -53,6 +54,7 @@ public:
     const std::map<std::string, KindCount, std::less<>> &kinds() const { return m_kinds; }
     Vec2 low() const { return m_low; }     ///< extent of nearly all of the model; low > high when it is empty
     Vec2 high() const { return m_high; }
+    const LetteringClues &lettering() const { return m_lettering; }
     const std::string &clean() const { return m_clean; }
     std::string_view whole(std::string_view value) const;     ///< a value of clean() as it stands in the file
 
@@ -74,6 +76,7 @@ private:
     void beginSection(std::string_view name);
     void finishObject();
     void countObject(std::string_view kind);
+    void measureObject(std::string_view kind);
     void handOn(std::string_view kind);
     void takeVertex();
     void takeLightVertices();
@@ -97,6 +100,7 @@ private:
     std::vector<std::string> m_long;
     std::vector<std::vector<PolylineVertex>> m_vertices;
     std::vector<double> m_x, m_y;
+    LetteringClues m_lettering;
     Vec2 m_low{1e300, 1e300}, m_high{-1e300, -1e300};
 };
 

@@ -71,6 +71,7 @@ constexpr Text kLosses[] = {
     {30379, u"felirattípus vonalas betűje helyettesítve"},
     {30380, u"térbeli vonallánc magasságok nélkül"},
     {30396, u"átmenetes kitöltés egy színnel"},
+    {30398, u"réteg a saját vonalvastagsága nélkül"},
 };
 static_assert(std::size(kLosses) == size_t(Loss::Count));
 constexpr Text kElements[] = {{30389, u"pont"},     {30390, u"vonal"},   {30391, u"ellipszis"},
@@ -120,6 +121,10 @@ void nameRows(ImportReport &report, const int (&losses)[int(Loss::Count)])
     append(report.notes, {30395, u"önmagát tartalmazó blokk kihagyva"}, report.endlessInserts);
     append(report.notes, {30385, u"blokk rajzelemekre bontva"}, report.explodedInserts);
     for (size_t i = 0; i < std::size(kLosses); ++i) append(report.notes, kLosses[i], losses[i]);
+    for (const KindTally &t : report.kinds)
+        if (t.weighted > 0)
+            report.notes.push_back(
+                {join(kindText(t.kind), Text{30397, u", a saját vonalvastagsága nélkül"}), t.weighted});
 }
 
 int ImportReport::elementCount() const

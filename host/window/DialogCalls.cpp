@@ -1,10 +1,8 @@
 #include "window/DialogCalls.h"
 
-#include "document/SqliteDoc.h"
+#include "window/DrawingPage.h"
 
 #include "facade/clsDocDlgs.h"
-
-#include <algorithm>
 
 using QV_DOC_CONTROLS::clsDocDlgs;
 
@@ -12,8 +10,9 @@ namespace refhost {
 namespace {
 
 /// Starts from the current layer; the dialog makes the chosen one current.
-bool selectLayer(clsDocDlgs &dialogs, SqliteDoc &doc)
+bool selectLayer(clsDocDlgs &dialogs, DrawingPage &page)
 {
+    SqliteDoc &doc = page.doc();
     ZolWDoc::tLay lay = doc.layers().find(doc.layers().currentId()).value_or(ZolWDoc::tLay{});
     return dialogs.bSelect_Lay(doc, lay);
 }
@@ -25,12 +24,5 @@ constexpr DialogCall kCalls[] = {
 } // namespace
 
 std::span<const DialogCall> dialogCalls() { return kCalls; }
-
-const DialogCall *dialogCall(const QString &name)
-{
-    const auto row =
-        std::ranges::find_if(kCalls, [&](const DialogCall &c) { return QLatin1String(c.name) == name; });
-    return row == std::end(kCalls) ? nullptr : row;
-}
 
 } // namespace refhost

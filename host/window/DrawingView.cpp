@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace refhost {
 namespace {
@@ -38,12 +39,17 @@ QColor DrawingView::highlight() const { return palette().color(QPalette::Active,
 
 void DrawingView::setScene(Scene scene)
 {
-    const bool first = m_scene.elements().empty();
+    const bool first = !std::exchange(m_hasScene, true);
     const QPointF world = m_scene.toWorld(m_view.centre);
+    QSet<qint64> chosen;
+    for (int i : m_selection) chosen.insert(m_scene.elements()[size_t(i)].id);
     m_scene = std::move(scene);
     m_view.centre = world - m_scene.origin();
-    select({});
-    if (first || m_fitted) fit();
+    std::vector<int> still;
+    for (size_t i = 0; i < m_scene.elements().size() && !chosen.isEmpty(); ++i)
+        if (chosen.contains(m_scene.elements()[i].id)) still.push_back(int(i));
+    select(std::move(still));
+    if (first) return fit();
     redraw();
 }
 
@@ -88,15 +94,19 @@ void DrawingView::redraw()
 
 void DrawingView::fit()
 {
-    fitTo(m_scene.bounds());
-    m_fitted = true;
+    m_fit = Fit::All;
+    refit();
 }
 
 void DrawingView::fitMain()
 {
-    const QRectF all = m_scene.bounds(), most = m_scene.mainBounds();
-    fitTo(most);
-    m_fitted = most == all;
+    m_fit = Fit::Main;
+    refit();
+}
+
+void DrawingView::refit()
+{
+    if (m_fit != Fit::No) fitTo(m_fit == Fit::All ? m_scene.bounds() : m_scene.mainBounds());
 }
 
 void DrawingView::fitTo(const QRectF &local)
@@ -113,7 +123,7 @@ void DrawingView::zoomBy(double factor) { zoomAt(rect().center(), factor); }
 void DrawingView::zoomAt(QPointF screen, double factor)
 {
     m_view.zoomAt(screen, factor);
-    m_fitted = false;
+    m_fit = Fit::No;
     redraw();
 }
 
@@ -121,7 +131,7 @@ void DrawingView::panBy(QPoint delta)
 {
     m_view.pan(delta);
     m_buffer.moveBy(delta);
-    m_fitted = false;
+    m_fit = Fit::No;
     update();
     emit viewChanged();
 }
@@ -176,8 +186,8 @@ void DrawingView::resizeEvent(QResizeEvent *)
 {
     m_view.size = size();
     m_view.dpi = logicalDpiX();
-    if (m_fitted) fit();
-    else redraw();
+    refit();
+    redraw();
 }
 
 void DrawingView::mousePressEvent(QMouseEvent *e)
@@ -242,7 +252,7 @@ void DrawingView::endRubber(QPoint at, Qt::KeyboardModifiers keys)
         return isClick ? selectAt(at, adding) : selectIn(band, from.x() < at.x(), adding);
     if (isClick) return zoomAt(at, 2);
     m_view.fit(m_view.localRect(QRectF(band)), 0);
-    m_fitted = false;
+    m_fit = Fit::No;
     setTool(Tool::Select);
     redraw();
 }

@@ -15,7 +15,9 @@ public:
     enum class Tool { Select, Point, Line, Text, ZoomWindow };
     explicit DrawingView(QWidget *parent = nullptr);
 
-    void setScene(Scene); ///< keeps the place that is seen, unless nothing was shown before
+    /// The first one is shown whole; later ones keep the place that is seen, and the selection where it is
+    /// there.
+    void setScene(Scene);
     const Scene &scene() const { return m_scene; }
     const Viewport &viewport() const { return m_view; }
     void setDark(bool dark);
@@ -59,6 +61,7 @@ protected:
 
 private:
     void fitTo(const QRectF &local);
+    void refit();
     void zoomAt(QPointF screen, double factor);
     void redraw();                                  ///< everything is painted anew
     void showCursor();
@@ -77,7 +80,9 @@ private:
     Scene m_scene;
     Viewport m_view;
     BackBuffer m_buffer;
-    bool m_fitted = false; ///< the view follows the window's size until the user moves it
+    enum class Fit { No, All, Main };
+    bool m_hasScene = false;
+    Fit m_fit = Fit::No; ///< the view follows the window's size until the user moves it
     bool m_dark = false;
     Colors m_colors = Colors::Screen;
     Tool m_tool = Tool::Select;

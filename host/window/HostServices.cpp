@@ -14,6 +14,7 @@ HostServices::HostServices()
     QV_DOC_CONTROLS::setHostServices(this);
     QV_DOC_CONTROLS::LanguageHub::instance().connectToRuntime();
     QV_DOC_CONTROLS::LanguageHub::instance().takeOver();
+    m_qtTexts = std::make_unique<QtTexts>();
 }
 
 HostServices::~HostServices() { QV_DOC_CONTROLS::setHostServices(nullptr); }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "window/Language.h"
+#include "window/QtTexts.h"
+
+#include <memory>
 
 namespace refhost {
 
@@ -17,6 +20,7 @@ public:
         const ZolWDoc::ZOLW_Doc *) override; ///< the drawing's own characters
 private:
     Language m_language;
+    std::unique_ptr<QtTexts> m_qtTexts;             ///< made when the language is known
 };
 
 /// Under which the program's settings are kept.

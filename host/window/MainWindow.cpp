@@ -5,19 +5,14 @@
 #include "window/WindowActions.h"
 
 #include "facade/clsDocDlgs.h"
-#include "facade/services/InterfaceLocale.h"
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QLabel>
-#include <QLocale>
 #include <QMenuBar>
-#include <QPainter>
 #include <QStatusBar>
-#include <QStyle>
 #include <QToolBar>
 
 using namespace QV_DOC_CONTROLS;
@@ -32,43 +27,26 @@ constexpr int kStateVersion = 1;               // another one when toolbars come
 
 QString withoutKey(QString caption) { return caption.remove(u'&'); }
 
-/// Shortens its text to the room it has.
-class HintLabel final : public QLabel {
-public:
-    using QLabel::QLabel;
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter p(this);
-        const QString fitting = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-        style()->drawItemText(&p, contentsRect(), int(alignment()), palette(), isEnabled(), fitting,
-                              foregroundRole());
-    }
-};
-
-QString shown(double value, int decimals) { return QLocale::c().toString(value, 'f', decimals); }
-
 } // namespace
 
 MainWindow::MainWindow(HostServices &services)
-    : m_services(services), m_dialogs(std::make_unique<clsDocDlgs>()), m_view(new DrawingView(this)),
-      m_files(*this), m_edits(*m_view)
+    : m_services(services), m_dialogs(std::make_unique<clsDocDlgs>()), m_tabs(new DrawingTabs(this)),
+      m_files(*m_tabs), m_status(*statusBar())
 {
     setAppTitle(kProgram);
-    setCentralWidget(m_view);
+    setCentralWidget(m_tabs);
+    m_dialogs->setoDocList(&m_tabs->documents());
     buildActions();
     buildDialogs();
     buildLanguages();
-    buildStatus();
     connectParts();
     retranslate();
     restoreLook();
-    m_view->setFocus();
 }
 
 MainWindow::~MainWindow()
 {
-    m_edits.setDrawing(nullptr);
+    m_tabs->disconnect(this);
     LanguageHub::instance().disconnect(this);
 }
 
@@ -92,6 +70,7 @@ void MainWindow::buildActions()
         if (row.sign) bars[size_t(row.menu)]->addAction(a);
         if (row.tool()) a->setData(int(*row.tool())), m_tools->addAction(a);
         connect(a, &QAction::triggered, this, [this, &row](bool checked) {
+            if (!m_tabs->page() && row.needsDrawing()) return;
             if (row.tool()) chooseTool(*row.tool());
             else std::get<WindowActions::Act>(row.does)(*this, checked);
         });
@@ -126,55 +105,64 @@ void MainWindow::buildLanguages()
     }
 }
 
-void MainWindow::buildStatus()
-{
-    m_hint = new HintLabel(this);
-    for (QLabel **label : {&m_layer, &m_place, &m_scale, &m_count}) {
-        *label = new QLabel(this);
-        (*label)->setTextFormat(Qt::PlainText);
-        (*label)->setIndent(fontMetrics().averageCharWidth());
-    }
-    m_hint->setSizePolicy(QSizePolicy::Ignored,
-                          QSizePolicy::Preferred); // the first to give way in a narrow window
-    m_layer->setObjectName(QStringLiteral("layerStatus"));
-    m_count->setObjectName(QStringLiteral("countStatus"));
-    statusBar()->addWidget(m_hint, 1);
-    for (QLabel *label : {m_layer, m_place, m_scale, m_count}) statusBar()->addPermanentWidget(label);
-}
-
 void MainWindow::connectParts()
 {
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this, &MainWindow::retranslate);
-    connect(&m_files, &FileCommands::aboutToClose, this, [this] { m_edits.setDrawing(nullptr); });
-    connect(&m_files, &FileCommands::opened, this, [this] {
-        m_files.drawing()->doc().onRedraw = [this] { refresh(); };
-        m_edits.setDrawing(m_files.drawing());
-        refresh();
-        m_view->fitMain();
+    connect(m_tabs, &DrawingTabs::pageOpened, this, [this](DrawingPage *page) { adopt(*page); });
+    connect(m_tabs, &DrawingTabs::tabCloseRequested, &m_files, &FileCommands::close);
+    connect(m_tabs, &DrawingTabs::currentChanged, this, [this] {
+        showTool();
+        showStatus();
+        if (m_tabs->page()) m_tabs->page()->setFocus();
     });
-    connect(&m_edits, &DrawingEdits::changed, this, &MainWindow::refresh);
-    connect(&m_edits, &DrawingEdits::failed, &m_files, &FileCommands::tellFailure);
-    connect(m_view, &DrawingView::cursorAt, this, &MainWindow::showCursor);
-    connect(m_view, &DrawingView::viewChanged, this, &MainWindow::showStatus);
-    connect(m_view, &DrawingView::selectionChanged, this, &MainWindow::showStatus);
-    connect(m_view, &DrawingView::toolChanged, this, &MainWindow::showTool);
-    showTool();
+}
+
+/// What its view tells counts while the drawing is in front.
+void MainWindow::adopt(DrawingPage &page)
+{
+    page.view().setDark(m_dark);
+    page.view().setColors(m_colors);
+    const auto inFront = [this, &page](auto act) {
+        return [this, &page, act](auto &&...told) {
+            if (m_tabs->page() == &page) act(told...);
+        };
+    };
+    const auto status = inFront([this](auto &&...) { showStatus(); });
+    connect(&page, &DrawingPage::refreshed, this, status);
+    connect(&page, &DrawingPage::failed, &m_files, &FileCommands::tellFailure);
+    connect(&page.view(), &DrawingView::viewChanged, this, status);
+    connect(&page.view(), &DrawingView::selectionChanged, this, status);
+    connect(&page.view(), &DrawingView::toolChanged, this, inFront([this](auto &&...) { showTool(); }));
+    connect(&page.view(), &DrawingView::cursorAt, this,
+            [this](QPointF world) { m_status.showCursor(world); });
 }
 
 QAction *MainWindow::action(const char *name) const { return findChild<QAction *>(QLatin1String(name)); }
 
 void MainWindow::chooseTool(DrawingView::Tool tool)
 {
-    m_view->setTool(tool);
-    m_view->setFocus();
+    view().setTool(tool);
+    view().setFocus();
+}
+
+void MainWindow::setDark(bool dark)
+{
+    m_dark = dark;
+    for (int i = 0; i < m_tabs->count(); ++i) m_tabs->page(i)->view().setDark(dark);
+}
+
+void MainWindow::setColors(Colors colors)
+{
+    m_colors = colors;
+    for (int i = 0; i < m_tabs->count(); ++i) m_tabs->page(i)->view().setColors(colors);
 }
 
 void MainWindow::showTool()
 {
+    const DrawingView::Tool tool = m_tabs->page() ? view().tool() : DrawingView::Tool::Select;
     for (QAction *a : m_tools->actions())
-        if (a->data().toInt() == int(m_view->tool())) a->setChecked(true);
-    m_hint->setText(txt(WindowActions::hintOf(m_view->tool())));
-    m_hint->setToolTip(m_hint->text());
+        if (a->data().toInt() == int(tool)) a->setChecked(true);
+    m_status.showHint(txt(WindowActions::hintOf(tool)));
 }
 
 void MainWindow::retranslate()
@@ -192,28 +180,16 @@ void MainWindow::retranslate()
     showStatus();
 }
 
-void MainWindow::refresh()
-{
-    if (!m_files.drawing()) return;
-    try {
-        SqliteDoc &doc = m_files.drawing()->doc();
-        m_view->setScene(Scene(resourcesOf(doc), doc.elements()));
-    } catch (const std::exception &e) {
-        m_files.tellFailure(QString::fromUtf8(e.what()));
-    }
-    showStatus();
-}
-
 bool MainWindow::run(const DialogCall &call)
 {
-    if (!m_files.drawing()) return false;
+    if (!m_tabs->page()) return false;
     bool confirmed = false;
     try {
-        confirmed = call.run(*m_dialogs, m_files.drawing()->doc());
+        confirmed = call.run(*m_dialogs, page());
     } catch (const std::exception &e) {
         m_files.tellFailure(QString::fromUtf8(e.what()));
     }
-    refresh(); // a cancelled dialog may have changed tables too
+    for (int i = 0; i < m_tabs->count(); ++i) m_tabs->page(i)->refreshIfChanged();
     return confirmed;
 }
 
@@ -228,29 +204,12 @@ void MainWindow::showRecent()
 
 void MainWindow::showStatus()
 {
-    const Scene &scene = m_view->scene();
-    const bool open = m_files.drawing() != nullptr;
-    setWindowTitle(open ? m_files.drawing()->name() + QStringLiteral(" – ") + kProgram : kProgram);
-    action("delete")->setEnabled(!m_view->selection().empty());
-    m_scale->setText(QStringLiteral("1 : ") +
-                     interfaceLocale().toString(qRound64(m_view->viewport().scale())));
-    const int chosen = int(m_view->selection().size());
-    m_count->setText(join(interfaceLocale().toString(qlonglong(scene.elements().size())),
-                          Text{30464, u" elem"},
-                          chosen ? join(Text{30465, u", kijelölve: "}, chosen) : QString()));
-    if (!open) return;
-    const ZolWDoc::tLay *lay = scene.resources().layers.find(scene.resources().currentLayer);
-    QString layer = lay ? join(Text{30460, u"Réteg: "}, int(lay->gNr), QStringLiteral(" "), lay->Name)
-                        : txt(Text{30462, u"Nincs aktuális réteg"});
-    if (lay && !lay->Visible) layer += txt(Text{30461, u" (nem látható)"});
-    m_layer->setText(layer);
-}
-
-void MainWindow::showCursor(QPointF world)
-{
-    m_place->setText(shown(world.x(), 2) + QStringLiteral("; ") + shown(world.y(), 2));
-    m_place->setMinimumWidth(
-        std::max(m_place->minimumWidth(), m_place->sizeHint().width())); // the bar stands still
+    OpenDrawing *const shown = m_files.drawing();
+    const QString mark = shown && shown->hasUnsavedWork() ? QStringLiteral("*") : QString();
+    setWindowTitle(shown ? shown->name() + mark + QStringLiteral(" – ") + kProgram : kProgram);
+    action("delete")->setEnabled(shown && !view().selection().empty());
+    action("close")->setEnabled(shown && (m_tabs->count() > 1 || !shown->isUntouched()));
+    if (shown) m_status.show(view());
 }
 
 void MainWindow::closeEvent(QCloseEvent *e)
@@ -272,12 +231,13 @@ void MainWindow::restoreLook()
     const auto read = [](const QString &key) {
         return settingsStore().read(settingsName(), kSection, key, {});
     };
-    if (!restoreGeometry(QByteArray::fromBase64(read(kGeometry).toLatin1()))) resize(m_view->sizeHint());
+    if (!restoreGeometry(QByteArray::fromBase64(read(kGeometry).toLatin1())))
+        resize(DrawingView().sizeHint());
     restoreState(QByteArray::fromBase64(read(kState).toLatin1()), kStateVersion);
     const QString dark = read(kDark);
     const bool desktopIsDark = palette().color(QPalette::Base).lightness() < 128;
     action("dark")->setChecked(dark.isEmpty() ? desktopIsDark : dark == u"1");
-    m_view->setDark(action("dark")->isChecked());
+    setDark(action("dark")->isChecked());
 }
 
 void MainWindow::rememberLook() const
@@ -287,7 +247,7 @@ void MainWindow::rememberLook() const
     };
     write(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));
     write(kState, QString::fromLatin1(saveState(kStateVersion).toBase64()));
-    write(kDark, m_view->isDark() ? QStringLiteral("1") : QStringLiteral("0"));
+    write(kDark, m_dark ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 } // namespace refhost

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "window/DrawingEdits.h"
 #include "window/FileCommands.h"
+#include "window/StatusLine.h"
 
 #include <QMainWindow>
 
 class QActionGroup;
-class QLabel;
 
 namespace QV_DOC_CONTROLS { class clsDocDlgs; }
 
@@ -15,8 +14,8 @@ namespace refhost {
 class HostServices;
 struct DialogCall;
 
-/// The program's window: one drawing, its menus and the library's dialogs. Captions follow the language at
-/// once.
+/// The program's window: the open drawings, its menus and the library's dialogs. Captions follow the language
+/// at once.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -24,11 +23,13 @@ public:
     ~MainWindow() override;
 
     FileCommands &files() { return m_files; }
-    DrawingView &view() { return *m_view; }
-    DrawingEdits &edits() { return m_edits; }
+    DrawingTabs &tabs() { return *m_tabs; }
+    DrawingPage &page() { return *m_tabs->page(); } ///< the drawing in front; there must be one
+    DrawingView &view() { return page().view(); }
     void chooseTool(DrawingView::Tool);
+    void setDark(bool);                             ///< of all drawings
+    void setColors(Colors);                         ///< of all drawings
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
-    void refresh();                                 ///< reads the document anew
 
 protected:
     void closeEvent(QCloseEvent *) override;
@@ -38,26 +39,26 @@ private:
     void buildActions();
     void buildDialogs();
     void buildLanguages();
-    void buildStatus();
     void connectParts();
+    void adopt(DrawingPage &);
     void retranslate();
     void showRecent();
     void showStatus();
-    void showCursor(QPointF world);
     void showTool();
     void restoreLook();
     void rememberLook() const;
     QAction *action(const char *name) const;
     HostServices &m_services;
     std::unique_ptr<QV_DOC_CONTROLS::clsDocDlgs> m_dialogs;
-    DrawingView *m_view;
+    DrawingTabs *m_tabs;
     FileCommands m_files;
-    DrawingEdits m_edits;
+    StatusLine m_status;
     std::vector<QMenu *> m_menus;                   ///< in the order of the menu bar
     QMenu *m_recent = nullptr;
     QActionGroup *m_tools = nullptr;
     QActionGroup *m_languages = nullptr;
-    QLabel *m_layer = nullptr, *m_place = nullptr, *m_scale = nullptr, *m_count = nullptr, *m_hint = nullptr;
+    bool m_dark = false;
+    Colors m_colors = Colors::Screen;
 };
 
 } // namespace refhost

@@ -30,12 +30,14 @@ std::unique_ptr<OpenDrawing> OpenDrawing::fresh()
     d->m_doc = SqliteDoc::create(pathIn(*d->m_folder));
     d->m_name = txt(Text{30470, u"Névtelen rajz"});
     d->m_begun = d->state();
+    d->m_isNew = true;
     return d;
 }
 
 std::unique_ptr<OpenDrawing> OpenDrawing::sample()
 {
     std::unique_ptr<OpenDrawing> d = fresh();
+    d->m_isNew = false;
     makeVillage(*d->m_doc);
     d->m_name = txt(Text{30471, u"Mintarajz"});
     d->m_begun = d->state();
@@ -78,7 +80,20 @@ void OpenDrawing::saveAs(const QString &path)
     std::unique_ptr<SqliteDoc> saved = SqliteDoc::open(path);
     m_doc = std::move(saved);
     m_folder.reset();
-    m_keepsWork = false;
+    m_isNew = m_keepsWork = false;
+    watch();
+}
+
+void OpenDrawing::setWatcher(std::function<void()> watcher)
+{
+    m_watcher = std::move(watcher);
+    watch();
+}
+
+void OpenDrawing::watch()
+{
+    m_doc->onRedraw = m_watcher;
+    m_doc->onWrite = m_watcher;
 }
 
 } // namespace refhost

@@ -43,6 +43,12 @@ const A::Row kRows[] = {
      Sign::Save,
      "Ctrl+Shift+S",
      [](W &w, bool) { w.files().saveAs(); }},
+    {"close",
+     A::File,
+     {30515, u"&Bezárás"},
+     {},
+     "Ctrl+W",
+     [](W &w, bool) { w.files().close(w.tabs().currentIndex()); }},
     {"sample",
      A::File,
      {30415, u"Min&tarajz"},
@@ -79,7 +85,7 @@ const A::Row kRows[] = {
      {30424, u"&Sötét háttér"},
      Sign::Dark,
      "",
-     [](W &w, bool on) { w.view().setDark(on); },
+     [](W &w, bool on) { w.setDark(on); },
      A::Switch,
      kSeparated},
     {"printColors",
@@ -87,7 +93,7 @@ const A::Row kRows[] = {
      {30425, u"Nyomtatási s&zínek"},
      {},
      "",
-     [](W &w, bool on) { w.view().setColors(on ? Colors::Print : Colors::Screen); },
+     [](W &w, bool on) { w.setColors(on ? Colors::Print : Colors::Screen); },
      A::Switch},
 
     {"select", A::Draw, {30430, u"&Kijelölés"}, Sign::Select, "", Tool::Select},
@@ -99,7 +105,7 @@ const A::Row kRows[] = {
      {30435, u"Mi&nd kijelölése"},
      {},
      "Ctrl+A",
-     [](W &w, bool) { w.edits().selectAll(); },
+     [](W &w, bool) { w.page().edits().selectAll(); },
      A::Plain,
      kSeparated},
     {"delete",
@@ -107,7 +113,7 @@ const A::Row kRows[] = {
      {30434, u"&Törlés"},
      Sign::Delete,
      "Del",
-     [](W &w, bool) { w.edits().deleteSelected(); }},
+     [](W &w, bool) { w.page().edits().deleteSelected(); }},
 };
 
 } // namespace

@@ -26,6 +26,7 @@ struct WindowActions {
         bool separatorBefore = false;
 
         const DrawingView::Tool *tool() const { return std::get_if<DrawingView::Tool>(&does); }
+        bool needsDrawing() const { return menu != File && kind != Switch; }
     };
     static std::span<const Row> rows();
     static std::span<const QV_DOC_CONTROLS::Text> menus(); ///< captions by Menu

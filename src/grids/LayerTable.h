@@ -2,6 +2,7 @@
 
 #include "facade/contract/ZOLW_Doc.h"
 #include "grids/frame/Column.h"
+#include "grids/frame/Deletion.h"
 #include "grids/frame/GridManager.h"
 
 #include <QHash>
@@ -60,6 +61,12 @@ struct LayerTable {
             .with({3302, u"Felirat/jelkulcs réteg szerint"})
             .editable(),
     };
+    static constexpr DeleteTexts deletion{.title = {3291, u"Réteg törlés"},
+                                          .last = {3292, u"Az utolsó réteget nem lehet törölni!"},
+                                          .sureBefore = {3415, u"Biztosan szeretnéd törölni a "},
+                                          .sureAfter = {3301, u". réteget?"},
+                                          .usedBefore = {3422, u"A(z) '"},
+                                          .usedAfter = {3296, u"' réteg nem üres!"}};
     static ZolWDoc::LayerRole &role(ZolWDoc::ZOLW_Doc &doc) { return doc.layers(); }
     static qint16 id(const Record &l) { return l.LayId; }
     static Paper paper();                     ///< title, footer and the ten captions of a printed table

@@ -4,7 +4,7 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") {}
+clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") { m_groupRows.setDrags(groupDrags()); }
 clsJs_Layer::~clsJs_Layer() { TearDown(); }
 
 void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
@@ -13,8 +13,11 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     attach(doc, itemGrid);
     itemGrid.setMultiSelection(!singleSelection);
     m_groupGrid = groupGrid;
+    armDrags();
     if (!groupGrid) return;
-    readGroups();
+    readBeside();
+    m_groupRows.setGroups(std::move(m_readGroups));
+    m_members = std::move(m_readMembers);
     groupGrid->setSource(&m_groupRows);
     groupGrid->setMultiSelection(!singleSelection);
     groupGrid->setTooltips(
@@ -46,25 +49,116 @@ void clsJs_Layer::ml_RuntimeSupport_LanguageChanged()
     if (m_groupGrid) m_groupGrid->captionsChanged();
 }
 
-void clsJs_Layer::readGroups()
+void clsJs_Layer::readBeside()
 {
-    m_groupRows.setGroups(document()->layers().groups());
-    m_members = document()->layers().members();
+    if (!m_groupGrid) return;
+    m_readGroups = document()->layers().groups();
+    m_readMembers = document()->layers().members();
+}
+
+/// The chosen group stays with its identifier; when it is gone, the one in its place is chosen.
+void clsJs_Layer::showBeside()
+{
+    if (!m_groupGrid) return;
+    m_groupGrid->refill([this] { m_groupRows.setGroups(std::move(m_readGroups)); });
+    m_members = std::move(m_readMembers);
+    narrowTo(m_groupGrid->currentRow());
+}
+
+void clsJs_Layer::narrowTo(int row)
+{
+    m_group = m_groupRows.groupAt(row);
+    m_inGroup.clear();
+    for (const tLayMember &m : m_members)
+        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
+}
+
+void clsJs_Layer::setAllowEdit(bool on)
+{
+    TableManager::setAllowEdit(on);
+    armDrags();
+}
+
+/// What is dragged changes memberships: only where the table can be edited and has its groups beside it.
+void clsJs_Layer::armDrags()
+{
+    for (Grid *const g : {grid(), m_groupGrid})
+        if (g) g->setDragOut(AllowEdit() && m_groupGrid);
+}
+
+QMimeData *clsJs_Layer::dragData(std::span<const int> rows) const
+{
+    std::vector<qint16> ids;
+    for (const int row : rows) ids.push_back(qint16(rowId(row)));
+    return ids.empty() ? nullptr : m_drag.layers(ids);
+}
+
+bool clsJs_Layer::canDrop(const QMimeData &mime, const DropTarget &) const
+{
+    return m_drag.groupIn(mime).has_value();
+}
+
+/// A group dropped on the layers shows what is in it: it is chosen, and its layers are selected.
+void clsJs_Layer::drop(const QMimeData &mime, const DropTarget &)
+{
+    command([&] {
+        showGroup(*m_drag.groupIn(mime));
+        grid()->selectAll();
+    });
+}
+
+GroupDrags clsJs_Layer::groupDrags()
+{
+    return {[this](const std::vector<qint16> &groups) { return m_drag.groups(groups); },
+            [this](const QMimeData &mime, qint16 group) {
+                return canEditGroups() && m_drag.canDropOn(group, mime);
+            },
+            [this](const QMimeData &mime, qint16 group) {
+                command([&] { m_drag.dropOn(group, mime); });
+            }};
+}
+
+void clsJs_Layer::showGroup(qint16 group)
+{
+    if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));
 }
 
 void clsJs_Layer::chooseGroup(int row)
 {
     if (row < 0) return;
-    m_group = m_groupRows.groupAt(row);
-    m_inGroup.clear();
-    for (const tLayMember &m : m_members)
-        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
+    narrowTo(row);
     showAgain();
 }
 
 bool clsJs_Layer::fits(const tLay &lay) const
 {
     return (m_group == GroupRows::kAll || m_inGroup.contains(lay.LayId)) && (!m_onlyVisible || lay.Visible);
+}
+
+ZOLW_Doc &clsJs_Layer::doc()
+{
+    if (!isOpen()) ErrorRelay::stop();
+    return *document();
+}
+
+void clsJs_Layer::write(const QString &command, const std::function<void()> &body)
+{
+    writeAndFill(doc(), command, body);
+    forgetGone();
+}
+
+/// A layer that is gone is not current any more; what the document made current instead is.
+void clsJs_Layer::forgetGone()
+{
+    if (m_current >= 0 && std::ranges::find(all(), m_current, &tLay::LayId) == all().end())
+        m_current = doc().layers().currentId();
+}
+
+/// The delete key.
+bool clsJs_Layer::removeRows(std::span<const int>)
+{
+    command([this] { m_edits.remove(true); });
+    return true;
 }
 
 void clsJs_Layer::setbShowGroups(bool on)

@@ -1,9 +1,9 @@
 #include "rules/LayerRules.h"
 
 #include "facade/services/Text.h"
+#include "rules/Numeric.h"
 
 #include <QHash>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -32,6 +32,29 @@ std::variant<tLay, QString> copyOf(const tLay &lay, int growth, const TakenLayer
     copy.gNr = qint16(nr);
     copy.Name = taken.freeName(lay.Name + u'_' + QString::number(nr));
     return copy;
+}
+
+tLayArr asNow(std::span<const tLay> those, std::span<const tLay> all)
+{
+    QHash<qint16, const tLay *> byId;
+    byId.reserve(qsizetype(all.size()));
+    for (const tLay &l : all) byId.insert(l.LayId, &l);
+    tLayArr now;
+    now.reserve(those.size());
+    for (const tLay &l : those)
+        if (const tLay *const found = byId.value(l.LayId)) now.push_back(*found);
+    return now;
+}
+
+int proposedGrowth(std::span<const tLay> layers, const TakenLayers &taken)
+{
+    for (int growth = 1; growth <= 10000; growth *= 10) {
+        const bool isFree = std::ranges::all_of(layers, [&](const tLay &l) {
+            return l.gNr + growth <= kHighestCopyNumber && !taken.hasNumber(l.gNr + growth);
+        });
+        if (isFree) return growth;
+    }
+    return 1;
 }
 
 std::optional<tLay> newLayer(std::span<const tLay> all, const tLay &model)
@@ -65,12 +88,6 @@ std::optional<tLayArr> renumbered(std::span<const tLay> selected, int start, int
     return out;
 }
 
-bool isNumeric(QStringView text)
-{
-    static const QRegularExpression form(QStringLiteral("^ *[+-]? *(\\d+(\\.\\d*)?|\\.\\d+) *$"));
-    return form.match(text).hasMatch();
-}
-
 QString withoutPrefix(const QString &name, bool onlyNumbers)
 {
     const qsizetype dash = name.indexOf(u'-');
@@ -79,14 +96,22 @@ QString withoutPrefix(const QString &name, bool onlyNumbers)
     return rest.isEmpty() ? name : rest;
 }
 
-bool canDeleteGroup(qint16 group, std::span<const tLayMember> members)
+ShorterNames withoutPrefixes(std::span<const tLay> layers, bool onlyNumbers, TakenLayers taken)
 {
-    QSet<qint16> elsewhere;
-    for (const tLayMember &m : members)
-        if (m.GroupId != group) elsewhere.insert(m.LayId);
-    return std::ranges::all_of(members, [&](const tLayMember &m) {
-        return m.GroupId != group || elsewhere.contains(m.LayId);
-    });
+    ShorterNames out;
+    for (const tLay &l : layers) {
+        tLay renamed = l;
+        renamed.Name = withoutPrefix(l.Name, onlyNumbers);
+        if (renamed.Name == l.Name) continue;
+        if (taken.hasName(renamed.Name)) {
+            ++out.taken;
+            continue;
+        }
+        taken.rename(l.Name, renamed.Name);
+        out.lines << QStringLiteral("'%1' ---> '%2'").arg(l.Name, renamed.Name);
+        out.changed.push_back(std::move(renamed));
+    }
+    return out;
 }
 
 tLayArr withVisibilityOf(std::span<const tLay> saved, tLayArr all, LayerMatch match)

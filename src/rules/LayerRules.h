@@ -3,6 +3,7 @@
 #include "facade/contract/Records.h"
 
 #include <QSet>
+#include <QStringList>
 
 #include <optional>
 #include <span>
@@ -18,6 +19,7 @@ class TakenLayers {
 public:
     explicit TakenLayers(std::span<const ZolWDoc::tLay> layers) { for (const auto &l : layers) add(l); }
     void add(const ZolWDoc::tLay &l) { m_numbers.insert(l.gNr), m_names.insert(l.Name); }
+    void rename(const QString &from, const QString &to) { m_names.remove(from), m_names.insert(to); }
     bool hasNumber(int nr) const { return m_numbers.contains(nr); }
     bool hasName(const QString &name) const { return m_names.contains(name); }
     QString freeName(const QString &wanted) const;  ///< `wanted`, or with "_2", "_3" ... behind it
@@ -29,6 +31,13 @@ private:
 /// The copy of a layer with its number raised and a name of its own, or the text that says why there is none.
 std::variant<ZolWDoc::tLay, QString> copyOf(const ZolWDoc::tLay &lay, int growth, const TakenLayers &taken);
 
+/// The layers of `those` as they are in `all`, in their order; those that are gone are left out.
+ZolWDoc::tLayArr asNow(std::span<const ZolWDoc::tLay> those, std::span<const ZolWDoc::tLay> all);
+
+/// The first of 1, 10, 100, 1000, 10000 by which all the layers can be raised to free numbers; 1 when none
+/// is.
+int proposedGrowth(std::span<const ZolWDoc::tLay> layers, const TakenLayers &taken);
+
 /// The layer that the "new layer" command adds: number after the highest, a free name, all else as in
 /// `model`. Empty when the highest number has no successor.
 std::optional<ZolWDoc::tLay> newLayer(std::span<const ZolWDoc::tLay> all, const ZolWDoc::tLay &model);
@@ -38,15 +47,17 @@ std::optional<ZolWDoc::tLay> newLayer(std::span<const ZolWDoc::tLay> all, const 
 std::optional<ZolWDoc::tLayArr> renumbered(std::span<const ZolWDoc::tLay> selected, int start, int growth,
                                            std::span<const ZolWDoc::tLay> all);
 
-/// A number in the wide sense: blanks around it, a sign, decimals after a point; no exponent.
-bool isNumeric(QStringView text);
-
 /// What follows the first "-" of a name, trimmed. The name as it is when there is no "-" or nothing before or
 /// behind it, or when the part before it is no number and `onlyNumbers` asks for one.
 QString withoutPrefix(const QString &name, bool onlyNumbers);
 
-/// True when every layer of the group is in another group too, so that none is left without one.
-bool canDeleteGroup(qint16 group, std::span<const ZolWDoc::tLayMember> members);
+/// Layers that lose the prefix of their names, one after the other.
+struct ShorterNames {
+    ZolWDoc::tLayArr changed;       ///< with their new names
+    QStringList lines;              ///< "'old' ---> 'new'" of each
+    int taken = 0;                  ///< layers that keep their names because another one has the new one
+};
+ShorterNames withoutPrefixes(std::span<const ZolWDoc::tLay> layers, bool onlyNumbers, TakenLayers taken);
 
 enum class LayerMatch { ByNumber, ByName };
 /// `all` with the visibility of the saved layers of the same number or name; saved layers without a match

@@ -60,7 +60,8 @@ private slots:
         inDialog([](frmSelect &d, Grid &grid, ToolSet &tools) {
             QVERIFY(tools.tool("miView_Table")->isChecked());
             std::vector<qint16> seen;
-            const auto heard = connect(d.jsLayer, &clsJs_Layer::GridView, [&](qint16 &v) { seen.push_back(v); });
+            const auto heard =
+                connect(d.jsLayer, &clsJs_Layer::GridView, [&](qint16 &v) { seen.push_back(v); });
             tools.tool("miView_Card")->trigger();
             tools.tool("miView_CardMin")->trigger();
             QObject::disconnect(heard);
@@ -73,7 +74,8 @@ private slots:
         inDialog([](frmSelect &d, Grid &grid, ToolSet &tools) {
             QVERIFY(!tools.tool("miCollapseAll")->isEnabled());
             std::vector<bool> seen;
-            const auto heard = connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
+            const auto heard =
+                connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
             const SortKey byVisible[] = {{2, SortOrder::Ascending}};
             grid.setGroupLevels(byVisible);
             QVERIFY(tools.tool("miCollapseAll")->isEnabled() && tools.tool("miExpandAll")->isEnabled());
@@ -102,10 +104,13 @@ private slots:
     }
     void findSaysWhatIsNotThere()
     {
-        ScriptedPrompts user({{"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|10"), QStringLiteral("21")},
-                              {"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|21"), QStringLiteral("77")},
-                              {"tell", QStringLiteral("ZOL"), QStringLiteral("Nincs 77 érték!"), {}, Icon::Information},
-                              {"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|21"), QString()}});
+        ScriptedPrompts user(
+            {{"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|10"),
+              QStringLiteral("21")},
+             {"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|21"),
+              QStringLiteral("77")},
+             {"tell", QStringLiteral("ZOL"), QStringLiteral("Nincs 77 érték!"), {}, Icon::Information},
+             {"text", QStringLiteral("Keresés"), QStringLiteral("A keresett érték:|21"), QString()}});
         inDialog([](frmSelect &d, Grid &, ToolSet &tools) {
             for (int i = 0; i < 3; ++i) tools.tool("miFind")->trigger();
             QCOMPARE(d.jsLayer->currentRecord()->gNr, qint16(21));

@@ -123,7 +123,10 @@ struct FaultyLayers : Table<tLay, LayerRole> {
         real.writeAll(s.is(Fault::WriteAllForgets) ? all.first(all.size() - 1) : all);
     }
     qint32 fileVersion() const override { return real.fileVersion(); }
-    void renameFromFile(const QString &path) override { real.renameFromFile(path); }
+    void renameFromFile(const QString &path) override
+    {
+        if (!s.is(Fault::ListFilesIgnored)) real.renameFromFile(path);
+    }
     void renumberFromFile(const QString &path) override { real.renumberFromFile(path); }
 };
 
@@ -168,13 +171,33 @@ struct FaultyColors : PenColorRole, PaletteRole {
     }
 };
 
-struct FaultyExtras : RevisionRole, RestoreRole, CommandScopeRole, ChangeScopeRole {
+struct FaultyExtras : RevisionRole, RestoreRole, CommandScopeRole, ChangeScopeRole, UsageRole,
+                      LayerElementsRole {
     State &s;
     std::vector<tLay> before;
     explicit FaultyExtras(State &state) : s(state) {}
     quint64 revision(TableKind k) const override
     {
         return s.is(Fault::RevisionStays) ? 1 : s.doc->revisions()->revision(k);
+    }
+
+    std::vector<Usage> usersOf(TableKind kind, qint16 id) const override
+    {
+        const bool pen = kind == TableKind::PenColors;
+        if (pen && s.is(Fault::PenUsersForgotten)) return {};
+        std::vector<Usage> all = s.doc->usage()->usersOf(kind, id);
+        for (const tLay &l : s.doc->layers().readAll())
+            if (pen && s.is(Fault::PenUsersCountedTwice) && l.PenColorId == id && l.ScrColor == id)
+                ++all.front().count;
+        return all;
+    }
+    int deleteElements(std::span<const qint16> ids) override
+    {
+        std::vector<qint16> gone(ids.begin(), ids.end());
+        if (s.is(Fault::ElementsOfAllLayersGo))
+            for (const tLay &l : s.doc->layers().readAll()) gone.push_back(l.LayId);
+        const int n = s.doc->layerElements()->deleteElements(gone);
+        return s.is(Fault::ElementsMiscounted) ? int(ids.size()) : n;
     }
 
     template <class Rec> void bring(TableRole<Rec> &table, const Rec &r)
@@ -229,6 +252,7 @@ struct FaultyDoc : ZOLW_Doc {
     FaultyExtras extras{s};
     QObject nameless;
 
+    LayerFileRole *layerFiles() override { return s.doc->layerFiles(); }
     LayerRole &layers() override { return lay; }
     TextTypeRole &textTypes() override { return txd; }
     LineTypeRole &lineTypes() override { return pen; }
@@ -238,11 +262,11 @@ struct FaultyDoc : ZOLW_Doc {
     PointRole &points() override { return pt; }
     KhRole &khItems() override { return s.doc->khItems(); }
     void redrawAll() override { s.doc->redrawAll(); }
-    LayerElementsRole *layerElements() override { return s.doc->layerElements(); }
+    LayerElementsRole *layerElements() override { return &extras; }
     SymbolRenumberRole *symbolRenumber() override { return s.doc->symbolRenumber(); }
     PaletteRole *paletteReplacement() override { return &colors; }
     RestoreRole *restorer() override { return &extras; }
-    UsageRole *usage() override { return s.doc->usage(); }
+    UsageRole *usage() override { return &extras; }
     RevisionRole *revisions() override { return &extras; }
     CommandScopeRole *commandScopes() override { return &extras; }
     ChangeScopeRole *changeScopes() override { return &extras; }

@@ -40,6 +40,11 @@ enum class Fault {
     CommitDiscards,
     ScopeRollsBackOnError,
     LateBoundMissing,
+    PenUsersForgotten,
+    PenUsersCountedTwice,
+    ListFilesIgnored,
+    ElementsOfAllLayersGo,
+    ElementsMiscounted,
 };
 
 /// The reference host's document with a single fault between it and its caller.

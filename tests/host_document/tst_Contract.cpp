@@ -77,6 +77,11 @@ private slots:
         row("commit drops the changes", CommitDiscards, "line types: change scope");
         row("a failed command is taken back", ScopeRollsBackOnError, "command scope");
         row("the members by name are missing", LateBoundMissing, "members by name");
+        row("the layers of a pen are not told", PenUsersForgotten, "pen colours: usage");
+        row("a layer counts once per colour", PenUsersCountedTwice, "pen colours: usage");
+        row("a list file is not looked at", ListFilesIgnored, "layers: text files");
+        row("elements of other layers go too", ElementsOfAllLayersGo, "layers: elements");
+        row("the elements gone are miscounted", ElementsMiscounted, "layers: elements");
     }
     void everyFaultIsFound()
     {

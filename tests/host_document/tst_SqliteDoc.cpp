@@ -334,6 +334,7 @@ private slots:
             QStringLiteral("1 ő út, 2 b b, 3 c"));
         row("names exchanged", "rename", "2 c\n3 b\n", QStringLiteral("1 Alapréteg, 2 c, 3 b"));
         row("central european", "rename", "2 \xf5r", QStringLiteral("1 Alapréteg, 2 őr, 3 c"));
+        row("lines of an old system", "rename", "2 x\r\r3 y\r", QStringLiteral("1 Alapréteg, 2 x, 3 y"));
         row("name taken", "rename", "2 x\n3 Alapréteg\n", start, QStringLiteral("Hibás sor: 2, ez a név"));
         row("unknown number", "rename", "# x\n7 x\n", start, QStringLiteral("Hibás sor: 2, nincs ilyen"));
         row("no name", "rename", "2\n", start, QStringLiteral("Hibás sor: 1, sorszámot és nevet"));

@@ -166,32 +166,72 @@ private slots:
         QCOMPARE(elements, (QStringList{"Line l1 p-1 1,2.25b1 2,2.25b1 closed", "Point l1 p-1 1.25,0.1"}));
     }
 
-    void theUnitComesFromTheHeadUnlessTheCoordinatesDeny_data()
+    void theUnitComesFromTheHeadUnlessTheDrawingDenies_data()
     {
         QTest::addColumn<QByteArray>("header");
-        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QByteArray>("entities");
         QTest::addColumn<double>("metres");
         QTest::addColumn<double>("scale");
-        const QByteArray near = "10 0|20 0|11 1|21 1|0 POINT|8 0|10 800|20 400",
-                         far = "10 650000|20 240000|11 1|21 1|"
-                               "0 POINT|8 0|10 650300|20 240200";
-        QTest::newRow("named: feet") << QByteArray("|9 $INSUNITS|70 2") << near << 0.3048 << 250.0;
-        QTest::newRow("named: millimetres") << QByteArray("|9 $INSUNITS|70 4") << near << 0.001 << 100.0;
-        QTest::newRow("map coordinates") << QByteArray("|9 $INSUNITS|70 4") << far << 1.0 << 500.0;
-        QTest::newRow("imperial") << QByteArray("|9 $MEASUREMENT|70 0") << near << 0.0254 << 100.0;
-        QTest::newRow("nothing said") << QByteArray() << near << 1.0 << 1000.0;
+        QTest::addColumn<bool>("noted");
+        const QByteArray near = "0 LINE|8 0|10 0|20 0|11 1|21 1|0 POINT|8 0|10 800|20 400",
+                         far = "0 LINE|8 0|10 650000|20 240000|11 1|21 1|0 POINT|8 0|10 650300|20 240200",
+                         sheet = "0 POINT|8 0|10 -100|20 -150|0 TEXT|8 0|10 109|20 148|40 3|1 N",
+                         limits = "|9 $LIMMAX|10 12.0|20 9.0";
+        const auto texts = [](const char *one) {
+            QByteArray all = "0 POINT|8 0|10 900|20 900";
+            for (int i = 0; i < 3; ++i)
+                all += "|0 TEXT|8 0|10 " + QByteArray::number(i) + "|20 0|40 6|1 " + one;
+            return all;
+        };
+        const auto row = [](const char *name, const QByteArray &header, const QByteArray &entities,
+                            double metres, double scale, bool noted = false) {
+            QTest::newRow(name) << header << entities << metres << scale << noted;
+        };
+        row("named: feet", "|9 $INSUNITS|70 2", near, 0.3048, 250);
+        row("named: millimetres, too small", "|9 $INSUNITS|70 4", near, 0.001, 100, true);
+        row("map coordinates", "|9 $INSUNITS|70 4", far, 1, 500, true);
+        row("map coordinates in feet", "|9 $INSUNITS|70 2", far, 0.3048, 100);
+        row("imperial", "|9 $MEASUREMENT|70 0", near, 0.0254, 100);
+        row("nothing said", "", near, 1, 1000);
+        row("a sheet of inches", limits, near, 0.0254, 100);
+        row("a sheet of inches, but metric", limits + "|9 $MEASUREMENT|70 1", near, 1, 1000);
+        row("feet and inches", "|9 $INSUNITS|70 4", texts("\\A1;12'-6\""), 0.0254, 100, true);
+        row("feet and inches shown", "|9 $LUNITS|70 4", near, 0.0254, 100);
+        row("angles are no lengths", "|9 $INSUNITS|70 6", texts("47%%d12'30\""), 1, 2000);
+        row("single lengths in a plan of feet", "|9 $INSUNITS|70 2", texts("10'-0\" SETBACK"), 0.3048, 500);
+        row("an A4 sheet", "", sheet, 0.001, 1, true);
+        row("a sheet in metres", "|9 $INSUNITS|70 6", sheet, 1, 500);
     }
-    void theUnitComesFromTheHeadUnlessTheCoordinatesDeny()
+    void theUnitComesFromTheHeadUnlessTheDrawingDenies()
     {
         QFETCH(QByteArray, header);
-        QFETCH(QByteArray, line);
+        QFETCH(QByteArray, entities);
         QFETCH(double, scale);
+        QFETCH(bool, noted);
         const QTemporaryDir folder;
         const ImportGuess guess = DxfImport::guessOf(source::written(
-            folder, Dxf{.header = "9 $ACADVER|1 AC1015" + header, .entities = "0 LINE|8 0|" + line}.bytes()));
+            folder, Dxf{.header = "9 $ACADVER|1 AC1015" + header, .entities = entities}.bytes()));
         QTEST(lengthUnits()[size_t(guess.unit)].metres, "metres");
         QCOMPARE(guess.scale, scale);
-        QCOMPARE(guess.objects, 2);
+        QCOMPARE(!guess.note.isEmpty(), noted);
+    }
+    void lineWeightsThatAreLostAreToldByKind()
+    {
+        const Imported in(Dxf{
+            .tables = "0 TABLE|2 LAYER|0 LAYER|2 a|70 0|62 1|370 35|0 LAYER|2 b|70 0|62 1|370 -3|0 ENDTAB",
+            .entities = "0 LINE|8 a|370 50|10 0|20 0|11 1|21 0|0 LINE|8 a|370 -1|10 0|20 0|11 1|21 0|"
+                        "0 LINE|8 a|370 0|10 0|20 0|11 1|21 0|0 LINE|8 a|67 1|370 50|10 0|20 0|11 1|21 0|"
+                        "0 HATCH|8 a|370 13|2 SOLID|70 1|91 1|92 2|72 0|73 1|93 3|10 0|20 0|10 4|20 0|"
+                        "10 4|20 4|97 0|75 0|76 1"}
+                              .bytes());
+        QCOMPARE(in.tally("LINE").weighted, 2);
+        QCOMPARE(in.tally("HATCH").weighted, 1);
+        QStringList notes;
+        for (const ImportReport::Row &row : in.report.notes)
+            notes << QString::number(row.count) + u' ' + row.text;
+        QVERIFY(notes.contains(QStringLiteral("2 vonal (LINE), a saját vonalvastagsága nélkül")));
+        QVERIFY(notes.contains(QStringLiteral("1 sraffozás (HATCH), a saját vonalvastagsága nélkül")));
+        QVERIFY(notes.contains(QStringLiteral("1 réteg a saját vonalvastagsága nélkül")));
     }
 };
 

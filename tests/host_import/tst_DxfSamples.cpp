@@ -105,6 +105,35 @@ private slots:
         QVERIFY(symbol.isEmpty() || doc->symbols().nameExists(symbol));
     }
 
+    void theUnitIsGuessed_data()
+    {
+        QTest::addColumn<double>("metres");
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<bool>("noted");
+        const auto row = [](const char *file, double metres, double scale, bool noted) {
+            QTest::newRow(file) << metres << scale << noted;
+        };
+        row("industrial_site_survey_r2010", 1, 10000, true);    // says millimetres, has map coordinates
+        row("cad_sample_r12", 0.0254, 200, false);              // says nothing; the same drawing says inches
+        row("cad_sample_r2007", 0.0254, 200, false);
+        row("house_floorplan_r2004", 0.0254, 100, true);        // says millimetres, its lengths are 58'-0"
+        row("swiss_cadastre_r12", 1, 1000, false);
+        row("orienteering_map_r12", 0.001, 1, true);            // says nothing and is as large as an A4 sheet
+    }
+    void theUnitIsGuessed()
+    {
+        QFETCH(double, scale);
+        QFETCH(bool, noted);
+        const QString folder = qEnvironmentVariable("QVDC_SAMPLES");
+        if (folder.isEmpty()) QSKIP("QVDC_SAMPLES does not name a folder of drawings");
+        const ImportGuess guess =
+            DxfImport::guessOf(folder + QStringLiteral("/dxf/") + QLatin1String(QTest::currentDataTag()) +
+                               QStringLiteral(".dxf"));
+        QTEST(lengthUnits()[size_t(guess.unit)].metres, "metres");
+        QCOMPARE(guess.scale, scale);
+        QCOMPARE(!guess.note.isEmpty(), noted);
+    }
+
     void aSurveyWithoutBlocksKeepsEveryVertex_data()
     {
         QTest::addColumn<QString>("file");

@@ -7,15 +7,25 @@
 
 namespace tests {
 
-/// Tables with two layers (1 plain, 2 "by layer"), pens 1 white and 2 red, a dashed line type and a text type.
+/// Tables with two layers (1 plain, 2 "by layer"), pens 1 white and 2 red, a dashed line type and a text
+/// type.
 inline refhost::Resources smallTables(bool secondVisible = true)
 {
     refhost::Resources r;
-    ZolWDoc::tLay plain{.LayId = 1, .gNr = 10, .Name = QStringLiteral("A"), .PenStyleId = 5, .PenColorId = 2, .TxdId = 3};
-    ZolWDoc::tLay forcing{.LayId = 2, .gNr = 20, .Name = QStringLiteral("B"), .Visible = secondVisible, .PenStyleId = 6,
-                          .ScrColor = 4, .TxdId = 4, .ElByLayer = true, .TxByLayer = true};
+    ZolWDoc::tLay plain{
+        .LayId = 1, .gNr = 10, .Name = QStringLiteral("A"), .PenStyleId = 5, .PenColorId = 2, .TxdId = 3};
+    ZolWDoc::tLay forcing{.LayId = 2,
+                          .gNr = 20,
+                          .Name = QStringLiteral("B"),
+                          .Visible = secondVisible,
+                          .PenStyleId = 6,
+                          .ScrColor = 4,
+                          .TxdId = 4,
+                          .ElByLayer = true,
+                          .TxByLayer = true};
     r.layers = {{plain, forcing}};
-    r.lineTypes = {{{.iPenStyleId = 5, .PenStyleNr = 1}, {.iPenStyleId = 6, .PenStyleNr = 2, .Pattern = {3, 2}}}};
+    r.lineTypes = {
+        {{.iPenStyleId = 5, .PenStyleNr = 1}, {.iPenStyleId = 6, .PenStyleNr = 2, .Pattern = {3, 2}}}};
     r.textTypes = {{{.TxdId = 3, .Size_mm = 2}, {.TxdId = 4, .Size_mm = 4}}};
     r.palette[1] = 0xFF0000, r.palette[7] = 0xFFFFFF, r.palette[8] = 0x808080, r.palette[250] = 0x202020;
     r.pens.pen(1).ScrColor = 7;
@@ -32,7 +42,8 @@ inline refhost::Element line(double x1, double y1, double x2, double y2, qint16 
 }
 
 /// The scene on an image, one pixel a metre times `zoom`, about `centre` (local).
-inline QImage imageOf(const refhost::Scene &scene, QSize size, QPointF centre, double zoom, QColor background = Qt::white)
+inline QImage imageOf(const refhost::Scene &scene, QSize size, QPointF centre, double zoom,
+                      QColor background = Qt::white)
 {
     QImage image(size, QImage::Format_RGB32);
     refhost::Viewport view;

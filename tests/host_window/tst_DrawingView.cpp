@@ -18,7 +18,8 @@ private:
 
     void wheel(QPointF at, int turn)
     {
-        QWheelEvent e(at, m_view->mapToGlobal(at), {}, {0, turn}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent e(at, m_view->mapToGlobal(at), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
         QApplication::sendEvent(m_view.get(), &e);
     }
     void drag(Qt::MouseButton button, QPoint from, QPoint to)
@@ -35,8 +36,9 @@ private slots:
     {
         m_view = std::make_unique<DrawingView>();
         m_view->resize(400, 300);
-        m_view->setScene(Scene(tests::smallTables(), {line(650000, 240000, 650100, 240000), line(650000, 240050, 650100, 240050),
-                                                      line(650020, 240010, 650080, 240040, 2)}));
+        m_view->setScene(Scene(tests::smallTables(),
+                               {line(650000, 240000, 650100, 240000), line(650000, 240050, 650100, 240050),
+                                line(650020, 240010, 650080, 240040, 2)}));
         m_view->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
     }
@@ -96,9 +98,11 @@ private slots:
         renderTo(p, m_view->scene(), m_view->viewport(), {Qt::white});
         p.end();
         const QImage seen = m_view->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        int different = 0; // a line that is clipped starts at another fraction of a pixel: its softness may differ
+        int different =
+            0; // a line that is clipped starts at another fraction of a pixel: its softness may differ
         for (int y = 0; y < whole.height(); ++y)
-            for (int x = 0; x < whole.width(); ++x) different += std::abs(qGray(seen.pixel(x, y)) - qGray(whole.pixel(x, y))) > 40;
+            for (int x = 0; x < whole.width(); ++x)
+                different += std::abs(qGray(seen.pixel(x, y)) - qGray(whole.pixel(x, y))) > 40;
         QCOMPARE(different, 0);
     }
 
@@ -137,7 +141,8 @@ private slots:
     {
         m_view->setTool(DrawingView::Tool::Line);
         QSignalSpy given(m_view.get(), &DrawingView::lineGiven);
-        for (QPoint at : {QPoint(50, 50), QPoint(90, 70), QPoint(95, 99)}) QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, at);
+        for (QPoint at : {QPoint(50, 50), QPoint(90, 70), QPoint(95, 99)})
+            QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, at);
         QTest::keyClick(m_view.get(), Qt::Key_Backspace);
         QTest::keyClick(m_view.get(), Qt::Key_Return);
         QCOMPARE(given.size(), 1);

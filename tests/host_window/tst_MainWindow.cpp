@@ -33,6 +33,12 @@ private:
     void trigger(const char *name) { m_window->findChild<QAction *>(QLatin1String(name))->trigger(); }
     QString status(const char *name) { return m_window->findChild<QLabel *>(QLatin1String(name))->text(); }
     Element last() { return doc().elements().back(); }
+    QString names()                 // of the tabs
+    {
+        QStringList all;
+        for (int i = 0; i < m_window->tabs().count(); ++i) all << m_window->tabs().tabText(i);
+        return all.join(QStringLiteral(", "));
+    }
 
 private slots:
     void init()
@@ -53,9 +59,10 @@ private slots:
 
     void placedElementsLandOnTheCurrentLayer()
     {
-        const qint16 roads = doc().layers().add({.gNr = 7, .Name = QStringLiteral("Utak"), .Visible = false, .PenStyleId = 1, .TxdId = 1});
+        const qint16 roads = doc().layers().add(
+            {.gNr = 7, .Name = QStringLiteral("Utak"), .Visible = false, .PenStyleId = 1, .TxdId = 1});
         doc().layers().makeCurrent(*doc().layers().find(roads));
-        m_window->refresh();
+        m_window->page().refresh();
         QCOMPARE(status("layerStatus"), QStringLiteral("Réteg: 7 Utak (nem látható)"));
 
         trigger("point");
@@ -103,10 +110,13 @@ private slots:
     {
         const Element point{.kind = ElementKind::Point, .layId = 1, .vertices = {{5, 5}}};
         doc().addElements(std::vector{point, point, point});
-        m_window->refresh();
+        m_window->page().refresh();
         view().select({0, 2});
-        const QString title = QStringLiteral("Elemek törlése"), text = QStringLiteral("A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.");
-        ScriptedPrompts user({{"yesNo", title, text, false, Icon::Question}, {"yesNo", title, text, true, Icon::Question}});
+        const QString title = QStringLiteral("Elemek törlése"),
+                      text = QStringLiteral(
+                          "A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.");
+        ScriptedPrompts user(
+            {{"yesNo", title, text, false, Icon::Question}, {"yesNo", title, text, true, Icon::Question}});
         trigger("delete");
         QCOMPARE(doc().elementCount(), 3);
         const qint64 kept = doc().elements()[1].id;
@@ -119,24 +129,99 @@ private slots:
 
     void leavingUnsavedWorkAsks()
     {
-        const QString title = QStringLiteral("Rajz mentése"), text = QStringLiteral("A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?");
+        const QString title = QStringLiteral("Rajz mentése"),
+                      text = QStringLiteral(
+                          "A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?"),
+                      filter = QStringLiteral("Rajzok|*.qvd");
         const QString path = m_folder.filePath(QStringLiteral("új.qvd"));
         QVERIFY(m_window->files().mayLeave()); // nothing was done yet
         doc().layers().add({.gNr = 9, .Name = QStringLiteral("Kút"), .PenStyleId = 1, .TxdId = 1});
         ScriptedPrompts user({{"choose", title, text, QVariant()},
-                              {"choose", title, text, 0}, {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), QString()},
-                              {"choose", title, text, 0}, {"saveFile", title, QStringLiteral("Rajzok|*.qvd"), path}});
+                              {"choose", title, text, 0},
+                              {"saveFile", title, filter, QString()},
+                              {"choose", title, text, 0},
+                              {"saveFile", title, filter, path}});
         QVERIFY(!m_window->close());           // stays
-        QVERIFY(!m_window->files().openSample());  // saving was given up
+        QVERIFY(!m_window->files().close(0));  // saving was given up
         QCOMPARE(doc().layers().count(), 2);
         QVERIFY(m_window->files().mayLeave());
         QVERIFY(QFile::exists(path));
         QCOMPARE(m_window->windowTitle(), QStringLiteral("új.qvd – QVDraw"));
         QCOMPARE(FileCommands::recent().value(0), path);
         doc().layers().add({.gNr = 10, .Name = QStringLiteral("Fa"), .PenStyleId = 1, .TxdId = 1});
-        QVERIFY(m_window->files().newDrawing()); // a saved drawing is durable: nothing is asked
+        trigger("close");                      // a saved drawing is durable: nothing is asked
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz"));
         QVERIFY(m_window->files().openFile(path));
         QCOMPARE(doc().layers().count(), 3);
+    }
+
+    void eachDrawingHasATabOfItsOwn()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("a.qvd"));
+        SqliteDoc::create(path);
+        QVERIFY(m_window->files().openFile(path)); // in place of the drawing that nobody has touched
+        QCOMPARE(names(), QStringLiteral("a.qvd"));
+        QVERIFY(m_window->files().openSample());
+        trigger("new");
+        QCOMPARE(names(), QStringLiteral("a.qvd, Mintarajz, Névtelen rajz"));
+        trigger("point");
+        QTest::mouseClick(&view(), Qt::LeftButton, {}, {100, 100});
+        QCOMPARE(names(), QStringLiteral("a.qvd, Mintarajz, Névtelen rajz*"));
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Névtelen rajz* – QVDraw"));
+
+        QVERIFY(m_window->files().openFile(path)); // open already: comes to the front
+        QCOMPARE(m_window->tabs().count(), 3);
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("a.qvd – QVDraw"));
+        QCOMPARE(doc().elementCount(), 0);
+        QVERIFY(
+            m_window->findChild<QAction *>(QStringLiteral("select"))->isChecked()); // each has its own tool
+        QVERIFY(status("countStatus").startsWith(u'0'));
+
+        ZolWDoc::DocumentList &all = m_window->tabs().documents();
+        QCOMPARE(all.count(), 3);
+        QVERIFY(all.item(0) == &doc() && all.item(1)->layers().count() == 40 && !all.item(3));
+        QVERIFY(m_window->files().close(1)); // nothing was done in the sample
+        QVERIFY(m_window->files().close(0));
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz*"));
+        ScriptedPrompts user(
+            {{"choose", QStringLiteral("Rajz mentése"),
+              QStringLiteral("A(z) 'Névtelen rajz' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
+        trigger("close");
+        QCOMPARE(names(), QStringLiteral("Névtelen rajz"));
+        QVERIFY(!m_window->findChild<QAction *>(QStringLiteral("close"))->isEnabled());
+    }
+
+    void aFileThatIsOpenIsNotReplaced()
+    {
+        const QString path = m_folder.filePath(QStringLiteral("b.qvd"));
+        SqliteDoc::create(path);
+        QVERIFY(m_window->files().openFile(path));
+        QVERIFY(m_window->files().openSample());
+        ScriptedPrompts user(
+            {{"saveFile", QStringLiteral("Rajz mentése"), QStringLiteral("Rajzok|*.qvd"), path},
+             {"tell", QStringLiteral("A művelet nem sikerült"),
+              QStringLiteral(
+                  "A(z) 'b.qvd' rajz egy másik lapon meg van nyitva. Zárd be ott, vagy adj meg másik nevet!"),
+              QVariant(), Icon::Exclamation}});
+        QVERIFY(!m_window->files().saveAs());
+        QCOMPARE(names(), QStringLiteral("b.qvd, Mintarajz"));
+        QCOMPARE(SqliteDoc::open(path)->layers().count(), 1);
+    }
+
+    void whatIsWrittenShowsAtOnce()
+    {
+        QVERIFY(m_window->files().openSample());
+        QVERIFY(m_window->files().newDrawing());
+        DrawingPage &sample = *m_window->tabs().page(0);
+        const qint16 current = sample.doc().layers().currentId();
+        for (ZolWDoc::tLay lay : sample.doc().layers().readAll())
+            if (lay.LayId == current) lay.Visible = false, sample.doc().layers().update(lay);
+        QVERIFY(sample.view().scene().resources().layers.find(current)->Visible); // not within the call
+        QTRY_VERIFY(!sample.view().scene().resources().layers.find(current)->Visible);
+        QVERIFY(
+            !status("layerStatus").contains(QStringLiteral("nem látható"))); // another drawing is in front
+        m_window->tabs().setCurrentIndex(0);
+        QVERIFY(status("layerStatus").endsWith(QStringLiteral("(nem látható)")));
     }
 
     void aFileThatCannotBeOpenedIsToldAndTheDrawingStays()
@@ -144,7 +229,8 @@ private slots:
         const QString path = m_folder.filePath(QStringLiteral("semmi.qvd"));
         SqliteDoc *const before = &doc();
         ScriptedPrompts user({{"tell", QStringLiteral("A művelet nem sikerült"),
-                               QStringLiteral("A(z) '") + path + QStringLiteral("' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
+                               QStringLiteral("A(z) '") + path +
+                                   QStringLiteral("' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
                                QVariant(), Icon::Exclamation}});
         QVERIFY(!m_window->files().openFile(path));
         QCOMPARE(&doc(), before);
@@ -155,25 +241,28 @@ private slots:
         const QString path = m_folder.filePath(QStringLiteral("telek.dxf"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHATAR\n10\n650000.0\n20\n240000.0\n11\n650010.0\n21\n240000.0\n"
+        file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHATAR\n10\n650000.0\n20\n240000.0\n11\n650010."
+                   "0\n21\n240000.0\n"
                    "0\nENDSEC\n0\nEOF\n");
         file.close();
         ImportReport expected;
-        DxfImport::into(m_folder.filePath(QStringLiteral("same.qvd")), path, DxfImport::guessOf(path).options(), expected);
+        DxfImport::into(m_folder.filePath(QStringLiteral("same.qvd")), path,
+                        DxfImport::guessOf(path).options(), expected);
         const QString title = QStringLiteral("DXF importálása"), note = DxfImport::guessOf(path).note;
         const QString text = QStringLiteral("Milyen egységben vannak a(z) 'telek.dxf' fájl koordinátái?")
                              + (note.isEmpty() ? QString() : u'\n' + note);
-        ScriptedPrompts user({{"choose", title, text, QVariant()},
-                              {"choose", title, text, 0},
-                              {"tell", title, expected.text(), QVariant(), Icon::Information},
-                              {"choose", QStringLiteral("Rajz mentése"),
-                               QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
+        ScriptedPrompts user(
+            {{"choose", title, text, QVariant()},
+             {"choose", title, text, 0},
+             {"tell", title, expected.text(), QVariant(), Icon::Information},
+             {"choose", QStringLiteral("Rajz mentése"),
+              QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
         QVERIFY(!m_window->files().importFile(path));
         QCOMPARE(doc().elementCount(), 0);
         QVERIFY(m_window->files().importFile(path)); // metres, the first unit
         QCOMPARE(doc().elementCount(), 1);
         QCOMPARE(last().vertices[1].x, 650010.0);
-        QVERIFY(m_window->files().newDrawing());     // an import is work: it asks
+        trigger("close");                            // an import is work: it asks
     }
 
     void aFileThatIsNoDxfIsToldAndTheDrawingStays()
@@ -189,7 +278,8 @@ private slots:
             why = e.text();
         }
         QVERIFY(why.contains(path) || why.contains(QStringLiteral("nem.dxf")));
-        ScriptedPrompts user({{"tell", QStringLiteral("A művelet nem sikerült"), why, QVariant(), Icon::Exclamation}});
+        ScriptedPrompts user(
+            {{"tell", QStringLiteral("A művelet nem sikerült"), why, QVariant(), Icon::Exclamation}});
         SqliteDoc *const before = &doc();
         QVERIFY(!m_window->files().importFile(path));
         QCOMPARE(&doc(), before);
@@ -200,7 +290,8 @@ private slots:
         trigger("line");
         m_services->language()->setCurrent(Vietnamese);
         QCOMPARE(m_window->menuBar()->actions()[0]->text(), QStringLiteral("&Tệp"));
-        QCOMPARE(m_window->findChild<QAction *>(QStringLiteral("bSelect_Lay"))->text(), QStringLiteral("Chọn &lớp…"));
+        QCOMPARE(m_window->findChild<QAction *>(QStringLiteral("bSelect_Lay"))->text(),
+                 QStringLiteral("Chọn &lớp…"));
         QVERIFY(status("countStatus").endsWith(QStringLiteral("đối tượng")));
         QCOMPARE(Language().currentLanguage(), int(Vietnamese)); // remembered
         m_services->language()->setCurrent(Hungarian);
@@ -212,7 +303,8 @@ private slots:
             m_services->language()->setForThisRun(id);
             std::vector<QList<QAction *>> menus{m_window->menuBar()->actions()};
             for (const QAction *a : m_window->menuBar()->actions())
-                if (a->menu()->actions().value(0) && !a->menu()->actions()[0]->data().toInt()) menus.push_back(a->menu()->actions());
+                if (a->menu()->actions().value(0) && !a->menu()->actions()[0]->data().toInt())
+                    menus.push_back(a->menu()->actions());
             for (const auto &menu : menus) {
                 QSet<QChar> keys;
                 for (const QAction *a : menu) {
@@ -234,7 +326,8 @@ private slots:
             if (row.sign) signs << iconOf(*row.sign).pixmap(48).toImage();
         for (const DialogCall &call : dialogCalls()) signs << iconOf(call.sign).pixmap(48).toImage();
         for (qsizetype i = 0; i < signs.size(); ++i)
-            for (qsizetype k = 0; k < i; ++k) QVERIFY2(signs[i] != signs[k], qPrintable(QStringLiteral("%1 = %2").arg(i).arg(k)));
+            for (qsizetype k = 0; k < i; ++k)
+                QVERIFY2(signs[i] != signs[k], qPrintable(QStringLiteral("%1 = %2").arg(i).arg(k)));
     }
 };
 

@@ -15,7 +15,10 @@ using tests::smallTables;
 class tst_Scene : public QObject {
     Q_OBJECT
 private:
-    static Scene sceneOf(std::vector<Element> elements, Resources r = smallTables()) { return {std::move(r), std::move(elements)}; }
+    static Scene sceneOf(std::vector<Element> elements, Resources r = smallTables())
+    {
+        return {std::move(r), std::move(elements)};
+    }
 
 private slots:
     void byLayerRules_data()
@@ -27,8 +30,10 @@ private slots:
         const int l = int(ElementKind::Line), t = int(ElementKind::Text), s = int(ElementKind::Symbol);
         QTest::newRow("nothing of its own: the layer's") << l << 1 << QList{-1, -1, -1} << QList{5, 2, 3};
         QTest::newRow("its own") << l << 1 << QList{6, 1, 4} << QList{6, 1, 4};
-        QTest::newRow("pen 0 is the foreground, not the layer's") << l << 1 << QList{-1, 0, -1} << QList{5, 0, 3};
-        QTest::newRow("a line on a by-layer layer; pen of the screen colour") << l << 2 << QList{5, 1, 3} << QList{6, 4, 4};
+        QTest::newRow("pen 0 is the foreground, not the layer's")
+            << l << 1 << QList{-1, 0, -1} << QList{5, 0, 3};
+        QTest::newRow("a line on a by-layer layer; pen of the screen colour")
+            << l << 2 << QList{5, 1, 3} << QList{6, 4, 4};
         QTest::newRow("a text on a by-layer layer") << t << 2 << QList{5, 1, 3} << QList{6, 4, 4};
         QTest::newRow("a symbol on a by-layer layer") << s << 2 << QList{-1, 1, -1} << QList{6, 4, 4};
         QTest::newRow("on no layer") << l << -1 << QList{-1, -1, -1} << QList{-1, 0, -1};
@@ -52,7 +57,8 @@ private slots:
         auto rows = r.layers.rows();
         rows[1].TxByLayer = false;
         r.layers = rows;
-        QCOMPARE(r.lookOf({.kind = ElementKind::Text, .layId = 2, .penColorId = 1, .txdId = 3}).pen, qint16(1));
+        QCOMPARE(r.lookOf({.kind = ElementKind::Text, .layId = 2, .penColorId = 1, .txdId = 3}).pen,
+                 qint16(1));
         QCOMPARE(r.lookOf({.kind = ElementKind::Line, .layId = 2, .penColorId = 1}).pen, qint16(4));
     }
 
@@ -97,12 +103,13 @@ private slots:
     {
         const Scene scene = sceneOf({line(-500, 0, 500, 0, 2)}); // 3 metres on, 2 off
         const QPointF middle = -scene.origin();
-        const QImage far = imageOf(scene, {200, 41}, middle, 0.5), near = imageOf(scene, {200, 41}, middle, 4);
+        const QImage far = imageOf(scene, {200, 41}, middle, 0.5),
+                     near = imageOf(scene, {200, 41}, middle, 4);
         QCOMPARE(inked(far, 20), 200);
         for (const Batch &b : scene.batches())
             for (const Chunk &c : b.chunks) QVERIFY(c.pattern != nullptr); // made by the near view
         const int on = inked(near, 20);
-        QVERIFY2(on > 110 && on < 150, qPrintable(QString::number(on)));   // three fifths of 200, ends are soft
+        QVERIFY2(on > 110 && on < 150, qPrintable(QString::number(on))); // three fifths of 200, ends are soft
     }
     void dashesAreNotMadeForAFarView()
     {
@@ -116,22 +123,26 @@ private slots:
         Resources r = smallTables();
         r.symbols = {{{.SidId = 9, .Size_mm = 2, .Type = 1}}};
         r.glyphs.insert(9, {.strokes = {{{100, 0}, {101, 0}}}, .advance = 1}); // far from its insertion point
-        const Scene scene = sceneOf({{.kind = ElementKind::Symbol, .layId = 1, .sidId = 9, .vertices = {{0, 0}}, .scale = -1}}, r);
+        const Scene scene = sceneOf(
+            {{.kind = ElementKind::Symbol, .layId = 1, .sidId = 9, .vertices = {{0, 0}}, .scale = -1}}, r);
         const QRectF box = scene.bounds().translated(scene.origin());
-        QVERIFY2(std::abs(box.left() + 202) < 0.01 && std::abs(box.right() + 200) < 0.01, "mirrored, 2 mm a letter height");
+        QVERIFY2(std::abs(box.left() + 202) < 0.01 && std::abs(box.right() + 200) < 0.01,
+                 "mirrored, 2 mm a letter height");
         QVERIFY(box.height() < 0.1);
     }
 
     void pointsHaveOneSizeOnTheScreen()
     {
         const Scene scene = sceneOf({{.kind = ElementKind::Point, .layId = 1, .vertices = {{0, 0}}}});
-        for (double zoom : {0.01, 1.0, 300.0}) QCOMPARE(inked(imageOf(scene, {41, 41}, -scene.origin(), zoom), 20), 7);
+        for (double zoom : {0.01, 1.0, 300.0})
+            QCOMPARE(inked(imageOf(scene, {41, 41}, -scene.origin(), zoom), 20), 7);
     }
 
     void largeCoordinatesKeepTheirHundredths()
     {
         const double e = 650000, n = 240000;
-        const Scene scene = sceneOf({line(e, n, e + 0.01, n), line(e, n + 0.01, e + 0.01, n + 0.01), line(e + 800, n, e + 900, n + 500)});
+        const Scene scene = sceneOf({line(e, n, e + 0.01, n), line(e, n + 0.01, e + 0.01, n + 0.01),
+                                     line(e + 800, n, e + 900, n + 500)});
         const QPointF at = scene.toLocal(e + 0.005, n + 0.005);
         const QImage image = imageOf(scene, {100, 100}, at, 5000); // a hundredth of a metre is 50 pixels
         QVERIFY(inked(image, 75) > 40);
@@ -163,7 +174,8 @@ private slots:
 
     void whatIsNoNumberIsLeftOut()
     {
-        const Scene scene = sceneOf({line(qQNaN(), 0, 1, 1), line(0, 0, qInf(), 5), {.kind = ElementKind::Line}, line(0, 0, 10, 0)});
+        const Scene scene = sceneOf(
+            {line(qQNaN(), 0, 1, 1), line(0, 0, qInf(), 5), {.kind = ElementKind::Line}, line(0, 0, 10, 0)});
         QCOMPARE(scene.elementsIn(QRectF(-1000, -1000, 2000, 2000), false), std::vector<int>{3});
         QVERIFY(scene.bounds().width() < 11);
     }
@@ -192,11 +204,15 @@ private slots:
     void overlappingFillsDoNotCutEachOtherOut()
     {
         const auto square = [](double x, double size, std::vector<int> rings = {}) {
-            Element e{.kind = ElementKind::Fill, .layId = 1, .vertices = {{x, 0}, {x + size, 0}, {x + size, size}, {x, size}}, .rings = rings};
+            Element e{.kind = ElementKind::Fill,
+                      .layId = 1,
+                      .vertices = {{x, 0}, {x + size, 0}, {x + size, size}, {x, size}},
+                      .rings = rings};
             return e;
         };
         Element holed = square(100, 40, {0, 4}); // with a hole, wound the same way
-        for (const Vertex &v : {Vertex{110, 10}, {130, 10}, {130, 30}, {110, 30}}) holed.vertices.push_back(v);
+        for (const Vertex &v : {Vertex{110, 10}, {130, 10}, {130, 30}, {110, 30}})
+            holed.vertices.push_back(v);
         const Scene scene = sceneOf({square(0, 40), square(20, 40), holed});
         const QImage image = imageOf(scene, {200, 60}, QPointF(100, 20) - scene.origin(), 1);
         const auto at = [&image](int x, int y) { return image.pixelColor(x, 50 - y) != Qt::white; };
@@ -207,12 +223,19 @@ private slots:
 
     void textsAreHitAndTooSmallOnesNotDrawn()
     {
-        const Element text{.kind = ElementKind::Text, .layId = 1, .vertices = {{0, 0}}, .rotation = 90, .size = 10,
-                           .align = 24, .text = QStringLiteral("HHHH")};
+        const Element text{.kind = ElementKind::Text,
+                           .layId = 1,
+                           .vertices = {{0, 0}},
+                           .rotation = 90,
+                           .size = 10,
+                           .align = 24,
+                           .text = QStringLiteral("HHHH")};
         const Scene scene = sceneOf({text});
-        QCOMPARE(scene.elementAt(QPointF(-5, 15) - scene.origin(), 0.5), 0);     // runs upwards, left of its base line
+        QCOMPARE(scene.elementAt(QPointF(-5, 15) - scene.origin(), 0.5),
+                 0); // runs upwards, left of its base line
         QCOMPARE(scene.elementAt(QPointF(15, 5) - scene.origin(), 0.5), -1);
-        const QImage large = imageOf(scene, {80, 80}, -scene.origin(), 1), small = imageOf(scene, {80, 80}, -scene.origin(), 0.1);
+        const QImage large = imageOf(scene, {80, 80}, -scene.origin(), 1),
+                     small = imageOf(scene, {80, 80}, -scene.origin(), 0.1);
         QVERIFY(inked(large, 20) > 0);
         for (int row = 0; row < 80; ++row) QCOMPARE(inked(small, row), 0);
     }

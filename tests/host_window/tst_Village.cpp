@@ -63,7 +63,8 @@ private slots:
             QVERIFY(lineTypes.contains(l.PenStyleId) && textTypes.contains(l.TxdId) && l.PenColorId > 0);
             QVERIFY2(m_doc->layers().groupOf(l.LayId) > 0, qPrintable(l.Name));
         }
-        for (const ZolWDoc::tPenStyleSi &s : m_doc->lineSymbolizations().readAll()) QVERIFY(symbols.contains(s.SidId));
+        for (const ZolWDoc::tPenStyleSi &s : m_doc->lineSymbolizations().readAll())
+            QVERIFY(symbols.contains(s.SidId));
     }
 
     void everySymbolHasStrokes()

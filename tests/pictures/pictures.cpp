@@ -1,20 +1,15 @@
-// Pictures of the dialogs in their states, in each language and palette, for the eye: qvpictures FOLDER
-// [SCALE]. Each sheet shows the states of one language; 1 when a text has no room or a bar is too short for
-// its tools.
-#include "facade/clsDocDlgs.h"
-#include "facade/services/Language.h"
-#include "dialogs/select/frmSelect.h"
-#include "dialogs/viewtools/frmPreview.h"
+// Pictures of the dialogs and controls in their states, in each language and palette, for the eye:
+// qvpictures FOLDER [SCALE]. Ends with 1 when a text has no room or a bar is too short for its tools.
 #include "document/SqliteDoc.h"
-#include "grids/clsJs_Layer.h"
-#include "kit/grid/GridHeader.h"
+#include "facade/services/Language.h"
+#include "pictures/ControlPictures.h"
+#include "pictures/Scene.h"
+#include "pictures/SelectPictures.h"
 #include "support/Looks.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QPainter>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -25,8 +20,6 @@ using namespace QV_DOC_CONTROLS;
 
 namespace {
 
-constexpr QSize kDialog(960, 560);
-constexpr int kAcross = 2;                      ///< pictures beside each other on a sheet
 constexpr char kScreen[] =
     R"({"screens": [{"name": "wide", "x": 0, "y": 0, "width": 4000, "height": 3000}]})";
 
@@ -50,99 +43,17 @@ std::unique_ptr<refhost::SqliteDoc> sample()
     return doc;
 }
 
-Grid &itemsOf(frmSelect &d) { return *d.findChild<Grid *>(QStringLiteral("gridItems")); }
-
-void group(Grid &grid, std::initializer_list<SortKey> levels) { grid.setGroupLevels(std::vector(levels)); }
-
-struct State {
-    const char *name;
-    void (*make)(frmSelect &);
-};
-constexpr int kVisible = 2, kLineType = 3, kName = 1;
-const State kStates[] = {
-    {"table", [](frmSelect &d) { itemsOf(d).setCurrentRow(5); }},
-    {"sorted",
-     [](frmSelect &d) {
-         itemsOf(d).setSortKeys(std::vector<SortKey>{{kVisible, SortOrder::Descending}, {kName}});
-     }},
-    {"grouped",
-     [](frmSelect &d) {
-         group(itemsOf(d), {{kLineType}, {kVisible, SortOrder::Descending}});
-         itemsOf(d).toggleBandOf(itemsOf(d).currentRow());
-     }},
-    {"filtered",
-     [](frmSelect &d) { group(itemsOf(d), {}), itemsOf(d).setFilterText(QStringLiteral("patak")); }},
-    {"cards", [](frmSelect &d) { itemsOf(d).setFilterText({}), itemsOf(d).setView(GridView::Card); }},
-    {"compact cards", [](frmSelect &d) { itemsOf(d).setView(GridView::CardMin); }},
-    {"grouped cards",
-     [](frmSelect &d) { group(itemsOf(d), {{kVisible}}), itemsOf(d).setView(GridView::Card); }},
-};
-
-/// Captions of shown columns that their sections have no room for.
-QStringList cutCaptionsOf(frmSelect &d)
+bool saveModalWindow(const QString &path)
 {
-    QStringList cut;
-    const auto &header = *itemsOf(d).findChild<GridHeader *>();
-    for (int c : itemsOf(d).shownColumns())
-        if (header.sectionSize(c) < header.sectionSizeHint(c))
-            cut << QStringLiteral("caption cut off: ") + itemsOf(d).columns()[size_t(c)].caption;
-    return cut;
-}
-
-struct Pictures {
-    std::vector<QPixmap> all;
-    QStringList flaws;
-
-    void take(QDialog &d)
-    {
-        QCoreApplication::sendPostedEvents();   // layouts and scroll bars
-        all.push_back(d.grab());
-        flaws += tests::flawsOf(d);
-    }
-    void takeStates(frmSelect &d)
-    {
-        d.resize(kDialog);
-        for (const State &state : kStates) {
-            state.make(d);
-            take(d);
-            flaws += cutCaptionsOf(d);
-        }
-        QTimer::singleShot(0, &d, [this] {
-            auto *const preview = qobject_cast<frmPreview *>(QApplication::activeModalWidget());
-            preview->resize(kDialog);
-            take(*preview);
-            preview->reject();
-        });
-        d.findChild<QAction *>(QStringLiteral("miPrintPreview"))->trigger();
-        d.reject();
-    }
-    bool save(const QString &path) const
-    {
-        const QSize one = all.front().deviceIndependentSize().toSize();
-        const int rows = (int(all.size()) + kAcross - 1) / kAcross;
-        QPixmap sheet(QSize(one.width() * kAcross, one.height() * rows) * all.front().devicePixelRatio());
-        sheet.setDevicePixelRatio(all.front().devicePixelRatio());
-        sheet.fill(Qt::darkGray);
-        QPainter painter(&sheet);
-        for (int i = 0; i < int(all.size()); ++i)
-            painter.drawPixmap(QPoint(i % kAcross * one.width(), i / kAcross * one.height()), all[size_t(i)]);
-        return sheet.save(path);
-    }
-};
-
-/// One language in one palette; false when a flaw was found.
-bool takeSheet(ZolWDoc::ZOLW_Doc &doc, const QString &path)
-{
-    Pictures pictures;
-    QTimer::singleShot(0, qApp, [&] {
-        pictures.takeStates(*qobject_cast<frmSelect *>(QApplication::activeModalWidget()));
-    });
-    ZolWDoc::tLay lay = doc.layers().readAll()[3];
-    clsDocDlgs().bSelect_Lay(doc, lay);
-    for (const QString &flaw : std::as_const(pictures.flaws))
+    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialog) qFatal("nothing is open for %s", qPrintable(path));
+    dialog->grab().save(path);
+    const QStringList flaws = tests::flawsOf(*dialog);
+    for (const QString &flaw : flaws)
         std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(flaw));
     std::printf("%s\n", qPrintable(path));
-    return pictures.save(path) && pictures.flaws.isEmpty();
+    dialog->reject();
+    return flaws.isEmpty();
 }
 
 /// The platform without a display, with a screen that every dialog fits on.
@@ -169,13 +80,23 @@ int main(int argc, char **argv)
     QDir().mkpath(folder);
     const auto doc = sample();
     bool flawless = true;
-    for (const auto &[language, name] :
+    for (const auto &[language, suffix] :
          {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}})
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
-            flawless &= takeSheet(*doc, folder + QStringLiteral("/select-%1-%2-x%3.png")
-                                            .arg(QLatin1String(name), dark ? "dark" : "light", scale));
+            const auto pathOf = [&, suffix = QLatin1String(suffix), dark = dark](const char *what) {
+                return folder + QStringLiteral("/%1-%2-%3-x%4.png")
+                                    .arg(QLatin1String(what), suffix, dark ? "dark" : "light", scale);
+            };
+            flawless &= saveSelection(*doc, pathOf("select"));
+            saveLayerControls(*doc, pathOf("layer-controls"));
+            for (const tests::Scene &scene : tests::valueScenes()) {
+                QTimer::singleShot(0, &app, [&] { // after what the scene does to its open box
+                    QTimer::singleShot(0, &app, [&] { flawless &= saveModalWindow(pathOf(scene.name)); });
+                });
+                scene.open();
+            }
         }
     return flawless ? 0 : 1;
 }

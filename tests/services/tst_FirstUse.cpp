@@ -18,11 +18,15 @@ struct Settings final : ZolWDoc::SettingsService {
     bool readBool(const QString &, const QString &, bool) const override { return ++olderReads, false; }
     void readBool(const QString &section, const QString &key, bool fallback, bool &result) const override
     {
-        result = section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid") ? true : fallback;
+        result =
+            section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid") ? true : fallback;
     }
 };
 struct BrokenStore final : ZolWDoc::SettingsStore {
-    QString read(const QString &, const QString &, const QString &, const QString &) const override { throw 1; }
+    QString read(const QString &, const QString &, const QString &, const QString &) const override
+    {
+        throw 1;
+    }
     void write(const QString &, const QString &, const QString &, const QString &) override { throw 1; }
     void remove(const QString &, const QString &, const QString &) override { throw 1; }
 };

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <functional>
 #include <stdexcept>
 
 namespace tests {
@@ -19,9 +20,11 @@ struct CallLog {
     QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
     int failAt = -1;                ///< the call with this index throws HostError
     QString failNext;               ///< the next call of this name throws HostError
+    std::function<void(const QString &)> meanwhile; ///< happens during every call
     void on(const char *name)
     {
         calls << QLatin1String(name);
+        if (meanwhile) meanwhile(calls.last());
         const bool wanted = failNext == calls.last();
         if (wanted) failNext.clear();
         if (wanted || calls.size() - 1 == failAt) throw HostError(calls.last());
@@ -115,6 +118,30 @@ struct FaultyPens final : ZolWDoc::PenColorRole {
     ZolWDoc::Palette palette() const override { return log.on("penColors.palette"), real.palette(); }
 };
 
+/// Command scopes through the log. An end that fails has kept what was written.
+struct FaultyScopes final : ZolWDoc::CommandScopeRole {
+    FaultyScopes(ZolWDoc::CommandScopeRole *of, CallLog &to) : real(of), log(to) {}
+    ZolWDoc::CommandScopeRole *real;
+    CallLog &log;
+    void beginCommand(const QString &name) override { log.on("scopes.begin"), real->beginCommand(name); }
+    void endCommand() override { real->endCommand(), log.on("scopes.end"); }
+};
+
+/// What a host may offer for layers, through the log.
+struct FaultyExtras final : ZolWDoc::LayerFileRole, ZolWDoc::LayerElementsRole {
+    FaultyExtras(ZolWDoc::ZOLW_Doc &of, CallLog &to)
+        : files(of.layerFiles()), elements(of.layerElements()), log(to)
+    {}
+    ZolWDoc::LayerFileRole *files;
+    ZolWDoc::LayerElementsRole *elements;
+    CallLog &log;
+    void addFromFile(const QString &path) override { log.on("layerFiles.add"), files->addFromFile(path); }
+    int deleteElements(std::span<const qint16> ids) override
+    {
+        return log.on("layerElements.delete"), elements->deleteElements(ids);
+    }
+};
+
 /// A real document whose calls are logged and fail on demand.
 class FaultyDoc final : public ZolWDoc::ZOLW_Doc {
 public:
@@ -130,6 +157,9 @@ public:
     ZolWDoc::PointRole &points() override { return m_real.points(); }
     ZolWDoc::KhRole &khItems() override { return m_real.khItems(); }
     void redrawAll() override { log.on("redrawAll"), m_real.redrawAll(); }
+    ZolWDoc::LayerFileRole *layerFiles() override { return m_extras.files ? &m_extras : nullptr; }
+    ZolWDoc::LayerElementsRole *layerElements() override { return m_extras.elements ? &m_extras : nullptr; }
+    ZolWDoc::CommandScopeRole *commandScopes() override { return m_scopes.real ? &m_scopes : nullptr; }
 
 private:
     ZolWDoc::ZOLW_Doc &m_real;
@@ -137,6 +167,8 @@ private:
     FaultyTextTypes m_textTypes{m_real.textTypes(), log, "textTypes"};
     FaultyLineTypes m_lineTypes{m_real.lineTypes(), log, "lineTypes"};
     FaultyPens m_pens{m_real.penColors(), log};
+    FaultyExtras m_extras{m_real, log};
+    FaultyScopes m_scopes{m_real.commandScopes(), log};
 };
 
 } // namespace tests

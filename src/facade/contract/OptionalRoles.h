@@ -33,7 +33,8 @@ struct RestoreRole {
     virtual void restore(const tPt &) = 0;
 };
 
-/// Says who refers to a record, for messages that name the users.
+/// Says who refers to a record, for messages that name the users. A pen colour is referred to by a layer's
+/// pen colour, screen colour and print colour. Who refers to it more than once counts once.
 struct UsageRole {
     struct Usage {
         enum class By { Elements, Layers, TextTypes, Symbols, LineTypes, LineSymbolizations } by;

@@ -54,6 +54,31 @@ void penRevisionFollows(ZOLW_Doc &doc)
          QStringLiteral("the revision stays after a write"));
 }
 
+void layersUsePens(ZOLW_Doc &doc)
+{
+    if (!doc.usage()) return;
+    using Usage = UsageRole::Usage;
+    qint16 tLay::*const roles[] = {&tLay::PenColorId, &tLay::ScrColor, &tLay::PrnColor};
+    const qint16 pen = 201;
+    hold(doc.usage()->usersOf(TableKind::PenColors, pen).empty(),
+         QStringLiteral("a pen has users too early"));
+    tLay all = sample<tLay>().make(doc, 1);
+    for (qint16 tLay::*role : roles) {
+        tLay one = sample<tLay>().make(doc, 2);
+        one.*role = pen;
+        all.*role = pen;
+        one.LayId = doc.layers().add(one);
+        hold(doc.usage()->usersOf(TableKind::PenColors, pen)
+                 == std::vector<Usage>{{Usage::By::Layers, 1, one.Name}},
+             QStringLiteral("a layer that uses the pen is not told"));
+        doc.layers().remove(one.LayId);
+    }
+    doc.layers().add(all);
+    hold(doc.usage()->usersOf(TableKind::PenColors, pen)
+             == std::vector<Usage>{{Usage::By::Layers, 1, all.Name}},
+         QStringLiteral("a layer that uses the pen in every role is not one user"));
+}
+
 void choicesAreDistinct(ZOLW_Doc &doc)
 {
     for (int mode : {1, 2}) {
@@ -80,6 +105,7 @@ void appendColorPromises(Promises &all)
     add("pen colours: palette", "a replaced palette comes back", paletteIsReplaced, true);
     add("pen colours: change scope", "discard brings the pens back", pensAreDiscarded, true);
     add("pen colours: revision", "a write gives another revision", penRevisionFollows, true);
+    add("pen colours: usage", "a layer's pen, screen and print colour are told", layersUsePens, true);
     add("choice list", "items have identifiers and texts", choicesAreDistinct);
     add("display", "redrawing all views raises no error", redrawReturns);
 }

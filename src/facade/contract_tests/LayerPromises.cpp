@@ -168,10 +168,35 @@ void removeAllTakesLayers(ZOLW_Doc &doc)
 void elementsOfLayersGo(ZOLW_Doc &doc)
 {
     if (!doc.layerElements()) return;
-    const tLay l = stored<tLay>(doc, 1);
-    same(doc.layerElements()->deleteElements(std::vector<qint16>{l.LayId}), 0, "elements of an empty layer");
+    const tLay l = stored<tLay>(doc, 1), other = stored<tLay>(doc, 2), empty = stored<tLay>(doc, 3);
+    const auto pointOn = [&](int n, const tLay &lay) {
+        tPt p = stored<tPt>(doc, n);
+        p.LayId = lay.LayId;
+        doc.points().update(p);
+        return p;
+    };
+    pointOn(1, l), pointOn(2, l);
+    const tPt beside = pointOn(3, other);
+    const int standing = doc.layers().uses(l.LayId);
+    const qint16 ids[] = {l.LayId, empty.LayId};
+    same(doc.layerElements()->deleteElements(ids), standing, "elements that went");
     hold(doc.layers().find(l.LayId) == l, QStringLiteral("the layer itself is gone"));
     same(doc.layers().uses(l.LayId), 0, "uses afterwards");
+    hold(doc.points().find(beside.PtId) == beside, QStringLiteral("a point of another layer is touched"));
+    same(doc.layerElements()->deleteElements(ids), 0, "elements of empty layers");
+}
+
+/// What a text file looks like is the host's; that one which cannot be read changes nothing is not.
+void missingFilesAreErrors(ZOLW_Doc &doc)
+{
+    stored<tLay>(doc, 1);
+    const auto before = doc.layers().readAll();
+    const QString none = QStringLiteral("no such folder/no such file.txt");
+    mustThrow([&] { doc.layers().renameFromFile(none); }, "renaming from a file that is not there");
+    mustThrow([&] { doc.layers().renumberFromFile(none); }, "renumbering from a file that is not there");
+    if (doc.layerFiles())
+        mustThrow([&] { doc.layerFiles()->addFromFile(none); }, "adding from a file that is not there");
+    hold(doc.layers().readAll() == before, QStringLiteral("the table changed"));
 }
 
 } // namespace
@@ -194,6 +219,8 @@ void appendLayerPromises(Promises &all)
     add("", "what stood on a removed layer stays on none", orphansStay);
     add("", "what stood on a removed layer goes with it when asked for", orphansGo);
     add("", "removeAll with orphans is a loop of remove", removeAllTakesLayers);
+    add(": text files", "a text file that cannot be read is an error and changes nothing",
+        missingFilesAreErrors);
     add(": elements", "deleting the elements of layers keeps the layers", elementsOfLayersGo, true);
 }
 

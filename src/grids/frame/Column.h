@@ -3,6 +3,7 @@
 #include "facade/services/Prompts.h"
 #include "facade/services/Text.h"
 #include "kit/grid/GridSource.h"
+#include "rules/OwnerOf.h"
 
 #include <limits>
 #include <type_traits>
@@ -58,7 +59,6 @@ template <class Rec, class Names> struct Column {
     }
 };
 
-template <class R, class T> R ownerOf(T R::*);  // declared only: names the record of a member
 
 template <class T> constexpr CellKind kindOf()
 {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "facade/contract/ZOLW_Doc.h"
 #include "facade/services/Trace.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/ask/StepRun.h"
 #include "kit/grid/SheetSource.h"
 
 #include <QObject>
@@ -36,7 +38,30 @@ public:
     virtual void TearDown() = 0; ///< releases grids and document; harmless when repeated
     virtual void ml_RuntimeSupport_LanguageChanged() = 0; ///< reads every caption again; published spelling
 
+    virtual bool isOpen() const = 0;                         ///< between init() and TearDown()
+    /// Reads the whole table again; current row and selection stay with their records. Throws the host's
+    /// error.
+    virtual void fill() = 0;
+    bool isBusy() const { return m_busy; }                   ///< while a refill runs
+    /// While a refill runs, tells the user to wait and is true. Whoever works on the table asks it first.
+    bool refusesNow() const;
+
 protected:
+    /// Runs a command: refused while a refill runs; an error goes to the relay. Nothing without a document.
+    template <class Body> void command(Body &&body)
+    {
+        if (!isOpen()) return;
+        relay().guard([&] {
+            if (!refusesNow()) body();
+        });
+    }
+    /// Runs `body` as one command of the document, then fills; after an error too, so that the grid agrees
+    /// with what had been written by then.
+    void writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name, const std::function<void()> &body);
+    /// Runs the steps of a refill, the last of which shows what the others read. A refill that takes long
+    /// shows its progress; one that is asked for meanwhile begins when this one ends. False = given up:
+    /// the form closes, or has torn the manager down. Throws what a step throws.
+    bool refillBy(const StepRun::Steps &steps, QWidget *grid);
     virtual void raiseView(qint16 view) = 0;                 ///< emits the table's own GridView
     virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) } ///< emits the table's own GroupChanged
     explicit GridManager(const char *type) : m_identity(type) {}
@@ -47,6 +72,8 @@ private:
     ErrorRelay *m_relay = &ErrorRelay::reporting();
     bool m_allowEdit = false;
     bool m_showGroups = true;
+    bool m_busy = false, m_again = false;
+    bool m_isSlow = false;                                   ///< the last refill took long
 };
 
 } // namespace QV_DOC_CONTROLS

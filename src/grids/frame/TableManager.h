@@ -2,8 +2,8 @@
 
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
+#include "grids/frame/CellEdit.h"
 #include "grids/frame/ColorStyles.h"
-#include "grids/frame/Column.h"
 #include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
 #include "kit/grid/Grid.h"
@@ -42,18 +42,22 @@ public:
     void saveLayout() override { if (m_grid) saveGridLayout(*m_grid, Table::layout); }
     const GridSource &source() const override { return *this; }
     Paper paper() const override { return Table::paper(); }
-    /// Reads the whole table again; current row and selection stay with their records. Throws the host's
-    /// error.
-    void fill()
+    bool isOpen() const override { return m_doc != nullptr; }
+    void fill() override
     {
         if (!m_doc) return;
-        auto all = Table::role(*m_doc).readAll();
-        auto names = Table::namesOf(*m_doc);
         const auto before = selectedIds();
-        m_grid->refill([&] {
+        std::vector<Record> all;
+        typename Table::Names names;
+        const auto show = [&] {
             m_all = std::move(all), m_names = std::move(names);
+            showBeside();
             showWhatFits();
-        });
+        };
+        const StepRun::Steps steps = {[&] { all = Table::role(*m_doc).readAll(); },
+                                      [&] { names = Table::namesOf(*m_doc); }, [&] { readBeside(); },
+                                      [&] { m_grid->refill(show); }};
+        if (!refillBy(steps, m_grid)) return;
         if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
         raiseCurrentRow();
     }
@@ -102,6 +106,8 @@ protected:
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
     virtual bool fits(const Record &) const { return true; } ///< whether the row is listed
+    virtual void readBeside() {}                        ///< what a refill reads beside the table; may throw
+    virtual void showBeside() {}                        ///< shows it, before the rows that fit are listed
     ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
@@ -132,7 +138,7 @@ protected:
     bool edit(int row, int c, const QVariant &value) override
     {
         bool stored = false;
-        relay().guard([&] { stored = tryEdit(row, c, value); });
+        command([&] { stored = tryEdit(row, c, value); });
         return stored;
     }
 
@@ -158,29 +164,23 @@ private:
             m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
                                  c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
     }
-    void raiseCurrentRow()
-    {
-        if (const auto now = currentRecord()) raiseCurrent(*now);
-    }
-    /// Refuses with the column's message, or writes to the host. The converted values are compared: a typed
-    /// "10" is text.
+    void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
+    /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
-        const auto &column = Table::columns[c];
-        Record edited = recordAt(row);
-        if (!m_doc || !column.put(edited, value) || !column.takes(column.get(edited))) return false;
-        const QVariant now = column.get(edited);
-        if (now == column.get(recordAt(row))) return false;
-        const auto has = [&](const Record &r) {
-            return Table::id(r) != Table::id(edited) && column.get(r) == now;
-        };
-        if (column.taken && std::ranges::any_of(m_all, has)) {
-            prompts().tell({column.taken->icon, txt(column.taken->title), txt(column.taken->text)}, m_grid);
-            return false;
+        const auto edited = withValue<Table>(recordAt(row), c, value);
+        if (!edited) return false;
+        if (const Refusal *const why = refusalOf<Table>(*edited, c, m_all)) return tell(*why, m_grid), false;
+        Record &shown = m_all[size_t(m_shown[size_t(row)])];
+        try {
+            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
+                               [&] { Table::role(*m_doc).update(*edited); });
+        } catch (...) { // what the document has now, an error of its own apart
+            relay().tryQuietly([&] { shown = Table::role(*m_doc).find(Table::id(shown)).value_or(shown); });
+            throw;
         }
-        inCommand(*m_doc, txt(column.caption), [&] { Table::role(*m_doc).update(edited); });
-        m_all[size_t(m_shown[size_t(row)])] = edited;
-        if (row == m_grid->currentRow()) raiseCurrent(edited);
+        shown = *edited;
+        if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }
 

@@ -1,8 +1,7 @@
 #include "kit/ask/BoxPrompts.h"
 
 #include "facade/services/Text.h"
-#include "kit/ask/ChoiceBox.h"
-#include "kit/ask/TextBox.h"
+#include "kit/forms/AccessKeys.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -10,14 +9,11 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <array>
+#include <span>
+
 namespace QV_DOC_CONTROLS {
 namespace {
-
-QWidget *windowOf(QObject *asker)
-{
-    auto *const widget = qobject_cast<QWidget *>(asker);
-    return widget ? widget->window() : QApplication::activeWindow();
-}
 
 QMessageBox::Icon boxIcon(Icon icon)
 {
@@ -33,7 +29,7 @@ QMessageBox::Icon boxIcon(Icon icon)
 
 /// A box whose text is shown as it is: names from a drawing may hold what looks like markup.
 struct Box : QMessageBox {
-    Box(const Message &m, QObject *asker) : QMessageBox(windowOf(asker))
+    Box(const Message &m, QWidget *owner) : QMessageBox(owner)
     {
         setIcon(boxIcon(m.icon));
         setWindowTitle(m.title);
@@ -41,6 +37,41 @@ struct Box : QMessageBox {
         setText(m.text);
     }
 };
+
+struct Answer {
+    const char *name;
+    Text caption;
+    QMessageBox::ButtonRole role;
+};
+constexpr Answer kAll{"cmdAll", {3423, u"Mind"}, QMessageBox::YesRole};
+constexpr Answer kYes{"cmdYes", {3206, u"Igen"}, QMessageBox::YesRole};
+constexpr Answer kNo{"cmdNo", {3205, u"Nem"}, QMessageBox::NoRole};
+constexpr Answer kCancel{"cmdCancel", {2801, u"Mégse"}, QMessageBox::RejectRole};
+
+/// Which of the answers the user gives: Enter means `byDefault`, Esc and the close box the last one.
+size_t answerTo(Box &box, std::span<const Answer> answers, size_t byDefault)
+{
+    QStringList captions;
+    for (const Answer &a : answers) captions << txt(a.caption);
+    captions = withAccessKeys(captions);
+    std::vector<QAbstractButton *> buttons;
+    for (size_t i = 0; i < answers.size(); ++i) {
+        QPushButton *const button = box.addButton(captions[qsizetype(i)], answers[i].role);
+        button->setObjectName(QLatin1String(answers[i].name));
+        buttons.push_back(button);
+        if (i == byDefault) box.setDefaultButton(button);
+    }
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto clicked = std::ranges::find(buttons, box.clickedButton());
+    return clicked == buttons.end() ? answers.size() - 1 : size_t(clicked - buttons.begin());
+}
+
+/// Enter must not lose anything: where the icon warns, it means the last answer.
+size_t enterMeans(Icon icon, size_t last)
+{
+    return icon == Icon::Exclamation || icon == Icon::Critical ? last : 0;
+}
 
 /// "name|pattern|name|pattern" as file dialogs want it.
 QStringList nameFilters(const QString &filter)
@@ -67,9 +98,9 @@ void nameParts(QFileDialog &dialog, bool opens)
     dialog.setLabelText(QFileDialog::Reject, txt(Text{2801, u"Mégse"}));
 }
 
-QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode mode)
+QString askFile(const FileQuestion &q, QWidget *owner, QFileDialog::AcceptMode mode)
 {
-    QFileDialog dialog(windowOf(asker), q.title);
+    QFileDialog dialog(owner, q.title);
     const bool opens = mode == QFileDialog::AcceptOpen;
     dialog.setAcceptMode(mode);
     dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -87,60 +118,57 @@ QString askFile(const FileQuestion &q, QObject *asker, QFileDialog::AcceptMode m
         const QString path = dialog.selectedFiles().value(0);
         const QString question =
             QFileInfo(path).fileName() + u'\n' + txt(Text{20174, u"A fájl már létezik. Felülírod?"});
-        if (opens || !QFileInfo::exists(path) || prompts().yesNo({Icon::Question, q.title, question}, asker))
+        if (opens || !QFileInfo::exists(path) ||
+            prompts().yesNo({Icon::Exclamation, q.title, question}, owner))
             return path;
-        const QWidget *const owner = windowOf(asker);
         if (owner && !owner->isVisible()) break; // closed meanwhile, because of an error
     }
     return {};
 }
 
-Prompts &boxes()
-{
-    static BoxPrompts all;
-    return all;
-}
-[[maybe_unused]] const bool s_entered = (setDefaultPrompts(&boxes), true);
-
 } // namespace
+
+QWidget *BoxPrompts::windowOf(QObject *asker)
+{
+    auto *const widget = qobject_cast<QWidget *>(asker);
+    return widget ? widget->window() : QApplication::activeWindow();
+}
 
 void BoxPrompts::tell(const Message &m, QObject *asker)
 {
-    Box box(m, asker);
+    Box box(m, windowOf(asker));
     box.setDefaultButton(box.addButton(txt(Text{2802, u"OK"}), QMessageBox::AcceptRole));
     box.exec();
 }
 
 bool BoxPrompts::yesNo(const Message &m, QObject *asker)
 {
-    Box box(m, asker);
-    const QPushButton *yes = box.addButton(txt(Text{3206, u"Igen"}), QMessageBox::YesRole);
-    QPushButton *const no = box.addButton(txt(Text{3205, u"Nem"}), QMessageBox::NoRole);
-    box.setEscapeButton(no);
-    box.exec();
-    return box.clickedButton() == yes;
+    Box box(m, windowOf(asker));
+    return answerTo(box, std::array{kYes, kNo}, enterMeans(m.icon, 1)) == 0;
 }
 
-std::optional<int> BoxPrompts::choose(const Choice &c, QObject *asker)
+AllYesNo BoxPrompts::allYesNo(const Message &m, QObject *asker)
 {
-    ChoiceBox box(c, windowOf(asker));
-    return box.exec() == QDialog::Accepted ? std::optional(box.chosen()) : std::nullopt;
+    Box box(m, windowOf(asker));
+    constexpr AllYesNo answers[] = {AllYesNo::All, AllYesNo::Yes, AllYesNo::No};
+    return answers[answerTo(box, std::array{kAll, kYes, kNo}, 2)];
 }
 
-std::optional<QString> BoxPrompts::text(const TextQuestion &q, QObject *asker)
+std::optional<bool> BoxPrompts::yesNoCancel(const Message &m, QObject *asker)
 {
-    TextBox box(q, windowOf(asker));
-    return box.exec() == QDialog::Accepted ? std::optional(box.answer()) : std::nullopt;
+    Box box(m, windowOf(asker));
+    const size_t answer = answerTo(box, std::array{kYes, kNo, kCancel}, enterMeans(m.icon, 2));
+    return answer == 2 ? std::nullopt : std::optional(answer == 0);
 }
 
 QString BoxPrompts::openFile(const FileQuestion &q, QObject *asker)
 {
-    return askFile(q, asker, QFileDialog::AcceptOpen);
+    return askFile(q, windowOf(asker), QFileDialog::AcceptOpen);
 }
 
 QString BoxPrompts::saveFile(const FileQuestion &q, QObject *asker)
 {
-    return askFile(q, asker, QFileDialog::AcceptSave);
+    return askFile(q, windowOf(asker), QFileDialog::AcceptSave);
 }
 
 } // namespace QV_DOC_CONTROLS

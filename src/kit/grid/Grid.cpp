@@ -374,7 +374,7 @@ void Grid::dragOut()
     if (!rows) return;
     auto *const drag = new QDrag(activeView()); // Qt's after exec()
     drag->setMimeData(rows);
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    drag->exec(Qt::CopyAction | Qt::MoveAction, m_source->dragAction());
 }
 
 void Grid::timerEvent(QTimerEvent *event)

@@ -81,6 +81,8 @@ public:
     void setFilterText(const QString &text);
     void focusFilter();
     void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
+    void collapseBandOf(int row); ///< the innermost open band over the row; asked again, the one over that
+    bool canCollapseBandOf(int row) const { return openBandOf(row) >= 0; }
     GridState state() const;
     bool setState(const GridState &state);          ///< false = no column of it is here, nothing changed
     std::unique_ptr<SheetSource> sheet()
@@ -123,6 +125,7 @@ private:
     void showCurrent(int column);
     void currentChanged(const QModelIndex &now);
     void toggleBand(int band);
+    int openBandOf(int row) const;
     void place(int row);
     void placePending();
     void applyFilter();

@@ -77,6 +77,7 @@ public:
     {
         return nullptr;
     } ///< the caller's; null = no drag of these
+    virtual Qt::DropAction dragAction() const { return Qt::MoveAction; } ///< what a drag means without keys
     virtual bool canDrop(const QMimeData &, const DropTarget &) const { return false; }
     virtual void drop(const QMimeData &, const DropTarget &) {} ///< only what canDrop() let through
 };

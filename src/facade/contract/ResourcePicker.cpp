@@ -1,0 +1,15 @@
+#include "facade/contract/ResourcePicker.h"
+
+#include <utility>
+
+namespace QV_DOC_CONTROLS {
+namespace {
+
+ResourcePicker *s_picker = nullptr;
+
+} // namespace
+
+ResourcePicker *resourcePicker() { return s_picker; }
+ResourcePicker *setResourcePicker(ResourcePicker *picker) { return std::exchange(s_picker, picker); }
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "facade/services/Prompts.h"
+#include "grids/frame/Column.h"
+
+#include <algorithm>
+#include <span>
+
+namespace QV_DOC_CONTROLS {
+
+/// Why the table does not take the value that `edited` has in a column: another record has it. Null = it
+/// does.
+template <class Table>
+const Refusal *refusalOf(const typename Table::Record &edited, int c,
+                         std::span<const typename Table::Record> all)
+{
+    const auto &column = Table::columns[c];
+    if (!column.taken) return nullptr;
+    const QVariant wanted = column.get(edited);
+    const auto has = [&](const auto &r) {
+        return Table::id(r) != Table::id(edited) && column.get(r) == wanted;
+    };
+    return std::ranges::any_of(all, has) ? &*column.taken : nullptr;
+}
+
+/// The record with another value in a column; empty = that is no value of the column, or the one it has. The
+/// converted values are compared: a typed "10" is text.
+template <class Table>
+std::optional<typename Table::Record> withValue(const typename Table::Record &now, int c,
+                                                const QVariant &value)
+{
+    const auto &column = Table::columns[c];
+    auto edited = now;
+    if (!column.put(edited, value) || !column.takes(column.get(edited))) return std::nullopt;
+    if (column.get(edited) == column.get(now)) return std::nullopt;
+    return edited;
+}
+
+inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }
+inline void tell(const Refusal &r, QObject *asker) { prompts().tell(messageOf(r), asker); }
+
+} // namespace QV_DOC_CONTROLS

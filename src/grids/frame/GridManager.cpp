@@ -1,0 +1,56 @@
+#include "grids/frame/GridManager.h"
+
+#include "facade/services/Prompts.h"
+#include "facade/services/Services.h"
+#include "facade/services/Text.h"
+
+#include <QScopedValueRollback>
+
+namespace QV_DOC_CONTROLS {
+
+bool GridManager::refusesNow() const
+{
+    if (m_busy)
+        prompts().tell({Icon::Exclamation, productName(),
+                        txt(Text{3146, u"Frissítés van folyamatban, kérem várakozzék!"})});
+    return m_busy;
+}
+
+void GridManager::writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name,
+                               const std::function<void()> &body)
+{
+    try {
+        ZolWDoc::inCommand(doc, name, body);
+        fill();
+    } catch (...) {
+        ErrorRelay::tryQuietly([this] { fill(); });
+        throw;
+    }
+    relay().checkpoint();
+}
+
+bool GridManager::refillBy(const StepRun::Steps &steps, QWidget *grid)
+{
+    if (m_busy) {
+        m_again = true;
+        return false;
+    }
+    StepRun::Steps whileOpen;
+    for (const auto &step : steps)
+        whileOpen.push_back([this, &step] {
+            if (isOpen()) step();
+        });
+    const QScopedValueRollback busy(m_busy, true);
+    bool through = true;
+    do {
+        m_again = false;
+        // What was slow before is announced before it begins: its first step may be the one that takes long.
+        StepRun run(txt(Text{21701, u"A táblázat frissítése…"}),
+                    m_isSlow ? std::chrono::milliseconds::zero() : StepRun::kSilent);
+        through = run.run(whileOpen, grid);
+        m_isSlow = run.tookLong();
+    } while (through && m_again && isOpen());
+    return through && isOpen();
+}
+
+} // namespace QV_DOC_CONTROLS

@@ -1,0 +1,241 @@
+#include "rules/recordset/RecordsetXml.h"
+
+#include "facade/services/Text.h"
+#include "rules/recordset/RecordsetSchema.h"
+#include "rules/recordset/RecordsetText.h"
+#include "rules/recordset/RecordsetValues.h"
+
+#include <QHash>
+
+#include <cmath>
+
+namespace QV_DOC_CONTROLS {
+namespace {
+
+using Why = RecordsetRefusal::Why;
+using Type = RecordsetField::Type;
+using Space = XmlScanner::Space;
+using Tag = XmlScanner::Tag;
+
+std::optional<Why> refusalOf(const RecordsetField &column, QStringView value)
+{
+    if (column.type == Type::Boolean)
+        return booleanIn(value) ? std::nullopt : std::optional(Why::NoTruthValue);
+    if (!column.isInteger() && !column.isReal()) return {};
+    const auto number = numberIn(value);
+    if (!number) return Why::NoNumber;
+    const IntegerRange range = rangeOf(column.type);
+    const double whole = std::nearbyint(*number); // halves to even
+    const bool fits = column.isInteger() ? whole >= double(range.lowest) && whole <= double(range.highest)
+                      : column.type == Type::Single ? std::isfinite(float(*number))
+                                                    : std::isfinite(*number);
+    return fits ? std::nullopt : std::optional(Why::OutOfRange);
+}
+
+class Reader {
+public:
+    explicit Reader(QStringView text) : m_scanner(text) {}
+    Recordset read();
+
+private:
+    bool readPart(const Tag &tag);
+    void takeSchema();
+    bool readDataPart(const Tag &tag);
+    void readUpdate();
+    bool addRow(const Tag &tag, Recordset::RowState state);
+    void readRow(int row);
+    void readValue(int row, int field, const XmlScanner::Attribute &a);
+    void forceNulls(int row, const XmlScanner::Attribute &a);
+    void requireValues(int row, qsizetype at) const;
+    int columnOf(QStringView name);
+    bool isRow(const Tag &tag) const { return tag.is(Space::Row, m_set.rowName); }
+
+    XmlScanner m_scanner;
+    Recordset m_set;
+    bool m_hasSchema = false;
+    QHash<QString, int> m_columns; ///< by folded name
+    std::vector<int> m_needed;     ///< columns without which a row cannot be opened
+    int m_likely = 0;              ///< column of the next attribute, as a rule
+    QString m_value;               ///< the one being read
+};
+
+Recordset Reader::read()
+{
+    if (m_scanner.next().kind != Tag::Kind::Start || !m_scanner.tag().is(Space::None, u"xml"))
+        throw Refused{Why::WrongRoot, 0};
+    m_scanner.forEachChild([this](const Tag &tag) { return readPart(tag); });
+    if (!m_hasSchema) throw Refused{Why::NoSchema, 0};
+    while (m_scanner.next().kind != Tag::Kind::Finished) // what follows the root is looked at, not read
+        if (m_scanner.tag().kind == Tag::Kind::Start) throw Refused{Why::WrongMarkup, m_scanner.tag().at};
+    return std::move(m_set);
+}
+
+bool Reader::readPart(const Tag &tag)
+{
+    if (tag.is(Space::Schema, u"Schema")) {
+        if (m_hasSchema) throw Refused{Why::TwoSchemas, tag.at};
+        return takeSchema(), true;
+    }
+    if (!tag.is(Space::Rowset, u"data")) return false;
+    if (!m_hasSchema) throw Refused{Why::NoSchema, tag.at};
+    m_scanner.forEachChild([this](const Tag &part) { return readDataPart(part); });
+    return true;
+}
+
+void Reader::takeSchema()
+{
+    m_hasSchema = true;
+    m_set = schemaIn(m_scanner);
+    const auto &fields = m_set.fields();
+    for (size_t i = 0; i < fields.size(); ++i) {
+        m_columns.insert(fields[i].xmlName.toCaseFolded(), int(i));
+        if (fields[i].needsValue) m_needed.push_back(int(i));
+    }
+}
+
+bool Reader::readDataPart(const Tag &tag)
+{
+    using State = Recordset::RowState;
+    if (addRow(tag, State::Unchanged)) return false;
+    if (tag.is(Space::Rowset, u"update")) return readUpdate(), true;
+    if (!tag.is(Space::Rowset, u"insert")) return false; // deleted rows are not seen
+    m_scanner.forEachChild([this](const Tag &row) { return addRow(row, State::Inserted), false; });
+    return true;
+}
+
+/// The original row with the new values over it; one of the two alone is a row like others.
+void Reader::readUpdate()
+{
+    int row = -1;
+    qsizetype at = m_scanner.tag().at;
+    const auto take = [&](const Tag &tag) {
+        if (!isRow(tag)) return false;
+        if (row < 0) row = m_set.addRow(Recordset::RowState::Unchanged);
+        return readRow(row), false;
+    };
+    m_scanner.forEachChild([&](const Tag &tag) {
+        if (!tag.is(Space::Rowset, u"original")) return take(tag);
+        m_scanner.forEachChild(take);
+        return true;
+    });
+    if (row >= 0) requireValues(row, at);
+}
+
+bool Reader::addRow(const Tag &tag, Recordset::RowState state)
+{
+    if (!isRow(tag)) return false;
+    const int row = m_set.addRow(state);
+    readRow(row);
+    requireValues(row, tag.at);
+    return true;
+}
+
+void Reader::readRow(int row)
+{
+    m_likely = 0;
+    const XmlScanner::Attribute *nulls = nullptr;
+    for (const auto &a : m_scanner.attributes()) {
+        if (a.space == Space::Rowset && a.name == u"forcenull") nulls = &a;
+        if (a.space != Space::None) continue;
+        const int field = columnOf(a.name);
+        if (field >= 0) readValue(row, field, a);
+    }
+    if (nulls) forceNulls(row, *nulls);
+}
+
+/// Mostly the column behind the one before; otherwise whatever has that name in any case.
+int Reader::columnOf(QStringView name)
+{
+    const auto &fields = m_set.fields();
+    for (size_t i = size_t(m_likely); i < fields.size() && i < size_t(m_likely) + 2; ++i)
+        if (fields[i].xmlName == name) return m_likely = int(i) + 1, int(i);
+    const int found = m_columns.value(name.toString().toCaseFolded(), -1);
+    if (found >= 0) m_likely = found + 1;
+    return found;
+}
+
+void Reader::readValue(int row, int field, const XmlScanner::Attribute &a)
+{
+    const RecordsetField &column = m_set.fields()[size_t(field)];
+    QStringView value = a.raw;
+    if (value.contains(u'&')) {
+        m_value.clear();
+        resolve(a.raw, a.at, m_value);
+        value = m_value;
+    }
+    if (const auto why = refusalOf(column, value)) throw Refused{*why, a.at, column.name};
+    if (column.maxLength >= 0) value = value.first(std::min<qsizetype>(value.size(), column.maxLength));
+    m_set.keepSource(row, field, value);
+}
+
+/// A value that stands in the row goes before.
+void Reader::forceNulls(int row, const XmlScanner::Attribute &a)
+{
+    const QString names = resolved(a);
+    for (const QStringView name : QStringView(names).split(u' ', Qt::SkipEmptyParts)) {
+        const int field = m_columns.value(name.toString().toCaseFolded(), -1);
+        const bool stands = std::ranges::any_of(m_scanner.attributes(), [&](const auto &other) {
+            return other.space == Space::None && other.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        if (field >= 0 && !stands) m_set.setNull(row, field);
+    }
+}
+
+/// Goes along the row's values, so that a row costs no more than what stands in it.
+void Reader::requireValues(int row, qsizetype at) const
+{
+    int i = 0;
+    for (const int needed : m_needed) {
+        while (i < m_set.valueCount(row) && m_set.fieldOfValue(row, i) < needed) ++i;
+        if (i == m_set.valueCount(row) || m_set.fieldOfValue(row, i) != needed || m_set.isNull(row, needed))
+            throw Refused{Why::LacksValue, at, m_set.fields()[size_t(needed)].name};
+    }
+}
+
+} // namespace
+
+std::variant<Recordset, RecordsetRefusal> recordsetOf(const QByteArray &bytes)
+{
+    QString text;
+    const auto refusal = [&text](Why why, qsizetype at, const QString &subject = {}) {
+        const bool isPlaced = why != Why::TooLarge && why != Why::UnknownEncoding && why != Why::WrongRoot;
+        const qint64 line =
+            isPlaced ? 1 + QStringView(text).first(std::min(at, text.size())).count(u'\n') : 0;
+        return RecordsetRefusal{why, line, subject};
+    };
+    try {
+        text = lettersOf(bytes);
+        return Reader(text).read();
+    } catch (const Refused &r) {
+        return refusal(r.why, r.at, r.subject);
+    } catch (const XmlFault &f) {
+        return refusal(f.what == XmlFault::What::CutShort ? Why::CutShort : Why::WrongMarkup, f.at);
+    }
+}
+
+QString textOf(const RecordsetRefusal &refusal)
+{
+    constexpr Text kReasons[] = {
+        // by Why
+        {22200, u"a fájl túl nagy"},
+        {22201, u"ismeretlen betűkódolás"},
+        {22202, u"a bájtok nem felelnek meg a fájl betűkódolásának"},
+        {22203, u"hibás jelölés"},
+        {22204, u"a fájl a vége előtt megszakad"},
+        {22205, u"a fájl nem rekordkészlet"},
+        {22206, u"hiányzik az oszlopok leírása"},
+        {22207, u"az oszlopok leírása kétszer szerepel"},
+        {22208, u"nincs leírás ehhez az oszlophoz"},
+        {22209, u"az oszlop értéke nem szám"},
+        {22210, u"a szám kívül esik az oszlop határain"},
+        {22211, u"az oszlop értéke nem igaz vagy hamis"},
+        {22212, u"hiányzik az oszlop kötelező értéke"},
+    };
+    QString text = refusal.line
+                       ? join(Text{22213, u"Sor: "}, QString::number(refusal.line), QStringLiteral(" – "))
+                       : QString();
+    text += txt(kReasons[size_t(refusal.why)]);
+    return refusal.subject.isEmpty() ? text : text + QStringLiteral(": ") + refusal.subject;
+}
+
+} // namespace QV_DOC_CONTROLS

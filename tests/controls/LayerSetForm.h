@@ -1,0 +1,98 @@
+#pragma once
+
+#include "controls/DesignMode.h"
+#include "controls/ZOL3_LayGroup.h"
+#include "controls/usLays.h"
+#include "facade/services/Language.h"
+#include "support/LayerDoc.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace tests {
+
+using namespace QV_DOC_CONTROLS;
+
+/// A host's dialog with one layer set control, and what the control raised.
+template <class Control> struct Form {
+    QDialog dialog;
+    Control *control = new Control(&dialog);
+    QPushButton *ok = new QPushButton(&dialog);
+    QStringList raised; ///< the set's text at every ChangeLays
+
+    Form()
+    {
+        auto *const column = new QVBoxLayout(&dialog);
+        column->addWidget(control);
+        column->addWidget(ok);
+        ok->setDefault(true);
+        QObject::connect(control, &LayerSetControl::ChangeLays, control,
+                         [this](LayerSet &set) { raised << layerSetText(set.layers()); });
+        dialog.resize(400, 120);
+        dialog.show();
+        dialog.activateWindow();
+        QApplication::setActiveWindow(&dialog);
+        control->txtLays->setFocus();
+    }
+    QLineEdit &box() { return *control->txtLays; }
+    QComboBox &list() { return *control->cboLays; }
+    void type(const char *keys)
+    {
+        box().selectAll();
+        QTest::keyClick(&box(), Qt::Key_Delete);
+        QTest::keyClicks(&box(), QLatin1String(keys));
+    }
+    void leave() { ok->setFocus(); }
+    /// The entry of this item data, with the keyboard, as a user does.
+    void pick(int itemData)
+    {
+        list().setFocus();
+        QTest::keyClick(&list(), Qt::Key_Home);
+        while (list().currentData().toInt() != itemData) {
+            const int before = list().currentIndex();
+            QTest::keyClick(&list(), Qt::Key_Down);
+            if (list().currentIndex() == before) return QTest::qFail("no such entry", __FILE__, __LINE__);
+        }
+    }
+    QString numbers() { return layerSetText(control->CollectionLays().layers()); }
+    QStringList entries()
+    {
+        QStringList out;
+        for (int i = 0; i < list().count(); ++i)
+            out << QString::number(list().itemData(i).toInt()) + u' ' + list().itemText(i);
+        return out;
+    }
+};
+using DocForm = Form<ZOL3_LayGroup>;
+using ArrayForm = Form<usLays>;
+
+constexpr int kCurrent = -1, kAll = -2, kVisible = -3, kEnumerated = -4;
+
+/// Five layers, three of them visible, the third current; each test begins in Hungarian with a new document.
+class LayerSetTest : public QObject {
+protected:
+    std::unique_ptr<refhost::SqliteDoc> m_doc;
+    ZolWDoc::tLay layer(qint16 number) { return *m_doc->layers().findByNumber(number); }
+    void begin()
+    {
+        setLanguage(Hungarian, {});
+        m_doc = layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
+                          {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
+                          {.gNr = 3, .Name = QStringLiteral("C")},
+                          {.gNr = 4, .Name = QStringLiteral("D")},
+                          {.gNr = 7, .Name = QStringLiteral("E"), .Visible = false}});
+        m_doc->layers().makeCurrent(layer(3));
+    }
+    static void end()
+    {
+        setDesignedTest(nullptr);
+        QVERIFY2(traceObjects().entries().empty(), "a control was not released");
+    }
+};
+
+} // namespace tests

@@ -1,0 +1,143 @@
+#include "controls/LayerSetForm.h"
+
+#include "controls/PropertyError.h"
+#include "support/Registry.h"
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+using namespace tests;
+
+class tst_LayerSetProperties : public LayerSetTest {
+    Q_OBJECT
+private slots:
+    void init() { begin(); }
+    void cleanup() { end(); }
+
+    void bagsKeepEveryProperty_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("colour of the desktop") << QStringLiteral("BackColor") << QVariant(0x80000018u);
+        QTest::newRow("colour") << QStringLiteral("BackColor") << QVariant(0xffeedeu);
+        QTest::newRow("layout") << QStringLiteral("SingleLine") << QVariant(true);
+        QTest::newRow("split") << QStringLiteral("WidthDiferent") << QVariant(-312.5);
+        QTest::newRow("text") << QStringLiteral("sLays") << QVariant(QStringLiteral("1-3"));
+        QTest::newRow("entry") << QStringLiteral("sLayGroup") << QVariant(QStringLiteral("Utak"));
+        LayerSet set;
+        set.add({.LayId = 5, .gNr = 4});
+        QTest::newRow("set") << QStringLiteral("CollectionLays") << QVariant::fromValue(set);
+        QTest::newRow("font") << QStringLiteral("Font")
+                              << QVariant(QFont(QStringLiteral("DejaVu Serif"), 21));
+    }
+    void bagsKeepEveryProperty()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        const QVariantMap bag{{key, value}};
+        DocForm doc;
+        ArrayForm array;
+        for (LayerSetControl *c : std::initializer_list<LayerSetControl *>{doc.control, array.control}) {
+            QCOMPARE(c->propertyBag(), QVariantMap());
+            c->setPropertyBag(bag);
+            QCOMPARE(c->propertyBag(), bag);
+            QCOMPARE(doc.raised, QStringList()); // nothing but kept
+            c->setPropertyBag({});
+            QCOMPARE(c->propertyBag(), QVariantMap());
+        }
+    }
+
+    void singlePrecisionIsKept()
+    {
+        DocForm f;
+        f.control->setWidthDiferent(0.1);
+        QCOMPARE(f.control->WidthDiferent(), double(0.1f));
+        f.control->setWidthDiferent(1e300);
+        QCOMPARE(f.control->WidthDiferent(), double(std::numeric_limits<float>::max()));
+        f.control->setWidthDiferent(std::numeric_limits<double>::quiet_NaN());
+        QCOMPARE(f.control->WidthDiferent(), 0.0);
+    }
+
+    void whatWasKeptTakesEffectWhenTheDocumentArrives_data()
+    {
+        QTest::addColumn<QVariantMap>("kept");
+        QTest::addColumn<QString>("numbers");
+        QTest::addColumn<QString>("entry");
+        const QString enumerated = QStringLiteral("(Felsorolt rétegek)");
+        QTest::newRow("nothing") << QVariantMap() << "3" << QStringLiteral("(Aktuális réteg)");
+        QTest::newRow("a text") << QVariantMap{{"sLays", "4,,2-3"}, {"sLayGroup", enumerated}} << "2-4"
+                                << enumerated;
+        QTest::newRow("a group") << QVariantMap{{"sLays", "1"}, {"sLayGroup", "Utak"}} << "2,4"
+                                 << QStringLiteral("Utak");
+        QTest::newRow("an entry that is not there")
+            << QVariantMap{{"sLayGroup", "Vízfolyások"}} << "3" << QStringLiteral("(Aktuális réteg)");
+        LayerSet set;
+        set.add({.LayId = 5, .gNr = 4});
+        QTest::newRow("a set") << QVariantMap{{"sLays", "1"}, {"CollectionLays", QVariant::fromValue(set)}}
+                               << "4" << enumerated;
+    }
+    void whatWasKeptTakesEffectWhenTheDocumentArrives()
+    {
+        QFETCH(QVariantMap, kept);
+        QFETCH(QString, numbers);
+        QFETCH(QString, entry);
+        DocForm f;
+        f.control->setPropertyBag(kept);
+        f.control->setZOLW_Doc(m_doc.get());
+        QCOMPARE(f.raised, QStringList{numbers});
+        QCOMPARE(f.box().text(), numbers);
+        QCOMPARE(f.list().currentText(), entry);
+        QCOMPARE(f.control->sLayGroup(), entry);
+    }
+
+    /// As the loader of a form does it: through the property system, in any order.
+    void formsSetThePropertiesInAnyOrder()
+    {
+        const std::pair<const char *, const char *> values[] = {{"sLays", "1-2"},
+                                                                {"sLayGroup", "(Felsorolt rétegek)"}};
+        for (const bool backwards : {false, true}) {
+            DocForm doc;
+            ArrayForm array;
+            for (int i = 0; i < 2; ++i) {
+                const auto &[name, value] = values[backwards ? 1 - i : i];
+                QVERIFY(doc.control->setProperty(name, QString::fromUtf8(value)));
+                QVERIFY(array.control->setProperty(name, QString::fromUtf8(value)));
+            }
+            doc.control->setZOLW_Doc(m_doc.get());
+            array.control->SetLayArr(m_doc->layers().readAll());
+            QCOMPARE(doc.raised, QStringList{"1-2"});
+            QCOMPARE(array.raised, QStringList{"1-2"});
+            QVERIFY(doc.control->setProperty("sLays", QStringLiteral("7"))); // from now on at once
+            QCOMPARE(doc.raised.last(), QStringLiteral("7"));
+        }
+    }
+
+    void refusedSettersCarryTheirNumber()
+    {
+        const auto number = [](const std::function<void()> &set) {
+            try {
+                set();
+            } catch (const PropertyError &refused) {
+                return int(refused.number());
+            }
+            return 0;
+        };
+        DocForm f;
+        f.control->setZOLW_Doc(m_doc.get());
+        QCOMPARE(number([&] { f.control->setCollectionLays({}); }), 382);
+        setDesignedTest([](const QWidget &) { return true; });
+        QCOMPARE(number([&] { f.control->setCollectionLays({}); }), 383);
+        QCOMPARE(number([&] { f.control->setsLays(QStringLiteral("1")); }), 387);
+        QCOMPARE(number([&] { f.control->setsLayGroup(QStringLiteral("Utak")); }), 387);
+        const QVariantMap before = f.control->propertyBag();
+        f.control->setProperty("sLays", QStringLiteral("1")); // ignored, and nothing is thrown through Qt
+        f.control->setProperty("sLayGroup", QStringLiteral("Utak"));
+        f.control->setProperty("CollectionLays", QVariant::fromValue(LayerSet()));
+        QCOMPARE(f.control->propertyBag(), before);
+        setDesignedTest(nullptr);
+        f.control->setProperty("CollectionLays", QVariant::fromValue(LayerSet()));
+        QCOMPARE(f.numbers(), QStringLiteral("3"));
+    }
+};
+
+QVDC_TEST(tst_LayerSetProperties)
+#include "tst_LayerSetProperties.moc"

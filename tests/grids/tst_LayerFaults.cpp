@@ -1,0 +1,113 @@
+#include "facade/contract/ResourcePicker.h"
+#include "facade/services/Language.h"
+#include "support/FaultyDoc.h"
+#include "support/LayerDoc.h"
+#include "support/LayerForm.h"
+#include "support/Registry.h"
+#include "support/WillingPrompts.h"
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+
+namespace {
+
+constexpr char kCellEdit[] = "a cell edit";
+
+/// Picks the record with identifier 1 of any table.
+struct AnyPicker final : ResourcePicker {
+    ResourcePicker *before = setResourcePicker(this);
+    ~AnyPicker() override { setResourcePicker(before); }
+    bool canPick(TableKind) const override { return true; }
+    std::optional<qint16> pick(TableKind, ZOLW_Doc &doc, qint16, QObject *) override
+    {
+        doc.textTypes().count();                        // a dialog reads, too
+        return qint16(1);
+    }
+};
+
+/// Runs a tool on the first three of four layers, the host failing at one call of it; counts the calls.
+struct Run {
+    std::unique_ptr<refhost::SqliteDoc> doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-A")},
+                                                               {.gNr = 2, .Name = QStringLiteral("2-B")},
+                                                               {.gNr = 3, .Name = QStringLiteral("3-C")},
+                                                               {.gNr = 4, .Name = QStringLiteral("D")}});
+    tests::FaultyDoc faulty{*doc};
+    tests::LayerForm form{faulty};
+    tests::WillingPrompts user;
+    explicit Run(const char *tool, int failAt)
+    {
+        form.js.setCurrentLayer(doc->layers().findByNumber(1)->LayId);
+        form.select({1, 2, 3});
+        faulty.log.calls.clear();
+        faulty.log.failAt = failAt;
+        if (std::strcmp(tool, kCellEdit) == 0) editCell();
+        else form.run(tool);
+        faulty.log.failAt = -1;
+    }
+    void editCell()
+    {
+        QAbstractItemModel &cells = *form.grid.table()->model();
+        cells.setData(cells.index(1, LayerTable::nameColumn), QStringLiteral("Út"));
+    }
+    int calls() const { return int(faulty.log.calls.size()); }
+    QString failed() const
+    {
+        if (!form.error) return {};
+        try {
+            std::rethrow_exception(form.error);
+        } catch (const tests::HostError &e) {
+            return QString::fromStdString(e.what());
+        }
+    }
+};
+
+} // namespace
+
+class tst_LayerFaults : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { setLanguage(Hungarian, {}); }
+
+    void everyCallOfEveryCommandMayFail_data()
+    {
+        QTest::addColumn<QByteArray>("tool");
+        QTest::newRow(kCellEdit) << QByteArray(kCellEdit);
+        for (const auto &c : kLayerCommands) QTest::newRow(c.tool) << QByteArray(c.tool);
+    }
+    void everyCallOfEveryCommandMayFail()
+    {
+        QFETCH(QByteArray, tool);
+        const AnyPicker picker;
+        const Run undisturbed(tool.constData(), -1);
+        QVERIFY(!undisturbed.form.error);
+        for (int at = 0; at < undisturbed.calls(); ++at) {
+            Run run(tool.constData(), at);
+            const QString call = run.faulty.log.calls.value(at);
+            QVERIFY2(run.failed() == call, qPrintable(call));
+            QVERIFY2(run.form.rows() == run.doc->layers().readAll(), qPrintable(call));
+            const int groups = int(run.doc->layers().groups().size());
+            QVERIFY2(run.form.groups.table()->model()->rowCount() == groups + 1, qPrintable(call));
+            QVERIFY(!run.form.js.isBusy());
+        }
+    }
+
+    void whatWasWrittenBeforeTheErrorStays()
+    {
+        Run run("cmdLays_Copy", -1);                    // 1001, 1002, 1003
+        run.user.typed = {2000};
+        run.faulty.log.calls.clear();
+        run.form.select({1, 2, 3});
+        run.faulty.log.meanwhile = [&](const QString &call) {
+            if (call == QStringLiteral("layers.add") && run.faulty.log.calls.count(call) == 2)
+                run.faulty.log.failNext = call;
+        };
+        run.form.run("cmdLays_Copy");
+        QCOMPARE(run.failed(), QStringLiteral("layers.add"));
+        QVERIFY(run.doc->layers().findByNumber(2001) && !run.doc->layers().findByNumber(2002));
+        QCOMPARE(run.faulty.log.calls.count(QStringLiteral("layers.add")), 2); // the rest was not tried
+        QCOMPARE(run.form.rows(), run.doc->layers().readAll());
+    }
+};
+
+QVDC_TEST(tst_LayerFaults)
+#include "tst_LayerFaults.moc"

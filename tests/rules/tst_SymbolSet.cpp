@@ -1,0 +1,113 @@
+#include "rules/SymbolSet.h"
+#include "rules/recordset/RecordsetXml.h"
+#include "support/Registry.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+
+namespace {
+
+tSid symbol()
+{
+    return {.SidId = 7,
+            .GroupName = QStringLiteral("Növényzet"),
+            .GroupId = 2,
+            .Code = 97,
+            .ShortName = QStringLiteral("Lombos fa"),
+            .FullName = QStringLiteral("Lombos fa jele"),
+            .Align = 24,
+            .Size_mm = 3.3f,
+            .YwFact = 1.1f,
+            .XwFact = 0.75f,
+            .Facename = QStringLiteral("Arial"),
+            .Weight = 25,
+            .Italic = true,
+            .CharSet = 238,
+            .PitchAndFamily = 34,
+            .ProtXmm = 0.1,
+            .ProtYmm = -1 / 3.0,
+            .ProtType = 2,
+            .MoveXmm = -0.25f,
+            .MoveYmm = 1.5f,
+            .DspZoom = 10,
+            .LayId = 120,
+            .Type = 0,
+            .Checked = true};
+}
+Recordset asRead(const Recordset &set) { return std::get<Recordset>(recordsetOf(bytesOf(set))); }
+
+} // namespace
+
+class tst_SymbolSet : public QObject {
+    Q_OBJECT
+private slots:
+    void aSymbolComesBackWithoutNumberGroupAndCheckMark()
+    {
+        const tSid symbols[] = {symbol(), {}};
+        const auto content = symbolsIn(asRead(std::get<Recordset>(symbolSetOf(symbols))));
+        QVERIFY(!content.fault);
+        tSid expected = symbol();
+        expected.SidId = expected.GroupId = tSid().SidId;
+        expected.GroupName.clear();
+        expected.Checked = false;
+        QCOMPARE(content.records, (std::vector<tSid>{expected, {}}));
+    }
+    void aVectorSymbolIsNotStretched()
+    {
+        tSid s = symbol();
+        s.Type = 1, s.XwFact = 2.5f;
+        QCOMPARE(symbolsIn(std::get<Recordset>(symbolSetOf({&s, 1}))).records.front().XwFact, 1.0f);
+    }
+    void whatDoesNotFitIsNamed_data()
+    {
+        QTest::addColumn<tSid>("symbol");
+        QTest::addColumn<QString>("field");
+        const auto row = [](const char *field, auto change) {
+            tSid s = symbol();
+            change(s);
+            QTest::newRow(field) << s << field;
+        };
+        row("Code", [](tSid &s) { s.Code = 65535; });
+        row("ShortName", [](tSid &s) { s.ShortName = QString(51, u'x'); });
+        row("FullName", [](tSid &s) { s.FullName = QString(301, u'x'); });
+        row("ProtXmm", [](tSid &s) { s.ProtXmm = qInf(); });
+    }
+    void whatDoesNotFitIsNamed()
+    {
+        QFETCH(tSid, symbol);
+        QFETCH(QString, field);
+        const tSid symbols[] = {::symbol(), symbol};
+        const auto written = symbolSetOf(symbols);
+        QVERIFY(std::holds_alternative<SetFault>(written));
+        QCOMPARE(std::get<SetFault>(written), (SetFault{1, field}));
+    }
+    void readingEndsAtAValueThatTheRecordCannotHold()
+    {
+        const tSid symbols[] = {symbol(), symbol(), symbol()};
+        Recordset set = std::get<Recordset>(symbolSetOf(symbols));
+        set.setInteger(1, set.fieldNamed(u"align"), 256);
+        const auto content = symbolsIn(set);
+        QCOMPARE(content.records.size(), 1u);
+        QCOMPARE(content.fault, (SetFault{1, QStringLiteral("Align")}));
+    }
+    void aFileWithoutAColumnIsRefusedByItsName()
+    {
+        const auto content =
+            symbolsIn(Recordset::made({{QStringLiteral("code"), RecordsetField::Type::Int16}}));
+        QVERIFY(content.records.empty());
+        QCOMPARE(content.fault, (SetFault{{}, QStringLiteral("ShortName")}));
+    }
+    void anEmptySetIsWrittenAsTheRuntimeDoes()
+    {
+        if (!qEnvironmentVariableIsSet("QVDC_SAMPLES")) QSKIP("no samples");
+        QFile file(qEnvironmentVariable("QVDC_SAMPLES") + QStringLiteral("/recordset/symbols_empty.rst"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(bytesOf(std::get<Recordset>(symbolSetOf({}))), file.readAll());
+    }
+};
+
+QVDC_TEST(tst_SymbolSet)
+#include "tst_SymbolSet.moc"
