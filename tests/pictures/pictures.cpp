@@ -1,10 +1,10 @@
-// Pictures of the dialogs and controls in their states, in each language and palette, for the eye:
-// qvpictures FOLDER [SCALE]. Ends with 1 when a text has no room or a bar is too short for its tools.
-#include "document/SqliteDoc.h"
+// Pictures of the dialogs in their states, in each language and palette, for the eye: qvpictures FOLDER
+// [SCALE]. Each sheet shows the states of one language; 1 when a text has no room or a bar is too short for
+// its tools.
 #include "facade/services/Language.h"
+#include "document/SqliteDoc.h"
 #include "pictures/ControlPictures.h"
 #include "pictures/Scene.h"
-#include "pictures/SelectPictures.h"
 #include "support/Looks.h"
 
 #include <QApplication>
@@ -43,19 +43,6 @@ std::unique_ptr<refhost::SqliteDoc> sample()
     return doc;
 }
 
-bool saveModalWindow(const QString &path)
-{
-    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog) qFatal("nothing is open for %s", qPrintable(path));
-    dialog->grab().save(path);
-    const QStringList flaws = tests::flawsOf(*dialog);
-    for (const QString &flaw : flaws)
-        std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(flaw));
-    std::printf("%s\n", qPrintable(path));
-    dialog->reject();
-    return flaws.isEmpty();
-}
-
 /// The platform without a display, with a screen that every dialog fits on.
 void prepareScreen(const QTemporaryDir &home, const char *scale)
 {
@@ -65,6 +52,44 @@ void prepareScreen(const QTemporaryDir &home, const char *scale)
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen));
     qputenv("QT_SCALE_FACTOR", scale);
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path())); // the settings of who looks play no part
+}
+
+void takeValues(ZolWDoc::ZOLW_Doc &, tests::Sheet &sheet)
+{
+    for (const tests::Scene &scene : tests::valueScenes()) {
+        QTimer::singleShot(0, qApp, [&] { // after what the scene does to its open box
+            QTimer::singleShot(0, qApp, [&] {
+                auto *const box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                if (!box) qFatal("nothing is open for %s", scene.name);
+                sheet.take(*box);
+                box->reject();
+            });
+        });
+        scene.open();
+    }
+}
+
+struct SheetRow {
+    const char *name;
+    void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
+};
+constexpr SheetRow kSheets[] = {{"select", tests::takeSelection}, {"values", takeValues}};
+
+/// One language in one palette; false when a flaw was found.
+bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)
+{
+    bool flawless = true;
+    for (const SheetRow &row : kSheets) {
+        tests::Sheet sheet;
+        row.take(doc, sheet);
+        const QString path = folder + u'/' + QLatin1String(row.name) + variant;
+        for (const QString &flaw : std::as_const(sheet.flaws))
+            std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(flaw));
+        std::printf("%s\n", qPrintable(path));
+        flawless &= sheet.save(path) && sheet.flaws.isEmpty();
+    }
+    saveLayerControls(doc, folder + QStringLiteral("/layer-controls") + variant);
+    return flawless;
 }
 
 } // namespace
@@ -80,23 +105,13 @@ int main(int argc, char **argv)
     QDir().mkpath(folder);
     const auto doc = sample();
     bool flawless = true;
-    for (const auto &[language, suffix] :
+    for (const auto &[language, name] :
          {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}})
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
-            const auto pathOf = [&, suffix = QLatin1String(suffix), dark = dark](const char *what) {
-                return folder + QStringLiteral("/%1-%2-%3-x%4.png")
-                                    .arg(QLatin1String(what), suffix, dark ? "dark" : "light", scale);
-            };
-            flawless &= saveSelection(*doc, pathOf("select"));
-            saveLayerControls(*doc, pathOf("layer-controls"));
-            for (const tests::Scene &scene : tests::valueScenes()) {
-                QTimer::singleShot(0, &app, [&] { // after what the scene does to its open box
-                    QTimer::singleShot(0, &app, [&] { flawless &= saveModalWindow(pathOf(scene.name)); });
-                });
-                scene.open();
-            }
+            flawless &= takeSheets(*doc, folder, QStringLiteral("-%1-%2-x%3.png")
+                                                     .arg(QLatin1String(name), dark ? "dark" : "light", scale));
         }
     return flawless ? 0 : 1;
 }

@@ -9,7 +9,6 @@
 #include "rules/LayerRules.h"
 
 #include <QHash>
-#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 

@@ -3,7 +3,7 @@
 #include "facade/services/LayerFileCodePage.h"
 #include "facade/services/Services.h"
 #include "facade/services/Trace.h"
-#include "grids/layer/LayerFileTexts.h"
+#include "rules/LayerFileTexts.h"
 #include "kit/ask/ErrorRelay.h"
 #include "rules/LayerRules.h"
 

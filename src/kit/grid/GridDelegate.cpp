@@ -29,16 +29,6 @@ QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
 /// Of a column, numbers stand on its right and check boxes in its middle; of a form, all begins on the left.
 bool isInColumn(const QStyleOptionViewItem &option) { return option.displayAlignment & Qt::AlignRight; }
 
-QRect checkRect(const QStyleOptionViewItem &option)
-{
-    const QStyle &style = styleOf(option);
-    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
-                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
-    const int gap = isInColumn(option) ? 0 : GridDelegate::padding(option.fontMetrics);
-    return QStyle::alignedRect(option.direction, isInColumn(option) ? Qt::AlignCenter : Qt::AlignVCenter,
-                               size, option.rect.adjusted(gap, 0, 0, 0));
-}
-
 QColor between(QColor a, QColor b, double share)
 {
     const auto mixed = [share](int x, int y) { return int(std::lround(x + (y - x) * share)); };
@@ -64,6 +54,16 @@ void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette:
 GridDelegate::GridDelegate(const GridModel &model, QObject *parent)
     : QStyledItemDelegate(parent), m_model(model)
 {
+}
+
+QRect GridDelegate::checkMark(const QStyleOptionViewItem &option)
+{
+    const QStyle &style = styleOf(option);
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
+    const int gap = isInColumn(option) ? 0 : padding(option.fontMetrics);
+    return QStyle::alignedRect(option.direction, isInColumn(option) ? Qt::AlignCenter : Qt::AlignVCenter,
+                               size, option.rect.adjusted(gap, 0, 0, 0));
 }
 
 QColor GridDelegate::textColor(const QStyleOptionViewItem &option, const GridStyle &style)
@@ -98,8 +98,10 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
     } else {
         painter->setPen(textColor(option, style));
-        paintText(painter, option, m_model.source()->text(row, c),
-                  isInColumn(option) && (kind == CellKind::Number || kind == CellKind::Color));
+        const bool right = isInColumn(option) && (kind == CellKind::Number || kind == CellKind::Color);
+        const QString text = m_model.source()->text(row, c);
+        if (style.bold) paintBold(painter, option, text, right);
+        else paintText(painter, option, text, right);
     }
     if (option.state & QStyle::State_HasFocus)
         paintFocus(painter, option, selected ? QPalette::Highlight : QPalette::Base);
@@ -130,10 +132,24 @@ void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &opti
                            option.fontMetrics.elidedText(text, Qt::ElideRight, room));
 }
 
+/// One row of a table at most: nothing is kept.
+void GridDelegate::paintBold(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
+                             bool right) const
+{
+    QFont bold = option.font;
+    bold.setBold(true);
+    const int gap = padding(option.fontMetrics);
+    const QRect room = option.rect.adjusted(gap, 0, -gap, 0);
+    painter->setFont(bold);
+    painter->drawText(room, Qt::AlignVCenter | Qt::TextSingleLine | (right ? Qt::AlignRight : Qt::AlignLeft),
+                      QFontMetrics(bold).elidedText(text, Qt::ElideRight, room.width()));
+    painter->setFont(option.font);
+}
+
 void GridDelegate::paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const
 {
     QStyleOptionViewItem box = option;
-    box.rect = checkRect(option);
+    box.rect = checkMark(option);
     box.features |= QStyleOptionViewItem::HasCheckIndicator;
     box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
     box.state |= on ? QStyle::State_On : QStyle::State_Off;
@@ -267,7 +283,7 @@ bool GridDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const Q
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease: {
         const auto &mouse = static_cast<const QMouseEvent &>(*event);
-        if (mouse.button() != Qt::LeftButton || !checkRect(option).contains(mouse.position().toPoint()))
+        if (mouse.button() != Qt::LeftButton || !checkMark(option).contains(mouse.position().toPoint()))
             return false;
         if (event->type() == QEvent::MouseButtonPress) return false;    // the view selects the row
         if (event->type() == QEvent::MouseButtonDblClick) return true;  // its release toggles again

@@ -11,6 +11,7 @@ struct GridStyle {
     QColor background;
     QColor text;
     bool grayed = false;    ///< text halfway between the palette's text and its ground
+    bool bold = false;
 };
 
 /// The format styles of one grid, by name.
