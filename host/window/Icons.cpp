@@ -34,6 +34,7 @@ constexpr const char *kPaths[] = {
     "M 4 6 L 20 6 M 9 6 L 9 3 L 15 3 L 15 6 M 6 6 L 7 21 L 17 21 L 18 6 M 10 10 L 10.4 17 M 14 10 L 13.6 17",
     "M 12 3 L 21 8 L 12 13 L 3 8 Z M 3 12 L 12 17 L 21 12 M 3 16 L 12 21 L 21 16",
     "M 3 5 L 21 5 L 21 19 L 3 19 Z M 3 9 L 21 9 M 7 13 L 15 13 M 7 16 L 12 16",
+    "M 3 6 L 21 6 M 3 12 L 21 12 M 3 18 L 21 18 D 8 6 2.4 D 16 12 2.4 D 10 18 2.4",
 };
 
 struct Drawing {

@@ -22,7 +22,8 @@ enum class Sign {
     Lettering,
     Delete,
     Layers,
-    Dialog
+    Dialog,
+    NewElement
 };
 
 /// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.
