@@ -21,7 +21,9 @@ struct Options {
     QCommandLineOption pictures{QStringLiteral("pictures"),
                                 QStringLiteral("Save a picture of each window there and end."),
                                 QStringLiteral("folder")};
-    QCommandLineOption dialog{QStringLiteral("dialog"), QStringLiteral("Open that dialog, e.g. bSelect_Lay."),
+    QCommandLineOption dialog{QStringLiteral("dialog"),
+                              QStringLiteral(
+                                  "Open that dialog, e.g. bSelect_Lay, or all, one after the other."),
                               QStringLiteral("call")};
     QCommandLineOption yes{QStringLiteral("yes"),
                            QStringLiteral("Import with the guessed unit, without asking.")};
@@ -37,6 +39,15 @@ struct Options {
         parser.process(app);
     }
 };
+
+/// False = there is no such call.
+bool callsOf(const QString &name, std::vector<const DialogCall *> &calls)
+{
+    const size_t before = calls.size();
+    for (const DialogCall &call : dialogCalls())
+        if (name == QStringLiteral("all") || name == QLatin1String(call.name)) calls.push_back(&call);
+    return calls.size() > before;
+}
 
 int wrongUse(const char *what, const QString &value)
 {
@@ -74,9 +85,10 @@ int main(int argc, char **argv)
         if (id == 0) return wrongUse("unknown language", options.parser.value(options.language));
         services.language()->setForThisRun(id);
     }
-    const DialogCall *call = dialogCall(options.parser.value(options.dialog));
-    if (options.parser.isSet(options.dialog) && !call)
-        return wrongUse("unknown dialog", options.parser.value(options.dialog));
+    std::vector<const DialogCall *> calls;
+    for (const QString &name : options.parser.values(options.dialog)) {
+        if (!callsOf(name, calls)) return wrongUse("unknown dialog", name);
+    }
 
     MainWindow window(services);
     std::unique_ptr<Pictures> pictures;
@@ -85,7 +97,7 @@ int main(int argc, char **argv)
     window.show();
     const bool loaded = load(window, options);
     if (pictures) pictures->save(window, QStringLiteral("MainWindow"));
-    if (call) window.run(*call);
+    for (const DialogCall *call : calls) window.run(*call);
     if (pictures) return loaded && pictures->failures() == 0 ? 0 : 1;
     return app.exec();
 }

@@ -1,5 +1,7 @@
 #include "Figures.h"
 
+#include "TinyDoc.h"
+#include "controls/ZOL3_LayGroup.h"
 #include "rules/LayerSet.h"
 
 #include <QStringList>
@@ -85,6 +87,28 @@ const bool s_memory = figure("layerset.32000.memory.to.records", "x", atMost(3),
         const LayerSet set = setOf(all);
         return (held() - before + double(sizeof set)) / (double(sizeof(tLay)) * kLayers);
     });
+});
+
+/// The control on a document that answers from memory: the text is read, put in its normal form and one event
+/// raised.
+double throughControl(const QString &text)
+{
+    example::TinyDoc doc;
+    static_cast<example::TinyLayers &>(doc.layers()).rows = ascending();
+    ZOL3_LayGroup control;
+    control.setZOLW_Doc(&doc);
+    int raised = 0;
+    QObject::connect(&control, &ZOL3_LayGroup::ChangeLays, [&raised](LayerSet &) { ++raised; });
+    const double spent = nanosecondsOf([&] { control.setsLays(text); }) / 1e6;
+    keep(raised);
+    return spent;
+}
+const bool s_control = figure("layerset.32000.range.through.control", "ms", atMost(10),
+                              [] { return throughControl(QStringLiteral("1-32000")); });
+const bool s_odd = figure("layerset.16000.odd.through.control", "ms", unbounded(), [] {
+    QStringList odd;
+    for (int i = 1; i < kLayers; i += 2) odd << QString::number(i);
+    return throughControl(odd.join(u','));
 });
 
 } // namespace

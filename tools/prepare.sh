@@ -72,7 +72,10 @@ build() { # build PRESET [TARGET]
         (cd "$root" && quietly "$folder/configure.log" cmake --preset "$1" --fresh)
     fi
     local options=(--target "${2:-all}" -j "$(nproc)")
-    [ -t 1 ] || options+=(-- --quiet)
-    [ -t 1 ] || echo "Building ${2:-all} ..."
-    cmake --build "$folder" "${options[@]}"
+    if [ -t 1 ]; then
+        cmake --build "$folder" "${options[@]}"
+    else
+        echo "Building ${2:-all} ..."
+        cmake --build "$folder" "${options[@]}" -- --quiet | sed '/^ninja: no work to do\.$/d'
+    fi
 }

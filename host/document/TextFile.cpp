@@ -3,6 +3,8 @@
 #include "document/FileCheck.h"
 #include "document/SqliteDoc.h"
 
+#include "facade/services/LayerFileCodePage.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -18,7 +20,8 @@ QString decoded(const QByteArray &bytes)
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8(bytes);
     if (!utf8.hasError()) return text.startsWith(QChar(QChar::ByteOrderMark)) ? text.mid(1) : text;
-    QStringDecoder local("windows-1250");
+    const QString page = QV_DOC_CONTROLS::layerFileCodePage();
+    QStringDecoder local(page.isEmpty() ? "windows-1250" : page.toLatin1().constData());
     return local.isValid() ? QString(local(bytes)) : text;
 }
 
@@ -41,7 +44,8 @@ TextFile::TextFile(const QString &path, Text expected) : m_path(path), m_expecte
         throw DocumentError(fileText(path, join(Text{30081, u"' fájl nem olvasható. Ellenőrizd a nevét és a "
                                                             u"jogosultságokat! Részletek: "},
                                                 file.errorString())));
-    const QString all = decoded(file.readAll());
+    QString all = decoded(file.readAll());
+    all.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
     int lineNumber = 0;
     for (QStringView line : QStringView(all).split(u'\n')) {
         ++lineNumber;

@@ -4,8 +4,6 @@
 
 #include "facade/clsDocDlgs.h"
 
-#include <algorithm>
-
 using QV_DOC_CONTROLS::clsDocDlgs;
 
 namespace refhost {
@@ -26,12 +24,5 @@ constexpr DialogCall kCalls[] = {
 } // namespace
 
 std::span<const DialogCall> dialogCalls() { return kCalls; }
-
-const DialogCall *dialogCall(const QString &name)
-{
-    const auto row =
-        std::ranges::find_if(kCalls, [&](const DialogCall &c) { return QLatin1String(c.name) == name; });
-    return row == std::end(kCalls) ? nullptr : row;
-}
 
 } // namespace refhost

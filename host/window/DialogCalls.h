@@ -22,6 +22,5 @@ struct DialogCall {
     bool (*run)(QV_DOC_CONTROLS::clsDocDlgs &, DrawingPage &); ///< whether the user confirmed
 };
 std::span<const DialogCall> dialogCalls();          ///< in the order of menu and toolbar
-const DialogCall *dialogCall(const QString &name);  ///< null = there is none
 
 } // namespace refhost

@@ -11,6 +11,7 @@ namespace QV_DOC_CONTROLS { class clsDocDlgs; }
 
 namespace refhost {
 
+class CodePageMenu;
 class HostServices;
 struct DialogCall;
 
@@ -55,6 +56,7 @@ private:
     StatusLine m_status;
     std::vector<QMenu *> m_menus;                   ///< in the order of the menu bar
     QMenu *m_recent = nullptr;
+    CodePageMenu *m_codePages = nullptr;
     QActionGroup *m_tools = nullptr;
     QActionGroup *m_languages = nullptr;
     bool m_dark = false;

@@ -32,12 +32,23 @@ void Pictures::save(QWidget &window, const QString &name)
     }
 }
 
+namespace {
+/// A message nobody can see is said where it can be read.
+void tellText(const QDialog &dialog)
+{
+    const QString text = dialog.property("text").toString();
+    if (!text.isEmpty())
+        std::fprintf(stderr, "%s: %s\n", qPrintable(dialog.windowTitle()), qPrintable(text));
+}
+} // namespace
+
 bool Pictures::eventFilter(QObject *o, QEvent *e)
 {
     auto *const dialog = e->type() == QEvent::Show ? qobject_cast<QDialog *>(o) : nullptr;
     const bool passes = qobject_cast<QProgressDialog *>(o); // its Cancel would break the work off
     if (dialog && !passes) // after the events that lay it out and fill it
         QTimer::singleShot(0, dialog, [this, dialog] {
+            tellText(*dialog);
             save(*dialog,
                  QString::fromLatin1(dialog->metaObject()->className()).section(QStringLiteral("::"), -1));
             dialog->reject();

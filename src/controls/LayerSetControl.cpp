@@ -5,6 +5,7 @@
 #include "facade/services/Language.h"
 #include "facade/services/Text.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/forms/GroupRole.h"
 #include "kit/forms/QuietWheel.h"
 
 #include <QComboBox>
@@ -40,6 +41,7 @@ LayerSetControl::LayerSetControl(const char *type, QWidget *parent)
     : QWidget(parent), cboLays(new QComboBox(this)), txtLays(new QLineEdit(this)), m_type(type),
       m_identity(type), m_sLayGroup(QString::fromUtf16(kFirstEntry))
 {
+    announceAsGroup<LayerSetControl>();
     txtLays->setObjectName(QStringLiteral("txtLays"));
     txtLays->setMaxLength(std::numeric_limits<int>::max()); // as long as the numbers of all layers
     txtLays->installEventFilter(this);
@@ -204,6 +206,7 @@ void LayerSetControl::showChoices()
 void LayerSetControl::ml_RuntimeSupport_LanguageChanged()
 {
     ErrorRelay::reporting().guard([this] { showChoices(); });
+    setAccessibleName(txt(Text{22057, u"Réteghalmaz"}));
     txtLays->setAccessibleName(txt(Text{22050, u"Rétegszámok"}));
     txtLays->setPlaceholderText(QStringLiteral("1-3,7"));
     cboLays->setAccessibleName(txt(Text{22051, u"Rétegek kiválasztása"}));

@@ -110,6 +110,9 @@ private slots:
         DocForm f;
         f.control->setZOLW_Doc(m_doc.get());
         f.control->setsLays(QStringLiteral("1-3"));
+        const QAccessibleInterface &group = *QAccessible::queryAccessibleInterface(f.control);
+        QCOMPARE(group.role(), QAccessible::Grouping);
+        QCOMPARE(group.text(QAccessible::Name), QStringLiteral("Réteghalmaz"));
         const QAccessibleInterface &box = *QAccessible::queryAccessibleInterface(&f.box());
         QCOMPARE(box.role(), QAccessible::EditableText);
         QCOMPARE(box.text(QAccessible::Name), QStringLiteral("Rétegszámok"));

@@ -26,7 +26,8 @@ private slots:
         LayerSet set;
         set.add({.LayId = 5, .gNr = 4});
         QTest::newRow("set") << QStringLiteral("CollectionLays") << QVariant::fromValue(set);
-        QTest::newRow("font") << QStringLiteral("Font") << QVariant(QFont(QStringLiteral("DejaVu Serif"), 21));
+        QTest::newRow("font") << QStringLiteral("Font")
+                              << QVariant(QFont(QStringLiteral("DejaVu Serif"), 21));
     }
     void bagsKeepEveryProperty()
     {

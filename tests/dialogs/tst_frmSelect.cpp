@@ -13,7 +13,7 @@
 #include <QSplitter>
 #include <QTest>
 #include <QTimer>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -175,7 +175,7 @@ private slots:
               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question, [&] {
                   faulty.log.failNext = QStringLiteral("layers.update");
                   open->jsLayer->setAllowEdit(true);
-                  QTreeView &table = *child<Grid>(*open, "gridItems").table();
+                  QAbstractItemView &table = *child<Grid>(*open, "gridItems").table();
                   table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
               }}});
         tLay lay = layer(10);
@@ -207,7 +207,7 @@ private slots:
             emit LanguageHub::instance().LanguageChanged();
             QCOMPARE(d.windowTitle(), title);
             QVERIFY(d.windowTitle() != before);
-            const QTreeView &table = *child<Grid>(d, "gridItems").table();
+            const QAbstractItemView &table = *child<Grid>(d, "gridItems").table();
             QCOMPARE(table.model()->headerData(1, Qt::Horizontal).toString(), txt(Text{3299, u"Rétegnév"}));
             d.reject();
         });

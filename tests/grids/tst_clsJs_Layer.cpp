@@ -6,8 +6,7 @@
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QAbstractItemModel>
-#include <QTreeView>
+#include <QAbstractItemView>
 #include <QTest>
 
 using namespace QV_DOC_CONTROLS;

@@ -1,6 +1,8 @@
 #include "document/CadPalette.h"
 #include "document/SqliteDoc.h"
 
+#include "facade/services/LayerFileCodePage.h"
+
 #include "support/Registry.h"
 
 #include <QDir>
@@ -334,6 +336,7 @@ private slots:
             QStringLiteral("1 ő út, 2 b b, 3 c"));
         row("names exchanged", "rename", "2 c\n3 b\n", QStringLiteral("1 Alapréteg, 2 c, 3 b"));
         row("central european", "rename", "2 \xf5r", QStringLiteral("1 Alapréteg, 2 őr, 3 c"));
+        row("lines of an old system", "rename", "2 x\r\r3 y\r", QStringLiteral("1 Alapréteg, 2 x, 3 y"));
         row("name taken", "rename", "2 x\n3 Alapréteg\n", start, QStringLiteral("Hibás sor: 2, ez a név"));
         row("unknown number", "rename", "# x\n7 x\n", start, QStringLiteral("Hibás sor: 2, nincs ilyen"));
         row("no name", "rename", "2\n", start, QStringLiteral("Hibás sor: 1, sorszámot és nevet"));
@@ -368,6 +371,21 @@ private slots:
         QStringList now;
         for (const tLay &l : doc->layers().readAll()) now << QString::number(l.gNr) + u' ' + l.Name;
         QCOMPARE(now.join(QStringLiteral(", ")), layers);
+    }
+
+    void textFilesAreInTheCodePageOfLayerFiles()
+    {
+        const auto doc = inMemory();
+        const QByteArray word("\xCA\xEE\xEB\xEE\xE4\xE5\xF6");
+        const auto nameIn = [&](const char *codePage) {
+            QV_DOC_CONTROLS::setLayerFileCodePage(QLatin1String(codePage));
+            writeBytes(file("list.txt"), "1 " + word);
+            doc->layers().renameFromFile(file("list.txt"));
+            QV_DOC_CONTROLS::setLayerFileCodePage({});
+            return doc->layers().findByNumber(1)->Name;
+        };
+        QCOMPARE(nameIn("windows-1251"), QStringLiteral("Колодец"));
+        QCOMPARE(nameIn(""), QStringLiteral("Ęîëîäĺö"));
     }
 
     void thePaletteIsTheOneDrawingsShare()

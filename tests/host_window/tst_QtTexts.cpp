@@ -9,11 +9,15 @@
 #include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 #include <QToolButton>
@@ -84,6 +88,32 @@ private slots:
         m_services->language()->setForThisRun(English);
         QCoreApplication::sendPostedEvents();
         QCOMPARE(textsOf(files), english);
+    }
+
+    void thePrintDialogFollows()
+    {
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        QPrintDialog dialog(&printer);
+        // Units and numbers of pages on a sheet are signs, not texts.
+        static const QRegularExpression sign(QStringLiteral("^(\\d.*|\\.\\.\\.|OK|mm|[A-Z]?\\d+.*)$"));
+        const auto said = [&dialog] {
+            QStringList all = textsOf(dialog);
+            for (QGroupBox *g : dialog.findChildren<QGroupBox *>()) all << g->title();
+            all.removeIf([](const QString &s) { return sign.match(s).hasMatch(); });
+            return all;
+        };
+        const QStringList english = said();
+        QVERIFY(english.contains(QStringLiteral("Print range")) &&
+                english.contains(QStringLiteral("Location:")));
+        for (int id : {Hungarian, Romanian, Vietnamese}) {
+            m_services->language()->setForThisRun(id);
+            QPrintDialog own(&printer);
+            QStringList left;
+            for (const QString &s : textsOf(own))
+                if (english.contains(s)) left << s;
+            QCOMPARE(left.join(u'|'), QString());
+        }
     }
 
     void textsKeepTheirPlacesAndKeys_data()

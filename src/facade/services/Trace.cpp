@@ -3,6 +3,7 @@
 #include "facade/services/Language.h"
 #include "facade/services/clsDebug.h"
 
+#include <QDebug>
 #include <QFile>
 
 #include <algorithm>
@@ -30,6 +31,8 @@ void setCallLog(bool on) { state().callLog = on; }
 void setLogFileName(const QString &path) { state().logFile = path; }
 bool debugFlag() { return state().debug; }
 void setDebugFlag(bool on) { state().debug = on; }
+
+void tellDebugger(const char *line) { qDebug("%s", line); }
 
 /// One quoted line: inner quotes are doubled, carriage return and line feed end it.
 void Trace::write(const char *what) const

@@ -13,6 +13,8 @@ void setLogFileName(const QString &path);
 bool debugFlag();
 void setDebugFlag(bool on);
 
+void tellDebugger(const char *line);            ///< diagnostic line for who debugs the program; not logged
+
 /// Writes "type.member >>" now, "type.member <n>" at each step and "type.member <<" at its end, while the
 /// trace switch is on. Takes literals and builds nothing while the switch is off. The log is opened and
 /// closed for every line.

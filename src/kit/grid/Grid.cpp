@@ -27,14 +27,10 @@ Grid::Grid(QWidget *parent)
     : QWidget(parent), m_model(new GridModel(this)), m_selection(new GridSelection(*m_model, this)),
       m_delegate(new GridDelegate(*m_model, this)), m_input(new GridInput(*m_model, *m_delegate, this)),
       m_filter(new FilterLine(this)), m_box(new GroupBox(this)),
-      m_table(new GridTable(*m_model, *m_delegate, this)), m_header(new GridHeader(m_table))
+      m_table(new GridTable(*m_model, *m_delegate, this)), m_header(m_table->header())
 {
-    m_table->setHeader(m_header);
-    m_header->show();
     buildLayout();
     attach(*m_table);
-    m_table->setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
-    m_input->watch(*m_table, [this](int line) { m_table->setDropLine(line); });
     m_input->watch(*m_header);
     connectViews();
     connectTools();
@@ -60,14 +56,17 @@ void Grid::buildLayout()
 }
 
 /// Both views share selection, current cell and delegate.
-void Grid::attach(QAbstractItemView &view)
+void Grid::attach(LineView &view)
 {
     QItemSelectionModel *const own = view.selectionModel();
     view.setSelectionModel(m_selection);
     if (own != m_selection) delete own;
+    view.setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
+    m_input->watch(view, [&view](int line) { view.setDropLine(line); });
     connect(&view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &i) {
-        const bool edits = i.flags() & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
-        if (!edits && m_model->sourceRow(i) >= 0) emit rowActivated(m_model->sourceRow(i));
+        const bool edits = m_editStart == EditStart::DoubleClick && i.flags() & Qt::ItemIsEditable;
+        const int row = m_model->sourceRow(i);
+        if (!edits && !m_input->wasOnCheckMark() && row >= 0) emit rowActivated(row);
     });
 }
 
@@ -118,6 +117,8 @@ void Grid::connectTools()
     connect(m_header, &QHeaderView::sectionResized, this, [this] {
         if (!m_quiet) emit columnsChanged();
     });
+    connect(m_header, &QHeaderView::sectionHandleDoubleClicked, this,
+            [this](int column) { m_header->resizeSection(column, contentWidth(column)); });
 }
 
 void Grid::setSource(GridSource *source)
@@ -234,7 +235,7 @@ void Grid::place(int row)
     if (!isEditing()) placePending();
 }
 
-bool Grid::isEditing() const { return m_table->isEditing() || (m_cards && m_cards->isEditing()); }
+bool Grid::isEditing() const { return std::ranges::any_of(views(), &LineView::isEditing); }
 
 void Grid::placePending()
 {
@@ -289,6 +290,7 @@ void Grid::makeCurrent(int row)
 
 std::vector<int> Grid::selectedRows() const { return m_selection->shownRows(); }
 int Grid::selectedCount() const { return m_selection->shownCount(); }
+bool Grid::hasSelection() const { return m_selection->isAnyShown(); }
 void Grid::selectRows(std::span<const int> rows)
 {
     m_selection->setRows(rows);
@@ -302,8 +304,7 @@ void Grid::selectAll()
 void Grid::setTitle(const QString &name)
 {
     setAccessibleName(name);
-    m_table->setAccessibleName(name);
-    if (m_cards) m_cards->setAccessibleName(name);
+    for (LineView *view : views()) view->setAccessibleName(name);
 }
 
 void Grid::setListOnly(bool on)
@@ -326,23 +327,41 @@ void Grid::setAllowEdit(bool on)
     arm();
 }
 
+void Grid::setEditStart(EditStart how)
+{
+    m_editStart = how;
+    arm();
+}
+
+void Grid::stylesChanged()
+{
+    m_model->forgetStyles();
+    activeView()->viewport()->update();
+}
+
 void Grid::setDragOut(bool on)
 {
     m_dragsOut = on;
     arm();
 }
 
+std::vector<LineView *> Grid::views() const
+{
+    std::vector<LineView *> all{m_table};
+    if (m_cards) all.push_back(m_cards);
+    return all;
+}
+
 /// What both views are told alike.
 void Grid::arm()
 {
-    for (QAbstractItemView *view :
-         {static_cast<QAbstractItemView *>(m_table), static_cast<QAbstractItemView *>(m_cards)}) {
-        if (!view) continue;
+    QAbstractItemView::EditTriggers starts = QAbstractItemView::EditKeyPressed;
+    if (m_editStart == EditStart::DoubleClick) starts |= QAbstractItemView::DoubleClicked;
+    if (m_editStart == EditStart::SecondClick) starts |= QAbstractItemView::SelectedClicked;
+    for (LineView *view : views()) {
         view->setSelectionMode(m_multi ? QAbstractItemView::ExtendedSelection
                                        : QAbstractItemView::SingleSelection);
-        view->setEditTriggers(m_allowEdit
-                                  ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                                  : QAbstractItemView::NoEditTriggers);
+        view->setEditTriggers(m_allowEdit ? starts : QAbstractItemView::NoEditTriggers);
         view->setDragEnabled(m_dragsOut);
     }
 }
@@ -350,7 +369,8 @@ void Grid::arm()
 void Grid::setTooltips(bool on) { m_model->tooltips = on; }
 GridStyles &Grid::formatStyles() { return m_model->formatStyles(); }
 int Grid::rowWithId(qint64 id) const { return m_model->rowWithId(id); }
-QTreeView *Grid::table() const { return m_table; }
+QAbstractItemView *Grid::table() const { return m_table; }
+int Grid::columnWidth(int column) const { return m_header->widthOf(column); }
 
 void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColumn)
 {
@@ -360,8 +380,7 @@ void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColu
 void Grid::setPictureSize(QSize size)
 {
     m_delegate->setPictureSize(size);
-    m_table->doItemsLayout();
-    if (m_cards) m_cards->doItemsLayout();
+    for (LineView *view : views()) view->doItemsLayout();
 }
 
 void Grid::dragOut()
@@ -370,7 +389,7 @@ void Grid::dragOut()
     if (!rows) return;
     auto *const drag = new QDrag(activeView()); // Qt's after exec()
     drag->setMimeData(rows);
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    drag->exec(Qt::CopyAction | Qt::MoveAction, m_source->dragAction());
 }
 
 void Grid::timerEvent(QTimerEvent *event)

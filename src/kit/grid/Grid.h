@@ -14,7 +14,6 @@
 #include <optional>
 
 class QAbstractItemView;
-class QTreeView;
 
 namespace QV_DOC_CONTROLS {
 
@@ -27,6 +26,7 @@ class GridModel;
 class GridSelection;
 class GridTable;
 class GroupBox;
+class LineView;
 class SheetSource;
 
 /// Codes of the view styles, as GridView events carry them.
@@ -57,6 +57,7 @@ public:
     void setCurrentRow(int row); ///< makes it visible and the selected one; a filter that hides it goes
     std::vector<int> selectedRows() const;          ///< shown ones, in the order of the grid
     int selectedCount() const;                      ///< shown ones
+    bool hasSelection() const;                      ///< as selectedCount() > 0, at once
     void selectRows(std::span<const int> rows);     ///< replaces the selection
     void selectAll();                               ///< every shown row
     /// Makes the next row current whose shown text is `text`, or else begins with it, or else contains it;
@@ -68,10 +69,16 @@ public:
     void setListOnly(bool on);                      ///< without filter line and group-by box
     void setMultiSelection(bool on);
     void setAllowEdit(bool on);
+    /// What begins to edit a cell, beside F2: a double click, which rowActivated() is for otherwise, or a
+    /// click on the row that is selected.
+    enum class EditStart { DoubleClick, SecondClick, KeyOnly };
+    void setEditStart(EditStart how);
+    void stylesChanged();                           ///< rows wear other styles now; same values
     void setTooltips(bool on);
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
     void setPictureSize(QSize size);                ///< of pictures in cells, device-independent pixels
+    int columnWidth(int column) const;              ///< pixels; of a hidden column the one it had
     GridStyles &formatStyles();
 
     GridView view() const { return m_view; }
@@ -80,11 +87,13 @@ public:
     void setFilterText(const QString &text);
     void focusFilter();
     void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
+    void collapseBandOf(int row); ///< the innermost open band over the row; asked again, the one over that
+    bool canCollapseBandOf(int row) const { return openBandOf(row) >= 0; }
     GridState state() const;
     bool setState(const GridState &state);          ///< false = no column of it is here, nothing changed
     std::unique_ptr<SheetSource> sheet()
         const; ///< what is shown, for paper and clipboard; for as long as the grid stays
-    QTreeView *table() const;
+    QAbstractItemView *table() const;               ///< the table view, shown or not
     QAbstractItemView *activeView() const;
 
     const std::vector<GridColumn> &columns() const override;
@@ -114,19 +123,22 @@ private:
     void buildLayout();
     void connectViews();
     void connectTools();
-    void attach(QAbstractItemView &view);
+    void attach(LineView &view);
+    std::vector<LineView *> views() const;          ///< those made so far
     GridCards &cards();
     void relist(const std::function<void()> &change);
     void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace);
     void showCurrent(int column);
     void currentChanged(const QModelIndex &now);
     void toggleBand(int band);
+    int openBandOf(int row) const;
     void place(int row);
     void placePending();
     void applyFilter();
     void updateCounts();
     void columnsMoved();
     int fittingWidth(int column) const;
+    int contentWidth(int column) const;
     void resetColumns();
     void sortBy(int column, bool adding);
     void seek(const QString &letter);
@@ -149,6 +161,7 @@ private:
     int m_current = -1;                             ///< the record last made current, even when not shown
     std::vector<int> m_pending;                     ///< rows edited while an editor is open
     int m_hidden = 0;                               ///< selected rows that the filter hides
+    EditStart m_editStart = EditStart::DoubleClick;
     bool m_allowEdit = false, m_multi = false, m_dragsOut = false, m_quiet = false;
     QString m_sought;                               ///< letters typed to search
     QElapsedTimer m_soughtAt;

@@ -3,7 +3,6 @@
 #include "kit/grid/GridDelegate.h"
 #include "kit/grid/GridModel.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -12,27 +11,24 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr int kCardLetters = 36, kCompactLetters = 26;          ///< width of a card in average letters
+constexpr int kValueLetters = 20;                               ///< room of a value, in average letters
+constexpr int kLeastCaption = 16, kMostCaption = 40;            ///< of a compact card, likewise
+constexpr int kMostTitle = 40;                                  ///< of a field's name
+constexpr int kMeasured = 200;                                  ///< cards that the width is taken from
 
 } // namespace
 
 GridCards::GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : QAbstractItemView(parent), m_model(model), m_delegate(delegate)
+    : LineView(model, delegate, parent)
 {
-    setItemDelegate(&delegate);
-    setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAcceptDrops(true);
-    setTabKeyNavigation(false);
-    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(&model, change, this, [this] { m_stale = true, scheduleDelayedItemsLayout(); });
-    connect(&model, &QAbstractItemModel::rowsMoved, this, [this] { viewport()->update(); });
 }
 
-void GridCards::setDropLine(int line)
+void GridCards::linesChanged(int)
 {
-    if (std::exchange(m_dropLine, line) != line) viewport()->update();
+    m_stale = true;
+    scheduleDelayedItemsLayout();
 }
 
 void GridCards::setColumns(std::vector<int> inOrder, bool compact)
@@ -42,20 +38,26 @@ void GridCards::setColumns(std::vector<int> inOrder, bool compact)
     doItemsLayout();
 }
 
-QStyleOptionViewItem GridCards::optionFor() const
+int GridCards::captionWidth() const
 {
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
-    return option;
+    const auto &rows = m_model.engine().shownRows();
+    QString longest;
+    for (size_t i = 0; i < std::min(rows.size(), size_t(kMeasured)); ++i)
+        if (const QString caption = m_model.cardCaption(rows[i]); caption.size() > longest.size())
+            longest = caption;
+    const int letter = fontMetrics().averageCharWidth();
+    return std::clamp(fontMetrics().horizontalAdvance(longest) + 2 * letter, kLeastCaption * letter,
+                      kMostCaption * letter);
 }
 
-/// What stands in a card, and its size.
+/// What stands in a card, and how much room that needs.
 void GridCards::arrangeFields()
 {
-    const QStyleOptionViewItem option = optionFor();
+    const QStyleOptionViewItem option = cellOption();
     const int line = m_delegate.lineHeight(option), letter = fontMetrics().averageCharWidth();
     int bottom = line;
     m_fields.clear();
+    m_titles = 0;
     for (int c : m_columns) {
         const GridColumn *column = m_model.column(c);
         const bool picture = column && column->kind == CellKind::Picture;
@@ -63,15 +65,20 @@ void GridCards::arrangeFields()
         const int height = picture ? std::max(line, m_delegate.pictureSize().height() + 2) : line;
         m_fields.push_back({c, bottom, height, !m_compact});
         bottom += height;
+        if (!m_compact) m_titles = std::max(m_titles, fontMetrics().horizontalAdvance(column->caption));
     }
-    m_card = {(m_compact ? kCompactLetters : kCardLetters) * letter, bottom + 2};
+    m_titles = std::min(m_titles, kMostTitle * letter) + 2 * GridDelegate::padding(fontMetrics());
+    m_least = m_compact ? captionWidth() : m_titles + kValueLetters * letter;
+    m_card.setHeight(bottom + 2);
 }
 
 void GridCards::arrange() const
 {
     if (!std::exchange(m_stale, false)) return;
-    const int gap = GridDelegate::padding(fontMetrics()), bandHeight = m_delegate.lineHeight(optionFor());
-    m_perLine = std::max(1, (viewport()->width() - gap) / (m_card.width() + gap));
+    const int gap = GridDelegate::padding(fontMetrics()), bandHeight = m_delegate.lineHeight(cellOption());
+    const int room = viewport()->width() - gap;
+    m_perLine = std::max(1, room / (m_least + gap));
+    m_card.setWidth(std::max(m_least, room / m_perLine - gap));
     m_blocks.clear();
     const RowEngine &engine = m_model.engine();
     int top = gap;
@@ -125,7 +132,7 @@ void GridCards::updateGeometries()
 {
     arrange();
     verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setSingleStep(m_delegate.lineHeight(optionFor()));
+    verticalScrollBar()->setSingleStep(m_delegate.lineHeight(cellOption()));
     verticalScrollBar()->setRange(0, std::max(0, m_height - viewport()->height()));
     QAbstractItemView::updateGeometries();
 }
@@ -144,13 +151,13 @@ QRect GridCards::contentRect(int line) const
     const Block *block = blockOf(line);
     if (!block) return {};
     const int gap = GridDelegate::padding(fontMetrics());
-    if (block->band) return {0, block->top, viewport()->width(), m_delegate.lineHeight(optionFor())};
+    if (block->band) return {0, block->top, viewport()->width(), m_delegate.lineHeight(cellOption())};
     const int place = line - block->line;
     return {QPoint(gap + place % m_perLine * (m_card.width() + gap),
                    block->top + place / m_perLine * (m_card.height() + gap)), m_card};
 }
 
-QRect GridCards::cardRect(int line) const { return contentRect(line).translated(0, -verticalOffset()); }
+QRect GridCards::lineRect(int line) const { return contentRect(line).translated(0, -verticalOffset()); }
 
 int GridCards::fieldOf(int column) const
 {
@@ -160,18 +167,18 @@ int GridCards::fieldOf(int column) const
 
 QRect GridCards::fieldRect(const QRect &card, const Field &field) const
 {
-    const int title = field.titled ? card.width() * 2 / 5 : 0;
+    const int title = field.titled ? m_titles : 0;
     return {card.left() + 1 + title, card.top() + field.top, card.width() - 2 - title, field.height};
 }
 
 QRect GridCards::visualRect(const QModelIndex &index) const
 {
     if (!index.isValid()) return {};
-    const QRect card = cardRect(index.row());
+    const QRect card = lineRect(index.row());
     if (m_model.bandOf(index) >= 0) return card;
     const int field = fieldOf(index.column());
     if (field >= 0) return fieldRect(card, m_fields[size_t(field)]);
-    return {card.left(), card.top(), card.width(), m_delegate.lineHeight(optionFor())};
+    return {card.left(), card.top(), card.width(), m_delegate.lineHeight(cellOption())};
 }
 
 int GridCards::lineNear(QPoint content) const
@@ -273,17 +280,9 @@ void GridCards::setSelection(const QRect &rect, QItemSelectionModel::SelectionFl
 
 QRegion GridCards::visualRegionForSelection(const QItemSelection &) const { return viewport()->rect(); }
 
-QItemSelectionModel::SelectionFlags GridCards::selectionCommand(const QModelIndex &index,
-                                                                const QEvent *event) const
-{
-    const bool shift = QApplication::keyboardModifiers() & Qt::ShiftModifier;
-    if (!shift && m_model.bandOf(index) >= 0) return QItemSelectionModel::NoUpdate;
-    return QAbstractItemView::selectionCommand(index, event);
-}
-
 void GridCards::paintCard(QPainter &painter, QStyleOptionViewItem option, int line) const
 {
-    const QRect card = cardRect(line);
+    const QRect card = lineRect(line);
     const QModelIndex head = m_model.index(line, 0);
     const bool selected = selectionModel()->isSelected(head),
                current = currentIndex().row() == line && hasFocus();
@@ -321,7 +320,7 @@ void GridCards::paintEvent(QPaintEvent *event)
 {
     arrange();
     QPainter painter(viewport());
-    QStyleOptionViewItem option = optionFor();
+    QStyleOptionViewItem option = cellOption();
     painter.setFont(option.font);
     const int top = event->rect().top() + verticalOffset(),
               bottom = event->rect().bottom() + verticalOffset();
@@ -331,17 +330,14 @@ void GridCards::paintEvent(QPaintEvent *event)
     for (; block != m_blocks.end() && block->top <= bottom; ++block) {
         const int skipped = block->band ? 0 : std::max(0, (top - block->top) / pitch) * m_perLine;
         for (int line = block->line + skipped; line < block->line + block->count; ++line) {
-            option.rect = cardRect(line);
+            option.rect = lineRect(line);
             if (option.rect.top() > event->rect().bottom()) break;
             option.state.setFlag(QStyle::State_HasFocus, currentIndex().row() == line && hasFocus());
             if (block->band) m_delegate.paintBand(&painter, option, m_model.engine().bandAt(line));
             else paintCard(painter, option, line);
         }
     }
-    if (m_dropLine < 0) return;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(cardRect(m_dropLine).adjusted(1, 1, -1, -1));
+    paintDropLine(painter);
 }
 
 } // namespace QV_DOC_CONTROLS

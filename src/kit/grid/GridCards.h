@@ -1,35 +1,33 @@
 #pragma once
 
-#include "kit/grid/GridTable.h"
+#include "kit/grid/LineView.h"
 
 #include <vector>
 
 namespace QV_DOC_CONTROLS {
 
-/// Cards and compact cards: a card for each row, in lines of as many as fit; bands over the full width.
+/// Cards and compact cards: a card for each row, in lines of as many as fit, which share the width; bands
+/// over the full width.
 ///
 /// A card has a caption and a field for each shown column; a compact card only its pictures below the
 /// caption. Up and Down go from field to field and on to the next card, Left and Right from card to card.
-class GridCards final : public QAbstractItemView {
+class GridCards final : public LineView {
     Q_OBJECT
 public:
     GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent);
-    void setCalls(ViewCalls calls) { m_calls = std::move(calls); }
-    void setDropLine(int line);
     void setColumns(std::vector<int> inOrder, bool compact);
-    bool isEditing() const { return state() == EditingState; }
 
+    QRect lineRect(int line) const override;                    ///< of a card; a band's: the full width
     QRect visualRect(
         const QModelIndex &index) const override; ///< of the field; of the caption where there is none
-    QRect cardRect(int line) const;                             ///< on the viewport; a band's: the full width
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
     QModelIndex indexAt(const QPoint &point) const override;
-    void keyboardSearch(const QString &search) override { m_calls.typed(search); }
     void reset() override;
     void doItemsLayout() override;
     bool isIndexHidden(const QModelIndex &) const override { return false; }
 
 protected:
+    void linesChanged(int first) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -39,15 +37,13 @@ protected:
     int verticalOffset() const override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
-                                                         const QEvent *event) const override;
-    void startDrag(Qt::DropActions) override { m_calls.dragOut(); }
 
 private:
     struct Field { int column, top, height; bool titled; };     ///< within a card
     struct Block { int line, count, top; bool band; };          ///< a band, or the cards up to the next one
     void arrange() const;
     void arrangeFields();
+    int captionWidth() const;                                   ///< that the first cards ask for
     const Block *blockOf(int line) const;
     int lineNear(QPoint content) const;                         ///< -1 = none there
     int fieldOf(int column) const;
@@ -55,19 +51,15 @@ private:
     QRect fieldRect(const QRect &card, const Field &field) const;
     int lineBeside(int line, int steps) const;                  ///< the card so many lines of cards below
     void paintCard(QPainter &painter, QStyleOptionViewItem option, int line) const;
-    QStyleOptionViewItem optionFor() const;
 
-    GridModel &m_model;
-    GridDelegate &m_delegate;
-    ViewCalls m_calls;
     std::vector<int> m_columns;
     bool m_compact = false;
     std::vector<Field> m_fields;
-    QSize m_card;
+    int m_titles = 0, m_least = 0;                              ///< width of field names; of a card at least
+    mutable QSize m_card;
     mutable std::vector<Block> m_blocks;
     mutable bool m_stale = true; ///< blocks are of other lines, or another width
     mutable int m_perLine = 1, m_height = 0;
-    int m_dropLine = -1;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -1,7 +1,6 @@
 #include "kit/grid/Grid.h"
 
 #include "kit/forms/Twips.h"
-#include "kit/grid/CardsAccessible.h"
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/GridCards.h"
 #include "kit/grid/GridHeader.h"
@@ -66,11 +65,16 @@ void Grid::resetColumns()
     }
 }
 
-/// The column's own width, or as wide as its caption and its first rows.
 int Grid::fittingWidth(int c) const
 {
     const GridColumn &column = columns()[size_t(c)];
-    if (column.width > 0) return pixelsOf(column.width, *this);
+    return column.width > 0 ? pixelsOf(column.width, *this) : contentWidth(c);
+}
+
+/// As wide as the caption and the first rows.
+int Grid::contentWidth(int c) const
+{
+    const GridColumn &column = columns()[size_t(c)];
     const QFontMetrics letters(m_table->font());
     int width = m_header->sectionSizeHint(c);
     if (column.kind == CellKind::Check) return width;
@@ -110,6 +114,9 @@ void Grid::columnsMoved()
 {
     const std::vector<int> shown = shownColumns();
     m_model->searchColumns(shown);
+    const QModelIndex now = m_selection->currentIndex();
+    if (now.isValid() && !shown.empty() && std::ranges::find(shown, now.column()) == shown.end())
+        m_selection->setCurrentIndex(now.siblingAtColumn(shown.front()), QItemSelectionModel::NoUpdate);
     if (m_cards) m_cards->setColumns(shown, m_view == GridView::CardMin);
     if (!m_quiet && !filterText().isEmpty()) applyFilter();
     m_table->viewport()->update();
@@ -159,6 +166,21 @@ void Grid::toggleBandOf(int row)
     const std::vector<int> closed = m_model->engine().closedBandsOver(row),
                            over = m_model->engine().bandsOver(row);
     if (!over.empty()) toggleBand(closed.empty() ? over.back() : closed.front());
+}
+
+/// The innermost open band over the row that shows; -1 = none.
+int Grid::openBandOf(int row) const
+{
+    if (!m_source || row < 0) return -1;
+    const std::vector<int> over = m_model->engine().bandsOver(row),
+                           closed = m_model->engine().closedBandsOver(row);
+    const auto end = closed.empty() ? over.end() : std::ranges::find(over, closed.front());
+    return end == over.begin() ? -1 : *std::prev(end);
+}
+
+void Grid::collapseBandOf(int row)
+{
+    if (const int band = openBandOf(row); band >= 0) toggleBand(band);
 }
 
 QString Grid::filterText() const { return m_filter->text(); }
@@ -224,15 +246,11 @@ void Grid::seek(const QString &letter)
 GridCards &Grid::cards()
 {
     if (m_cards) return *m_cards;
-    CardsAccessible::install();
     m_cards = new GridCards(*m_model, *m_delegate, this);
-    m_cards->setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
     m_cards->setAccessibleName(accessibleName());
     layout()->addWidget(m_cards);
     static_cast<QVBoxLayout *>(layout())->setStretchFactor(m_cards, 1);
-    m_cards->setModel(m_model);
     attach(*m_cards);
-    m_input->watch(*m_cards, [this](int line) { m_cards->setDropLine(line); });
     arm();
     return *m_cards;
 }

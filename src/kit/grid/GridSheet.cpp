@@ -3,9 +3,6 @@
 #include "kit/grid/Grid.h"
 #include "kit/grid/GridModel.h"
 
-#include <QHeaderView>
-#include <QTreeView>
-
 namespace QV_DOC_CONTROLS {
 
 GridSheet::GridSheet(const Grid &grid, const GridModel &model)
@@ -19,7 +16,7 @@ std::vector<SheetSource::Column> GridSheet::sheetColumns() const
     for (int c : m_columns) {
         const GridColumn &column = *m_model.column(c);
         const bool right = column.kind == CellKind::Number || column.kind == CellKind::Color;
-        columns.push_back({column.caption, m_grid.table()->header()->sectionSize(c),
+        columns.push_back({column.caption, m_grid.columnWidth(c),
                            right ? Qt::AlignRight : Qt::AlignLeft});
     }
     return columns;

@@ -1,46 +1,53 @@
 #pragma once
 
-#include <QTreeView>
-
-#include <functional>
+#include "kit/grid/GridHeader.h"
+#include "kit/grid/LineView.h"
 
 namespace QV_DOC_CONTROLS {
 
-class GridDelegate;
-class GridModel;
-
-/// What a view hands on to its grid.
-struct ViewCalls {
-    std::function<void()> dragOut;              ///< the selected rows
-    std::function<void(const QString &)> typed; ///< a letter to look for
-};
-
-/// The table view: cells under a header, bands over the full width.
-class GridTable final : public QTreeView {
+/// The table view: cells under a header, bands over the full width. All lines are of one height and scroll
+/// line by line.
+class GridTable final : public LineView {
     Q_OBJECT
 public:
     GridTable(GridModel &model, GridDelegate &delegate, QWidget *parent);
-    void setCalls(ViewCalls calls) { m_calls = std::move(calls); }
-    void setDropLine(int line);                 ///< framed while something is dragged over it; -1 = none
-    bool isEditing() const { return state() == EditingState; }
+    GridHeader *header() const { return m_header; }
+
+    QHeaderView *columnHeader() const override { return m_header; }
+    QRect lineRect(int line) const override;
     QRect visualRect(const QModelIndex &index) const override;  ///< of a band: the full width
-    void selectAll() override;                  ///< as one range
-    void keyboardSearch(const QString &search) override { m_calls.typed(search); }
+    QModelIndex indexAt(const QPoint &point) const override;
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+    void reset() override;
+    void doItemsLayout() override;
 
 protected:
-    void drawRow(QPainter *painter, const QStyleOptionViewItem &options,
-                 const QModelIndex &index) const override;
+    void linesChanged(int first) override;
     void paintEvent(QPaintEvent *event) override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;             ///< pixels across, lines down
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
-                                                         const QEvent *event) const override;
-    void startDrag(Qt::DropActions) override { m_calls.dragOut(); }
+    int horizontalOffset() const override { return m_header->offset(); }
+    int verticalOffset() const override;
+    bool isIndexHidden(const QModelIndex &index) const override;
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
 
 private:
-    GridModel &m_model;
-    GridDelegate &m_delegate;
-    ViewCalls m_calls;
-    int m_dropLine = -1;
+    struct Section { int column, left, width; };
+    std::vector<Section> sectionsIn(const QRect &rect) const;
+    void paintLine(QPainter &painter, QStyleOptionViewItem option, std::span<const Section> sections) const;
+    int lineHeight() const;
+    int lineAt(int y) const;                    ///< may be beyond the last
+    int wholeLines() const;                     ///< that the viewport has room for, at least one
+    int columnBeside(int column, int step) const;
+    void placeHeader();
+    void setScrollRanges();
+
+    GridHeader *m_header;
+    mutable int m_lineHeight = 0;               ///< 0 = to be asked for
+    bool m_arranging = false;
 };
 
 } // namespace QV_DOC_CONTROLS

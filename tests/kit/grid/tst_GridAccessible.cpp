@@ -8,7 +8,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 using namespace tests;
 
@@ -51,6 +51,7 @@ void tst_GridAccessible::tableCardsAndBandsSayWhatTheyShow()
     QCOMPARE(cell(0, 0)->text(QAccessible::Name), "csoport Látható: igen, 1 sor, kibontva");
     QCOMPARE(cell(2, 0)->text(QAccessible::Name), "csoport Látható: nem, 1 sor, összecsukva");
     QVERIFY(!cell(0, 0)->state().selectable);
+    QVERIFY(cell(0, 0)->state().expanded && cell(2, 0)->state().collapsed);
     QVERIFY(cell(1, 0)->state().selectable);
     QCOMPARE(cell(1, SampleRows::Name)->text(QAccessible::Name), "alma");
     QCOMPARE(cell(1, SampleRows::Name)->text(QAccessible::Description), "Név");
@@ -58,7 +59,7 @@ void tst_GridAccessible::tableCardsAndBandsSayWhatTheyShow()
     QVERIFY(cell(1, SampleRows::Visible)->state().checkable && cell(1, SampleRows::Visible)->state().checked);
     QCOMPARE(cell(1, SampleRows::Color)->text(QAccessible::Name), "szín 7");
     QCOMPARE(cell(1, SampleRows::Sample)->text(QAccessible::Name), "kép minta");
-    QVERIFY(cell(1, SampleRows::Name)->role() == (view == 0 ? QAccessible::TreeItem : QAccessible::Cell));
+    QVERIFY(cell(1, SampleRows::Name)->role() == QAccessible::Cell);
     grid.setCurrentRow(0);
     QVERIFY(cell(1, SampleRows::Name)->state().selected);
     grid.setSource(nullptr);
@@ -72,6 +73,8 @@ void tst_GridAccessible::headerFilterAndChipsHaveNames()
     Grid grid;
     grid.setSource(&rows);
     grid.setGroupLevels(std::vector<SortKey>{{SampleRows::Kind, SortOrder::Descending}});
+    grid.setSortKeys(std::vector<SortKey>{{SampleRows::Name}, {SampleRows::Nr, SortOrder::Descending}});
+    grid.showColumns(std::vector{0, 1, 3});
     grid.resize(800, 500);
     grid.show();
     const auto nameOf = [](QObject *of) {
@@ -80,6 +83,12 @@ void tst_GridAccessible::headerFilterAndChipsHaveNames()
     QAccessibleInterface *const table = QAccessible::queryAccessibleInterface(grid.table());
     QCOMPARE(table->child(0)->role(), QAccessible::ColumnHeader);
     QCOMPARE(table->child(0)->text(QAccessible::Name), "Réteg sorszáma");
+    QCOMPARE(table->child(0)->text(QAccessible::Description), "csökkenő 2");
+    QVERIFY(table->child(2)->state().invisible && !table->child(1)->state().invisible);
+    QCOMPARE(table->tableInterface()->cellAt(1, 1)->tableCellInterface()->columnHeaderCells().first(),
+             table->child(1));
+    QCOMPARE(table->childAt(table->child(1)->rect().center().x(), table->child(1)->rect().center().y()),
+             table->child(1));
     QCOMPARE(nameOf(grid.findChild<FilterLine *>()->edit()), "Szűrés (Ctrl+F)");
     QCOMPARE(nameOf(grid.findChild<GroupChip *>()), "csoportosítás: Vonaltípus, csökkenő");
     QCOMPARE(QAccessible::queryAccessibleInterface(grid.findChild<GroupChip *>())->role(),

@@ -9,7 +9,7 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
-#include <QTreeView>
+#include <QAbstractItemView>
 #include <QWindow>
 
 using namespace tests;
@@ -23,7 +23,7 @@ private slots:
 
 static QPoint onScreen(Grid &grid, int line)
 {
-    QTreeView &table = *grid.table();
+    QAbstractItemView &table = *grid.table();
     const QPoint at = table.visualRect(table.model()->index(line, SampleRows::Name)).center();
     return table.viewport()->mapToGlobal(at) * grid.devicePixelRatioF();
 }

@@ -3,6 +3,7 @@
 
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/Grid.h"
+#include "kit/grid/GridTable.h"
 #include "kit/grid/GroupBox.h"
 
 #include <QApplication>
@@ -15,7 +16,6 @@
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
-#include <QTreeView>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -26,7 +26,7 @@ struct Shown {
     SampleRows rows{{"alma", "körte", "barack", "szilva", "alma 10", "alma 9"}};
     QDialog dialog;
     Grid grid{&dialog};
-    QTreeView &table = *grid.table();
+    GridTable &table = *grid.findChild<GridTable *>();
 
     Shown()
     {
@@ -378,7 +378,10 @@ void tst_GridInput::cardsAreWalkedAndEdited()
     s.key(Qt::Key_Right);
     QCOMPARE(s.grid.currentRow(), 1);
     QCOMPARE(cards.currentIndex().column(), int(SampleRows::Visible));
-    s.click(s.cell(4, SampleRows::Visible));
+    const QRect field =
+        cards.visualRect(s.cell(4, SampleRows::Visible)); // its box stands where the value begins
+    QTest::mouseClick(cards.viewport(), Qt::LeftButton, {},
+                      field.topLeft() + QPoint(field.height(), field.height()) / 2);
     QCOMPARE(s.rows.log.last(), "edit 104.Vis=true");
     for (int line = 0; line < 6; ++line)
         for (const int column : {SampleRows::Nr, SampleRows::Kind, SampleRows::Sample})

@@ -7,7 +7,7 @@
 #include <QAbstractItemModelTester>
 #include <QCollator>
 #include <QTest>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 #include <random>
 #include <set>
@@ -118,6 +118,7 @@ private:
     void edit(Grid &grid, SampleRows &rows);
     void refill(Grid &grid, SampleRows &rows, PlainGrid &plain);
     void select(Grid &grid, SampleRows &rows, PlainGrid &plain);
+    void look(Grid &grid);
     void makeCurrent(Grid &grid, SampleRows &rows, PlainGrid &plain);
     std::mt19937 m_random{20240607};
     qint64 m_nextId = 1;
@@ -191,6 +192,19 @@ void tst_GridWalk::select(Grid &grid, SampleRows &rows, PlainGrid &plain)
     for (int r : wanted) plain.selected.insert(rows.rowId(r));
 }
 
+/// What is scrolled to can be seen, painted, and hit by the mouse where it says it is.
+void tst_GridWalk::look(Grid &grid)
+{
+    QAbstractItemView &view = *grid.activeView();
+    const int lines = view.model()->rowCount();
+    if (lines == 0) return;
+    const QModelIndex at = view.model()->index(below(lines), below(5));
+    view.scrollTo(at);
+    QCOMPARE(view.indexAt(view.visualRect(at).center()).row(), at.row());
+    QVERIFY(view.viewport()->rect().contains(view.visualRect(at).topLeft()));
+    if (below(20) == 0) view.grab();
+}
+
 void tst_GridWalk::makeCurrent(Grid &grid, SampleRows &rows, PlainGrid &plain)
 {
     const std::vector<int> shown = plain.order();
@@ -257,6 +271,8 @@ void tst_GridWalk::tenThousandStepsAgreeWithThePlainestMeans()
         QCOMPARE(grid.selectedCount(), int(plain.selectedShown().size()));
         const int row = plain.current < 0 ? -1 : grid.rowWithId(plain.current);
         QCOMPARE(grid.currentRow(), row >= 0 && plain.fits(row) ? row : -1);
+        look(grid);
+        if (QTest::currentTestFailed()) return;
     }
 }
 

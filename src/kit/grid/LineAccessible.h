@@ -2,20 +2,23 @@
 
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QModelIndex>
 
 namespace QV_DOC_CONTROLS {
 
-class GridCards;
+class LineView;
 
-/// Cards for a screen reader: a table of lines by columns, as the table view is one.
-class CardsAccessible final : public QAccessibleWidget, public QAccessibleTableInterface {
+/// A view of lines for a screen reader: a table of lines by columns, the column headers first where it has
+/// any. Bands are cells that can be expanded.
+class LineAccessible final : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
-    static void install(); ///< makes it the interface of every GridCards; more than once is once
-    explicit CardsAccessible(GridCards &cards);
-    ~CardsAccessible() override;
+    static void install(); ///< makes it the interface of every LineView; more than once is once
+    static void tell(LineView &view, QAccessible::Event what, const QModelIndex &at); ///< whoever listens
+    explicit LineAccessible(LineView &view);
+    ~LineAccessible() override;
 
     void *interface_cast(QAccessible::InterfaceType type) override;
-    int childCount() const override { return rowCount() * columnCount(); }
+    int childCount() const override { return headers() + rowCount() * columnCount(); }
     QAccessibleInterface *child(int index) const override;
     QAccessibleInterface *childAt(int x, int y) const override;
     QAccessibleInterface *focusChild() const override;
@@ -40,12 +43,13 @@ public:
     bool isColumnSelected(int) const override { return false; }
     bool selectColumn(int) override { return false; }
     bool unselectColumn(int) override { return false; }
-    void modelChange(QAccessibleTableModelChangeEvent *) override { forgetCells(); }
+    void modelChange(QAccessibleTableModelChangeEvent *) override { forgetPieces(); }
 
 private:
-    void forgetCells();
-    GridCards &m_cards;
-    mutable QHash<int, QAccessible::Id> m_cells; ///< by child index
+    int headers() const;                        ///< children before the cells
+    void forgetPieces();
+    LineView &m_view;
+    mutable QHash<int, QAccessible::Id> m_pieces; ///< headers and cells, by child index
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -1,0 +1,227 @@
+#include "controls/ZOL3_LayInfo.h"
+
+#include "facade/contract/ResourcePicker.h"
+#include "facade/services/Language.h"
+#include "facade/services/Prompts.h"
+#include "facade/services/Text.h"
+#include "kit/ask/ErrorRelay.h"
+#include "kit/forms/ElidedLabel.h"
+#include "kit/forms/GroupRole.h"
+#include "kit/forms/LeavingCheck.h"
+#include "kit/forms/PropertyBag.h"
+#include "kit/tools/Icons.h"
+#include "rules/Numeric.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+
+namespace QV_DOC_CONTROLS {
+
+using ZolWDoc::tLay;
+
+namespace {
+
+constexpr quint8 kByUser = 0;                   ///< the change mode of what the user types or picks
+
+constexpr BagRow kBag[] = {
+    {"Enabled", "Enabled", true},
+    {"Font", "Font", ContainerFont{}},
+    {"InfoMode", "InfoMode", false},
+    {"VisibleIcon", "VisibleIcon", false},
+};
+
+} // namespace
+
+ZOL3_LayInfo::ZOL3_LayInfo(QWidget *parent)
+    : QWidget(parent), lblLay(new QLabel(this)), txtLayNr(new QLineEdit(this)),
+      lblLayId(new ElidedLabel(this)), fraModLay(new QFrame(this)), cmdModLay(new QPushButton(fraModLay))
+{
+    announceAsGroup<ZOL3_LayInfo>();
+    lblLay->setObjectName(QStringLiteral("lblLay"));
+    lblLay->setBuddy(txtLayNr);
+    txtLayNr->setObjectName(QStringLiteral("txtLayNr"));
+    txtLayNr->setAlignment(Qt::AlignRight);
+    // digits only, however they come: keys, paste, drop, input method
+    const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    txtLayNr->setValidator(new QRegularExpressionValidator(digits, txtLayNr));
+    txtLayNr->installEventFilter(this);
+    lblLayId->setObjectName(QStringLiteral("lblLayId"));
+    fraModLay->setObjectName(QStringLiteral("fraModLay"));
+    cmdModLay->setObjectName(QStringLiteral("cmdModLay"));
+    cmdModLay->setAutoDefault(false);           // Enter elsewhere on the form is not for this button
+
+    auto *const frame = new QHBoxLayout(fraModLay);
+    frame->setContentsMargins({});
+    frame->addWidget(cmdModLay);
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins({});
+    for (QWidget *child : std::initializer_list<QWidget *>{lblLay, txtLayNr, lblLayId, fraModLay})
+        row->addWidget(child, child == lblLayId ? 1 : 0);
+    setFocusProxy(txtLayNr);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    connect(cmdModLay, &QPushButton::clicked, this, &ZOL3_LayInfo::click);
+    new LeavingCheck(*txtLayNr, [this] {
+        if (txtLayNr->isModified()) takeTyped(); // what was only shown is not read back
+    });
+    connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
+            &ZOL3_LayInfo::ml_RuntimeSupport_LanguageChanged);
+    ml_RuntimeSupport_LanguageChanged();
+    RefreshControls();
+}
+
+ZOL3_LayInfo::~ZOL3_LayInfo() { TearDown(); }
+
+void ZOL3_LayInfo::setoDoc(ZolWDoc::ZOLW_Doc *doc)
+{
+    if (!doc) tellDebugger("QV_DOC_CONTROLS.ZOL4_LayInfo.set_oDoc invalid argument!"); // published spelling
+    if (doc && doc != m_doc) m_shown = {};      // identifiers mean nothing in another document
+    m_doc = doc;
+    showLayer();
+}
+
+void ZOL3_LayInfo::TearDown() { m_doc = nullptr; }
+
+void ZOL3_LayInfo::LetLayId(const QVariant &New_LayId, quint8 ChangeMode)
+{
+    if (!m_doc) return;
+    const auto lay = layerFor(New_LayId, [this](qint16 id) { return m_doc->layers().find(id); });
+    if (lay) take(*lay, ChangeMode);
+}
+
+void ZOL3_LayInfo::LetLayNr(const QVariant &New_LayNr, quint8 ChangeMode)
+{
+    if (!m_doc) return;
+    const auto lay = layerFor(New_LayNr, [this](qint16 nr) { return m_doc->layers().findByNumber(nr); });
+    if (!lay) return;
+    if (!m_notSetCurrentLayer) m_doc->layers().makeCurrent(*lay);
+    take(*lay, ChangeMode);
+}
+
+std::optional<tLay> ZOL3_LayInfo::layerFor(const QVariant &value, const Find &find)
+{
+    const QString text = value.toString();
+    const bool numeric = isNumeric(text);
+    const std::optional<qint16> number = shortValue(text);
+    const auto lay = number ? find(*number) : std::nullopt;
+    if (!lay) {
+        const Text reason =
+            numeric ? Text{32, u"Nincs ilyen számú réteg!"} : Text{42, u"Egész számot kell megadni!"};
+        prompts().tell({Icon::Exclamation, txt(Text{31, u"Hibás rétegszám"}), txt(reason)}, this);
+    }
+    return lay;
+}
+
+void ZOL3_LayInfo::take(const tLay &lay, quint8 changeMode)
+{
+    const bool differs = lay.LayId != m_shown.LayId;
+    m_shown = lay;
+    showLayer();
+    if (!differs || !Enabled()) return;         // a disabled control changes silently, on purpose
+    tLay copy = lay;
+    emit ChangeLay(changeMode, copy);
+}
+
+void ZOL3_LayInfo::showLayer()
+{
+    const bool none = m_shown.LayId == -1;
+    txtLayNr->setText(none ? QString() : QString::number(m_shown.gNr));
+    lblLayId->setText(m_shown.Name);
+    txtLayNr->setAccessibleDescription(m_shown.Name);
+    setAccessibleDescription(none ? QString() : txtLayNr->text() + u' ' + m_shown.Name);
+}
+
+/// Takes what stands in the field; what is refused gives way to the layer that stays.
+void ZOL3_LayInfo::takeTyped()
+{
+    const QPointer<ZOL3_LayInfo> alive(this);
+    ErrorRelay::reporting().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
+    if (alive) showLayer();
+}
+
+bool ZOL3_LayInfo::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != txtLayNr || event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    if (m_infoMode) return false;
+    const QPointer<ZOL3_LayInfo> alive(this);
+    takeTyped();
+    if (alive) txtLayNr->selectAll();
+    return true;
+}
+
+void ZOL3_LayInfo::click()
+{
+    Trace trace("ZOL3_LayInfo", "cmdModLay_Click");
+    const QPointer<ZOL3_LayInfo> alive(this);
+    ErrorRelay &user = ErrorRelay::reporting();
+    bool cancel = false;
+    if (!user.guard([&] { emit LayIdClickBefore(cancel); }) || cancel || !alive) return;
+    user.guard([this] { pick(); });
+    if (alive) user.guard([this] { emit LayIdClickAfter(); }); // however the choice ended
+}
+
+void ZOL3_LayInfo::pick()
+{
+    ResourcePicker *const picker = resourcePicker();
+    if (!m_doc || !picker) return;
+    const QPointer<ZOL3_LayInfo> alive(this);
+    const qint16 first = m_shown.LayId != -1 ? m_shown.LayId : m_doc->layers().currentId();
+    const std::optional<qint16> chosen = picker->pick(ZolWDoc::TableKind::Layers, *m_doc, first, this);
+    if (alive && chosen) LetLayId(*chosen, kByUser);
+}
+
+void ZOL3_LayInfo::setInfoMode(bool on)
+{
+    m_infoMode = on;
+    fraModLay->setVisible(!on);
+    txtLayNr->setReadOnly(on);
+    txtLayNr->setFrame(!on);
+    txtLayNr->setFocusPolicy(on ? Qt::ClickFocus : Qt::StrongFocus);
+    QPalette colors;
+    if (on) colors.setColor(QPalette::Base, Qt::transparent);
+    txtLayNr->setPalette(colors);
+    RefreshControls();
+}
+
+void ZOL3_LayInfo::setVisibleIcon(bool on)
+{
+    m_visibleIcon = on;
+    cmdModLay->setIcon(on ? toolIcon("layer") : QIcon());
+    RefreshControls();
+}
+
+void ZOL3_LayInfo::RefreshControls()
+{
+    const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("-00000"));
+    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height());
+    layout()->invalidate();
+    layout()->activate();
+    updateGeometry();
+}
+
+void ZOL3_LayInfo::ml_RuntimeSupport_LanguageChanged()
+{
+    lblLay->setText(txt(Text{43, u"Réteg  :"}));
+    cmdModLay->setText(txt(Text{1, u"Réteg..."}));
+    txtLayNr->setAccessibleName(txt(Text{22054, u"Rétegszám"}));
+    cmdModLay->setToolTip(txt(Text{22055, u"Réteg kiválasztása a rajz rétegei közül"}));
+    setAccessibleName(txt(Text{22056, u"Réteg"}));
+    RefreshControls();
+}
+
+QVariantMap ZOL3_LayInfo::propertyBag() const { return bagOf(*this, kBag); }
+void ZOL3_LayInfo::setPropertyBag(const QVariantMap &bag) { readBag(*this, kBag, bag); }
+
+void ZOL3_LayInfo::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) RefreshControls();
+}
+
+} // namespace QV_DOC_CONTROLS
