@@ -4,6 +4,9 @@
 # qvdc_fuzz(name SOURCES files...): tests/fuzz/fuzz_<name>.cpp with the sources it feeds, which are built afresh so
 # that the fuzzer sees their branches; the rest comes from the libraries. SECONDS is the length of its run in the tests.
 find_program(CLANGXX NAMES clang++ clang++-14)
+if(CCACHE)
+    set(CCACHE_COMMAND ${CCACHE})
+endif()
 set(fuzz_libraries QvDocServices QvDocContract Qt6::Core)
 
 function(qvdc_fuzz name)
@@ -18,7 +21,7 @@ function(qvdc_fuzz name)
         get_filename_component(unit ${source} NAME_WE)
         set(object ${CMAKE_CURRENT_BINARY_DIR}/fuzz/${name}/${unit}.o)
         add_custom_command(OUTPUT ${object} DEPENDS ${source} DEPFILE ${object}.d COMMAND_EXPAND_LISTS VERBATIM
-            COMMAND ${CLANGXX} -std=c++20 -O1 -g -fPIC -Wall -Wextra -fsanitize=fuzzer-no-link,address,undefined
+            COMMAND ${CCACHE_COMMAND} ${CLANGXX} -std=c++20 -O1 -g -fPIC -Wall -Wextra -fsanitize=fuzzer-no-link,address,undefined
                     -fno-sanitize-recover=undefined -I${PROJECT_SOURCE_DIR}/src
                     "-isystem$<JOIN:$<TARGET_PROPERTY:Qt6::Core,INTERFACE_INCLUDE_DIRECTORIES>,;-isystem>"
                     -MMD -MF ${object}.d -MT ${object} -c ${source} -o ${object}

@@ -1,5 +1,6 @@
 #include "window/MainWindow.h"
 
+#include "window/CodePageMenu.h"
 #include "window/DialogCalls.h"
 #include "window/HostServices.h"
 #include "window/WindowActions.h"
@@ -81,6 +82,8 @@ void MainWindow::buildActions()
     m_recent = new QMenu(this);
     m_menus[WindowActions::File]->insertMenu(action("saveAs"), m_recent);
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::showRecent);
+    m_codePages = new CodePageMenu(this);
+    m_menus[WindowActions::Settings]->addMenu(m_codePages);
 }
 
 void MainWindow::buildDialogs()
@@ -193,6 +196,7 @@ void MainWindow::retranslate()
     for (size_t i = 0; i < m_menus.size(); ++i) m_menus[i]->setTitle(txt(WindowActions::menus()[i]));
     for (const WindowActions::Row &row : WindowActions::rows()) action(row.name)->setText(txt(row.text));
     for (const DialogCall &call : dialogCalls()) action(call.name)->setText(txt(call.text));
+    m_codePages->retranslate();
     m_recent->setTitle(txt(Text{30414, u"&Legutóbbi rajzok"}));
     m_newElementPage->setWindowTitle(withoutKey(action("newElement")->text()));
     const QList<QToolBar *> bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);

@@ -13,6 +13,7 @@ namespace QV_DOC_CONTROLS { class clsDocDlgs; }
 
 namespace refhost {
 
+class CodePageMenu;
 class HostServices;
 struct DialogCall;
 
@@ -61,6 +62,7 @@ private:
     QDockWidget *m_newElementPage;
     std::vector<QMenu *> m_menus;                   ///< in the order of the menu bar
     QMenu *m_recent = nullptr;
+    CodePageMenu *m_codePages = nullptr;
     QActionGroup *m_tools = nullptr;
     QActionGroup *m_languages = nullptr;
     bool m_dark = false;

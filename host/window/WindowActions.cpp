@@ -13,7 +13,7 @@ constexpr bool kSeparated = true;
 
 constexpr Text kMenus[] = {
     {30400, u"&Fájl"},        {30401, u"&Nézet"}, {30402, u"&Rajzolás"},
-    {30403, u"&Párbeszédek"}, {30404, u"N&yelv"},
+    {30403, u"&Párbeszédek"}, {30517, u"&Beállítások"}, {30404, u"N&yelv"},
 };
 
 constexpr Text kHints[] = {

@@ -4,7 +4,7 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") {}
+clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") { m_groupRows.setDrags(groupDrags()); }
 clsJs_Layer::~clsJs_Layer() { TearDown(); }
 
 void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
@@ -13,6 +13,7 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     attach(doc, itemGrid);
     itemGrid.setMultiSelection(!singleSelection);
     m_groupGrid = groupGrid;
+    armDrags();
     if (!groupGrid) return;
     readBeside();
     m_groupRows.setGroups(std::move(m_readGroups));
@@ -72,6 +73,56 @@ void clsJs_Layer::narrowTo(int row)
         if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
 }
 
+void clsJs_Layer::setAllowEdit(bool on)
+{
+    TableManager::setAllowEdit(on);
+    armDrags();
+}
+
+/// What is dragged changes memberships: only where the table can be edited and has its groups beside it.
+void clsJs_Layer::armDrags()
+{
+    for (Grid *const g : {grid(), m_groupGrid})
+        if (g) g->setDragOut(AllowEdit() && m_groupGrid);
+}
+
+QMimeData *clsJs_Layer::dragData(std::span<const int> rows) const
+{
+    std::vector<qint16> ids;
+    for (const int row : rows) ids.push_back(qint16(rowId(row)));
+    return ids.empty() ? nullptr : m_drag.layers(ids);
+}
+
+bool clsJs_Layer::canDrop(const QMimeData &mime, const DropTarget &) const
+{
+    return m_drag.groupIn(mime).has_value();
+}
+
+/// A group dropped on the layers shows what is in it: it is chosen, and its layers are selected.
+void clsJs_Layer::drop(const QMimeData &mime, const DropTarget &)
+{
+    command([&] {
+        showGroup(*m_drag.groupIn(mime));
+        grid()->selectAll();
+    });
+}
+
+GroupDrags clsJs_Layer::groupDrags()
+{
+    return {[this](const std::vector<qint16> &groups) { return m_drag.groups(groups); },
+            [this](const QMimeData &mime, qint16 group) {
+                return canEditGroups() && m_drag.canDropOn(group, mime);
+            },
+            [this](const QMimeData &mime, qint16 group) {
+                command([&] { m_drag.dropOn(group, mime); });
+            }};
+}
+
+void clsJs_Layer::showGroup(qint16 group)
+{
+    if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));
+}
+
 void clsJs_Layer::chooseGroup(int row)
 {
     if (row < 0) return;
@@ -99,8 +150,10 @@ void clsJs_Layer::write(const QString &command, const std::function<void()> &bod
 /// A layer that is gone is not current any more; what the document made current instead is.
 void clsJs_Layer::forgetGone()
 {
-    if (m_current >= 0 && std::ranges::find(all(), m_current, &tLay::LayId) == all().end())
-        m_current = doc().layers().currentId();
+    if (m_current < 0 || currentLayerAsRead()) return;
+    m_current = doc().layers().currentId();
+    grid()->stylesChanged();
+    emit currentLayerMoved();
 }
 
 /// The delete key.
@@ -108,6 +161,27 @@ bool clsJs_Layer::removeRows(std::span<const int>)
 {
     command([this] { m_edits.remove(true); });
     return true;
+}
+
+/// The current layer stands out.
+RowStyles clsJs_Layer::styles(int row) const
+{
+    RowStyles styles = TableManager::styles(row);
+    styles.bold = rowId(row) == m_current;
+    return styles;
+}
+
+void clsJs_Layer::fill()
+{
+    TableManager::fill();
+    emit currentLayerMoved();
+}
+
+bool clsJs_Layer::edit(int row, int column, const QVariant &value)
+{
+    const bool stored = TableManager::edit(row, column, value);
+    if (stored && rowId(row) == m_current) emit currentLayerMoved();
+    return stored;
 }
 
 void clsJs_Layer::setbShowGroups(bool on)
@@ -127,6 +201,14 @@ void clsJs_Layer::setCurrentLayer(qint16 layId)
     if (!document()) return;
     if (layId != m_current) m_previous = std::exchange(m_current, layId);
     if (m_automatic) selectById(layId);
+    grid()->stylesChanged();
+    emit currentLayerMoved();
+}
+
+std::optional<tLay> clsJs_Layer::currentLayerAsRead() const
+{
+    const auto found = std::ranges::find(all(), m_current, &tLay::LayId);
+    return found == all().end() ? std::nullopt : std::optional(*found);
 }
 
 qint16 clsJs_Layer::previousLayer()

@@ -3,7 +3,9 @@
 #include "grids/LayerTable.h"
 #include "grids/frame/GroupRows.h"
 #include "grids/frame/TableManager.h"
+#include "grids/layer/LayerDrag.h"
 #include "grids/layer/LayerEdits.h"
+#include "grids/layer/LayerFiles.h"
 #include "grids/layer/LayerValues.h"
 
 #include <QSet>
@@ -29,11 +31,13 @@ public:
         m_automatic = on;
     } ///< a layer made current becomes the grid's current row
     void setbShowGroups(bool on) override;
+    void setAllowEdit(bool on) override;
     bool bShowVisibleItems() const { return m_onlyVisible; }
     void setbShowVisibleItems(bool on);                 ///< lists visible layers only
 
     qint16 currentLayer() const { return m_current; }   ///< identifier, -1 = none yet
     void setCurrentLayer(qint16 layId);                 ///< the layer current before becomes the previous one
+    std::optional<ZolWDoc::tLay> currentLayerAsRead() const; ///< asks no document; empty = none or unknown
     qint16 previousLayer(); ///< the current one when the previous one is gone, which it then becomes
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
@@ -51,19 +55,49 @@ public:
     template <ZolWDoc::TableKind Kind> void pick() { command([this] { m_values.pick(Kind); }); }
     void toggleVisibleItems() { setbShowVisibleItems(!m_onlyVisible); }
 
+    void newGroup() { command([this] { m_groups.addNew(); }); }
+    void renameGroup() { command([this] { m_groups.rename(); }); }
+    void deleteGroup() { command([this] { m_groups.remove(); }); }
+    void moveToGroup() { command([this] { m_groups.moveSelected(); }); }
+    void copyToGroup() { command([this] { m_groups.copySelected(); }); }
+    template <bool On> void setGroupVisible() { command([this] { m_values.setGroupVisible(On); }); }
+    template <bool On> void showGroups() { setbShowGroups(On); }
+    void showAllLayers() { showGroup(GroupRows::kAll); }
+    void collapseGroup() { if (grid()) grid()->collapseBandOf(grid()->currentRow()); }
+
+    void OpLay_Save() { command([this] { m_files.save(); }); }                         // published spelling
+    void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
+    /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
+    /// host's error.
+    bool OpLay_Save2File(const QString &path) { return isOpen() && m_files.saveTo(path); }
+    void addFromFile() { command([this] { m_files.addFromFile(); }); }
+    void renameFromFile() { command([this] { m_files.renameFromFile(); }); }
+    void renumberFromFile() { command([this] { m_files.renumberFromFile(); }); }
+    void deleteElements() { command([this] { m_files.deleteElements(); }); }
+
     // --- when a command can be used
     bool canEditTable() const { return isOpen() && AllowEdit(); }
     bool canEditLayers() const { return canEditTable() && !all().empty(); }
     bool canEditCurrent() const { return canEditTable() && grid()->currentRow() >= 0; }
-    bool canEditSelected() const { return canEditTable() && selectedCount() > 0; }
+    bool canEditSelected() const { return canEditTable() && grid()->hasSelection(); }
     template <ZolWDoc::TableKind Kind> bool canPick() const
     {
         return canEditSelected() && LayerValues::canPick(Kind);
     }
     bool isOpen() const override { return TableManager::isOpen(); }
+    void fill() override;
+    bool canEditGroups() const { return canEditTable() && m_groupGrid; }
+    bool canEditGroup() const { return canEditGroups() && m_group != GroupRows::kAll; }
+    bool canGroupSelected() const { return canEditSelected() && !m_groupRows.groups().empty(); }
+    bool canShowAllLayers() const { return m_groupGrid && m_group != GroupRows::kAll; }
+    template <bool On> bool canShowGroups() const { return m_groupGrid && bShowGroups() != On; }
+    bool canCollapseGroup() const { return grid() && grid()->canCollapseBandOf(grid()->currentRow()); }
+    bool canAddFromFile() const { return canEditTable() && document()->layerFiles(); }
+    bool canDeleteElements() const { return canEditSelected() && document()->layerElements(); }
 
 signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
+    void currentLayerMoved();                   ///< another layer is the current one, or it may look otherwise
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
 
     void GroupChanged(bool &bIsGrouped);
@@ -75,9 +109,18 @@ private:
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
     void raiseSelection(int count) override;
     bool fits(const ZolWDoc::tLay &lay) const override;
+    RowStyles styles(int row) const override;
+    bool edit(int row, int column, const QVariant &value) override;
     bool removeRows(std::span<const int> rows) override;
     void readBeside() override;
     void showBeside() override;
+    Qt::DropAction dragAction() const override { return Qt::CopyAction; }
+    QMimeData *dragData(std::span<const int> rows) const override;
+    bool canDrop(const QMimeData &mime, const DropTarget &) const override;
+    void drop(const QMimeData &mime, const DropTarget &) override;
+    GroupDrags groupDrags();
+    void armDrags();
+    void showGroup(qint16 group);
     void chooseGroup(int row);
     void narrowTo(int row);
     void forgetGone();
@@ -96,6 +139,9 @@ private:
 
     LayerEdits m_edits{*this};
     LayerValues m_values{*this};
+    LayerGroups m_groups{*this};
+    LayerFiles m_files{*this};
+    LayerDrag m_drag{m_groups};
 
     GroupRows m_groupRows;
     Grid *m_groupGrid = nullptr;                        ///< the form's, until TearDown()

@@ -114,16 +114,6 @@ ShorterNames withoutPrefixes(std::span<const tLay> layers, bool onlyNumbers, Tak
     return out;
 }
 
-bool canDeleteGroup(qint16 group, std::span<const tLayMember> members)
-{
-    QSet<qint16> elsewhere;
-    for (const tLayMember &m : members)
-        if (m.GroupId != group) elsewhere.insert(m.LayId);
-    return std::ranges::all_of(members, [&](const tLayMember &m) {
-        return m.GroupId != group || elsewhere.contains(m.LayId);
-    });
-}
-
 tLayArr withVisibilityOf(std::span<const tLay> saved, tLayArr all, LayerMatch match)
 {
     QHash<QString, bool> visible;

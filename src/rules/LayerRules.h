@@ -59,9 +59,6 @@ struct ShorterNames {
 };
 ShorterNames withoutPrefixes(std::span<const ZolWDoc::tLay> layers, bool onlyNumbers, TakenLayers taken);
 
-/// True when every layer of the group is in another group too, so that none is left without one.
-bool canDeleteGroup(qint16 group, std::span<const ZolWDoc::tLayMember> members);
-
 enum class LayerMatch { ByNumber, ByName };
 /// `all` with the visibility of the saved layers of the same number or name; saved layers without a match
 /// play no part.

@@ -1,5 +1,6 @@
 #include "dialogs/select/frmSelect.h"
 #include "facade/clsDocDlgs.h"
+#include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "facade/services/clsDebug.h"
@@ -98,6 +99,23 @@ private slots:
         QStringList expected{QStringLiteral("clsDocDlgs.bSelect_Lay >>")};
         for (const QString &mark : marks) expected << QStringLiteral("clsDocDlgs.bSelect_Lay ") + mark;
         QCOMPARE(lines, expected);
+    }
+
+    void thoseBelowTheRoofPickWhereThereIsADialog()
+    {
+        using ZolWDoc::TableKind;
+        ResourcePicker *const picker = resourcePicker();
+        QVERIFY(picker && picker->canPick(TableKind::Layers) && !picker->canPick(TableKind::TextTypes));
+        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
+                                          {.gNr = 2, .Name = QStringLiteral("B")}});
+        const qint16 second = doc->layers().findByNumber(2)->LayId;
+        const auto pickBy = [&](const char *button) {
+            const auto watch = tests::whileModal<frmSelect>(
+                [&](frmSelect &d) { tests::child<QPushButton>(d, button).click(); });
+            return picker->pick(TableKind::Layers, *doc, second, nullptr);
+        };
+        QCOMPARE(pickBy("cmdOk"), std::optional(second));
+        QCOMPARE(pickBy("cmdCancel"), std::optional<qint16>());
     }
 
     void titleAndLanguageAreTheLibrarysOwn()

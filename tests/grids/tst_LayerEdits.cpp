@@ -1,14 +1,9 @@
-#include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
-#include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
-
-#include <QApplication>
-#include <QTimer>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -80,87 +75,59 @@ struct Case {
 };
 constexpr char kDeleteKey[] = "the delete key";
 
-const std::vector<Case> &cases()
-{
-    static const std::vector<Case> all = {
-        {"new", "miAddNew", {2, 1}, {}, "1 A, 2 B, 3 C, 4 Az_új_réteg_neve", "4*"},
+const std::vector<Case> kCases = {
+    {"new", "miAddNew", {2, 1}, {}, "1 A, 2 B, 3 C, 4 Az_új_réteg_neve", "4*"},
 
-        {"copies", "cmdLays_Copy", {1, 3}, {copyAsked(10, 10)}, "1 A, 2 B, 3 C, 11 A_11, 13 C_13", "1* 3"},
-        {"copies, cancelled", "cmdLays_Copy", {1}, {copyAsked(10, {})}, nullptr, nullptr},
-        {"a copy's number is taken", "cmdLays_Copy", {1, 3},
-         {copyAsked(10, 1), toldByProduct("A(z) 2 sorszámú réteg már van !")},
-         "1 A, 2 B, 3 C, 4 C_4", "1* 3"},
-        {"a copy's number is too high", "cmdLays_Copy", {1, 3},
-         {copyAsked(10, 31999), toldByProduct("A(z) 3 sorszámú rétegről nem lehet másolatot csinálni "
-                                              "32002 sorszámmal!")},
-         "1 A, 2 B, 3 C, 32000 A_32000", "1* 3"},
+    {"copies", "cmdLays_Copy", {1, 3}, {copyAsked(10, 10)}, "1 A, 2 B, 3 C, 11 A_11, 13 C_13", "1* 3"},
+    {"copies, cancelled", "cmdLays_Copy", {1}, {copyAsked(10, {})}, nullptr, nullptr},
+    {"a copy's number is taken", "cmdLays_Copy", {1, 3},
+     {copyAsked(10, 1), toldByProduct("A(z) 2 sorszámú réteg már van !")},
+     "1 A, 2 B, 3 C, 4 C_4", "1* 3"},
+    {"a copy's number is too high", "cmdLays_Copy", {1, 3},
+     {copyAsked(10, 31999), toldByProduct("A(z) 3 sorszámú rétegről nem lehet másolatot csinálni "
+                                          "32002 sorszámmal!")},
+     "1 A, 2 B, 3 C, 32000 A_32000", "1* 3"},
 
-        {"renumbers", "cmdLays_Renumber", {1, 3}, {renumberAsked(1, QVariantList{10, 5})},
-         "10 A, 2 B, 15 C", "10* 15"},
-        {"numbers change places", "cmdLays_Renumber", {1, 2}, {renumberAsked(1, QVariantList{2, -1})},
-         "2 A, 1 B, 3 C", "2* 1"},
-        {"a number outside the selection", "cmdLays_Renumber", {1, 3},
-         {renumberAsked(1, QVariantList{1, 1}), takenNumber()}, nullptr, nullptr},
-        {"a number too high", "cmdLays_Renumber", {1, 3},
-         {renumberAsked(1, QVariantList{32767, 1}), takenNumber()}, nullptr, nullptr},
-        {"renumbers, cancelled", "cmdLays_Renumber", {1}, {renumberAsked(1, {})}, nullptr, nullptr},
+    {"renumbers", "cmdLays_Renumber", {1, 3}, {renumberAsked(1, QVariantList{10, 5})},
+     "10 A, 2 B, 15 C", "10* 15"},
+    {"numbers change places", "cmdLays_Renumber", {1, 2}, {renumberAsked(1, QVariantList{2, -1})},
+     "2 A, 1 B, 3 C", "2* 1"},
+    {"a number outside the selection", "cmdLays_Renumber", {1, 3},
+     {renumberAsked(1, QVariantList{1, 1}), takenNumber()}, nullptr, nullptr},
+    {"a number too high", "cmdLays_Renumber", {1, 3},
+     {renumberAsked(1, QVariantList{32767, 1}), takenNumber()}, nullptr, nullptr},
+    {"renumbers, cancelled", "cmdLays_Renumber", {1}, {renumberAsked(1, {})}, nullptr, nullptr},
 
-        {"deletes", "cmdLays_Delete", {1}, {orphans(false)}, "2 B, 3 C", "2*"},
-        {"deletes with a question each", "miRemove", {1, 2, 3},
-         {notEmpty("B", kNo), notEmpty("C", kYes), orphans(true)}, "2 B", "2*"},
-        {"Mind ends the asking", "cmdLays_Delete", {2, 3}, {notEmpty("B", kAll), orphans(true)}, "1 A", "1*"},
-        {"all deleted but one", "cmdLays_Delete", {1, 2, 3}, {notEmpty("B", kAll), lastOne(), orphans(true)},
-         "3 C", "3*"},
-        {"nothing deleted, nothing asked", "cmdLays_Delete", {2}, {notEmpty("B", kNo)}, nullptr, nullptr},
-        {"the key asks for each row", kDeleteKey, {1, 2, 3},
-         {sure(1, true), sure(2, false), sure(3, true), notEmpty("C", kYes), orphans(false)}, "2 B", "2*"},
-        {"the key, the last one", kDeleteKey, {1, 2, 3},
-         {sure(1, true), sure(2, true), notEmpty("B", kAll), sure(3, true), lastOne(), orphans(true)},
-         "3 C", "3*"},
+    {"deletes", "cmdLays_Delete", {1}, {orphans(false)}, "2 B, 3 C", "2*"},
+    {"deletes with a question each", "miRemove", {1, 2, 3},
+     {notEmpty("B", kNo), notEmpty("C", kYes), orphans(true)}, "2 B", "2*"},
+    {"Mind ends the asking", "cmdLays_Delete", {2, 3}, {notEmpty("B", kAll), orphans(true)}, "1 A", "1*"},
+    {"all deleted but one", "cmdLays_Delete", {1, 2, 3}, {notEmpty("B", kAll), lastOne(), orphans(true)},
+     "3 C", "3*"},
+    {"nothing deleted, nothing asked", "cmdLays_Delete", {2}, {notEmpty("B", kNo)}, nullptr, nullptr},
+    {"the key asks for each row", kDeleteKey, {1, 2, 3},
+     {sure(1, true), sure(2, false), sure(3, true), notEmpty("C", kYes), orphans(false)}, "2 B", "2*"},
+    {"the key, the last one", kDeleteKey, {1, 2, 3},
+     {sure(1, true), sure(2, true), notEmpty("B", kAll), sure(3, true), lastOne(), orphans(true)},
+     "3 C", "3*"},
 
-        {"renames", "cmdLays_Rename", {1, 2}, {nameAsked("A", "Út")}, "1 Út, 2 B, 3 C", "1* 2"},
-        {"renames after a refusal", "cmdLays_Rename", {1},
-         {nameAsked("A", "B"), told("Rétegnév", "Létező rétegnév !"), nameAsked("B", "D")},
-         "1 D, 2 B, 3 C", "1*"},
-        {"a name of blanks", "cmdLays_Rename", {1}, {nameAsked("A", "  ")}, nullptr, nullptr},
-        {"rename, cancelled", "cmdLays_Rename", {1}, {nameAsked("A", {})}, nullptr, nullptr},
-        {"numbers", "cmdLays_Nr", {1}, {numberAsked(1, 9)}, "9 A, 2 B, 3 C", "9*"},
-        {"numbers after a refusal", "cmdLays_Nr", {1},
-         {numberAsked(1, 3), takenNumber(), numberAsked(3, 8)}, "8 A, 2 B, 3 C", "8*"},
-        {"number, given up after a refusal", "cmdLays_Nr", {1},
-         {numberAsked(1, 3), takenNumber(), numberAsked(3, {})}, nullptr, nullptr},
+    {"renames", "cmdLays_Rename", {1, 2}, {nameAsked("A", "Út")}, "1 Út, 2 B, 3 C", "1* 2"},
+    {"renames after a refusal", "cmdLays_Rename", {1},
+     {nameAsked("A", "B"), told("Rétegnév", "Létező rétegnév !"), nameAsked("B", "D")},
+     "1 D, 2 B, 3 C", "1*"},
+    {"a name of blanks", "cmdLays_Rename", {1}, {nameAsked("A", "  ")}, nullptr, nullptr},
+    {"rename, cancelled", "cmdLays_Rename", {1}, {nameAsked("A", {})}, nullptr, nullptr},
+    {"numbers", "cmdLays_Nr", {1}, {numberAsked(1, 9)}, "9 A, 2 B, 3 C", "9*"},
+    {"numbers after a refusal", "cmdLays_Nr", {1},
+     {numberAsked(1, 3), takenNumber(), numberAsked(3, 8)}, "8 A, 2 B, 3 C", "8*"},
+    {"number, given up after a refusal", "cmdLays_Nr", {1},
+     {numberAsked(1, 3), takenNumber(), numberAsked(3, {})}, nullptr, nullptr},
 
-        {"no prefix, cancelled", "cmdLays_TrimLeftName", {1}, {prefixAsked({})}, nullptr, nullptr},
-        {"no prefix to cut", "cmdLays_TrimLeftName", {1, 2},
-         {prefixAsked(true), told("Rétegnév módosítás", "Egyik kijelölt réteg neve sem változott.")},
-         nullptr, nullptr},
-    };
-    return all;
-}
-
-struct OnePicker final : ResourcePicker {
-    TableKind kind;
-    std::optional<qint16> answer;
-    qint16 first = -2;
-    ResourcePicker *before = setResourcePicker(this);
-    OnePicker(TableKind k, std::optional<qint16> a) : kind(k), answer(a) {}
-    ~OnePicker() override { setResourcePicker(before); }
-    bool canPick(TableKind k) const override { return k == kind; }
-    std::optional<qint16> pick(TableKind, ZOLW_Doc &, qint16 offered, QObject *) override
-    {
-        first = offered;
-        return answer;
-    }
+    {"no prefix, cancelled", "cmdLays_TrimLeftName", {1}, {prefixAsked({})}, nullptr, nullptr},
+    {"no prefix to cut", "cmdLays_TrimLeftName", {1, 2},
+     {prefixAsked(true), told("Rétegnév módosítás", "Egyik kijelölt réteg neve sem változott.")},
+     nullptr, nullptr},
 };
-
-/// "number name" of the layers that have it.
-QString with(ZOLW_Doc &doc, bool tLay::*flag)
-{
-    QStringList out;
-    for (const tLay &l : doc.layers().readAll())
-        if (l.*flag) out << QString::number(l.gNr);
-    return out.join(u' ');
-}
 
 } // namespace
 
@@ -177,18 +144,19 @@ private slots:
         m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
                                  {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
                                  {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
-        m_doc->addElements(std::vector<refhost::Element>{{.layId = layer(2).LayId}, {.layId = layer(3).LayId}});
+        const std::vector<refhost::Element> lines{{.layId = layer(2).LayId}, {.layId = layer(3).LayId}};
+        m_doc->addElements(lines);
     }
 
     void commandsAskTellAndWrite_data()
     {
         QTest::addColumn<int>("index");
-        for (size_t i = 0; i < cases().size(); ++i) QTest::newRow(cases()[i].name) << int(i);
+        for (size_t i = 0; i < kCases.size(); ++i) QTest::newRow(kCases[i].name) << int(i);
     }
     void commandsAskTellAndWrite()
     {
         QFETCH(int, index);
-        const Case &c = cases()[size_t(index)];
+        const Case &c = kCases[size_t(index)];
         const QString before = tests::dump(*m_doc);
         tests::LayerForm form(*m_doc);
         form.select(c.selected);
@@ -276,6 +244,17 @@ private slots:
         QCOMPARE(layer(7), copy);
     }
 
+    void copiesOfOneCommandDoNotShareAName()
+    {
+        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A_11")},
+                                 {.gNr = 10, .Name = QStringLiteral("A")}});
+        tests::LayerForm form(*m_doc);
+        form.select({1, 10});
+        ScriptedPrompts user({copyAsked(1, 1)});
+        form.run("cmdLays_Copy");
+        QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 A_11, 10 A, 2 A_11_2, 11 A_11_3"));
+    }
+
     void shortenedNamesAreListed()
     {
         tLayArr all = m_doc->layers().readAll();
@@ -291,144 +270,6 @@ private slots:
         form.run("cmdLays_TrimLeftName");
         QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 Út, 2 2-Út, 3 C"));
         QCOMPARE(form.selection(), QStringLiteral("1* 2 3"));
-    }
-
-    void flagsOfAllSelectedRows_data()
-    {
-        QTest::addColumn<QByteArray>("tool");
-        QTest::addColumn<QString>("visible");
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("texts");
-        QTest::newRow("on") << QByteArray("cmdLays_SetVisibleOn") << "1 2 3" << "3" << "";
-        QTest::newRow("off") << QByteArray("cmdLays_SetVisibleOff") << "3" << "3" << "";
-        QTest::newRow("lines on") << QByteArray("cmdLays_ElByLayerOn") << "1 3" << "1 2 3" << "";
-        QTest::newRow("lines off") << QByteArray("cmdLays_ElByLayerOff") << "1 3" << "3" << "";
-        QTest::newRow("texts on") << QByteArray("cmdLays_TxByLayerOn") << "1 3" << "3" << "1 2";
-        QTest::newRow("texts off") << QByteArray("cmdLays_TxByLayerOff") << "1 3" << "3" << "";
-        QTest::newRow("all on") << QByteArray("cmdVisibleAllOn") << "1 2 3" << "3" << "";
-        QTest::newRow("all off") << QByteArray("cmdVisibleAllOff") << "" << "3" << "";
-    }
-    void flagsOfAllSelectedRows()
-    {
-        QFETCH(QByteArray, tool);
-        tests::FaultyDoc counted(*m_doc);
-        tests::LayerForm form(counted);
-        form.select({1, 2});
-        form.run(tool.constData());
-        QTEST(with(*m_doc, &tLay::Visible), "visible");
-        QTEST(with(*m_doc, &tLay::ElByLayer), "lines");
-        QTEST(with(*m_doc, &tLay::TxByLayer), "texts");
-        QCOMPARE(form.selection(), QStringLiteral("1* 2"));
-        QVERIFY(counted.log.calls.count(QStringLiteral("scopes.begin")) <= 1);
-    }
-
-    void referencesComeFromTheirSelectionDialogs()
-    {
-        const std::pair<TableKind, const char *> tools[] = {{TableKind::TextTypes, "cmdLays_TxdId"},
-                                                            {TableKind::LineTypes, "cmdLays_PenStyle"},
-                                                            {TableKind::PenColors, "cmdLays_PenColorId"}};
-        tests::LayerForm form(*m_doc);
-        form.select({1, 2});
-        for (const auto &[kind, tool] : tools) {
-            form.run(tool);                             // there is no such dialog: nothing happens
-            OnePicker cancelled(kind, std::nullopt);
-            form.run(tool);
-            QCOMPARE(layer(2).PenColorId, qint16(kind == TableKind::PenColors ? 0 : layer(2).PenColorId));
-            OnePicker picker(kind, qint16(1));
-            form.run(tool);
-            QCOMPARE(picker.first, qint16(kind == TableKind::PenColors ? 0 : 1));
-        }
-        for (const int nr : {1, 2}) {
-            const tLay l = layer(qint16(nr));
-            QVERIFY(l.TxdId == 1 && l.PenStyleId == 1 && l.PenColorId == 1);
-        }
-        QCOMPARE(layer(3).PenColorId, qint16(0));
-    }
-
-    void toolsAreEnabledWhenTheyCanWork()
-    {
-        const auto enabled = [](tests::LayerForm &form) {
-            QStringList out;
-            for (const auto &c : kLayerCommands)
-                if (!c.enabled || (form.js.*c.enabled)()) out << QLatin1String(c.tool);
-            return out.join(u' ');
-        };
-        const QString none = QStringLiteral("cmdLay_ShowVisible");
-        const QString unselected = QStringLiteral("miAddNew cmdVisibleAllOn cmdVisibleAllOff ") + none;
-        tests::LayerForm form(*m_doc);
-        form.grid.selectRows({});
-        form.js.setAllowEdit(false);
-        QCOMPARE(enabled(form), none);
-        form.js.setAllowEdit(true);
-        QCOMPARE(enabled(form), unselected);
-        form.select({1});
-        OnePicker picker(TableKind::LineTypes, {});
-        const QStringList all = enabled(form).split(u' ');
-        QVERIFY(all.contains(QStringLiteral("cmdLays_PenStyle")) &&
-                !all.contains(QStringLiteral("cmdLays_TxdId")));
-        QCOMPARE(all.size(), qsizetype(std::size(kLayerCommands)) - 2);
-        form.js.TearDown();
-        QCOMPARE(enabled(form), QString());
-    }
-
-    void onlyVisibleLayersAreListedOnDemand()
-    {
-        tests::LayerForm form(*m_doc);
-        form.run("cmdLay_ShowVisible");
-        QCOMPARE(form.rows(), (tLayArr{layer(1), layer(3)}));
-        form.run("cmdLay_ShowVisible");
-        QCOMPARE(form.rows().size(), size_t(3));
-    }
-
-    void aDeletedCurrentLayerGivesWayToTheDocuments()
-    {
-        tests::LayerForm form(*m_doc);
-        form.js.setCurrentLayer(layer(1).LayId);
-        ScriptedPrompts user({orphans(false)});
-        form.run("cmdLays_Delete");
-        QCOMPARE(form.js.currentLayer(), m_doc->layers().currentId());
-        QCOMPARE(form.js.numberOf(form.js.currentLayer()), qint16(2));
-    }
-
-    void aFormTornDownBehindAPromptEndsTheCommand()
-    {
-        tests::LayerForm form(*m_doc);
-        form.select({1});
-        Step asked = prefixAsked(true);
-        asked.meanwhile = [&] { form.js.TearDown(); };
-        ScriptedPrompts user({asked});
-        form.run("cmdLays_TrimLeftName");
-        QVERIFY(!form.error);
-    }
-
-    void aLongRefillShowsItselfAndRefusesCommands()
-    {
-        tests::FaultyDoc slow(*m_doc);
-        tests::LayerForm form(slow);
-        form.select({1});
-        const Step refusal = {"tell", QStringLiteral("ZOL"),
-                              QStringLiteral("Frissítés van folyamatban, kérem várakozzék!"), {},
-                              Icon::Exclamation};
-        ScriptedPrompts user({refusal, refusal, refusal});
-        bool met = false;
-        const auto interfere = [&] {
-            met = form.js.isBusy() && QApplication::activeModalWidget();
-            form.run("cmdLays_Copy");
-            QTest::keyClick(form.grid.table(), Qt::Key_Delete);
-            QVERIFY(!form.grid.table()->model()->setData(form.grid.table()->model()->index(0, 1),
-                                                         QStringLiteral("X")));
-        };
-        slow.log.meanwhile = [&](const QString &call) {
-            if (call != QStringLiteral("layers.readAll") || !form.js.isBusy()) return;
-            QElapsedTimer host;                         // a host that takes its time
-            for (host.start(); host.elapsed() < StepRun::kSilent.count();) {}
-            QTimer::singleShot(0, this, interfere);
-            slow.log.meanwhile = {};
-        };
-        form.run("cmdLays_SetVisibleOff");
-        QVERIFY(met && !form.js.isBusy());
-        QCOMPARE(with(*m_doc, &tLay::Visible), QStringLiteral("3"));
-        QCOMPARE(form.rows(), m_doc->layers().readAll());
     }
 };
 

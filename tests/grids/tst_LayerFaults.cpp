@@ -11,6 +11,8 @@ using namespace ZolWDoc;
 
 namespace {
 
+constexpr char kCellEdit[] = "a cell edit";
+
 /// Picks the record with identifier 1 of any table.
 struct AnyPicker final : ResourcePicker {
     ResourcePicker *before = setResourcePicker(this);
@@ -38,8 +40,14 @@ struct Run {
         form.select({1, 2, 3});
         faulty.log.calls.clear();
         faulty.log.failAt = failAt;
-        form.run(tool);
+        if (std::strcmp(tool, kCellEdit) == 0) editCell();
+        else form.run(tool);
         faulty.log.failAt = -1;
+    }
+    void editCell()
+    {
+        QAbstractItemModel &cells = *form.grid.table()->model();
+        cells.setData(cells.index(1, LayerTable::nameColumn), QStringLiteral("Út"));
     }
     int calls() const { return int(faulty.log.calls.size()); }
     QString failed() const
@@ -63,6 +71,7 @@ private slots:
     void everyCallOfEveryCommandMayFail_data()
     {
         QTest::addColumn<QByteArray>("tool");
+        QTest::newRow(kCellEdit) << QByteArray(kCellEdit);
         for (const auto &c : kLayerCommands) QTest::newRow(c.tool) << QByteArray(c.tool);
     }
     void everyCallOfEveryCommandMayFail()
@@ -76,8 +85,8 @@ private slots:
             const QString call = run.faulty.log.calls.value(at);
             QVERIFY2(run.failed() == call, qPrintable(call));
             QVERIFY2(run.form.rows() == run.doc->layers().readAll(), qPrintable(call));
-            QVERIFY2(run.form.groups.table()->model()->rowCount() == int(run.doc->layers().groups().size()) + 1,
-                     qPrintable(call));
+            const int groups = int(run.doc->layers().groups().size());
+            QVERIFY2(run.form.groups.table()->model()->rowCount() == groups + 1, qPrintable(call));
             QVERIFY(!run.form.js.isBusy());
         }
     }

@@ -62,9 +62,8 @@ struct Model {
             Row made = rows[i];
             const int nr = made.nr + growth;
             if (nr < 1 || nr > 32000)
-                told << QStringLiteral("A(z) %1 sorszámú rétegről nem lehet másolatot csinálni %2 sorszámmal!")
-                            .arg(made.nr)
-                            .arg(nr);
+                told << QStringLiteral("A(z) %1 sorszámú rétegről nem lehet ").arg(made.nr) +
+                            QStringLiteral("másolatot csinálni %1 sorszámmal!").arg(nr);
             else if (hasNumber(nr)) told << QStringLiteral("A(z) %1 sorszámú réteg már van !").arg(nr);
             else {
                 made.nr = nr;
@@ -98,7 +97,8 @@ struct Model {
         if (changed > 0) return;
         told << QStringLiteral("Egyik kijelölt réteg neve sem változott.");
         if (taken > 0)
-            told.last() += QStringLiteral("\nRégi nevükön maradtak, mert az új név már foglalt: %1").arg(taken);
+            told.last() +=
+                QStringLiteral("\nRégi nevükön maradtak, mert az új név már foglalt: %1").arg(taken);
     }
     void remove(const Places &chosen)
     {

@@ -113,7 +113,8 @@ private slots:
 
     void prefixesAreCutOneLayerAfterTheOther()
     {
-        const tLayArr all = layers({{1, "1-A"}, {2, "2-A"}, {3, "B-1-A"}, {4, "4-C"}, {5, "C"}, {6, "6-1-A"}});
+        const tLayArr all =
+            layers({{1, "1-A"}, {2, "2-A"}, {3, "B-1-A"}, {4, "4-C"}, {5, "C"}, {6, "6-1-A"}});
         const ShorterNames names = withoutPrefixes(all, false, TakenLayers(all));
         // The third takes the name that the first has given up; the last finds it taken again.
         QCOMPARE(names.lines, (QStringList{"'1-A' ---> 'A'", "'B-1-A' ---> '1-A'"}));
@@ -136,15 +137,6 @@ private slots:
         QCOMPARE(proposedGrowth(std::span(all).subspan(1, 2), taken), 1);
         QCOMPARE(proposedGrowth(std::span(all).first(2), taken), 100);
         QCOMPARE(proposedGrowth(all, taken), 1);        // none fits all
-    }
-
-    void noLayerIsLeftWithoutAGroup()
-    {
-        const tLayMember members[] = {{1, 10}, {1, 11}, {2, 10}, {3, 12}};
-        QVERIFY(!canDeleteGroup(1, members));
-        QVERIFY(canDeleteGroup(2, members));
-        QVERIFY(!canDeleteGroup(3, members));
-        QVERIFY(canDeleteGroup(4, members));            // an empty group
     }
 
     void savedVisibilitiesFindTheirLayers()

@@ -127,6 +127,21 @@ struct FaultyScopes final : ZolWDoc::CommandScopeRole {
     void endCommand() override { real->endCommand(), log.on("scopes.end"); }
 };
 
+/// What a host may offer for layers, through the log.
+struct FaultyExtras final : ZolWDoc::LayerFileRole, ZolWDoc::LayerElementsRole {
+    FaultyExtras(ZolWDoc::ZOLW_Doc &of, CallLog &to)
+        : files(of.layerFiles()), elements(of.layerElements()), log(to)
+    {}
+    ZolWDoc::LayerFileRole *files;
+    ZolWDoc::LayerElementsRole *elements;
+    CallLog &log;
+    void addFromFile(const QString &path) override { log.on("layerFiles.add"), files->addFromFile(path); }
+    int deleteElements(std::span<const qint16> ids) override
+    {
+        return log.on("layerElements.delete"), elements->deleteElements(ids);
+    }
+};
+
 /// A real document whose calls are logged and fail on demand.
 class FaultyDoc final : public ZolWDoc::ZOLW_Doc {
 public:
@@ -142,6 +157,8 @@ public:
     ZolWDoc::PointRole &points() override { return m_real.points(); }
     ZolWDoc::KhRole &khItems() override { return m_real.khItems(); }
     void redrawAll() override { log.on("redrawAll"), m_real.redrawAll(); }
+    ZolWDoc::LayerFileRole *layerFiles() override { return m_extras.files ? &m_extras : nullptr; }
+    ZolWDoc::LayerElementsRole *layerElements() override { return m_extras.elements ? &m_extras : nullptr; }
     ZolWDoc::CommandScopeRole *commandScopes() override { return m_scopes.real ? &m_scopes : nullptr; }
 
 private:
@@ -150,6 +167,7 @@ private:
     FaultyTextTypes m_textTypes{m_real.textTypes(), log, "textTypes"};
     FaultyLineTypes m_lineTypes{m_real.lineTypes(), log, "lineTypes"};
     FaultyPens m_pens{m_real.penColors(), log};
+    FaultyExtras m_extras{m_real, log};
     FaultyScopes m_scopes{m_real.commandScopes(), log};
 };
 

@@ -42,4 +42,19 @@ inline QString dump(ZolWDoc::ZOLW_Doc &doc)
     return rows.join(QStringLiteral(", "));
 }
 
+/// Every layer group with the numbers of its layers: "RENDSZER: 1 2 | Utak: 2".
+inline QString dumpGroups(ZolWDoc::ZOLW_Doc &doc)
+{
+    const auto members = doc.layers().members();
+    QStringList out;
+    for (const ZolWDoc::tGroup &g : doc.layers().groups()) {
+        QString line = g.GroupName + u':';
+        for (const ZolWDoc::tLay &l : doc.layers().readAll())
+            for (auto n = std::ranges::count(members, ZolWDoc::tLayMember{g.GroupId, l.LayId}); n > 0; --n)
+                line += u' ' + QString::number(l.gNr);
+        out << line;
+    }
+    return out.join(QStringLiteral(" | "));
+}
+
 } // namespace tests

@@ -55,6 +55,18 @@ struct LayerForm {
             out << QString::number(l.gNr) + (current == l ? QStringLiteral("*") : QString());
         return out.join(u' ');
     }
+    QString listed() const                      ///< numbers of the listed layers: "1 2"
+    {
+        QStringList out;
+        for (int r = 0; r < grid.table()->model()->rowCount(); ++r) out << cell(r, 0).toString();
+        return out.join(u' ');
+    }
+    QString chosenGroup() const { return groups.table()->currentIndex().siblingAtColumn(0).data().toString(); }
+    void chooseGroup(const QString &name)
+    {
+        for (int r = 0; r < groups.table()->model()->rowCount(); ++r)
+            if (groups.table()->model()->index(r, 0).data().toString() == name) groups.setCurrentRow(r);
+    }
     QVariant cell(int row, int column) const { return grid.table()->model()->index(row, column).data(); }
     /// All layers as the grid has them, by identifier; only to be asked while all are listed.
     ZolWDoc::tLayArr rows()

@@ -7,8 +7,8 @@
 
 namespace tests {
 
-/// Runs `act` once a dialog of type Dialog is open; fails the test when it never was, or when `act` leaves it
-/// open.
+/// Runs `act` once a dialog of type Dialog is open and active; fails the test when it never was, or when
+/// `act` leaves it open.
 template <class Dialog, class Act> class WhileModal {
 public:
     explicit WhileModal(Act act) : m_act(std::move(act))
@@ -25,6 +25,7 @@ private:
     {
         auto *const dialog = qobject_cast<Dialog *>(QApplication::activeModalWidget());
         if (m_done || !dialog || !dialog->isVisible()) return;
+        if (!dialog->isActiveWindow()) return dialog->activateWindow(); // keys and focus need it
         m_done = true;
         m_timer.stop();
         m_act(*dialog);

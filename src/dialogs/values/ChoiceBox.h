@@ -1,20 +1,23 @@
 #pragma once
 
+#include "dialogs/values/ValueBox.h"
 #include "facade/services/Prompts.h"
 
-#include <QDialog>
-
-class QListWidget;
+#include <functional>
 
 namespace QV_DOC_CONTROLS {
 
-/// One of several things: a text, a list with the proposed entry current, OK and Cancel.
-class ChoiceBox final : public QDialog {
+/// One of several things, the proposed one chosen at first: up to three short ones stand there as radio
+/// buttons, more are a list.
+class ChoiceBox final : public ValueBox {
+    Q_OBJECT
 public:
     ChoiceBox(const Choice &, QWidget *owner);
-    int chosen() const;                         ///< index of the current entry
+    int chosen() const { return m_chosen(); }   ///< index of the chosen item
 private:
-    QListWidget *m_list;
+    void showOptions(const Choice &);
+    void showList(const Choice &);
+    std::function<int()> m_chosen;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -2,45 +2,33 @@
 
 #include "dialogs/values/NumberEntry.h"
 #include "kit/forms/AccessKeys.h"
-#include "kit/forms/Buttons.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace QV_DOC_CONTROLS {
 
-NumberBox::NumberBox(const NumberQuestion &q, QWidget *owner) : QDialog(owner)
+NumberBox::NumberBox(const NumberQuestion &q, QWidget *owner) : ValueBox(q.title, q.text, owner)
 {
-    setWindowTitle(q.title);
-    auto *const text = new QLabel(q.text, this);
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
-    QStringList labels;
-    for (const NumberField &field : q.fields) labels << field.label;
-    labels = withAccessKeys(labels);
-    auto *const buttons = okCancelButtons(*this);
     auto *const form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    fields().addLayout(form);
+    fields().addStretch(1);
+    QStringList captions;
+    for (const NumberField &field : q.fields) captions << field.label;
+    captions = withAccessKeys(captions);
     for (const NumberField &field : q.fields) {
-        auto *const entry = makeNumberEntry(field, this);
+        auto *const label = new QLabel(captions[qsizetype(m_entries.size())], this);
+        auto *const entry = m_entries.emplace_back(makeNumberEntry(field, this));
         entry->setCaption(field.label);
-        form->addRow(labels[qsizetype(m_entries.size())], entry);
-        m_entries.push_back(entry);
-        connect(entry, &NumberEntry::changed, this,
-                [this, buttons] { buttons->button(QDialogButtonBox::Ok)->setEnabled(!refused()); });
+        label->setBuddy(entry->focusProxy());
+        form->addRow(label, entry);
     }
-    buttons->button(QDialogButtonBox::Ok)->setEnabled(!refused());
-    auto *const column = new QVBoxLayout(this);
-    column->addWidget(text);
-    column->addLayout(form);
-    column->addStretch(1);
-    column->addWidget(buttons);
-    if (!m_entries.empty()) m_entries.front()->setFocus();
+    m_entries.front()->takeFocus();
 }
 
 std::vector<double> NumberBox::numbers() const
@@ -50,18 +38,11 @@ std::vector<double> NumberBox::numbers() const
     return out;
 }
 
-NumberEntry *NumberBox::refused() const
-{
-    const auto found = std::ranges::find_if(m_entries, [](const NumberEntry *e) { return !e->number(); });
-    return found == m_entries.end() ? nullptr : *found;
-}
-
 void NumberBox::accept()
 {
-    NumberEntry *const entry = refused();
-    if (!entry) return QDialog::accept();
-    entry->setFocus();
-    entry->line().selectAll();
+    const auto refused = std::ranges::find_if(m_entries, [](const NumberEntry *e) { return !e->number(); });
+    if (refused == m_entries.end()) QDialog::accept();
+    else (*refused)->takeFocus();
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -1,20 +1,20 @@
 #pragma once
 
+#include "dialogs/values/ValueBox.h"
 #include "facade/services/Prompts.h"
-
-#include <QDialog>
 
 namespace QV_DOC_CONTROLS {
 
 class NumberEntry;
 
 /// One or two numbers, each with its label, bounds and unit; confirmed only when all can be taken.
-class NumberBox final : public QDialog {
+class NumberBox final : public ValueBox {
     Q_OBJECT
 public:
     NumberBox(const NumberQuestion &, QWidget *owner);
-    std::vector<double> numbers() const;        ///< valid once confirmed
+    std::vector<double> numbers() const;        ///< as typed; valid once confirmed
     void accept() override;
+
 private:
     NumberEntry *refused() const;               ///< the first that cannot be taken; null = none
     std::vector<NumberEntry *> m_entries;

@@ -1,56 +1,58 @@
 #include "dialogs/values/NumberEntry.h"
 
+#include "dialogs/values/DropDown.h"
 #include "dialogs/values/NumberText.h"
-#include "facade/services/Text.h"
-#include "kit/forms/QuietWheel.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
 
 NumberEntry::NumberEntry(const NumberField &field, QWidget *parent)
-    : QWidget(parent), m_field(field), m_refusal(new QLabel(this))
+    : QWidget(parent), m_field(field), m_hint(new QLabel(this)), m_sign(new QAction(this))
 {
-    QWidget *const box = makeBox();
+    QWidget *const box = makeLine();
     setFocusProxy(box);
     m_line->setObjectName(QStringLiteral("txtNumber"));
-    m_line->setToolTip(join(Text{21605, u"Megengedett: "}, boundsOf(field)));
-    m_refusal->setObjectName(QStringLiteral("lblRefusal"));
-    m_refusal->setWordWrap(true);
-    m_refusal->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    m_refusal->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing jumps when it speaks
+    m_sign->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    m_line->addAction(m_sign, QLineEdit::TrailingPosition);
+    m_hint->setObjectName(QStringLiteral("lblHint"));
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_hint->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing moves when it refuses
     auto *const row = new QHBoxLayout;
     row->addWidget(box, 1);
-    row->addWidget(new QLabel(field.unit, this));
+    if (!field.unit.isEmpty()) row->addWidget(new QLabel(field.unit, this));
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->addLayout(row);
-    column->addWidget(m_refusal);
+    column->addWidget(m_hint, 1);
     setNumber(field.preset);
-    connect(m_line, &QLineEdit::textChanged, this, &NumberEntry::follow);
-    follow();
+    connect(m_line, &QLineEdit::textChanged, this, [this] {
+        showRefusal();
+        emit changed();
+    });
+    showRefusal();
 }
 
-QWidget *NumberEntry::makeBox()
+QWidget *NumberEntry::makeLine()
 {
     if (m_field.presets.empty()) return m_line = new QLineEdit(this);
-    auto *const list = new QComboBox(this);
-    list->setEditable(true);
-    list->setInsertPolicy(QComboBox::NoInsert);
-    list->setCompleter(nullptr);
-    for (const double preset : m_field.presets) list->addItem(textOf(preset, m_field.decimals));
-    quietWheel(*list);
+    QStringList items;
+    for (const double preset : m_field.presets) items << textOf(preset, m_field.decimals);
+    QComboBox *const list = dropDown(items, textOf(m_field.preset, m_field.decimals), this);
     m_line = list->lineEdit();
     return list;
 }
 
 std::optional<double> NumberEntry::number() const
 {
-    return refusalFor(m_line->text(), m_field).isEmpty() ? numberOf(m_line->text(), m_field.unit)
-                                                         : std::nullopt;
+    const bool refused = !refusalFor(m_line->text(), m_field).isEmpty();
+    return refused ? std::nullopt : numberOf(m_line->text(), m_field.unit);
 }
 
 void NumberEntry::setNumber(double number)
@@ -59,18 +61,32 @@ void NumberEntry::setNumber(double number)
     m_line->selectAll();
 }
 
-void NumberEntry::setCaption(const QString &caption)
+void NumberEntry::type(const QString &digits)
 {
-    focusProxy()->setAccessibleName(caption);
-    m_line->setAccessibleName(caption);
+    takeFocus();
+    m_line->insert(digits);
 }
 
-void NumberEntry::follow()
+void NumberEntry::takeFocus()
+{
+    focusProxy()->setFocus();
+    m_line->selectAll();
+}
+
+void NumberEntry::setCaption(const QString &spoken)
+{
+    focusProxy()->setAccessibleName(spoken);
+    m_line->setAccessibleName(spoken);
+}
+
+void NumberEntry::showRefusal()
 {
     const QString refusal = refusalFor(m_line->text(), m_field);
-    m_refusal->setText(refusal);
-    m_line->setAccessibleDescription(refusal.isEmpty() ? m_line->toolTip() : refusal);
-    emit changed();
+    const QString hint = refusal.isEmpty() ? allowedIn(m_field) : refusal;
+    m_hint->setText(hint);
+    m_line->setAccessibleDescription(hint);
+    m_sign->setVisible(!refusal.isEmpty());
+    m_sign->setToolTip(refusal);
 }
 
 NumberEntry *makeNumberEntry(const NumberField &field, QWidget *parent)

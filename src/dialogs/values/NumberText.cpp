@@ -10,7 +10,7 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr QChar kMinus(0x2212);
+constexpr QChar kMinus(0x2212), kHardBlank(0xa0);
 
 /// Without the blanks that set off groups of three digits, with a plain minus.
 QString bare(QString text)
@@ -62,19 +62,18 @@ std::optional<double> numberOf(QString text, const QString &unit)
     return read ? std::optional(number) : std::nullopt;
 }
 
-QString boundsOf(const NumberField &field)
+QString allowedIn(const NumberField &field)
 {
-    const QString unit = field.unit.isEmpty() ? QString() : u' ' + field.unit;
-    return textOf(field.min, field.decimals) + QStringLiteral(" – ") + textOf(field.max, field.decimals) +
-           unit;
+    const QString unit = field.unit.isEmpty() ? QString() : kHardBlank + field.unit;
+    return join(Text{21605, u"Megengedett: "}, textOf(field.min, field.decimals),
+                QStringLiteral("\u00a0–\u00a0"), textOf(field.max, field.decimals), unit);
 }
 
 QString refusalFor(const QString &text, const NumberField &field)
 {
     const auto number = numberOf(text, field.unit);
     const QString reason = number ? reasonFor(*number, field) : txt(Text{21600, u"Írj be egy számot!"});
-    if (reason.isEmpty()) return {};
-    return reason + u' ' + join(Text{21605, u"Megengedett: "}, boundsOf(field));
+    return reason.isEmpty() ? QString() : reason + u'\n' + allowedIn(field);
 }
 
 } // namespace QV_DOC_CONTROLS

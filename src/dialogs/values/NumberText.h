@@ -13,8 +13,8 @@ QString textOf(double number, int decimals);
 /// cannot be taken for a group separator. Groups of three digits may be set off, the unit may stand behind.
 std::optional<double> numberOf(QString text, const QString &unit = {});
 
-QString boundsOf(const NumberField &);          ///< "0,1 – 100 mm"
-QString refusalFor(const QString &text,
-                   const NumberField &); ///< why it cannot be taken, naming the bounds; or empty
+QString allowedIn(const NumberField &);         ///< "Allowed: 0.1 – 100 mm"
+/// Why the text cannot be taken, and what is allowed; empty = it can.
+QString refusalFor(const QString &text, const NumberField &);
 
 } // namespace QV_DOC_CONTROLS

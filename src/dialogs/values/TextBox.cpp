@@ -1,33 +1,31 @@
 #include "dialogs/values/TextBox.h"
 
-#include "kit/forms/Buttons.h"
+#include "dialogs/values/DropDown.h"
 
-#include <QDialogButtonBox>
-#include <QLabel>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
 
-TextBox::TextBox(const TextQuestion &q, QWidget *owner)
-    : QDialog(owner), m_line(new QLineEdit(q.preset, this))
+TextBox::TextBox(const TextQuestion &q, QWidget *owner) : ValueBox(q.title, q.text, owner)
 {
-    setWindowTitle(q.title);
-    auto *const text = new QLabel(q.text, this);
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
-    text->setBuddy(m_line);
+    QWidget *const field = makeLine(q);
+    field->setAccessibleName(q.text);
     m_line->setObjectName(QStringLiteral("txtAnswer"));
     m_line->setAccessibleName(q.text);
-    m_line->setMinimumWidth(m_line->fontMetrics().averageCharWidth() * 40);
     m_line->selectAll();
+    fields().addWidget(field);
+    fields().addStretch(1);
+    field->setFocus();
+}
 
-    auto *const column = new QVBoxLayout(this);
-    column->addWidget(text);
-    column->addWidget(m_line);
-    column->addStretch(1);
-    column->addWidget(okCancelButtons(*this));
-    m_line->setFocus();
+QWidget *TextBox::makeLine(const TextQuestion &q)
+{
+    if (q.items.isEmpty()) return m_line = new QLineEdit(q.preset, this);
+    QComboBox *const list = dropDown(q.items, q.preset, this);
+    m_line = list->lineEdit();
+    return list;
 }
 
 QString TextBox::answer() const { return m_line->text(); }

@@ -1,21 +1,21 @@
 #pragma once
 
+#include "dialogs/values/ValueBox.h"
 #include "facade/services/Prompts.h"
-
-#include <QDialog>
 
 class QLineEdit;
 
 namespace QV_DOC_CONTROLS {
 
-/// A line of text: what is asked, the proposed answer selected, OK and Cancel.
-class TextBox final : public QDialog {
+/// A line of text with the proposed answer selected; offered answers are in its drop-down.
+class TextBox final : public ValueBox {
     Q_OBJECT
 public:
     TextBox(const TextQuestion &, QWidget *owner);
     QString answer() const;
 private:
-    QLineEdit *m_line;
+    QWidget *makeLine(const TextQuestion &);
+    QLineEdit *m_line = nullptr;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -1,6 +1,7 @@
 #include "dialogs/values/ValuePrompts.h"
 
 #include "dialogs/values/ChoiceBox.h"
+#include "dialogs/values/ColorBox.h"
 #include "dialogs/values/NumberBox.h"
 #include "dialogs/values/ReportBox.h"
 #include "dialogs/values/TextBox.h"
@@ -39,9 +40,8 @@ std::optional<std::vector<double>> ValuePrompts::numbers(const NumberQuestion &q
 
 std::optional<int> ValuePrompts::colorIndex(const ColorIndexQuestion &q, QObject *asker)
 {
-    const double last = double(q.palette.size()) - 1;
-    NumberBox box({q.title, q.text, {{.preset = double(q.preset), .min = 0, .max = last}}}, windowOf(asker));
-    return box.exec() == QDialog::Accepted ? std::optional(int(box.numbers().front())) : std::nullopt;
+    ColorBox box(q, windowOf(asker));
+    return box.exec() == QDialog::Accepted ? std::optional(box.index()) : std::nullopt;
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -14,8 +14,8 @@ struct ResourcePicker {
     virtual ~ResourcePicker() = default;
     virtual bool canPick(ZolWDoc::TableKind kind) const = 0; ///< there is a selection dialog of that kind
     /// The identifier of the record that the user chose; empty = cancelled. `first` is current when the
-    /// dialog opens, -1 = none. `owner`: a widget of the asking window, null = the active window. Throws the
-    /// document's error.
+    /// dialog opens, -1 = none. `owner`: a widget of the asking window, null = the active window. A layer
+    /// becomes the document's current one, as always when one is selected. Throws the document's error.
     virtual std::optional<qint16> pick(ZolWDoc::TableKind kind, ZolWDoc::ZOLW_Doc &doc, qint16 first,
                                        QObject *owner) = 0;
 };

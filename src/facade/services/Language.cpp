@@ -137,6 +137,15 @@ QString txt(Text t)
     return found == state().table->constEnd() ? QString::fromUtf16(t.hu) : *found;
 }
 
+QStringList everyTxt(Text t)
+{
+    ensureResourcesLoaded();
+    QStringList all;
+    for (const Table &table : state().tables) all << table.value(t.id, QString::fromUtf16(t.hu));
+    all.removeDuplicates();
+    return all;
+}
+
 LanguageHub &LanguageHub::instance()
 {
     static LanguageHub hub;

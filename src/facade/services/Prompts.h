@@ -21,7 +21,7 @@ struct Message {
 struct Choice {
     QString title, text;
     QStringList items;
-    int preset = 0;                             ///< index of the item offered first
+    int preset = 0;                             ///< index of the item offered first; the nearest when outside
 };
 /// A line of text.
 struct TextQuestion {
@@ -32,7 +32,7 @@ struct TextQuestion {
 /// One number of a question.
 struct NumberField {
     QString label;
-    double preset = 0;                          ///< proposed answer
+    double preset = 0;                          ///< proposed answer; shown rounded to the decimals
     double min = 0, max = 0;                    ///< both included
     int decimals = 0;                           ///< 0 = whole numbers only
     QString unit;                               ///< shown behind the number, e.g. "mm"
@@ -45,7 +45,7 @@ struct NumberQuestion {
 /// One pen of a palette.
 struct ColorIndexQuestion {
     QString title, text;
-    int preset = 0;                             ///< index offered first
+    int preset = 0;                             ///< index offered first; outside the palette = none is chosen
     std::vector<quint32> palette;               ///< 0xRRGGBB by index, at most 256
 };
 enum class AllYesNo { All, Yes, No };
@@ -63,10 +63,11 @@ struct FileQuestion {
 
 /// The only door to the user: every message, question, prompt and file choice. The product puts boxes behind
 /// it, tests a script. `asker` is the window (or a widget in it) that the box belongs to; null = the active
-/// window.
+/// window. Enter says yes to a question, or the last answer where the icon warns; in allYesNo always No.
 struct Prompts {
     virtual ~Prompts() = default;
     virtual void tell(const Message &, QObject *asker = nullptr) = 0;
+    virtual void alert() {}                     ///< the system's sound: a key was refused
     virtual void show(const Report &, QObject *asker = nullptr) = 0;
     virtual bool yesNo(const Message &, QObject *asker = nullptr) = 0;             ///< closing the box is No
     virtual AllYesNo allYesNo(const Message &, QObject *asker = nullptr) = 0;      ///< closing the box is No

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace QV_DOC_CONTROLS {
 
@@ -12,6 +13,7 @@ struct Text {
 };
 
 QString txt(Text); ///< in the current language; `hu` when that language has no such text
+QStringList everyTxt(Text); ///< in every language that has it, the Hungarian one first; none twice
 inline QString txt(const QString &s) { return s; }
 inline QString txt(int n) { return QString::number(n); }
 

@@ -23,12 +23,8 @@ void GridManager::writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name,
         ZolWDoc::inCommand(doc, name, body);
         fill();
     } catch (...) {
-        const std::exception_ptr first = std::current_exception();
-        try {
-            fill();
-        } catch (...) { // the first error is the one to tell
-        }
-        std::rethrow_exception(first);
+        ErrorRelay::tryQuietly([this] { fill(); });
+        throw;
     }
     relay().checkpoint();
 }

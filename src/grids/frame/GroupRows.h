@@ -3,7 +3,17 @@
 #include "facade/contract/Records.h"
 #include "kit/grid/GridSource.h"
 
+#include <functional>
+
 namespace QV_DOC_CONTROLS {
+
+/// What is dragged from a group list and dropped on its groups; the manager of the table sees to it. The
+/// pseudo-group is neither dragged nor a target.
+struct GroupDrags {
+    std::function<QMimeData *(const std::vector<qint16> &groups)> data; ///< the caller's
+    std::function<bool(const QMimeData &, qint16 group)> takes;
+    std::function<void(const QMimeData &, qint16 group)> drop;
+};
 
 /// The group list beside a table: the pseudo-group "MIND", which stands for all records, and the table's
 /// groups.
@@ -14,6 +24,7 @@ public:
     void setGroups(std::vector<ZolWDoc::tGroup> groups) { m_groups = std::move(groups); }
     const std::vector<ZolWDoc::tGroup> &groups() const { return m_groups; }
     qint16 groupAt(int row) const { return row <= 0 ? kAll : m_groups[size_t(row - 1)].GroupId; }
+    void setDrags(GroupDrags drags) { m_drags = std::move(drags); }
     void readCaptions();
 
     const std::vector<GridColumn> &columns() const override { return m_columns; }
@@ -22,8 +33,13 @@ public:
     QVariant value(int row, int column) const override { return text(row, column); }
     QString text(int row, int column) const override;
     bool edit(int row, int column, const QVariant &value) override;
+    Qt::DropAction dragAction() const override { return Qt::CopyAction; }
+    QMimeData *dragData(std::span<const int> rows) const override;
+    bool canDrop(const QMimeData &mime, const DropTarget &target) const override;
+    void drop(const QMimeData &mime, const DropTarget &target) override;
 
 private:
+    GroupDrags m_drags;
     std::vector<ZolWDoc::tGroup> m_groups;
     std::vector<GridColumn> m_columns;
 };

@@ -68,6 +68,16 @@ public:
         if (row >= 0) m_grid->setCurrentRow(row);
         return row >= 0;
     }
+    /// Selects the listed records among these; the first of them becomes the current row.
+    void selectByIds(std::span<const qint16> ids)
+    {
+        std::vector<int> rows;
+        for (const qint16 id : ids)
+            if (const int row = m_grid ? m_grid->rowWithId(id) : -1; row >= 0) rows.push_back(row);
+        if (rows.empty()) return;
+        m_grid->setCurrentRow(rows.front());
+        m_grid->selectRows(rows);
+    }
     std::vector<Record> selected() const  ///< in grid order
     {
         std::vector<Record> out;
@@ -164,19 +174,22 @@ private:
             m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
                                  c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
     }
-    void raiseCurrentRow()
-    {
-        if (const auto now = currentRecord()) raiseCurrent(*now);
-    }
+    void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
         const auto edited = withValue<Table>(recordAt(row), c, value);
         if (!edited) return false;
         if (const Refusal *const why = refusalOf<Table>(*edited, c, m_all)) return tell(*why, m_grid), false;
-        ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
-                           [&] { Table::role(*m_doc).update(*edited); });
-        m_all[size_t(m_shown[size_t(row)])] = *edited;
+        Record &shown = m_all[size_t(m_shown[size_t(row)])];
+        try {
+            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
+                               [&] { Table::role(*m_doc).update(*edited); });
+        } catch (...) { // what the document has now, an error of its own apart
+            relay().tryQuietly([&] { shown = Table::role(*m_doc).find(Table::id(shown)).value_or(shown); });
+            throw;
+        }
+        shown = *edited;
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }

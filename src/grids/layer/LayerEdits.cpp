@@ -5,10 +5,10 @@
 #include "grids/frame/CellEdit.h"
 #include "grids/frame/GroupRows.h"
 #include "kit/ask/ErrorRelay.h"
+#include "rules/LayerGroupRules.h"
 #include "rules/LayerRules.h"
 
 #include <QHash>
-#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 
@@ -38,16 +38,6 @@ tLay firstLayer(ZOLW_Doc &doc)
     if (!names.lineTypes.empty()) lay.PenStyleId = names.lineTypes.front().value.value<qint16>();
     if (!names.textTypes.empty()) lay.TxdId = names.textTypes.front().value.value<qint16>();
     return lay;
-}
-
-void addMembers(LayerRole &layers, const std::vector<tLayMember> &more, std::vector<tLayMember> members)
-{
-    const auto key = [](const tLayMember &m) { return m.GroupId << 16 | quint16(m.LayId); };
-    QSet<int> known;
-    for (const tLayMember &m : members) known.insert(key(m));
-    for (const tLayMember &m : more)
-        if (!known.contains(key(m))) known.insert(key(m)), members.push_back(m);
-    layers.writeMembers(members);
 }
 
 /// The copies that there can be of the selected layers, each with its model; says why another has none.
@@ -101,7 +91,7 @@ void LayerEdits::addNew()
         LayerRole &layers = m_desk.doc().layers();
         id = layers.add(*lay);
         if (m_desk.chosenGroup() != GroupRows::kAll)
-            addMembers(layers, {{m_desk.chosenGroup(), id}}, layers.members());
+            layers.writeMembers(joined(layers.members(), {&id, 1}, m_desk.chosenGroup()));
     });
     m_desk.selectLayer(id);
 }
@@ -128,7 +118,7 @@ void LayerEdits::copy()
         std::vector<qint16> ids;
         layers.addAll(made.copies, ids);
         const auto members = layers.members();
-        addMembers(layers, membersLike(made.models, ids, members), members);
+        layers.writeMembers(withMembers(members, membersLike(made.models, ids, members)));
     });
 }
 

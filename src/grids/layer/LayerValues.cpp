@@ -3,9 +3,12 @@
 #include "facade/contract/ResourcePicker.h"
 #include "grids/LayerTable.h"
 #include "grids/frame/CellEdit.h"
+#include "grids/frame/GroupRows.h"
 #include "kit/ask/ErrorRelay.h"
 #include "kit/ask/UniqueNumber.h"
 #include "rules/LayerRules.h"
+
+#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 
@@ -43,7 +46,8 @@ void report(const ShorterNames &names, const QString &title, LayerDesk &desk)
     QString text = changed == 0 ? txt(Text{21705, u"Egyik kijelölt réteg neve sem változott."})
                                 : join(Text{21706, u"Megváltozott rétegnevek: "}, changed);
     if (names.taken > 0)
-        text += u'\n' + join(Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "}, names.taken);
+        text +=
+            u'\n' + join(Text{21707, u"Régi nevükön maradtak, mert az új név már foglalt: "}, names.taken);
     if (changed == 0) prompts().tell({Icon::Information, title, text}, desk.asker());
     else prompts().show({title, text, names.lines}, desk.asker());
     desk.relay().checkpoint();
@@ -78,6 +82,20 @@ void LayerValues::setAllVisible(bool on)
     const tLayArr before = m_desk.doc().layers().readAll();
     tLayArr after = before;
     for (tLay &l : after) l.Visible = on;
+    store(txt(Text{3307, u"Látható"}), before, std::move(after));
+}
+
+void LayerValues::setGroupVisible(bool on)
+{
+    const qint16 group = m_desk.chosenGroup();
+    if (group == GroupRows::kAll) return setAllVisible(on);
+    QSet<qint16> inGroup;
+    for (const tLayMember &m : m_desk.doc().layers().members())
+        if (m.GroupId == group) inGroup.insert(m.LayId);
+    const tLayArr before = m_desk.doc().layers().readAll();
+    tLayArr after = before;
+    for (tLay &l : after)
+        if (inGroup.contains(l.LayId)) l.Visible = on;
     store(txt(Text{3307, u"Látható"}), before, std::move(after));
 }
 

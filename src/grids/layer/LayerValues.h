@@ -14,6 +14,7 @@ public:
     void trimNames();                   ///< cuts a prefix from the selected layers' names; lists what changed
     void setFlag(bool ZolWDoc::tLay::*flag, bool on);   ///< of the selected layers
     void setAllVisible(bool on);                        ///< of the whole table
+    void setGroupVisible(bool on);                      ///< of the layers of the chosen group
     /// Text type, line type or pen colour of the selected layers, from its selection dialog.
     void pick(ZolWDoc::TableKind kind);
     static bool canPick(ZolWDoc::TableKind kind);

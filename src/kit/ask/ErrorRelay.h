@@ -40,6 +40,14 @@ public:
     void checkpoint() const { if (failed()) stop(); }
     [[noreturn]] static void stop() { throw Stopped{}; } ///< ends the guarded body without an error
     bool failed() const { return bool(m_error); }
+    /// For what is put right behind an error, which is the one to tell: an error of `body` is dropped.
+    template <class Body> static void tryQuietly(Body &&body) noexcept
+    {
+        try {
+            body();
+        } catch (...) {
+        }
+    }
 
     int exec(QDialog &dialog);                  ///< runs it modally; throws what was kept
     static ErrorRelay &reporting(); ///< tells the user through prompts(); for controls on a host's form

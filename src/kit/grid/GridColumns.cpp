@@ -168,6 +168,21 @@ void Grid::toggleBandOf(int row)
     if (!over.empty()) toggleBand(closed.empty() ? over.back() : closed.front());
 }
 
+/// The innermost open band over the row that shows; -1 = none.
+int Grid::openBandOf(int row) const
+{
+    if (!m_source || row < 0) return -1;
+    const std::vector<int> over = m_model->engine().bandsOver(row),
+                           closed = m_model->engine().closedBandsOver(row);
+    const auto end = closed.empty() ? over.end() : std::ranges::find(over, closed.front());
+    return end == over.begin() ? -1 : *std::prev(end);
+}
+
+void Grid::collapseBandOf(int row)
+{
+    if (const int band = openBandOf(row); band >= 0) toggleBand(band);
+}
+
 QString Grid::filterText() const { return m_filter->text(); }
 void Grid::setFilterText(const QString &text) { m_filter->edit()->setText(text); }
 

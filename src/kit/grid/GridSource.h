@@ -40,6 +40,7 @@ struct GridChoice {
 /// Which styles a row and its cells wear; the names are those of the grid's format styles.
 struct RowStyles {
     QString row;
+    bool bold = false;          ///< the record that counts most just now
     QHash<int, QString> cells;  ///< by column
 };
 
@@ -77,6 +78,7 @@ public:
     {
         return nullptr;
     } ///< the caller's; null = no drag of these
+    virtual Qt::DropAction dragAction() const { return Qt::MoveAction; } ///< what a drag means without keys
     virtual bool canDrop(const QMimeData &, const DropTarget &) const { return false; }
     virtual void drop(const QMimeData &, const DropTarget &) {} ///< only what canDrop() let through
 };

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "facade/contract/ZOLW_Doc.h"
+#include "pictures/Sheet.h"
+
+#include <functional>
+#include <vector>
+
+namespace tests {
+
+/// A state of a dialog that a picture is made of: `open` returns when the dialog is closed.
+struct Scene {
+    const char *name;
+    std::function<void()> open;
+};
+
+std::vector<Scene> valueScenes();               ///< the boxes behind prompts()
+void takeSelection(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet); ///< the selection dialog in its views, and on paper
+
+} // namespace tests
