@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kDecimal = 3;                         // input type
 constexpr quint8 kFollows = 1;                      // change mode of what the document says
+constexpr int kLetters = 50;                        // across: the layer's name has room
 constexpr int kRotationTab = 1, kHeightTab = 2;     // where Enter goes on
 
 } // namespace
@@ -37,6 +38,7 @@ NewElementForm::NewElementForm(QWidget *parent)
     m_rotation = addBox("rotationOfNew", "0.0###", 360, 5);
     m_textHeight = addBox("heightOfNew", "0.0#", 100, 0.5);
     column->addStretch(1);
+    setMinimumWidth(fontMetrics().averageCharWidth() * kLetters);
     m_width->setSetFocusNextTabIndex(kRotationTab);
     m_rotation->setProperty("TabIndex", kRotationTab);
     m_rotation->setSetFocusNextTabIndex(kHeightTab);
