@@ -1,7 +1,7 @@
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 
 #include "controls/input/TypingFilter.h"
-#include "controls/input/ValueBoxAccessible.h"
+#include "controls/input/InputComboAccessible.h"
 #include "facade/services/Prompts.h"
 
 #include <QAccessible>
@@ -14,10 +14,10 @@
 
 namespace QV_DOC_CONTROLS {
 
-ValueBox::ValueBox(const NumberInput &input, QWidget *parent)
+InputCombo::InputCombo(const NumberInput &input, QWidget *parent)
     : QComboBox(parent), m_input(input), m_filter(new TypingFilter(input, this)), m_mark(nullptr)
 {
-    static const bool readable = (QAccessible::installFactory(makeValueBoxAccessible), true);
+    static const bool readable = (QAccessible::installFactory(makeInputComboAccessible), true);
     Q_UNUSED(readable);
     setEditable(true);
     setInsertPolicy(NoInsert);
@@ -36,7 +36,7 @@ ValueBox::ValueBox(const NumberInput &input, QWidget *parent)
     connect(this, &QComboBox::activated, this, [this](int index) { emit chosen(itemData(index)); });
 }
 
-void ValueBox::showText(const QString &text)
+void InputCombo::showText(const QString &text)
 {
     m_filter->passing([&] { setEditText(text); });
     m_filter->takeDropped();
@@ -45,9 +45,9 @@ void ValueBox::showText(const QString &text)
     setMarked({});
 }
 
-bool ValueBox::touched() const { return m_touched || currentText() != m_shown; }
+bool InputCombo::touched() const { return m_touched || currentText() != m_shown; }
 
-TypingPlace ValueBox::place() const
+TypingPlace InputCombo::place() const
 {
     const QLineEdit &line = *lineEdit();
     const QString text = line.text();
@@ -56,12 +56,12 @@ TypingPlace ValueBox::place() const
     return {text.left(line.selectionStart()), text.mid(line.selectionEnd())};
 }
 
-void ValueBox::type(const QString &text)
+void InputCombo::type(const QString &text)
 {
     m_filter->passing([&] { lineEdit()->insert(text); });
 }
 
-void ValueBox::addChoice(const QString &text, const QVariant &value)
+void InputCombo::addChoice(const QString &text, const QVariant &value)
 {
     const QSignalBlocker quiet(this);
     const QString before = currentText();
@@ -73,15 +73,15 @@ void ValueBox::addChoice(const QString &text, const QVariant &value)
     arrangeLine();
 }
 
-void ValueBox::setMarked(const QString &refusal)
+void InputCombo::setMarked(const QString &refusal)
 {
     m_mark->setVisible(!refusal.isEmpty());
     m_mark->setToolTip(refusal);
 }
 
-bool ValueBox::isMarked() const { return m_mark->isVisible(); }
+bool InputCombo::isMarked() const { return m_mark->isVisible(); }
 
-void ValueBox::focusInEvent(QFocusEvent *event)
+void InputCombo::focusInEvent(QFocusEvent *event)
 {
     QComboBox::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
@@ -90,14 +90,14 @@ void ValueBox::focusInEvent(QFocusEvent *event)
     emit entered();
 }
 
-void ValueBox::focusOutEvent(QFocusEvent *event)
+void InputCombo::focusOutEvent(QFocusEvent *event)
 {
     QComboBox::focusOutEvent(event);
     emit left(event->reason());
 }
 
 /// Only the box that the user works in takes the wheel.
-void ValueBox::wheelEvent(QWheelEvent *event)
+void InputCombo::wheelEvent(QWheelEvent *event)
 {
     const int turned = event->angleDelta().y();
     const bool steps = stepsByWheel();
@@ -109,7 +109,7 @@ void ValueBox::wheelEvent(QWheelEvent *event)
 
 /// A click that brings the focus would put the cursor where it hits; what was selected on entry stays so
 /// unless the mouse selects something itself.
-bool ValueBox::eventFilter(QObject *watched, QEvent *event)
+bool InputCombo::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_enteredByMouse, false)
         && !lineEdit()->hasSelectedText())
@@ -118,7 +118,7 @@ bool ValueBox::eventFilter(QObject *watched, QEvent *event)
 }
 
 /// Without a list there is no arrow to open one: the line takes all the room, with the frame of a plain line.
-void ValueBox::arrangeLine()
+void InputCombo::arrangeLine()
 {
     const bool plain = count() == 0;
     lineEdit()->setFrame(plain);
@@ -129,19 +129,19 @@ void ValueBox::arrangeLine()
                                                             QStyle::SC_ComboBoxEditField, this));
 }
 
-void ValueBox::resizeEvent(QResizeEvent *event)
+void InputCombo::resizeEvent(QResizeEvent *event)
 {
     QComboBox::resizeEvent(event);
     arrangeLine();
 }
 
-void ValueBox::showEvent(QShowEvent *event)
+void InputCombo::showEvent(QShowEvent *event)
 {
     QComboBox::showEvent(event);
     arrangeLine();
 }
 
-void ValueBox::changeEvent(QEvent *event)
+void InputCombo::changeEvent(QEvent *event)
 {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) arrangeLine();

@@ -12,10 +12,10 @@ class TypingFilter;
 
 /// A line for one value, with a list behind it as soon as there is something in it. Whatever way text gets in
 /// (keys, paste, drop, input methods), it passes the same filter.
-class ValueBox final : public QComboBox {
+class InputCombo final : public QComboBox {
     Q_OBJECT
 public:
-    ValueBox(const NumberInput &input, QWidget *parent); ///< `input` outlives the box
+    InputCombo(const NumberInput &input, QWidget *parent); ///< `input` outlives the box
     void showText(const QString &text);         ///< from now on the user has not touched it
     bool touched() const;                       ///< by the user or by hand of a program, since it was shown
     TypingPlace place() const;                  ///< where the next key goes
