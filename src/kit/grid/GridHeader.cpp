@@ -20,6 +20,7 @@ GridHeader::GridHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
     setTextElideMode(Qt::ElideRight);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setContextMenuPolicy(Qt::NoContextMenu); // the grid asks for one
+    connect(this, &QHeaderView::sectionCountChanged, this, &GridHeader::giveUpDrag); // other columns
 }
 
 void GridHeader::setSortKeys(std::vector<SortKey> keys)
@@ -153,6 +154,12 @@ void GridHeader::startDrag(const QPoint &)
     qApp->installEventFilter(this);         // Esc gives up, wherever the focus is
 }
 
+void GridHeader::giveUpDrag()
+{
+    m_column = -1;
+    if (m_ghost) endDrag();
+}
+
 void GridHeader::endDrag()
 {
     qApp->removeEventFilter(this);
@@ -166,7 +173,7 @@ bool GridHeader::eventFilter(QObject *watched, QEvent *event)
     if (!m_ghost || !key || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return QHeaderView::eventFilter(watched, event);
     event->accept();
-    if (event->type() == QEvent::KeyPress) m_column = -1, endDrag();
+    if (event->type() == QEvent::KeyPress) giveUpDrag();
     return true;
 }
 

@@ -42,6 +42,7 @@ private:
     int markRoom(int column) const;
     int rankOf(int column) const;                       ///< -1 = no sort key
     void startDrag(const QPoint &at);
+    void giveUpDrag();
     void endDrag();
     void moveColumn(int column, int x);
     std::vector<SortKey> m_keys;
