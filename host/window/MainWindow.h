@@ -30,6 +30,7 @@ public:
     void chooseTool(DrawingView::Tool);
     void setDark(bool);                             ///< of all drawings
     void setColors(Colors);                         ///< of all drawings
+    void setWarning(bool); ///< asks before an invisible layer becomes current
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
 
 protected:
