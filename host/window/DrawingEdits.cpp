@@ -12,6 +12,7 @@ namespace refhost {
 namespace {
 
 constexpr int kBaseline = 24; // text-align flag
+constexpr int kManyCopies = 20; // of a new element: more are asked for
 
 /// One line that is typed in the drawing; Esc and leaving it empty place nothing.
 class TextEntry final : public QLineEdit {
@@ -58,9 +59,14 @@ template <class Act> void DrawingEdits::guarded(Act act)
 
 void DrawingEdits::place(Element e)
 {
+    const int copies = int(m_new.layers.size());
+    const QString question =
+        join(Text{30623, u"Ennyi rétegre kerül egy-egy példány: "}, copies, Text{30624, u". Elhelyezed?"});
+    if (copies > kManyCopies &&
+        !prompts().yesNo({Icon::Question, txt(Text{30622, u"Új elem"}), question}, &m_view))
+        return;
     guarded([&] {
-        e.layId = m_drawing->doc().layers().currentId();
-        m_drawing->doc().addElement(e);
+        addNew(m_drawing->doc(), std::move(e), m_new);
         m_drawing->touch();
         emit changed();
     });

@@ -38,6 +38,7 @@ constexpr const char *kPaths[] = {
     "22.2 14 "
     "L 15.5 20.7 Z",
     "M 4 5 L 20 5 M 4 12 L 20 12 M 4 19 L 20 19 D 8 5 2.2 D 16 12 2.2 D 10 19 2.2",
+    "M 3 6 L 21 6 M 3 12 L 21 12 M 3 18 L 21 18 D 8 6 2.4 D 16 12 2.4 D 10 18 2.4",
 };
 
 struct Drawing {

@@ -24,7 +24,8 @@ enum class Sign {
     Layers,
     SeveralLayers,
     EditLayers,
-    Setup
+    Setup,
+    NewElement
 };
 
 /// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.

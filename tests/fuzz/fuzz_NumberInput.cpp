@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         overwritten(text, feed, at);
         const auto how = feed.take<uint8_t>();
         QString typed;
-        if (how & 1) typed = textTyped(input, at, feed.text(how >> 3));
+        if (how & 1) typed = textTyped(input, at, feed.text(how >> 3)).text;
         else if (const auto key = keyTyped(input, at, QChar(feed.take<char16_t>()), how & 2 ? kKeypadDecimal : 0))
             typed = *key;
         text = at.before + typed + at.behind;

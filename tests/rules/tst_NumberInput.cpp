@@ -140,14 +140,16 @@ private slots:
     void insertedTextIsTypedCharacterByCharacter()
     {
         const NumberInput comma = decimals(kHungarian);
-        QCOMPARE(textTyped(whole(), {}, QStringLiteral("a1b2.3\n")), QStringLiteral("123"));
-        QCOMPARE(textTyped(comma, {}, QStringLiteral("-1.2.3-")), QStringLiteral("-1,23"));
-        QCOMPARE(textTyped(comma, {QStringLiteral("7,"), {}}, QStringLiteral("1.5")), QStringLiteral("15"));
-        QCOMPARE(textTyped(decimals(kEnglish), {}, QStringLiteral("1,234.5")), QStringLiteral("1.2345"));
+        QCOMPARE(textTyped(whole(), {}, QStringLiteral("a1b2.3\n")).text, QStringLiteral("123"));
+        QCOMPARE(textTyped(comma, {}, QStringLiteral("-1.2.3-")).text, QStringLiteral("-1,23"));
+        QCOMPARE(textTyped(comma, {QStringLiteral("7,"), {}}, QStringLiteral("1.5")).text, QStringLiteral("15"));
+        QCOMPARE(textTyped(decimals(kEnglish), {}, QStringLiteral("1,234.5")).text, QStringLiteral("1.2345"));
         NumberInput reader = decimals(kEnglish);
         reader.readsLocale = true;              // then a number that is pasted stays the number it is
-        QCOMPARE(textTyped(reader, {}, QStringLiteral("1,234.5")), QStringLiteral("1234.5"));
-        QCOMPARE(textTyped(reader, {}, QStringLiteral("about 1,5")), QStringLiteral("1.5"));
+        QCOMPARE(textTyped(reader, {}, QStringLiteral("1,234.5")).text, QStringLiteral("1234.5"));
+        QVERIFY(!textTyped(reader, {}, QStringLiteral("1,234.5")).dropped);
+        QVERIFY(textTyped(reader, {}, QStringLiteral("1.5 m")).dropped);
+        QCOMPARE(textTyped(reader, {}, QStringLiteral("about 1,5")).text, QStringLiteral("1.5"));
     }
 
     void valuesAreCheckedAgainstTheBounds_data()
