@@ -199,7 +199,7 @@ void ZOL3_LayInfo::setVisibleIcon(bool on)
 void ZOL3_LayInfo::RefreshControls()
 {
     const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("00000"));
-    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height() * 3 / 4); // a frame, and room for the cursor
+    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height() * 3 / 4); // with frame and cursor
     layout()->invalidate();
     layout()->activate();
     updateGeometry();
