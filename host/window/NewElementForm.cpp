@@ -140,7 +140,7 @@ void NewElementForm::retranslate()
     const std::initializer_list<usInputBox *> boxes{m_width, m_rotation, m_textHeight};
     int widest = 0;                                 // pixels: the values stand below each other
     for (const usInputBox *box : boxes)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(box->BeforeString() + u" "));
+        widest = std::max(widest, fontMetrics().horizontalAdvance(box->BeforeString() + u' '));
     for (usInputBox *box : boxes) {
         box->setLocale(interfaceLocale());
         box->setWidthBeforeString(widest * 1440 / logicalDpiX());

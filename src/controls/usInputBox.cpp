@@ -1,7 +1,7 @@
 #include "controls/usInputBox.h"
 
 #include "controls/input/StepArrows.h"
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 #include "facade/services/Language.h"
 #include "kit/ask/ErrorRelay.h"
 #include "rules/NumberText.h"
@@ -45,7 +45,7 @@ std::optional<double> bound(const NumberInput &input, const QVariant &value)
 
 usInputBox::usInputBox(QWidget *parent)
     : CaptionedField(parent), m_input(std::make_unique<NumberInput>()),
-      txtCombo(named(new ValueBox(*m_input, this), "txtCombo")),
+      txtCombo(named(new InputCombo(*m_input, this), "txtCombo")),
       UpDown1(named(new StepArrows(this), "UpDown1")), Timer1(named(new QTimer(this), "Timer1"))
 {
     m_input->locale = locale();
@@ -58,11 +58,11 @@ usInputBox::usInputBox(QWidget *parent)
             ErrorRelay::reporting().guard([&] { (this->*member)(given...); });
         };
     };
-    connect(&box(), &ValueBox::edited, this, &usInputBox::markText);
-    connect(&box(), &ValueBox::entered, this, &usInputBox::entered);
-    connect(&box(), &ValueBox::left, this, user(&usInputBox::left));
-    connect(&box(), &ValueBox::chosen, this, user(&usInputBox::enter));
-    connect(&box(), &ValueBox::wheelStepped, this, user(&usInputBox::stepOnce));
+    connect(&box(), &InputCombo::edited, this, &usInputBox::markText);
+    connect(&box(), &InputCombo::entered, this, &usInputBox::entered);
+    connect(&box(), &InputCombo::left, this, user(&usInputBox::left));
+    connect(&box(), &InputCombo::chosen, this, user(&usInputBox::enter));
+    connect(&box(), &InputCombo::wheelStepped, this, user(&usInputBox::stepOnce));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::pressed, this, user(&usInputBox::startSteps));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::released, this, &usInputBox::endSteps);
     connect(Timer1, &QTimer::timeout, this,
@@ -75,7 +75,7 @@ usInputBox::usInputBox(QWidget *parent)
 
 usInputBox::~usInputBox() = default;
 
-ValueBox &usInputBox::box() const { return *static_cast<ValueBox *>(txtCombo); }
+InputCombo &usInputBox::box() const { return *static_cast<InputCombo *>(txtCombo); }
 
 bool usInputBox::LetValue(const QVariant &value, const QVariant &min, const QVariant &max)
 {

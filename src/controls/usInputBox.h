@@ -16,7 +16,7 @@ namespace QV_DOC_CONTROLS {
 
 struct Message;
 struct NumberInput;
-class ValueBox;
+class InputCombo;
 
 /// One bounded number, or in text mode one short text.
 ///
@@ -120,7 +120,7 @@ private:
     void settle();
     void settleValue();
 
-    ValueBox &box() const;
+    InputCombo &box() const;
     double number() const { return m_value.toDouble(); }
     using Refusal = std::optional<Message>;
     Refusal take(const QVariant &value);                ///< checks and stores; none = taken

@@ -1,7 +1,7 @@
 #include "controls/usInputBox.h"
 
 #include "controls/DesignMode.h"
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 #include "facade/services/Text.h"
 #include "kit/forms/PropertyBag.h"
 
