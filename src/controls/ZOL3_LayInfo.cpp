@@ -111,6 +111,7 @@ std::optional<tLay> ZOL3_LayInfo::layerFor(const QVariant &value, const Find &fi
     if (!lay) {
         const Text reason =
             numeric ? Text{32, u"Nincs ilyen számú réteg!"} : Text{42, u"Egész számot kell megadni!"};
+        prompts().alert();
         prompts().tell({Icon::Exclamation, txt(Text{31, u"Hibás rétegszám"}), txt(reason)}, this);
     }
     return lay;
