@@ -20,6 +20,8 @@ public:
     void setNewElement(const NewElement &attributes) { m_new = attributes; } ///< of what is placed
     void deleteSelected();                          ///< asks with the count
     void selectAll();                               ///< of what is shown
+    ZolWDoc::tLayArr layersOfSelection() const;     ///< by number; the current one when nothing is selected
+    void selectOn(const ZolWDoc::tLayArr &layers);  ///< what is shown of them
 signals:
     void changed();                                 ///< the view needs a new scene
     void failed(const QString &why);
@@ -29,6 +31,7 @@ private:
     void placeLine(const QList<QPointF> &world);
     void askForText(QPointF world);
     template <class Act> void guarded(Act);
+    template <class Wanted> void selectShown(Wanted);
     DrawingView &m_view;
     OpenDrawing *m_drawing = nullptr;
     NewElement m_new;

@@ -22,7 +22,9 @@ enum class Sign {
     Lettering,
     Delete,
     Layers,
-    Dialog,
+    SeveralLayers,
+    EditLayers,
+    Setup,
     NewElement
 };
 

@@ -4,7 +4,7 @@
 #include "kit/grid/Grid.h"
 
 #include <QTest>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 #include <cstring>
 
