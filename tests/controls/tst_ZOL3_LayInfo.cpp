@@ -175,6 +175,7 @@ private slots:
         ScriptedPrompts user({refusal(message), refusal(message)});
         f.control->LetLayNr(value, 0);
         f.control->LetLayId(value, 0);
+        QCOMPARE(user.alerts(), 2);
         QCOMPARE(f.shown(), QStringLiteral("12 Út"));
         QCOMPARE(current(), qint16(12));
         QCOMPARE(f.raised, QStringList());

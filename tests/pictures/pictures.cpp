@@ -3,7 +3,6 @@
 // its tools.
 #include "facade/services/Language.h"
 #include "document/SqliteDoc.h"
-#include "pictures/ControlPictures.h"
 #include "pictures/Scene.h"
 #include "support/Looks.h"
 
@@ -73,7 +72,8 @@ struct SheetRow {
     const char *name;
     void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
 };
-constexpr SheetRow kSheets[] = {{"select", tests::takeSelection}, {"values", takeValues}};
+constexpr SheetRow kSheets[] = {
+    {"controls", tests::takeControls}, {"select", tests::takeSelection}, {"values", takeValues}};
 
 /// One language in one palette; false when a flaw was found.
 bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)
@@ -88,7 +88,6 @@ bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &va
         std::printf("%s\n", qPrintable(path));
         flawless &= sheet.save(path) && sheet.flaws.isEmpty();
     }
-    saveLayerControls(doc, folder + QStringLiteral("/layer-controls") + variant);
     return flawless;
 }
 
