@@ -128,7 +128,9 @@ void NewElementForm::handOver()
 void NewElementForm::retranslate()
 {
     m_layersCaption->setText(txt(Text{30625, u"Az új elem ré&tegei:"}));
-    m_layers->setToolTip(txt(Text{30626, u"Az elem mindegyik rétegre elkészül; üresen az aktuális rétegre."}));
+    m_layersCaption->setToolTip(
+        txt(Text{30626, u"Az elem mindegyik rétegre elkészül; üresen az aktuális rétegre."}));
+    m_layers->setToolTip(m_layersCaption->toolTip());
     m_width->setBeforeString(txt(Text{30627, u"Vonal&vastagság"}));
     m_rotation->setBeforeString(txt(Text{30628, u"&Elforgatás"}));
     m_rotation->setAfterString(QStringLiteral("°"));
@@ -138,7 +140,7 @@ void NewElementForm::retranslate()
     const std::initializer_list<usInputBox *> boxes{m_width, m_rotation, m_textHeight};
     int widest = 0;                                 // pixels: the values stand below each other
     for (const usInputBox *box : boxes)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(box->BeforeString() + QStringLiteral("  ")));
+        widest = std::max(widest, fontMetrics().horizontalAdvance(box->BeforeString() + u' '));
     for (usInputBox *box : boxes) {
         box->setLocale(interfaceLocale());
         box->setWidthBeforeString(widest * 1440 / logicalDpiX());

@@ -175,6 +175,7 @@ private slots:
         ScriptedPrompts user({refusal(message), refusal(message)});
         f.control->LetLayNr(value, 0);
         f.control->LetLayId(value, 0);
+        QCOMPARE(user.alerts(), 2);
         QCOMPARE(f.shown(), QStringLiteral("12 Út"));
         QCOMPARE(current(), qint16(12));
         QCOMPARE(f.raised, QStringList());
@@ -429,7 +430,8 @@ private slots:
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("captions");
         QTest::addColumn<QString>("refusal");
-        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg..." << "Hibás rétegszám|Nincs ilyen számú réteg!";
+        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg..."
+                            << "Hibás rétegszám|Nincs ilyen számú réteg!";
         QTest::newRow("en") << int(English) << "Layer  :|Layer..."
                             << "Invalid layer number!|No such a layer with this number";
         QTest::newRow("ro") << int(Romanian) << "Strat  :|Strat..."
