@@ -151,7 +151,7 @@ void GridPage::find()
                        : current.isValid() ? current.column()
                        : shown.empty()     ? -1
                                            : shown[0];
-    if (column >= 0 && m_manager) findInColumn(*gridItems, m_manager->source(), column, m_relay);
+    if (m_manager) findInColumn(*gridItems, column, m_relay);
 }
 
 void GridPage::print()

@@ -207,6 +207,7 @@ void Grid::arm()
 void Grid::setTooltips(bool on) { m_model->tooltips = on; }
 GridStyles &Grid::formatStyles() { return m_model->formatStyles(); }
 int Grid::rowWithId(qint64 id) const { return m_model->rowWithId(id); }
+QString Grid::shownText(int row, int column) const { return m_model->cellText(row, column); }
 QAbstractItemView *Grid::table() const { return m_table; }
 int Grid::columnWidth(int column) const { return m_header->widthOf(column); }
 

@@ -63,6 +63,7 @@ public:
     /// case does not count. Looks behind the current row first. False = no shown row has it.
     bool find(int column, const QString &text);
     int rowWithId(qint64 id) const;                 ///< -1 = none
+    QString shownText(int row, int column) const;   ///< of a check box too: the word that find() takes
 
     void setTitle(const QString &name);             ///< what a screen reader calls the grid
     void setListOnly(bool on);                      ///< without filter line and group-by box

@@ -145,6 +145,7 @@ void Grid::updateCounts()
 void Grid::captionsChanged()
 {
     relist([this] { m_model->captionsChanged(); });
+    m_header->makeRoomForCaptions();
     m_filter->retranslate(interfaceLocale());
     m_box->showLevels(groupLevels(), columns());
     columnsMoved();

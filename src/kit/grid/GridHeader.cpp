@@ -48,6 +48,11 @@ void GridHeader::setShown(int column, bool shown)
     if (shown && m_widths.contains(column)) resizeSection(column, m_widths.take(column));
 }
 
+void GridHeader::makeRoomForCaptions()
+{
+    for (int c = 0; c < count(); ++c) setWidth(c, std::max(widthOf(c), sectionSizeHint(c)));
+}
+
 int GridHeader::rankOf(int column) const
 {
     const auto found = std::ranges::find(m_keys, column, &SortKey::column);
