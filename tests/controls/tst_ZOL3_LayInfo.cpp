@@ -430,7 +430,8 @@ private slots:
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("captions");
         QTest::addColumn<QString>("refusal");
-        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg..." << "Hibás rétegszám|Nincs ilyen számú réteg!";
+        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg..."
+                            << "Hibás rétegszám|Nincs ilyen számú réteg!";
         QTest::newRow("en") << int(English) << "Layer  :|Layer..."
                             << "Invalid layer number!|No such a layer with this number";
         QTest::newRow("ro") << int(Romanian) << "Strat  :|Strat..."

@@ -109,8 +109,9 @@ int main(int argc, char **argv)
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
-            flawless &= takeSheets(*doc, folder, QStringLiteral("-%1-%2-x%3.png")
-                                                     .arg(QLatin1String(name), dark ? "dark" : "light", scale));
+            flawless &= takeSheets(
+                *doc, folder,
+                QStringLiteral("-%1-%2-x%3.png").arg(QLatin1String(name), dark ? "dark" : "light", scale));
         }
     return flawless ? 0 : 1;
 }

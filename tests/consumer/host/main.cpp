@@ -48,9 +48,8 @@ int main(int argc, char **argv)
     std::printf("current %d\n", doc.layers().find(doc.layers().currentId()).value().gNr);
 
     QV_DOC_CONTROLS::ZOL3_LayGroup set;
-    QObject::connect(&set, &QV_DOC_CONTROLS::ZOL3_LayGroup::ChangeLays, [](QV_DOC_CONTROLS::LayerSet &layers) {
-        std::printf("set of %d\n", layers.count());
-    });
+    QObject::connect(&set, &QV_DOC_CONTROLS::ZOL3_LayGroup::ChangeLays,
+                     [](QV_DOC_CONTROLS::LayerSet &layers) { std::printf("set of %d\n", layers.count()); });
     set.setZOLW_Doc(&doc);
     set.setsLays(QStringLiteral("30,1-20"));
     std::printf("named %s\n", qPrintable(set.sLays()));
