@@ -24,7 +24,7 @@ namespace {
 
 const QString kProgram = QStringLiteral("QVDraw"), kSection = QStringLiteral("Window");
 const QString kGeometry = QStringLiteral("Geometry"), kState = QStringLiteral("State"),
-              kDark = QStringLiteral("Dark");
+              kDark = QStringLiteral("Dark"), kWarn = QStringLiteral("WarnInvisible");
 constexpr int kStateVersion = 2;               // another one when toolbars or pages come or go
 
 QString withoutKey(QString caption) { return caption.remove(u'&'); }
@@ -183,6 +183,8 @@ void MainWindow::setColors(Colors colors)
     for (int i = 0; i < m_tabs->count(); ++i) m_tabs->page(i)->view().setColors(colors);
 }
 
+void MainWindow::setWarning(bool on) { m_dialogs->setWarnInvisibleCurrentLayer(on); }
+
 void MainWindow::showTool()
 {
     const DrawingView::Tool tool = m_tabs->page() ? view().tool() : DrawingView::Tool::Select;
@@ -266,6 +268,8 @@ void MainWindow::restoreLook()
     const bool desktopIsDark = palette().color(QPalette::Base).lightness() < 128;
     action("dark")->setChecked(dark.isEmpty() ? desktopIsDark : dark == u"1");
     setDark(action("dark")->isChecked());
+    action("warn")->setChecked(read(kWarn) != u"0");
+    setWarning(action("warn")->isChecked());
 }
 
 void MainWindow::rememberLook() const
@@ -275,6 +279,7 @@ void MainWindow::rememberLook() const
     };
     write(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));
     write(kState, QString::fromLatin1(saveState(kStateVersion).toBase64()));
+    write(kWarn, action("warn")->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
     write(kDark, m_dark ? QStringLiteral("1") : QStringLiteral("0"));
 }
 

@@ -33,6 +33,7 @@ public:
     void showNewElement(bool);                      ///< the page beside the drawing
     void setDark(bool);                             ///< of all drawings
     void setColors(Colors);                         ///< of all drawings
+    void setWarning(bool); ///< asks before an invisible layer becomes current
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
 
 protected:

@@ -121,6 +121,14 @@ const A::Row kRows[] = {
      Sign::Delete,
      "Del",
      [](W &w, bool) { w.page().edits().deleteSelected(); }},
+
+    {"warn",
+     A::Settings,
+     {30528, u"&Figyelmeztetés kikapcsolt aktuális rétegre"},
+     {},
+     "",
+     [](W &w, bool on) { w.setWarning(on); },
+     A::Switch},
 };
 
 } // namespace

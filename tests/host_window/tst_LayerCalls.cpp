@@ -5,6 +5,7 @@
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "grids/clsJs_Layer.h"
 #include "kit/grid/Grid.h"
 
@@ -13,13 +14,16 @@
 #include "support/ScriptedPrompts.h"
 
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace refhost;
 using namespace QV_DOC_CONTROLS;
 using tests::child;
+using tests::ScriptedPrompts;
 using tests::whileModal;
 
 /// The library's layer dialogs at work in the program: what they do to the drawing is seen behind them.
@@ -105,6 +109,28 @@ private slots:
         QVERIFY(call("bSetup"));
     }
 
+    void anInvisibleLayerIsAskedForUnlessTheUserDoesNotWantIt()
+    {
+        ZolWDoc::tLay hidden = layer(page(0), 103);
+        hidden.Visible = false;
+        page(0).doc().layers().update(hidden);
+        ScriptedPrompts user({{"yesNo", appTitle(),
+                               QStringLiteral("103 Kikapcsolt réteget választott!\nMegerősíti?"), false,
+                               Icon::Question}});
+        const auto makeCurrent = [&](qint16 expected) {
+            const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+                chooseRows(d, {2});
+                use(d, "cmdLays_MakeCurrent");
+                d.reject();
+            });
+            call("bSetup");
+            QCOMPARE(page(0).doc().layers().currentId(), layer(page(0), expected).LayId);
+        };
+        makeCurrent(101);
+        m_window->findChild<QAction *>(QStringLiteral("warn"))->trigger();
+        makeCurrent(103);
+    }
+
     void whatStandsOnTheChosenLayersIsSelected()
     {
         DrawingPage &sample = page(0);
@@ -127,6 +153,69 @@ private slots:
             QVERIFY(on == a || on == b);
         }
         QCOMPARE(status(), QStringLiteral("Réteg: 101 Földrészlet határ")); // the current one stays
+    }
+
+    void elementsOfLayersAreDeletedWhileTheLayersStay()
+    {
+        const auto there = page(0).doc().elementsOf(layer(page(0), 201).LayId).size();
+        QVERIFY(there > 0);
+        ScriptedPrompts user(
+            {{"yesNo", QStringLiteral("Rétegek elemeinek törlése"),
+              QStringLiteral("Kijelölt rétegek száma: 1\nRajzelemek rajtuk: %1\nBiztosan törlöd "
+                             "ezeket a rajzelemeket? A rétegek megmaradnak.")
+                  .arg(there),
+              true, Icon::Exclamation}});
+        const size_t before = page(0).view().scene().elements().size();
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            chooseRows(d, {6});
+            use(d, "cmdLays_DeleteObjs");
+            QTRY_COMPARE(page(0).view().scene().elements().size(), before - there);
+            d.reject();
+        });
+        call("bEdit_Layers");
+        QCOMPARE(layer(page(0), 201).Name, QStringLiteral("Lakóépület"));
+        QVERIFY(m_window->windowTitle().contains(u'*')); // the sample is no longer what it was
+    }
+
+    void aTextFileIsAppliedOrItsMistakeTold_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("applied") << QByteArray("101 Telekhat\xE1r") << QStringLiteral("Telekhatár")
+                                 << QString();
+        QTest::newRow("wrong") << QByteArray("101 Telek\n7 Nincs") << QStringLiteral("Földrészlet határ")
+                               << QStringLiteral(
+                                      "' fájl hibás, ezért semmi nem változott. Hibás sor: 2, nincs "
+                                      "ilyen sorszámú réteg.");
+    }
+    void aTextFileIsAppliedOrItsMistakeTold()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, told);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("list.txt"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        file.close();
+        std::vector<ScriptedPrompts::Step> steps{{"openFile",
+                                                  QStringLiteral("Rétegek átnevezése"),
+                                                  QStringLiteral("Rétegek (*.txt)|*.txt"),
+                                                  path}};
+        if (!told.isEmpty()) // the mistake closes the dialog; the program tells it
+            steps.push_back({"tell",
+                             QStringLiteral("A művelet nem sikerült"),
+                             QStringLiteral("A(z) '") + path + told,
+                             QVariant(),
+                             Icon::Exclamation});
+        ScriptedPrompts user(steps);
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            use(d, "cmdLays_FileRename");
+            if (told.isEmpty()) d.reject();
+        });
+        QVERIFY(!call("bEdit_Layers"));
+        QTEST(layer(page(0), 101).Name, "name");
+        QTEST(shown(page(0), 101).Name, "name");
     }
 
     void whatGoesToAllDrawingsShowsInEach()

@@ -296,7 +296,8 @@ void GridModel::readColumns()
 {
     m_flags.clear();
     for (int c = 0; const GridColumn *col = column(c); ++c) {
-        Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+        Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
+                              Qt::ItemNeverHasChildren; // whether rows are dragged is the views' affair
         if (m_writable && col->editable && col->kind != CellKind::Picture)
             flags |= col->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
         m_flags.push_back(flags);
