@@ -77,7 +77,8 @@ private slots:
     {
         inDialog([](frmSelect &d, Grid &, ToolSet &tools) {
             std::vector<bool> seen;
-            const auto heard = connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
+            const auto heard =
+                connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
             const auto watch = whileModal<frmGroupBy>([](frmGroupBy &g) {
                 g.cboGroups[0]->setCurrentIndex(3);
                 g.cmdOk->click();
