@@ -169,16 +169,16 @@ private slots:
     /// Whatever is open speaks the new language, what it stands on too.
     void aLanguageChangeReachesEveryOpenDialog_data()
     {
-        QTest::addColumn<const char *>("tool");
+        QTest::addColumn<QByteArray>("tool");
         QTest::addColumn<QString>("title");
-        QTest::newRow("sort") << "miSort" << QStringLiteral("Sort");
-        QTest::newRow("group") << "miGroupBy" << QStringLiteral("Grouping");
-        QTest::newRow("columns") << "miShowFields" << QStringLiteral("Display columns");
-        QTest::newRow("preview") << "miPrintPreview" << QStringLiteral("Print preview");
+        QTest::newRow("sort") << QByteArray("miSort") << QStringLiteral("Sort");
+        QTest::newRow("group") << QByteArray("miGroupBy") << QStringLiteral("Grouping");
+        QTest::newRow("columns") << QByteArray("miShowFields") << QStringLiteral("Display columns");
+        QTest::newRow("preview") << QByteArray("miPrintPreview") << QStringLiteral("Print preview");
     }
     void aLanguageChangeReachesEveryOpenDialog()
     {
-        QFETCH(const char *, tool);
+        QFETCH(QByteArray, tool);
         QFETCH(QString, title);
         inDialog([&](frmSelect &d, Grid &grid, ToolSet &tools) {
             const auto watch = whileModal<QDialog>([&](QDialog &open) {
