@@ -179,7 +179,7 @@ private slots:
         }
         form.chooseGroup(QStringLiteral("Utak"));
         const QString refusal =
-            QStringLiteral("A(z) 'Utak' csoport nem minden rétege szerepel más csoportban"
+            QStringLiteral("A(z) 'Utak' csoport nem minden rétege szerepel más csoportban\n"
                            "ezért nem szüntethető meg!");
         {
             ScriptedPrompts user({sure(true), told("Rétegcsoport törlés", refusal)});

@@ -73,11 +73,11 @@ void LayerGroups::remove()
     if (group->GroupId == systemGroupIn(all))
         return tell(title, txt(Text{3288, u"A rendszer-rétegcsoport nem törölhető!"}));
     std::vector<tLayMember> members = m_desk.doc().layers().members();
-    if (!canDeleteGroup(group->GroupId, members)) // the two Hungarian texts meet without a blank, on purpose
+    if (!canDeleteGroup(group->GroupId, members))
         return tell(txt(Text{3424, u"Rétegcsoport törlés"}),
                     join(Text{3425, u"A(z) '"}, group->GroupName,
                          Text{3287, u"' csoport nem minden rétege szerepel más csoportban"},
-                         Text{3286, u"ezért nem szüntethető meg!"}));
+                         QStringLiteral("\n"), Text{3286, u"ezért nem szüntethető meg!"}));
     std::erase(all, *group);
     std::erase_if(members, [&](const tLayMember &m) { return m.GroupId == group->GroupId; });
     // First the members: should the second write fail, there is an empty group and no layer without one.
