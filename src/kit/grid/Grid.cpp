@@ -62,7 +62,7 @@ void Grid::attach(LineView &view)
     view.setSelectionModel(m_selection);
     if (own != m_selection) delete own;
     view.setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
-    m_input->watch(view, [&view](int line) { view.setDropLine(line); });
+    m_input->watch(view, [&view](int line, QDragMoveEvent *over) { view.setDropLine(line, over); });
     connect(&view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &i) {
         const bool edits = m_editStart == EditStart::DoubleClick && i.flags() & Qt::ItemIsEditable;
         const int row = m_model->sourceRow(i);

@@ -18,7 +18,7 @@ GridInput::GridInput(GridModel &model, GridDelegate &delegate, QObject *parent)
 {
 }
 
-void GridInput::watch(QAbstractItemView &view, std::function<void(int line)> markDrop)
+void GridInput::watch(QAbstractItemView &view, MarkDrop markDrop)
 {
     view.installEventFilter(this);
     view.viewport()->installEventFilter(this);
@@ -150,14 +150,14 @@ DropTarget GridInput::targetAt(const QModelIndex &index) const
 
 bool GridInput::isDropTaken(const Watched &over, QEvent &event)
 {
-    if (event.type() == QEvent::DragLeave) return over.markDrop(-1), true;
+    if (event.type() == QEvent::DragLeave) return over.markDrop(-1, nullptr), true;
     auto &drop = static_cast<QDropEvent &>(event);
     const QModelIndex index = over.view->indexAt(drop.position().toPoint());
     const DropTarget target = targetAt(index);
     auto *const source = const_cast<GridSource *>(m_model.source());
     const bool takes = drop.mimeData() && source->canDrop(*drop.mimeData(), target);
     const bool done = event.type() == QEvent::Drop;
-    over.markDrop(takes && !done ? index.row() : -1);
+    over.markDrop(takes && !done ? index.row() : -1, done ? nullptr : static_cast<QDragMoveEvent *>(&event));
     if (takes) drop.acceptProposedAction();
     else drop.ignore();
     if (takes && done) source->drop(*drop.mimeData(), target);

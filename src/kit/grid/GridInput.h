@@ -9,6 +9,7 @@
 
 class QAbstractItemView;
 class QContextMenuEvent;
+class QDragMoveEvent;
 class QDropEvent;
 class QHeaderView;
 class QKeyEvent;
@@ -24,7 +25,9 @@ class GridInput final : public QObject {
     Q_OBJECT
 public:
     GridInput(GridModel &model, GridDelegate &delegate, QObject *parent);
-    void watch(QAbstractItemView &view, std::function<void(int line)> markDrop);
+    /// Says over which line (-1 = none that takes it) something is dragged; null = nothing is any more.
+    using MarkDrop = std::function<void(int line, QDragMoveEvent *over)>;
+    void watch(QAbstractItemView &view, MarkDrop markDrop);
     void watch(QHeaderView &header);
     bool wasOnCheckMark() const { return m_onCheckMark; } ///< the last double click
 
@@ -38,7 +41,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    struct Watched { QAbstractItemView *view; std::function<void(int)> markDrop; };
+    struct Watched { QAbstractItemView *view; MarkDrop markDrop; };
     bool isKeyTaken(QAbstractItemView &view, const QKeyEvent &event);
     bool isBandKeyTaken(QAbstractItemView &view, int key);
     bool isListOpened(QAbstractItemView &view);

@@ -37,9 +37,11 @@ QStyleOptionViewItem LineView::cellOption() const
     return option;
 }
 
-void LineView::setDropLine(int line)
+void LineView::setDropLine(int line, QDragMoveEvent *over)
 {
     if (std::exchange(m_dropLine, line) != line) viewport()->update();
+    if (over) QAbstractItemView::dragMoveEvent(over);
+    else stopAutoScroll();
 }
 
 void LineView::paintDropLine(QPainter &painter) const
