@@ -25,8 +25,8 @@ struct Shown : tests::LayerForm {
         window.resize(600, 300);
         window.show();
     }
-    /// Drags the current row, with the selected ones if it is one of them; what the drag carries, null = there
-    /// was none. Where no pointer drags, Qt ends a drag at once and leaves its data behind.
+    /// Drags the current row, with the selected ones if it is one of them; what the drag carries, null =
+    /// there was none. Where no pointer drags, Qt ends a drag at once and leaves its data behind.
     static std::unique_ptr<QMimeData> dragged(Grid &from)
     {
         QAbstractItemView &view = *from.activeView();
@@ -150,7 +150,8 @@ private slots:
         QVERIFY(!Shown::drop(*foreign, form.groups, kEmpty));
         other.groups.setCurrentRow(kRoads);
         const auto foreignGroup = other.dragged(other.groups);
-        QVERIFY(!Shown::drop(*foreignGroup, form.groups, kEmpty) && !Shown::drop(*foreignGroup, form.grid, 0));
+        QVERIFY(!Shown::drop(*foreignGroup, form.groups, kEmpty) &&
+                !Shown::drop(*foreignGroup, form.grid, 0));
         QMimeData junk;
         for (const QByteArray &bytes : {QByteArray(), QByteArray("junk"), QByteArray(40, '\xff')}) {
             for (const char *format : {"FromZol3GridLayer", "FromZol3GroupLayer", "text/plain"})

@@ -4,7 +4,7 @@
 #include "kit/grid/Grid.h"
 
 #include <QTest>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 #include <cstring>
 
@@ -72,7 +72,10 @@ struct LayerForm {
         groups.setCurrentRow(0);
         return out.join(QStringLiteral(" | "));
     }
-    QString chosenGroup() const { return groups.table()->currentIndex().siblingAtColumn(0).data().toString(); }
+    QString chosenGroup() const
+    {
+        return groups.table()->currentIndex().siblingAtColumn(0).data().toString();
+    }
     void chooseGroup(const QString &name)
     {
         for (int r = 0; r < groups.table()->model()->rowCount(); ++r)

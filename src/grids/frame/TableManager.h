@@ -167,13 +167,7 @@ private:
         for (const Record &r : selected()) ids.push_back(Table::id(r));
         return ids;
     }
-    void readCaptions()
-    {
-        m_columns.clear();
-        for (const auto &c : Table::columns)
-            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
-                                 c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
-    }
+    void readCaptions() { m_columns = gridColumnsOf<Table>(); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
