@@ -29,7 +29,8 @@ using Step = ScriptedPrompts::Step;
 namespace {
 
 // What the commands say, to the letter.
-const QString kSave = QStringLiteral("Rétegek mentése"), kLoad = QStringLiteral("Rétegek láthatóságok betöltése");
+const QString kSave = QStringLiteral("Rétegek mentése"),
+              kLoad = QStringLiteral("Rétegek láthatóságok betöltése");
 Step saveAsked(const QString &path) { return {"saveFile", kSave, QStringLiteral("*.z3l|*.z3l"), path}; }
 Step loadAsked(const QString &path) { return {"openFile", kLoad, QStringLiteral("*.z3l|*.z3l"), path}; }
 Step textFileAsked(const char *title, const QString &path)
@@ -47,10 +48,12 @@ Step refused(const QString &title, const QString &text)
 }
 const QString kForeign = QStringLiteral(
     "A(z) '%1' fájl sérült, vagy nem rétegmentés. Mentsd el újra a rétegeket, vagy válassz másik fájlt!");
-const QString kCut = QStringLiteral("A(z) '%1' rétegmentés csonka: hamarabb véget ér, mint a tartalma. Mentsd el "
-                                    "újra a rétegeket, vagy válassz másik fájlt!");
-const QString kUnreadable = QStringLiteral("A(z) '%1' fájl nem olvasható. Ellenőrizd, hogy megvan-e, és van-e "
-                                           "hozzá jogosultságod! Részletek: ");
+const QString kCut =
+    QStringLiteral("A(z) '%1' rétegmentés csonka: hamarabb véget ér, mint a tartalma. Mentsd el "
+                   "újra a rétegeket, vagy válassz másik fájlt!");
+const QString kUnreadable =
+    QStringLiteral("A(z) '%1' fájl nem olvasható. Ellenőrizd, hogy megvan-e, és van-e "
+                   "hozzá jogosultságod! Részletek: ");
 
 /// Nothing of the user's own settings.
 struct Store final : HostServices {
@@ -92,8 +95,9 @@ private:
     QByteArray saved() const
     {
         const LayerRole &layers = m_doc->layers();
-        return std::get<QByteArray>(bytesOf(
-            {layers.fileVersion(), layers.readAll(), layers.groups(), layers.members()}, layerFileCodePage()));
+        return std::get<QByteArray>(
+            bytesOf({layers.fileVersion(), layers.readAll(), layers.groups(), layers.members()},
+                    layerFileCodePage()));
     }
 
 private slots:
@@ -164,10 +168,12 @@ private slots:
             << "windows-1252" << "Erdő" << "Utak"
             << "A(z) 'Erdő' rétegnév egyik betűje hiányzik a beállított kódlapból. Nevezd át a réteget, vagy "
                "állíts be másik kódlapot!";
-        QTest::newRow("a group's letter is lacking")
-            << "windows-1252" << "Erd" << "Fő utak"
-            << "A(z) 'Fő utak' csoportnév egyik betűje hiányzik a beállított kódlapból. Nevezd át a csoportot, "
-               "vagy állíts be másik kódlapot!";
+        QTest::newRow("a group's letter is lacking") << "windows-1252"
+                                                     << "Erd"
+                                                     << "Fő utak"
+                                                     << "A(z) 'Fő utak' csoportnév egyik betűje hiányzik a "
+                                                        "beállított kódlapból. Nevezd át a csoportot, "
+                                                        "vagy állíts be másik kódlapot!";
         QTest::newRow("there is no such code page")
             << "windows-9" << "Erd" << "Utak"
             << "A(z) 'windows-9' kódlap ismeretlen. Állíts be másik kódlapot, például: windows-1250";
@@ -251,7 +257,8 @@ private slots:
         QTest::newRow("goes on") << good + 'x' << kForeign;
         QTest::newRow("of another version") << other << QString();
         QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n") << QString();
-        QTest::newRow("not there") << QByteArray() << kUnreadable + QStringLiteral("No such file or directory");
+        QTest::newRow("not there") << QByteArray()
+                                   << kUnreadable + QStringLiteral("No such file or directory");
     }
     void aDamagedFileIsRefused()
     {
@@ -298,8 +305,9 @@ private slots:
         QCOMPARE(form.selection(), QStringLiteral("2* 33"));
         QCOMPARE(form.rows(), m_doc->layers().readAll());
         setLayerFileCodePage(QStringLiteral("windows-9"));
-        const Step unknown = refused(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be másik "
-                                                           "kódlapot, például: windows-1250"));
+        const Step unknown =
+            refused(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be másik "
+                                          "kódlapot, például: windows-1250"));
         ScriptedPrompts user({loadAsked(path), unknown});
         form.run("cmdLays_VisibleUseFile");
     }
@@ -330,7 +338,8 @@ private slots:
         tests::LayerForm form(*map);
         const qint16 current = all[100].LayId;
         form.js.selectById(current);
-        ScriptedPrompts user({saveAsked(at("map.z3l")), loadAsked(at("map.z3l")), matchAsked(byName ? 1 : 0)});
+        ScriptedPrompts user(
+            {saveAsked(at("map.z3l")), loadAsked(at("map.z3l")), matchAsked(byName ? 1 : 0)});
         form.run("cmdLays_Save");
         for (tLay &l : all) {
             if (byName) l.gNr = qint16(1000 - l.gNr);
@@ -369,7 +378,8 @@ private slots:
         tests::LayerForm form(*m_doc);
         form.select({2});
         {
-            ScriptedPrompts user({textFileAsked(qPrintable(title), {}), textFileAsked(qPrintable(title), path)});
+            ScriptedPrompts user(
+                {textFileAsked(qPrintable(title), {}), textFileAsked(qPrintable(title), path)});
             form.run(tool.constData());
             QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 Út, 2 Erdő, 3 Árok"));
             form.run(tool.constData());

@@ -143,7 +143,8 @@ bool GridInput::isDropTaken(LineView &view, QEvent &event)
     auto *const source = const_cast<GridSource *>(m_model.source());
     const bool takes = drop.mimeData() && source->canDrop(*drop.mimeData(), target);
     const bool done = event.type() == QEvent::Drop;
-    view.setDropLine(takes && !done ? index.row() : -1, done ? nullptr : static_cast<QDragMoveEvent *>(&event));
+    view.setDropLine(takes && !done ? index.row() : -1,
+                     done ? nullptr : static_cast<QDragMoveEvent *>(&event));
     if (takes) drop.acceptProposedAction();
     else drop.ignore();
     if (takes && done) source->drop(*drop.mimeData(), target);
