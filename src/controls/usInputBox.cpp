@@ -1,7 +1,7 @@
 #include "controls/usInputBox.h"
 
 #include "controls/input/StepArrows.h"
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 #include "facade/services/Language.h"
 #include "kit/ask/ErrorRelay.h"
 #include "rules/NumberText.h"
@@ -45,7 +45,7 @@ std::optional<double> bound(const NumberInput &input, const QVariant &value)
 
 usInputBox::usInputBox(QWidget *parent)
     : CaptionedField(parent), m_input(std::make_unique<NumberInput>()),
-      txtCombo(named(new ValueBox(*m_input, this), "txtCombo")),
+      txtCombo(named(new InputCombo(*m_input, this), "txtCombo")),
       UpDown1(named(new StepArrows(this), "UpDown1")), Timer1(named(new QTimer(this), "Timer1"))
 {
     m_input->locale = locale();
@@ -58,11 +58,11 @@ usInputBox::usInputBox(QWidget *parent)
             ErrorRelay::reporting().guard([&] { (this->*member)(given...); });
         };
     };
-    connect(&box(), &ValueBox::edited, this, &usInputBox::markText);
-    connect(&box(), &ValueBox::entered, this, &usInputBox::entered);
-    connect(&box(), &ValueBox::left, this, user(&usInputBox::left));
-    connect(&box(), &ValueBox::chosen, this, user(&usInputBox::enter));
-    connect(&box(), &ValueBox::wheelStepped, this, user(&usInputBox::stepOnce));
+    connect(&box(), &InputCombo::edited, this, &usInputBox::checkTyped);
+    connect(&box(), &InputCombo::entered, this, &usInputBox::entered);
+    connect(&box(), &InputCombo::left, this, user(&usInputBox::left));
+    connect(&box(), &InputCombo::chosen, this, user(&usInputBox::enter));
+    connect(&box(), &InputCombo::wheelStepped, this, user(&usInputBox::stepOnce));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::pressed, this, user(&usInputBox::startSteps));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::released, this, &usInputBox::endSteps);
     connect(Timer1, &QTimer::timeout, this,
@@ -75,7 +75,7 @@ usInputBox::usInputBox(QWidget *parent)
 
 usInputBox::~usInputBox() = default;
 
-ValueBox &usInputBox::box() const { return *static_cast<ValueBox *>(txtCombo); }
+InputCombo &usInputBox::box() const { return *static_cast<InputCombo *>(txtCombo); }
 
 bool usInputBox::LetValue(const QVariant &value, const QVariant &min, const QVariant &max)
 {
@@ -105,6 +105,7 @@ usInputBox::Refusal usInputBox::takeNumber(const QVariant &value)
     if (!checked.value) return checked.refusal;
     const bool differs = *checked.value != number();
     m_value = *checked.value;
+    box().forgetTyping();
     if (differs) raiseChange();
     return {};
 }
@@ -136,12 +137,15 @@ void usInputBox::tell(const Message &refusal)
     prompts().tell(refusal, this);
 }
 
-bool usInputBox::enterTyped() { return !box().touched() || enter(box().currentText()); }
+bool usInputBox::enterTyped()
+{
+    return !box().touched() || (!staysTyped() && enter(box().currentText()));
+}
 
 /// The message comes once the focus has changed, so that a click is not lost to it.
 void usInputBox::leaveTyped()
 {
-    if (!box().touched()) return;
+    if (!box().touched() || staysTyped()) return;
     const auto afterwards = qScopeGuard([this] { showValue(); });
     if (const Refusal refusal = take(box().currentText()))
         QMetaObject::invokeMethod(this, [this, refusal = *refusal] {
@@ -162,26 +166,32 @@ void usInputBox::showValue()
 void usInputBox::refresh()
 {
     m_input->locale = locale();
-    if (box().touched()) markText();
+    if (box().touched()) checkTyped();
     else showValue();
 }
 
-void usInputBox::markText()
+void usInputBox::checkTyped()
 {
+    const QString text = box().currentText();
     m_refusal.clear();
     if (m_input->isText()) {
-        const CheckedText checked = checkedText(*m_input, box().currentText());
+        const CheckedText checked = checkedText(*m_input, text);
         if (checked.refusal) m_refusal = checked.refusal->text;
-    } else if (const CheckedNumber checked = checkedNumber(*m_input, box().currentText()); !checked.value) {
-        m_refusal = checked.refusal.text;
+    } else {
+        m_refusal = checkedNumber(*m_input, text).refusal.text;
     }
+    QString refusal = m_refusal;
+    ErrorRelay::reporting().guard([&] { emit TextChecked(refusal); });
+    if (m_errorsInPlace) m_refusal = refusal;
     box().setMarked(m_refusal);
     describe();
 }
 
-bool usInputBox::isAcceptable() const
+std::optional<double> usInputBox::acceptableNumber() const
 {
-    return !box().touched() || !box().isMarked();
+    if (!box().touched()) return number();
+    if (box().isMarked()) return {};
+    return checkedNumber(*m_input, box().currentText()).value;
 }
 
 void usInputBox::ComboValue(const QVariant &item)

@@ -1,7 +1,7 @@
 #include "controls/usInputBox.h"
 
 #include "controls/input/StepArrows.h"
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 #include "kit/ask/ErrorRelay.h"
 #include "kit/forms/KeyCodes.h"
 #include "kit/forms/TabIndex.h"

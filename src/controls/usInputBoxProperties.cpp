@@ -1,7 +1,7 @@
 #include "controls/usInputBox.h"
 
 #include "controls/DesignMode.h"
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 #include "facade/services/Text.h"
 #include "kit/forms/PropertyBag.h"
 
@@ -43,6 +43,7 @@ constexpr BagRow kBag[] = {
     {"AutoSelect", "AutoSelect", true},
     {"LenMax", "LenMax", 20},
     {"ReadsLocale", "ReadsLocale", false},
+    {"ErrorsInPlace", "ErrorsInPlace", false},
 };
 
 int shortOf(int value) { return std::clamp<int>(value, -32768, 32767); }

@@ -1,6 +1,6 @@
-#include "controls/input/ValueBoxAccessible.h"
+#include "controls/input/InputComboAccessible.h"
 
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 
 #include <QAccessibleValueInterface>
 #include <QAccessibleWidget>
@@ -11,9 +11,9 @@ namespace {
 
 /// Qt's own one for lists that can be typed into takes the text for the name. Cursor and selection are those
 /// of the line.
-class ValueBoxAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
+class InputComboAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    explicit ValueBoxAccessible(ValueBox &box) : QAccessibleWidget(&box), m_box(box) {}
+    explicit InputComboAccessible(InputCombo &box) : QAccessibleWidget(&box), m_box(box) {}
     QAccessible::Role role() const override
     {
         if (m_box.count() > 0) return QAccessible::ComboBox;
@@ -45,15 +45,15 @@ public:
     QVariant minimumStepSize() const override { return m_box.step; }
 private:
     bool isNumber() const { return !m_box.input().isText(); }
-    ValueBox &m_box;
+    InputCombo &m_box;
 };
 
 } // namespace
 
-QAccessibleInterface *makeValueBoxAccessible(const QString &, QObject *object)
+QAccessibleInterface *makeInputComboAccessible(const QString &, QObject *object)
 {
-    auto *const box = qobject_cast<ValueBox *>(object);
-    return box ? new ValueBoxAccessible(*box) : nullptr;
+    auto *const box = qobject_cast<InputCombo *>(object);
+    return box ? new InputComboAccessible(*box) : nullptr;
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -1,23 +1,24 @@
-#include "controls/input/ValueBox.h"
+#include "controls/input/InputCombo.h"
 
 #include "controls/input/TypingFilter.h"
-#include "controls/input/ValueBoxAccessible.h"
+#include "controls/input/InputComboAccessible.h"
 #include "facade/services/Prompts.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 namespace QV_DOC_CONTROLS {
 
-ValueBox::ValueBox(const NumberInput &input, QWidget *parent)
+InputCombo::InputCombo(const NumberInput &input, QWidget *parent)
     : QComboBox(parent), m_input(input), m_filter(new TypingFilter(input, this)), m_mark(nullptr)
 {
-    static const bool readable = (QAccessible::installFactory(makeValueBoxAccessible), true);
+    static const bool readable = (QAccessible::installFactory(makeInputComboAccessible), true);
     Q_UNUSED(readable);
     setEditable(true);
     setInsertPolicy(NoInsert);
@@ -31,23 +32,39 @@ ValueBox::ValueBox(const NumberInput &input, QWidget *parent)
     connect(&line, &QLineEdit::textEdited, this, [this] {
         m_touched = true;
         if (m_filter->takeDropped()) prompts().alert();
-        emit edited();
     });
+    connect(&line, &QLineEdit::textChanged, this, [this] { if (!m_showing) emit edited(); });
     connect(this, &QComboBox::activated, this, [this](int index) { emit chosen(itemData(index)); });
 }
 
-void ValueBox::showText(const QString &text)
+/// A change that is neither filtered nor the user's.
+template <class Change> void InputCombo::showing(Change change)
 {
-    m_filter->passing([&] { setEditText(text); });
+    const QScopedValueRollback guard(m_showing, true);
+    m_filter->passing(change);
     m_filter->takeDropped();
-    m_shown = text;
+}
+
+void InputCombo::showText(const QString &text)
+{
+    showing([&] {
+        const QSignalBlocker quiet(this);
+        setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive)); // the arrow keys start there
+        setEditText(text);
+    });
+    forgetTyping();
+}
+
+void InputCombo::forgetTyping()
+{
+    m_shown = currentText();
     m_touched = false;
     setMarked({});
 }
 
-bool ValueBox::touched() const { return m_touched || currentText() != m_shown; }
+bool InputCombo::touched() const { return m_touched || currentText() != m_shown; }
 
-TypingPlace ValueBox::place() const
+TypingPlace InputCombo::place() const
 {
     const QLineEdit &line = *lineEdit();
     const QString text = line.text();
@@ -56,32 +73,33 @@ TypingPlace ValueBox::place() const
     return {text.left(line.selectionStart()), text.mid(line.selectionEnd())};
 }
 
-void ValueBox::type(const QString &text)
+void InputCombo::type(const QString &text)
 {
     m_filter->passing([&] { lineEdit()->insert(text); });
 }
 
-void ValueBox::addChoice(const QString &text, const QVariant &value)
+void InputCombo::addChoice(const QString &text, const QVariant &value)
 {
-    const QSignalBlocker quiet(this);
     const QString before = currentText();
-    m_filter->passing([&] {
+    const int chosen = currentIndex();
+    showing([&] {
+        const QSignalBlocker quiet(this);
         addItem(text, value);
-        setCurrentIndex(-1);                    // the list only offers
+        setCurrentIndex(chosen);                // the list only offers
         setEditText(before);
     });
     arrangeLine();
 }
 
-void ValueBox::setMarked(const QString &refusal)
+void InputCombo::setMarked(const QString &refusal)
 {
     m_mark->setVisible(!refusal.isEmpty());
     m_mark->setToolTip(refusal);
 }
 
-bool ValueBox::isMarked() const { return m_mark->isVisible(); }
+bool InputCombo::isMarked() const { return m_mark->isVisible(); }
 
-void ValueBox::focusInEvent(QFocusEvent *event)
+void InputCombo::focusInEvent(QFocusEvent *event)
 {
     QComboBox::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
@@ -90,14 +108,14 @@ void ValueBox::focusInEvent(QFocusEvent *event)
     emit entered();
 }
 
-void ValueBox::focusOutEvent(QFocusEvent *event)
+void InputCombo::focusOutEvent(QFocusEvent *event)
 {
     QComboBox::focusOutEvent(event);
     emit left(event->reason());
 }
 
 /// Only the box that the user works in takes the wheel.
-void ValueBox::wheelEvent(QWheelEvent *event)
+void InputCombo::wheelEvent(QWheelEvent *event)
 {
     const int turned = event->angleDelta().y();
     const bool steps = stepsByWheel();
@@ -109,7 +127,7 @@ void ValueBox::wheelEvent(QWheelEvent *event)
 
 /// A click that brings the focus would put the cursor where it hits; what was selected on entry stays so
 /// unless the mouse selects something itself.
-bool ValueBox::eventFilter(QObject *watched, QEvent *event)
+bool InputCombo::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_enteredByMouse, false)
         && !lineEdit()->hasSelectedText())
@@ -118,7 +136,7 @@ bool ValueBox::eventFilter(QObject *watched, QEvent *event)
 }
 
 /// Without a list there is no arrow to open one: the line takes all the room, with the frame of a plain line.
-void ValueBox::arrangeLine()
+void InputCombo::arrangeLine()
 {
     const bool plain = count() == 0;
     lineEdit()->setFrame(plain);
@@ -129,19 +147,19 @@ void ValueBox::arrangeLine()
                                                             QStyle::SC_ComboBoxEditField, this));
 }
 
-void ValueBox::resizeEvent(QResizeEvent *event)
+void InputCombo::resizeEvent(QResizeEvent *event)
 {
     QComboBox::resizeEvent(event);
     arrangeLine();
 }
 
-void ValueBox::showEvent(QShowEvent *event)
+void InputCombo::showEvent(QShowEvent *event)
 {
     QComboBox::showEvent(event);
     arrangeLine();
 }
 
-void ValueBox::changeEvent(QEvent *event)
+void InputCombo::changeEvent(QEvent *event)
 {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) arrangeLine();
