@@ -60,7 +60,10 @@ void writeSpecifications(QXmlStreamWriter &xml, const QString &properties)
 
 } // namespace
 
-QString DesignerControl::name() const { return QStringLiteral("QV_DOC_CONTROLS::") + QLatin1String(m_row.name); }
+QString DesignerControl::name() const
+{
+    return QStringLiteral("QV_DOC_CONTROLS::") + QLatin1String(m_row.name);
+}
 QString DesignerControl::group() const { return QStringLiteral("QV_DOC_CONTROLS"); }
 QString DesignerControl::toolTip() const { return txt(m_row.toolTip); }
 QString DesignerControl::includeFile() const { return QLatin1String(m_row.header); }

@@ -124,8 +124,8 @@ QByteArray numberMeantBy(QStringView text, const QLocale &locale, bool exponent)
     Marks marks = marksOf(locale, true);
     marks.exponent = exponent;
     const QByteArray number = numberIn(text, marks);
-    return number.isEmpty() ? numberIn(text, {.point = marks.point == u',' ? u'.' : u',', .exponent = exponent})
-                            : number;
+    if (!number.isEmpty()) return number;
+    return numberIn(text, {.point = marks.point == u',' ? u'.' : u',', .exponent = exponent});
 }
 
 } // namespace

@@ -21,14 +21,16 @@ using namespace QV_DOC_CONTROLS;
 inline const QLocale kDot(QLocale::English, QLocale::UnitedKingdom);
 inline const QLocale kComma(QLocale::Hungarian, QLocale::Hungary);
 
-/// A host's dialog: a line, the input box, a line, OK and Cancel (tab indexes 0 to 4); and what the box raised.
+/// A host's dialog: a line, the input box, a line, OK and Cancel (tab indexes 0 to 4); and what the box
+/// raised.
 struct InputForm {
     QStringList raised;                         ///< outlives the dialog, which closes noisily
     QDialog dialog;
     QLineEdit *before = new QLineEdit(&dialog);
     usInputBox *box = new usInputBox(&dialog);
     QLineEdit *after = new QLineEdit(&dialog);
-    QDialogButtonBox *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QDialogButtonBox *buttons =
+        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
 
     explicit InputForm(const QLocale &locale = kDot)
     {
@@ -66,7 +68,10 @@ struct InputForm {
     QLineEdit &line() { return *box->txtCombo->lineEdit(); }
     QString text() const { return box->txtCombo->currentText(); }
     QPushButton *button(QDialogButtonBox::StandardButton which) { return buttons->button(which); }
-    void press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(box->txtCombo, Qt::Key(key), modifiers); }
+    void press(int key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(box->txtCombo, Qt::Key(key), modifiers);
+    }
     /// Key by key, over what is there; '\n' is Enter.
     void type(const QString &keys)
     {
@@ -74,7 +79,9 @@ struct InputForm {
         press(Qt::Key_Delete);
         for (const QChar c : keys)
             if (c == u'\n') press(Qt::Key_Return);
-            else QTest::sendKeyEvent(QTest::Click, box->txtCombo, Qt::Key(c.toUpper().unicode()), QString(c), {});
+            else
+                QTest::sendKeyEvent(QTest::Click, box->txtCombo, Qt::Key(c.toUpper().unicode()), QString(c),
+                                    {});
     }
     void leave() { after->setFocus(Qt::TabFocusReason); }
     void sendPosted() { QCoreApplication::sendPostedEvents(); }

@@ -1,5 +1,6 @@
 #include "controls/InputForm.h"
 
+#include "support/MutePrompts.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
@@ -50,7 +51,8 @@ private slots:
         f.raised.clear();
         f.shown().type(typed);
         {
-            ScriptedPrompts user(refused.isEmpty() ? std::vector<Step>() : std::vector{refusal(refused.toUtf8())});
+            ScriptedPrompts user(refused.isEmpty() ? std::vector<Step>()
+                                                   : std::vector{refusal(refused.toUtf8())});
             f.press(Qt::Key_Return);
             QCOMPARE(user.alerts(), refused.isEmpty() ? 0 : 1);
         }
@@ -116,9 +118,11 @@ private slots:
         InputForm f(kComma);
         f.decimals(0, 10).shown();
         f.type(QStringLiteral("1"));
-        QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key_Period, QStringLiteral("'"), Qt::KeypadModifier);
+        QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key_Period, QStringLiteral("'"),
+                            Qt::KeypadModifier);
         QCOMPARE(f.text(), QStringLiteral("1,"));
-        QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key_2, QStringLiteral("2"), Qt::KeypadModifier);
+        QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key_2, QStringLiteral("2"),
+                            Qt::KeypadModifier);
         QCOMPARE(f.text(), QStringLiteral("1,2"));
     }
 
@@ -180,8 +184,9 @@ private slots:
         QCOMPARE(f.text(), QStringLiteral("5"));
         f.raised.clear();
         const auto key = [&](char c) {
-            QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key(QChar::fromLatin1(c).toUpper().unicode()),
-                                QString(QLatin1Char(c)), {});
+            QTest::sendKeyEvent(QTest::Click, f.box->txtCombo,
+                                Qt::Key(QChar::fromLatin1(c).toUpper().unicode()), QString(QLatin1Char(c)),
+                                {});
         };
         key('x');
         QCOMPARE(f.text(), QStringLiteral("7"));
@@ -191,7 +196,8 @@ private slots:
         QCOMPARE(user.alerts(), 0);
         f.raised.clear();
         f.press(Qt::Key_Left, Qt::ShiftModifier);
-        QCOMPARE(f.raised, QStringList({"KeyDown 16 1", "KeyDown 37 1", "KeyUp 37", "KeyUp 16"})); // no character
+        QCOMPARE(f.raised,
+                 QStringList({"KeyDown 16 1", "KeyDown 37 1", "KeyUp 37", "KeyUp 16"})); // no character
         f.box->setSetFocusNextTabIndex(2);
         f.press(Qt::Key_F2);
         QVERIFY(f.after->hasFocus());
@@ -208,7 +214,8 @@ private slots:
         QObject::connect(f.box, &usInputBox::KeyPress, f.box, [&](qint16 &key) {
             f.raised << QStringLiteral("KeyPress %1").arg(key);
         });
-        QObject::connect(qApp, &QApplication::focusChanged, f.box, [&] { f.raised << QStringLiteral("focus"); });
+        QObject::connect(qApp, &QApplication::focusChanged, f.box,
+                         [&] { f.raised << QStringLiteral("focus"); });
         f.type(QStringLiteral("7"));
         f.raised.clear();
         f.press(Qt::Key_Return);
@@ -227,7 +234,8 @@ private slots:
     {
         InputForm f;
         f.whole(5, 0, 10).shown();
-        QObject::connect(f.box, &usInputBox::Change, f.box, [](double &value) { value = value == 6 ? 8 : 99; });
+        QObject::connect(f.box, &usInputBox::Change, f.box,
+                         [](double &value) { value = value == 6 ? 8 : 99; });
         f.type(QStringLiteral("6\n"));
         QCOMPARE(f.text(), QStringLiteral("8"));
         f.type(QStringLiteral("7\n"));          // 99 is out of bounds
@@ -275,11 +283,13 @@ private slots:
         f.box->setInputType(4);
         f.box->setLenMax(5);
         f.shown();
-        ScriptedPrompts user({{"tell", {}, QStringLiteral("A megengedettnél (5) hosszabb szöveg!"), {}, Icon::Exclamation},
-                              {"tell", {}, QStringLiteral("A megengedettnél (5) hosszabb szöveg!"), {}, Icon::Exclamation}});
+        ScriptedPrompts user(
+            {{"tell", {}, QStringLiteral("A megengedettnél (5) hosszabb szöveg!"), {}, Icon::Exclamation},
+             {"tell", {}, QStringLiteral("A megengedettnél (5) hosszabb szöveg!"), {}, Icon::Exclamation}});
         f.type(QStringLiteral("a-.ő\n"));
         QCOMPARE(f.box->Value().toString(), QStringLiteral("a-.ő"));
-        QVERIFY(!f.box->LetValue(QStringLiteral("abcde"))); // exactly the limit: told, and kept whole, on purpose
+        QVERIFY(
+            !f.box->LetValue(QStringLiteral("abcde"))); // exactly the limit: told, and kept whole, on purpose
         QCOMPARE(f.box->Value().toString(), QStringLiteral("abcde"));
         f.type(QStringLiteral("abcdefg\n"));
         QCOMPARE(f.text(), QStringLiteral("abcde"));
@@ -309,21 +319,7 @@ private slots:
     /// Whatever is pressed, pasted or stepped: the value stays in its bounds and the box has a way back.
     void randomKeysNeverLeaveAValueOutsideTheBounds()
     {
-        struct Mute final : Prompts {
-            Prompts *before = setPrompts(this);
-            ~Mute() override { setPrompts(before); }
-            void tell(const Message &, QObject *) override {}
-            void show(const Report &, QObject *) override {}
-            bool yesNo(const Message &, QObject *) override { return false; }
-            AllYesNo allYesNo(const Message &, QObject *) override { return AllYesNo::No; }
-            std::optional<bool> yesNoCancel(const Message &, QObject *) override { return {}; }
-            std::optional<int> choose(const Choice &, QObject *) override { return {}; }
-            std::optional<QString> text(const TextQuestion &, QObject *) override { return {}; }
-            std::optional<std::vector<double>> numbers(const NumberQuestion &, QObject *) override { return {}; }
-            std::optional<int> colorIndex(const ColorIndexQuestion &, QObject *) override { return {}; }
-            QString openFile(const FileQuestion &, QObject *) override { return {}; }
-            QString saveFile(const FileQuestion &, QObject *) override { return {}; }
-        } mute;
+        MutePrompts mute;
         constexpr int kKeys[] = {Qt::Key_Return, Qt::Key_Up, Qt::Key_Down, Qt::Key_Backspace, Qt::Key_Delete,
                                  Qt::Key_Left, Qt::Key_Home, Qt::Key_End};
         const QString characters = QStringLiteral("0123456789.,-+eE a");
@@ -337,7 +333,8 @@ private slots:
                 const quint32 dice = random.bounded(100u);
                 if (dice < 70) {
                     const QChar c = characters[qsizetype(random.bounded(quint32(characters.size())))];
-                    QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key(c.toUpper().unicode()), QString(c), {});
+                    QTest::sendKeyEvent(QTest::Click, f.box->txtCombo, Qt::Key(c.toUpper().unicode()),
+                                        QString(c), {});
                 } else if (dice < 95) {
                     f.press(kKeys[random.bounded(quint32(std::size(kKeys)))],
                             dice % 5 ? Qt::NoModifier : Qt::ShiftModifier);

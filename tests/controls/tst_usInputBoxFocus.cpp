@@ -12,8 +12,11 @@ using namespace tests;
 namespace {
 
 using Step = ScriptedPrompts::Step;
-const Step kZeroToTen{"tell", QStringLiteral("Érték hiba!"), QStringLiteral("0 és 10 közé eső értéket kell megadni!"),
-                      {}, Icon::Exclamation};
+const Step kZeroToTen{"tell",
+                      QStringLiteral("Érték hiba!"),
+                      QStringLiteral("0 és 10 közé eső értéket kell megadni!"),
+                      {},
+                      Icon::Exclamation};
 
 void turnWheel(QWidget &over, int angle)
 {
@@ -180,7 +183,8 @@ private slots:
         QCOMPARE(f.text(), QStringLiteral("0")); // clamped silently
         QCOMPARE(f.box->UpDownInc(), 2.0);
         QTest::mouseClick(f.box->UpDown1, Qt::LeftButton, {}, {3, f.box->UpDown1->height() / 2});
-        QCOMPARE(f.raised.last(), QStringLiteral("Change 2")); // exactly half way is up; the step is positive again
+        QCOMPARE(f.raised.last(),
+                 QStringLiteral("Change 2")); // exactly half way is up; the step is positive again
         f.box->setTimerInterval(0);
         QTest::mousePress(f.box->UpDown1, Qt::LeftButton, {}, f.upper());
         QVERIFY(!f.box->Timer1->isActive());
@@ -204,8 +208,11 @@ private slots:
         f.press(Qt::Key_Down, Qt::ControlModifier);
         QCOMPARE(f.text(), QStringLiteral("0.4"));
         f.type(QStringLiteral("2"));
-        ScriptedPrompts user({{"tell", QStringLiteral("Érték hiba!"), QStringLiteral("0 és 1 közé eső értéket kell megadni!"),
-                               {}, Icon::Exclamation}});
+        ScriptedPrompts user({{"tell",
+                               QStringLiteral("Érték hiba!"),
+                               QStringLiteral("0 és 1 közé eső értéket kell megadni!"),
+                               {},
+                               Icon::Exclamation}});
         QTest::mouseClick(f.box->UpDown1, Qt::LeftButton, {}, f.upper());
         QCOMPARE(f.text(), QStringLiteral("0.4")); // refused, and no step
         f.box->setUpDownInc(0);
@@ -235,7 +242,12 @@ private slots:
         f.whole(5, 0, 10).shown();
         const auto note = [&](const char *what) {
             return [&f, what](qint16 button, qint16 shift, double x, double y) {
-                f.raised << QStringLiteral("%1 %2 %3 %4 %5").arg(QLatin1String(what)).arg(button).arg(shift).arg(x).arg(y);
+                f.raised << QStringLiteral("%1 %2 %3 %4 %5")
+                                .arg(QLatin1String(what))
+                                .arg(button)
+                                .arg(shift)
+                                .arg(x)
+                                .arg(y);
             };
         };
         QObject::connect(f.box, &usInputBox::MouseDown, f.box, note("down"));
@@ -254,7 +266,8 @@ private slots:
         QTest::mouseDClick(&f.line(), Qt::LeftButton, {}, {4, 5});
         QVERIFY(f.raised.contains(QStringLiteral("double")));
         f.raised.clear();
-        QTest::mousePress(f.box->findChild<QLabel *>(QStringLiteral("lblBefore")), Qt::MiddleButton, {}, {1, 1});
+        QTest::mousePress(f.box->findChild<QLabel *>(QStringLiteral("lblBefore")), Qt::MiddleButton, {},
+                          {1, 1});
         QCOMPARE(f.raised.size(), 1); // a caption is the control, once
         QVERIFY(f.raised.first().startsWith(QStringLiteral("down 4 0 15 ")));
     }

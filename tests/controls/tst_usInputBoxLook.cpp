@@ -19,13 +19,32 @@ namespace {
 using Values = std::vector<std::pair<const char *, QVariant>>;
 /// Every published property, outside its default.
 const Values kValues = {
-    {"Backcolor", QColor(0x11, 0x22, 0x33)}, {"ForeColor", QColor::fromRgba(0x80000012)}, {"Enabled", false},
-    {"Font", QFont(QStringLiteral("DejaVu Serif"), 17)}, {"BorderStyle", 1}, {"BeforeString", QStringLiteral("ő =")},
-    {"Value", QStringLiteral("12.25")}, {"Min", 11.5}, {"Max", 13.0}, {"FormatString", QStringLiteral("#,##0.0")},
-    {"WidthBeforeString", 100}, {"AfterString", QStringLiteral("cm")}, {"InfoMode", true},
-    {"BeforeStringAlign", 2}, {"WidthValue", 2345}, {"WidthAfterString", 678}, {"TimerInterval", 77},
-    {"SetFocusNextTabIndex", 4}, {"SetFucusBackTabIndex", 5}, {"InputType", 3}, {"AutoSelect", false},
-    {"UpDownInc", 0.25}, {"UpDownVisible", true}, {"LenMax", 9}, {"ReadsLocale", true}, {"ErrorsInPlace", true},
+    {"Backcolor", QColor(0x11, 0x22, 0x33)},
+    {"ForeColor", QColor::fromRgba(0x80000012)},
+    {"Enabled", false},
+    {"Font", QFont(QStringLiteral("DejaVu Serif"), 17)},
+    {"BorderStyle", 1},
+    {"BeforeString", QStringLiteral("ő =")},
+    {"Value", QStringLiteral("12.25")},
+    {"Min", 11.5},
+    {"Max", 13.0},
+    {"FormatString", QStringLiteral("#,##0.0")},
+    {"WidthBeforeString", 100},
+    {"AfterString", QStringLiteral("cm")},
+    {"InfoMode", true},
+    {"BeforeStringAlign", 2},
+    {"WidthValue", 2345},
+    {"WidthAfterString", 678},
+    {"TimerInterval", 77},
+    {"SetFocusNextTabIndex", 4},
+    {"SetFucusBackTabIndex", 5},
+    {"InputType", 3},
+    {"AutoSelect", false},
+    {"UpDownInc", 0.25},
+    {"UpDownVisible", true},
+    {"LenMax", 9},
+    {"ReadsLocale", true},
+    {"ErrorsInPlace", true},
 };
 
 QPalette darkPalette()
@@ -39,7 +58,8 @@ QPalette darkPalette()
 void keepPicture(const QPixmap &picture, const QString &name)
 {
     const QString folder = qEnvironmentVariable("QVDC_PICTURES");
-    if (!folder.isEmpty() && QDir().mkpath(folder)) QVERIFY(picture.save(folder + u'/' + name + QStringLiteral(".png")));
+    if (!folder.isEmpty() && QDir().mkpath(folder))
+        QVERIFY(picture.save(folder + u'/' + name + QStringLiteral(".png")));
 }
 
 } // namespace
@@ -108,7 +128,8 @@ private slots:
     {
         InputForm f;
         f.whole(5, 0, 10).shown();
-        ScriptedPrompts user({{"tell", QStringLiteral("Hiba"), QStringLiteral("Hibás minimum!"), {}, Icon::Exclamation}});
+        ScriptedPrompts user(
+            {{"tell", QStringLiteral("Hiba"), QStringLiteral("Hibás minimum!"), {}, Icon::Exclamation}});
         f.box->setProperty("Min", 6.0);
         f.box->setProperty("Value", QStringLiteral("7"));
         QCOMPARE(f.box->Min(), 0.0);
@@ -133,8 +154,9 @@ private slots:
     void sixteenBitAndSinglePropertiesAreCut()
     {
         usInputBox box;
-        for (const char *name : {"BorderStyle", "WidthBeforeString", "BeforeStringAlign", "WidthValue", "TimerInterval",
-                                 "WidthAfterString", "SetFocusNextTabIndex", "SetFucusBackTabIndex", "InputType", "LenMax"}) {
+        for (const char *name :
+             {"BorderStyle", "WidthBeforeString", "BeforeStringAlign", "WidthValue", "TimerInterval",
+              "WidthAfterString", "SetFocusNextTabIndex", "SetFucusBackTabIndex", "InputType", "LenMax"}) {
             box.setProperty(name, 100000);
             QCOMPARE(box.property(name).toInt(), 32767);
             box.setProperty(name, -100000);
@@ -179,7 +201,8 @@ private slots:
         f.box->setUpDownVisible(true);
         f.box->setInfoMode(true);
         f.shown();
-        QVERIFY(f.box->picValue->isVisible() && !f.box->txtCombo->isVisible() && !f.box->UpDown1->isVisible());
+        QVERIFY(f.box->picValue->isVisible() && !f.box->txtCombo->isVisible() &&
+                !f.box->UpDown1->isVisible());
         QCOMPARE(f.box->picValue->text(), QStringLiteral("2,50"));
         QVERIFY(f.box->LetValue(3));
         QCOMPARE(f.box->picValue->text(), QStringLiteral("3,00"));
@@ -201,12 +224,17 @@ private slots:
         box.valueInterface()->setCurrentValue(6);
         QCOMPARE(f.raised, QStringList{"Change 6"});
         f.type(QStringLiteral("11"));           // already while typing
-        QCOMPARE(box.text(QAccessible::Description), QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
+        QCOMPARE(box.text(QAccessible::Description),
+                 QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
         QVERIFY(!f.box->acceptableNumber());
-        ScriptedPrompts user({{"tell", QStringLiteral("Érték hiba!"),
-                               QStringLiteral("0 és 10 közé eső értéket kell megadni!"), {}, Icon::Exclamation}});
+        ScriptedPrompts user({{"tell",
+                               QStringLiteral("Érték hiba!"),
+                               QStringLiteral("0 és 10 közé eső értéket kell megadni!"),
+                               {},
+                               Icon::Exclamation}});
         f.press(Qt::Key_Return);
-        QCOMPARE(box.text(QAccessible::Description), QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
+        QCOMPARE(box.text(QAccessible::Description),
+                 QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
         f.type(QStringLiteral("7\n"));
         QCOMPARE(box.text(QAccessible::Description), QStringLiteral("0 és 10 közé eső érték!"));
         QCOMPARE(f.box->acceptableNumber(), std::optional(7.0));
@@ -218,7 +246,9 @@ private slots:
         QTest::addColumn<QString>("hint");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("refusal");
-        QTest::newRow("hu") << int(Hungarian) << "1,0 és 2,5 közé eső érték!" << "Érték hiba!" << "Számot kell megadni!";
+        QTest::newRow("hu") << int(Hungarian) << "1,0 és 2,5 közé eső érték!"
+                            << "Érték hiba!"
+                            << "Számot kell megadni!";
         QTest::newRow("en") << int(English) << "1.0 and2.5 in range!" << "Invalid value!" << "Input number!";
         QTest::newRow("ro") << int(Romanian) << "1,0 și 2,5 sunt limitele valorii!" << "Eroare de valoare!"
                             << "Introduceți un număr!";
@@ -270,7 +300,8 @@ private slots:
             f.type(QStringLiteral("11"));
             const QImage wrong = f.dialog.grab().toImage();
             QVERIFY(fine != wrong);
-            keepPicture(QPixmap::fromImage(wrong), dark ? QStringLiteral("inputbox-dark") : QStringLiteral("inputbox-light"));
+            keepPicture(QPixmap::fromImage(wrong),
+                        dark ? QStringLiteral("inputbox-dark") : QStringLiteral("inputbox-light"));
             f.type(QStringLiteral("7\n"));
         }
     }

@@ -47,26 +47,53 @@ const std::vector<Control> &controls()
 {
     static const std::vector<Control> all{
         {"usInputBox",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)}, {"ForeColor", QColor::fromRgba(0x80000012)}, {"Enabled", false},
-          {"Font", kFont}, {"BorderStyle", 1}, {"BeforeString", QStringLiteral("ő & <=>")},
-          {"Value", QStringLiteral("12.25")}, {"Min", 11.5}, {"Max", 13.125}, {"FormatString", QStringLiteral("#,##0.0 \"m\"")},
-          {"WidthBeforeString", 100}, {"AfterString", QStringLiteral("cm")}, {"InfoMode", true},
-          {"BeforeStringAlign", 2}, {"WidthValue", 2345}, {"WidthAfterString", 678}, {"TimerInterval", 77},
-          {"SetFocusNextTabIndex", 4}, {"SetFucusBackTabIndex", 5}, {"InputType", 3}, {"AutoSelect", false},
-          {"UpDownInc", 0.25}, {"UpDownVisible", true}, {"LenMax", 9}, {"ReadsLocale", true},
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"ForeColor", QColor::fromRgba(0x80000012)},
+          {"Enabled", false},
+          {"Font", kFont},
+          {"BorderStyle", 1},
+          {"BeforeString", QStringLiteral("ő & <=>")},
+          {"Value", QStringLiteral("12.25")},
+          {"Min", 11.5},
+          {"Max", 13.125},
+          {"FormatString", QStringLiteral("#,##0.0 \"m\"")},
+          {"WidthBeforeString", 100},
+          {"AfterString", QStringLiteral("cm")},
+          {"InfoMode", true},
+          {"BeforeStringAlign", 2},
+          {"WidthValue", 2345},
+          {"WidthAfterString", 678},
+          {"TimerInterval", 77},
+          {"SetFocusNextTabIndex", 4},
+          {"SetFucusBackTabIndex", 5},
+          {"InputType", 3},
+          {"AutoSelect", false},
+          {"UpDownInc", 0.25},
+          {"UpDownVisible", true},
+          {"LenMax", 9},
+          {"ReadsLocale", true},
           {"ErrorsInPlace", true}}},
         {"ZOL3_LayGroup",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)}, {"Font", kFont}, {"SingleLine", true}, {"WidthDiferent", 12.5}},
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"Font", kFont},
+          {"SingleLine", true},
+          {"WidthDiferent", 12.5}},
          {"sLays", "sLayGroup"}},
         {"usLays",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)}, {"Font", kFont}, {"SingleLine", true}, {"WidthDiferent", -12.5}},
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"Font", kFont},
+          {"SingleLine", true},
+          {"WidthDiferent", -12.5}},
          {"sLays", "sLayGroup"}},
         {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
     };
     return all;
 }
 
-QString className(const Control &control) { return QStringLiteral("QV_DOC_CONTROLS::") + QLatin1String(control.name); }
+QString className(const Control &control)
+{
+    return QStringLiteral("QV_DOC_CONTROLS::") + QLatin1String(control.name);
+}
 
 QList<QDesignerCustomWidgetInterface *> offered()
 {
@@ -123,8 +150,9 @@ void holdsValues(QWidget *form, const Control &control)
     form->show();
     for (const auto &[name, value] : control.values)
         QVERIFY2(said(found->property(name)) == said(value),
-                 qPrintable(QStringLiteral("%1.%2: %3, not %4").arg(QLatin1String(control.name), QLatin1String(name),
-                                                                   said(found->property(name)), said(value))));
+                 qPrintable(QStringLiteral("%1.%2: %3, not %4")
+                                .arg(QLatin1String(control.name), QLatin1String(name),
+                                     said(found->property(name)), said(value))));
 }
 
 QByteArray savedForm(const Control &control)
@@ -197,7 +225,8 @@ private slots:
         QFETCH(int, control);
         const Control &c = controls()[size_t(control)];
         QDesignerComponents::initializeResources();
-        const std::unique_ptr<QDesignerFormEditorInterface> core(QDesignerComponents::createFormEditor(nullptr));
+        const std::unique_ptr<QDesignerFormEditorInterface> core(
+            QDesignerComponents::createFormEditor(nullptr));
         QDesignerComponents::initializePlugins(core.get());
         QWidget desk;
         QDesignerFormWindowInterface *const window = core->formWindowManager()->createFormWindow(&desk);

@@ -256,7 +256,11 @@ private slots:
         ScriptedPrompts user(
             {{"choose", title, text, QVariant()},
              {"choose", title, text, 0},
-             {"tell", title, expected.text(), QVariant(), Icon::Information},
+             {"tell",
+                               title,
+                               QStringLiteral("Egység: méter, méretarány 1:100\n") + expected.text(),
+                               QVariant(),
+                               Icon::Information},
              {"choose", QStringLiteral("Rajz mentése"),
               QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
         QVERIFY(!m_window->files().importFile(path));

@@ -25,7 +25,8 @@ bool Sheet::save(const QString &path) const
     sheet.fill(Qt::darkGray);
     QPainter painter(&sheet);
     for (int i = 0; i < int(pictures.size()); ++i)
-        painter.drawPixmap(QPoint(i % kAcross * one.width(), i / kAcross * one.height()), pictures[size_t(i)]);
+        painter.drawPixmap(QPoint(i % kAcross * one.width(), i / kAcross * one.height()),
+                           pictures[size_t(i)]);
     return sheet.save(path);
 }
 

@@ -3,7 +3,6 @@
 // its tools.
 #include "facade/services/Language.h"
 #include "document/SqliteDoc.h"
-#include "pictures/ControlPictures.h"
 #include "pictures/Scene.h"
 #include "support/Looks.h"
 
@@ -73,7 +72,8 @@ struct SheetRow {
     const char *name;
     void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
 };
-constexpr SheetRow kSheets[] = {{"select", tests::takeSelection}, {"values", takeValues}};
+constexpr SheetRow kSheets[] = {
+    {"controls", tests::takeControls}, {"select", tests::takeSelection}, {"values", takeValues}};
 
 /// One language in one palette; false when a flaw was found.
 bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)
@@ -88,7 +88,6 @@ bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &va
         std::printf("%s\n", qPrintable(path));
         flawless &= sheet.save(path) && sheet.flaws.isEmpty();
     }
-    saveLayerControls(doc, folder + QStringLiteral("/layer-controls") + variant);
     return flawless;
 }
 
@@ -110,8 +109,9 @@ int main(int argc, char **argv)
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
-            flawless &= takeSheets(*doc, folder, QStringLiteral("-%1-%2-x%3.png")
-                                                     .arg(QLatin1String(name), dark ? "dark" : "light", scale));
+            flawless &= takeSheets(
+                *doc, folder,
+                QStringLiteral("-%1-%2-x%3.png").arg(QLatin1String(name), dark ? "dark" : "light", scale));
         }
     return flawless ? 0 : 1;
 }

@@ -28,7 +28,8 @@ public:
 
     void alert() override { ++m_alerts; }
     void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
-    void show(const QV_DOC_CONTROLS::Report &, QObject *) override; ///< expects text and lines, joined by '\n'
+    void show(const QV_DOC_CONTROLS::Report &,
+              QObject *) override; ///< expects text and lines, joined by '\n'
     bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     QV_DOC_CONTROLS::AllYesNo allYesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     std::optional<bool> yesNoCancel(const QV_DOC_CONTROLS::Message &, QObject *) override;

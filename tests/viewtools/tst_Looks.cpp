@@ -104,7 +104,8 @@ private slots:
                 if (const QAction *tool = tools.tool(row.name); tool && !tool->menu()) tools.on(row.name, {});
             tools.setChecked("miView_Table", true);
             tools.tool("miExpandAll")->setEnabled(false);
-            keepPicture(tools.toolBar("mnuBar", {21801, u"Eszköztár"})->grab(), QStringLiteral("bar-") + QLatin1String(name));
+            keepPicture(tools.toolBar("mnuBar", {21801, u"Eszköztár"})->grab(),
+                        QStringLiteral("bar-") + QLatin1String(name));
             QMenu &menu = *tools.popUp("bndPopUp_View");
             menu.adjustSize();
             keepPicture(menu.grab(), QStringLiteral("menu-") + QLatin1String(name));

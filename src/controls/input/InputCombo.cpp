@@ -49,7 +49,8 @@ void InputCombo::showText(const QString &text)
 {
     showing([&] {
         const QSignalBlocker quiet(this);
-        setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive)); // the arrow keys start there
+        // Where the arrow keys start.
+        setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
         setEditText(text);
     });
     forgetTyping();

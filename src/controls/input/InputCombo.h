@@ -16,7 +16,7 @@ class InputCombo final : public QComboBox {
     Q_OBJECT
 public:
     InputCombo(const NumberInput &input, QWidget *parent); ///< `input` outlives the box
-    void showText(const QString &text);         ///< from now on the user has not touched it; chosen, if listed
+    void showText(const QString &text);         ///< the user has not touched it from now on
     void forgetTyping();                        ///< the text is taken and will be shown anew
     bool touched() const;                       ///< by the user or by hand of a program, since it was shown
     TypingPlace place() const;                  ///< where the next key goes

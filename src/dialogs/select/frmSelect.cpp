@@ -1,6 +1,7 @@
 #include "dialogs/select/frmSelect.h"
 
 #include "dialogs/select/InvisibleLayer.h"
+#include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/layer/LayerCommands.h"
 #include "kit/forms/Buttons.h"

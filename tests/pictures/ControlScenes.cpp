@@ -1,14 +1,13 @@
-#include "pictures/ControlPictures.h"
+#include "pictures/Scene.h"
 
 #include "controls/ZOL3_LayGroup.h"
 #include "controls/ZOL3_LayInfo.h"
+#include "controls/usInputBox.h"
 #include "controls/usLays.h"
 
 #include <QComboBox>
 #include <QDialog>
 #include <QVBoxLayout>
-
-#include <cstdio>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -55,16 +54,31 @@ void addLayerPickers(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
     disabled.LetLayNr(102, 0);
 }
 
+void addNumbers(QDialog &form)
+{
+    for (const bool enabled : {true, false}) {
+        auto &width = on<usInputBox>(form);
+        width.setInputType(3);
+        width.setFormatString(QStringLiteral("0.00"));
+        width.setValue(0.35);
+        width.setUpDownVisible(true);
+        width.setEnabled(enabled);
+    }
+    auto &shown = on<usInputBox>(form);
+    shown.setInfoMode(true);
+    shown.setValue(12);
+}
+
 } // namespace
 
-void saveLayerControls(ZolWDoc::ZOLW_Doc &doc, const QString &path)
+void tests::takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
 {
     QDialog form;
     new QVBoxLayout(&form);
     addLayerSets(form, doc);
     addLayerPickers(form, doc);
-    form.resize(420, form.sizeHint().height());
+    addNumbers(form);
+    form.resize(460, form.sizeHint().height());
     form.show();
-    form.grab().save(path);
-    std::printf("%s\n", qPrintable(path));
+    sheet.take(form);
 }
