@@ -20,7 +20,10 @@ public:
     {
         return {};
     }
-    std::optional<int> colorIndex(const QV_DOC_CONTROLS::ColorIndexQuestion &, QObject *) override { return {}; }
+    std::optional<int> colorIndex(const QV_DOC_CONTROLS::ColorIndexQuestion &, QObject *) override
+    {
+        return {};
+    }
     QString openFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override { return {}; }
     QString saveFile(const QV_DOC_CONTROLS::FileQuestion &, QObject *) override { return {}; }
 

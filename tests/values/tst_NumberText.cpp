@@ -34,7 +34,8 @@ private slots:
         QTEST(textOf(number, decimals), "hungarian");
         for (const int language : {Hungarian, Romanian, Vietnamese, English}) {
             setLanguage(language, {});
-            QCOMPARE(numberMeant(textOf(number, decimals), patternOf(decimals), interfaceLocale()), std::optional(number));
+            QCOMPARE(numberMeant(textOf(number, decimals), patternOf(decimals), interfaceLocale()),
+                     std::optional(number));
         }
     }
     void aRefusalSaysWhyAndNamesTheBounds_data()
