@@ -12,6 +12,7 @@
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerIntegration>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 #include <QtDesigner/QFormBuilder>
@@ -228,6 +229,7 @@ private slots:
         const std::unique_ptr<QDesignerFormEditorInterface> core(
             QDesignerComponents::createFormEditor(nullptr));
         QDesignerComponents::initializePlugins(core.get());
+        new QDesignerIntegration(core.get(), core.get()); // which form windows ask what they may offer
         QWidget desk;
         QDesignerFormWindowInterface *const window = core->formWindowManager()->createFormWindow(&desk);
         QVERIFY(window->setContents(QString::fromUtf8(savedForm(c))));
