@@ -2,9 +2,11 @@
 #include "facade/services/Language.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
-#include "support/LayerForm.h"
+#include "support/LayerWork.h"
 #include "support/Registry.h"
 #include "support/WillingPrompts.h"
+
+#include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -31,6 +33,7 @@ struct Run {
                                                                {.gNr = 2, .Name = QStringLiteral("2-B")},
                                                                {.gNr = 3, .Name = QStringLiteral("3-C")},
                                                                {.gNr = 4, .Name = QStringLiteral("D")}});
+    QTemporaryDir folder;
     tests::FaultyDoc faulty{*doc};
     tests::LayerForm form{faulty};
     tests::WillingPrompts user;
@@ -38,11 +41,16 @@ struct Run {
     {
         form.js.setCurrentLayer(doc->layers().findByNumber(1)->LayId);
         form.select({1, 2, 3});
+        const std::vector<refhost::Element> line{{.layId = form.js.currentLayer()}};
+        doc->addElements(line);
+        user.path = folder.filePath(QStringLiteral("layers"));
+        tests::prepare(tool, form, faulty, user.path);
         faulty.log.calls.clear();
         faulty.log.failAt = failAt;
         if (std::strcmp(tool, kCellEdit) == 0) editCell();
         else form.run(tool);
         faulty.log.failAt = -1;
+        form.groups.setCurrentRow(0);                   // all layers are listed
     }
     void editCell()
     {
@@ -80,6 +88,9 @@ private slots:
         const AnyPicker picker;
         const Run undisturbed(tool.constData(), -1);
         QVERIFY(!undisturbed.form.error);
+        const QByteArrayList onlyShow{"cmdLay_GroupAllLay", "cmdLay_ShowGroups", "cmdLay_HideGroups",
+                                      "cmdLay_ShowVisible", "miGroupCollapse"};
+        QCOMPARE(undisturbed.calls() > 0, !onlyShow.contains(tool));
         for (int at = 0; at < undisturbed.calls(); ++at) {
             Run run(tool.constData(), at);
             const QString call = run.faulty.log.calls.value(at);
