@@ -53,8 +53,14 @@ struct TimedLayers final : ZolWDoc::LayerRole {
     qint16 currentId() const override { return timed([&] { return real.currentId(); }); }
     std::vector<ZolWDoc::tGroup> groups() const override { return timed([&] { return real.groups(); }); }
     void writeGroups(std::span<const ZolWDoc::tGroup> g) override { timed([&] { real.writeGroups(g); }); }
-    std::vector<ZolWDoc::tLayMember> members() const override { return timed([&] { return real.members(); }); }
-    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override { timed([&] { real.writeMembers(m); }); }
+    std::vector<ZolWDoc::tLayMember> members() const override
+    {
+        return timed([&] { return real.members(); });
+    }
+    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override
+    {
+        timed([&] { real.writeMembers(m); });
+    }
     void writeAll(std::span<const Rec> all) override { timed([&] { real.writeAll(all); }); }
     qint32 fileVersion() const override { return real.fileVersion(); }
     void renameFromFile(const QString &path) override { timed([&] { real.renameFromFile(path); }); }

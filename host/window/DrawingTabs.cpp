@@ -62,4 +62,6 @@ ZolWDoc::ZOLW_Doc *DrawingTabs::item(int index)
     return found ? &found->doc() : nullptr;
 }
 
+QString DrawingTabs::name(int index) const { return page(index)->drawing().name(); }
+
 } // namespace refhost

@@ -23,6 +23,7 @@ signals:
     void pageOpened(refhost::DrawingPage *);        ///< before it comes to the front
 private:
     ZolWDoc::ZOLW_Doc *item(int index) override;
+    QString name(int index) const override;
 };
 
 } // namespace refhost

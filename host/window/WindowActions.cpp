@@ -13,7 +13,7 @@ constexpr bool kSeparated = true;
 
 constexpr Text kMenus[] = {
     {30400, u"&Fájl"},        {30401, u"&Nézet"}, {30402, u"&Rajzolás"},
-    {30403, u"&Párbeszédek"}, {30404, u"N&yelv"},
+    {30403, u"&Párbeszédek"}, {30517, u"&Beállítások"}, {30404, u"N&yelv"},
 };
 
 constexpr Text kHints[] = {
@@ -94,6 +94,13 @@ const A::Row kRows[] = {
      {},
      "",
      [](W &w, bool on) { w.setColors(on ? Colors::Print : Colors::Screen); },
+     A::Switch},
+    {"newElement",
+     A::View,
+     {30632, u"Új &elem tulajdonságai"},
+     Sign::NewElement,
+     "F4",
+     [](W &w, bool on) { w.showNewElement(on); },
      A::Switch},
 
     {"select", A::Draw, {30430, u"&Kijelölés"}, Sign::Select, "", Tool::Select},

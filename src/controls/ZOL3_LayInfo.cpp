@@ -198,8 +198,9 @@ void ZOL3_LayInfo::setVisibleIcon(bool on)
 
 void ZOL3_LayInfo::RefreshControls()
 {
-    const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("-00000"));
-    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height());
+    const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("00000"));
+    txtLayNr->setFixedWidth(digits +
+                            txtLayNr->sizeHint().height() * 3 / 4); // a frame, and room for the cursor
     layout()->invalidate();
     layout()->activate();
     updateGeometry();

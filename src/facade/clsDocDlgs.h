@@ -1,6 +1,7 @@
 #pragma once
 
 #include "facade/contract/ZOLW_Doc.h"
+#include "facade/contract/enumSetupMode.h"
 
 #include <QObject>
 #include <QString>
@@ -32,14 +33,26 @@ public:
     void setsAppTitle(const QString &title);            ///< of every message box; "ZOLDocDlgs" when never set
 
     bool bSelect_Lay(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tLay &lay);
+    /// Several layers: which are selected at first, and then the chosen ones in the order of the grid. The
+    /// document's current layer stays.
+    bool bSelect_LayArr(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tLayArr &layers);
+    /// The setup dialog on its page of layers. Edits are written at once and stay, whatever is returned.
+    bool bEdit_Layers(ZolWDoc::ZOLW_Doc &oDoc);
 
     bool AutomaticItemSelection() const { return m_automatic; }
-    void setAutomaticItemSelection(bool on) { m_automatic = on; }
+    void setAutomaticItemSelection(bool on) { m_automatic = on; } ///< see frmSetup; for bSetup()
+    /// The setup dialog with this object's properties, on page `iType`: 0 layers, 1 text types, 2 line types,
+    /// 3 symbols, 4 pen colours, 5 line symbolizations; another number selects no page. The last argument
+    /// becomes the property, for later calls too.
+    bool bSetupEx(ZolWDoc::ZOLW_Doc &oDoc, qint16 iType, bool AutomaticItemSelection);
+    bool bSetup(ZolWDoc::ZOLW_Doc &oDoc, qint16 iType); ///< with the property as it is
     ZolWDoc::DocumentList *oDocList() const { return m_docList; }
-    void setoDocList(ZolWDoc::DocumentList *list) { m_docList = list; } ///< the host's; null = none
+    /// The open documents, to which bSetup() can take layer settings over; the host's, null = none.
+    void setoDocList(ZolWDoc::DocumentList *list) { m_docList = list; }
     void ml_RuntimeSupport_LanguageChanged() {}         ///< the façade keeps no captions; published spelling
 
 private:
+    bool showSetup(ZolWDoc::ZOLW_Doc &oDoc, qint16 iType);
     bool m_warnInvisible = false;
     bool m_automatic = true;
     ZolWDoc::DocumentList *m_docList = nullptr;

@@ -45,4 +45,10 @@ bool selectLayer(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLay &lay, bool warnInvisible)
     return selectWith(dialog, &frmSelect::bDoSelect_Lay, doc, lay);
 }
 
+bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers)
+{
+    frmSelect dialog;
+    return selectWith(dialog, &frmSelect::bDoSelect_LayArr, doc, layers);
+}
+
 } // namespace QV_DOC_CONTROLS

@@ -6,5 +6,7 @@ namespace QV_DOC_CONTROLS {
 
 /// Picks one layer in a new selection dialog; true = confirmed, `lay` is the chosen one.
 bool selectLayer(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLay &lay, bool warnInvisible);
+/// Picks several layers; true = confirmed, `layers` are the chosen ones.
+bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers);
 
 } // namespace QV_DOC_CONTROLS

@@ -150,8 +150,10 @@ void clsJs_Layer::write(const QString &command, const std::function<void()> &bod
 /// A layer that is gone is not current any more; what the document made current instead is.
 void clsJs_Layer::forgetGone()
 {
-    if (m_current >= 0 && std::ranges::find(all(), m_current, &tLay::LayId) == all().end())
-        m_current = doc().layers().currentId();
+    if (m_current < 0 || currentLayerAsRead()) return;
+    m_current = doc().layers().currentId();
+    grid()->stylesChanged();
+    emit currentLayerMoved();
 }
 
 /// The delete key.
@@ -159,6 +161,27 @@ bool clsJs_Layer::removeRows(std::span<const int>)
 {
     command([this] { m_edits.remove(true); });
     return true;
+}
+
+/// The current layer stands out.
+RowStyles clsJs_Layer::styles(int row) const
+{
+    RowStyles styles = TableManager::styles(row);
+    styles.bold = rowId(row) == m_current;
+    return styles;
+}
+
+void clsJs_Layer::fill()
+{
+    TableManager::fill();
+    emit currentLayerMoved();
+}
+
+bool clsJs_Layer::edit(int row, int column, const QVariant &value)
+{
+    const bool stored = TableManager::edit(row, column, value);
+    if (stored && rowId(row) == m_current) emit currentLayerMoved();
+    return stored;
 }
 
 void clsJs_Layer::setbShowGroups(bool on)
@@ -178,6 +201,14 @@ void clsJs_Layer::setCurrentLayer(qint16 layId)
     if (!document()) return;
     if (layId != m_current) m_previous = std::exchange(m_current, layId);
     if (m_automatic) selectById(layId);
+    grid()->stylesChanged();
+    emit currentLayerMoved();
+}
+
+std::optional<tLay> clsJs_Layer::currentLayerAsRead() const
+{
+    const auto found = std::ranges::find(all(), m_current, &tLay::LayId);
+    return found == all().end() ? std::nullopt : std::optional(*found);
 }
 
 qint16 clsJs_Layer::previousLayer()

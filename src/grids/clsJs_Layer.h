@@ -37,6 +37,7 @@ public:
 
     qint16 currentLayer() const { return m_current; }   ///< identifier, -1 = none yet
     void setCurrentLayer(qint16 layId);                 ///< the layer current before becomes the previous one
+    std::optional<ZolWDoc::tLay> currentLayerAsRead() const; ///< asks no document; empty = none or unknown
     qint16 previousLayer(); ///< the current one when the previous one is gone, which it then becomes
     qint16 numberOf(qint16 layId) const;                ///< -1 = the document has no such layer
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
@@ -78,12 +79,13 @@ public:
     bool canEditTable() const { return isOpen() && AllowEdit(); }
     bool canEditLayers() const { return canEditTable() && !all().empty(); }
     bool canEditCurrent() const { return canEditTable() && grid()->currentRow() >= 0; }
-    bool canEditSelected() const { return canEditTable() && selectedCount() > 0; }
+    bool canEditSelected() const { return canEditTable() && grid()->hasSelection(); }
     template <ZolWDoc::TableKind Kind> bool canPick() const
     {
         return canEditSelected() && LayerValues::canPick(Kind);
     }
     bool isOpen() const override { return TableManager::isOpen(); }
+    void fill() override;
     bool canEditGroups() const { return canEditTable() && m_groupGrid; }
     bool canEditGroup() const { return canEditGroups() && m_group != GroupRows::kAll; }
     bool canGroupSelected() const { return canEditSelected() && !m_groupRows.groups().empty(); }
@@ -95,6 +97,7 @@ public:
 
 signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
+    void currentLayerMoved(); ///< another layer is the current one, or it may look otherwise
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
 
     void GroupChanged(bool &bIsGrouped);
@@ -106,6 +109,8 @@ private:
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
     void raiseSelection(int count) override;
     bool fits(const ZolWDoc::tLay &lay) const override;
+    RowStyles styles(int row) const override;
+    bool edit(int row, int column, const QVariant &value) override;
     bool removeRows(std::span<const int> rows) override;
     void readBeside() override;
     void showBeside() override;

@@ -3,13 +3,13 @@
 #include "kit/forms/AccessKeys.h"
 #include "kit/tools/Icons.h"
 #include "kit/tools/ToolSet.h"
-#include "dialogs/viewtools/ViewTools.h"
 #include "support/Registry.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSet>
 #include <QToolBar>
 #include <QToolButton>
@@ -23,18 +23,20 @@ namespace {
 /// A window with the view tools that logs what they do.
 struct Window : QWidget {
     QStringList log;
-    bool grouped = true;
+    bool grouped = true, cards = false;
     ErrorRelay relay{
         [this](std::exception_ptr error) { log << QStringLiteral("error ") + messageOf(error); }};
     ToolSet tools{kViewTools, relay, this};
-    QToolBar *bar = tools.toolBar("mnuBar");
+    QToolBar *bar = tools.toolBar("mnuBar", {21801, u"Eszköztár"});
     QLineEdit *line = new QLineEdit(this);
 
     Window();
     void sort() { log << QStringLiteral("sort"); }
     void collapse() { log << QStringLiteral("collapse"); }
     void fail() { throw std::runtime_error("no disk"); }
-    void table() { log << QStringLiteral("table"); }
+    void table() { log << QStringLiteral("table"), cards = false; }
+    void paper() {}
+    bool showsCards() const { return cards; }
     bool isGrouped() const { return grouped; }
 };
 
@@ -43,6 +45,9 @@ constexpr ToolCommand<Window> kCommands[] = {
     {"miCollapseAll", &Window::collapse, &Window::isGrouped},
     {"miFind", &Window::fail},
     {"miView_Table", &Window::table},
+    {"miView_Card", &Window::paper, nullptr, &Window::showsCards},
+    {"miShowFields", &Window::paper},
+    {"miPrintPreview", &Window::paper},
 };
 
 Window::Window()
@@ -73,7 +78,7 @@ private slots:
         QCOMPARE(
             dump(*w.bar),
             QStringLiteral("miFind miShowFields miSort miGroupBy miCollapseAll miExpandAll - miView_Table "
-                           "miView_Card miView_CardMin - miShowGroups miHideGroups miPrintPreview"));
+                           "miView_Card miView_CardMin - miPrintPreview"));
         QCOMPARE(dump(*w.tools.popUp("bndPopUp_ViewStyle")),
                  QStringLiteral("miView_Table miView_Card miView_CardMin"));
         QCOMPARE(w.tools.tool("miViewStyle")->menu(), w.tools.popUp("bndPopUp_ViewStyle"));
@@ -93,10 +98,46 @@ private slots:
         QCOMPARE(w.log, QStringList({"sort", "collapse", "error no disk"}));
     }
 
+    void aToolIsShownOnceItDoesSomething()
+    {
+        Window w;
+        QVERIFY(w.tools.tool("miSort")->isVisible() && !w.tools.tool("miGroupBy")->isVisible());
+        QVERIFY(w.tools.tool("miViewStyle")->isVisible());      // a menu
+        w.tools.on("miGroupBy", {[&] { w.log << QStringLiteral("group"); }});
+        QVERIFY(w.tools.tool("miGroupBy")->isVisible());
+        w.tools.tool("miGroupBy")->trigger();
+        QCOMPARE(w.log, QStringList{"group"});
+    }
+
+    void aToolEndsWithWhoeverItWorksFor()
+    {
+        Window w;
+        auto user = std::make_unique<QObject>();
+        w.tools.on("miGroupBy", {[&] { w.log << QStringLiteral("group"); }, {}, {}, user.get()});
+        w.tools.refresh();
+        QVERIFY(w.tools.tool("miGroupBy")->isEnabled());
+        user.reset();
+        w.tools.tool("miGroupBy")->trigger();
+        w.tools.refresh();
+        QVERIFY(!w.tools.tool("miGroupBy")->isEnabled());
+        QCOMPARE(w.log, QStringList());
+    }
+
+    void aToolThatIsOnFollowsItsOwner()
+    {
+        Window w;
+        w.tools.tool("miView_Card")->trigger();                 // its owner says: still no cards
+        QVERIFY(!w.tools.tool("miView_Card")->isChecked());
+        w.cards = true;
+        w.tools.refresh();
+        QVERIFY(w.tools.tool("miView_Card")->isChecked() && !w.tools.tool("miView_Table")->isChecked());
+    }
+
     void openingAPopUpAsksWhatCanBeDone()
     {
         Window w;
         w.grouped = false;
+        QVERIFY(w.tools.tool("miCollapseAll")->isEnabled());
         emit w.tools.popUp("bndPopUp_View")->aboutToShow();
         QVERIFY(!w.tools.tool("miCollapseAll")->isEnabled());
         QVERIFY(w.tools.tool("miSort")->isEnabled());

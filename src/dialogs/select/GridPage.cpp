@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QResizeEvent>
 #include <QShortcut>
@@ -50,29 +51,33 @@ private:
     std::unique_ptr<SheetSource> m_sheet;
 };
 
+ToolSet::Tables tablesOf(const KindTools &kind, GridPage::In dialog)
+{
+    if (dialog == GridPage::In::Setup) return {kind.setup, kind.common, kViewTools};
+    return {kViewTools, kind.select, kind.common};
+}
+
 } // namespace
 
-GridPage::GridPage(ErrorRelay &relay, QWidget *parent)
+GridPage::GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidget *parent)
     : QWidget(parent), imgSplitter(new QSplitter(Qt::Horizontal, this)), gridGroups(new Grid(imgSplitter)),
-      gridItems(new Grid(imgSplitter)), ab1(new ToolSet(kViewTools, relay, this)), m_relay(relay),
-      m_view(*gridItems, this)
+      gridItems(new Grid(imgSplitter)), ab1(new ToolSet(tablesOf(kind.tools, dialog), relay, this)),
+      m_kind(kind), m_relay(relay), m_view(*gridItems, this)
 {
     imgSplitter->setObjectName(QStringLiteral("imgSplitter"));
     gridGroups->setObjectName(QStringLiteral("gridGroups"));
     gridGroups->setListOnly(true);
     gridItems->setObjectName(QStringLiteral("gridItems"));
     ab1->setObjectName(QStringLiteral("ab1"));
-    imgSplitter->setOpaqueResize(false);        // laid out when the drag ends
-    imgSplitter->setChildrenCollapsible(false);
-    imgSplitter->setStretchFactor(0, 0);        // the pane keeps its width, the grid fills the rest
-    imgSplitter->setStretchFactor(1, 1);
-    for (Grid *g : {gridGroups, gridItems}) g->setMinimumWidth(pixelsOf(kEdgeTwips, *this));
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addWidget(ab1->toolBar("mnuBar"));
+    if (dialog == In::Setup) column->addWidget(ab1->menuBar("mnuMain", {21802, u"Menüsor"}));
+    column->addWidget(ab1->toolBar("mnuBar", {21801, u"Eszköztár"}));
     column->addWidget(imgSplitter, 1);
     setFocusProxy(gridItems);
+    arrange(dialog);
     connectTools();
+    connectGrids();
     retranslate();
 }
 
@@ -83,34 +88,50 @@ void GridPage::TearDown()
     if (!m_manager) return;
     m_manager->TearDown();
     m_manager.reset();
+    ab1->refresh();
 }
 
 void GridPage::connectTools()
 {
     ab1->connectTools(m_view, kViewCommands);
-    for (const auto &[view, tool] : kViewTool) ab1->on(tool, [this, v = view] { gridItems->setView(v); });
-    ab1->on("miFind", [this] { find(); });
-    ab1->on("miPrintPreview", [this] { print(); });
-    ab1->on("miSelectAll", [this] { gridItems->selectAll(); });
-    ab1->on("miUnselectAll", [this] { gridItems->selectRows({}); });
-    const auto showsGroups = [this] { return m_manager && m_manager->bShowGroups(); };
-    const auto show = [this](bool on) { m_manager->setbShowGroups(on), ab1->refresh(); };
-    ab1->on("miShowGroups", [show] { show(true); }, [=, this] { return m_hasGroups && !showsGroups(); });
-    ab1->on("miHideGroups", [show] { show(false); }, [=, this] { return m_hasGroups && showsGroups(); });
+    for (const auto &[view, tool] : kViewTool) ab1->on(tool, {[this, v = view] { gridItems->setView(v); }});
+    ab1->on("miFind", {[this] { find(); }});
+    ab1->on("miPrintPreview", {[this] { print(); }});
+    ab1->on("miSelectAll", {[this] { gridItems->selectAll(); }});
+    ab1->on("miUnselectAll", {[this] { gridItems->selectRows({}); }});
+    if (!ab1->tool("miShowGroups")) return;
+    const auto isShown = [this] { return m_manager && m_manager->bShowGroups(); };
+    const auto isHidden = [this] { return m_manager && !m_manager->bShowGroups(); };
+    ab1->on("miShowGroups", {[this] { m_manager->setbShowGroups(true); }, isHidden});
+    ab1->on("miHideGroups", {[this] { m_manager->setbShowGroups(false); }, isShown});
+}
 
-    connect(gridItems, &Grid::contextMenuAsked, this,
-            [this](int, int column, QPoint where) { popUpViewMenu(column, where); });
-    connect(gridItems, &Grid::groupingChanged, ab1, &ToolSet::refresh);
+void GridPage::connectGrids()
+{
+    connect(gridItems, &Grid::contextMenuAsked, this, [this](int row, int column, QPoint where) {
+        const char *const menu = row >= 0     ? m_kind.tools.rowMenu
+                                 : column < 0 ? m_kind.tools.tableMenu
+                                              : nullptr;
+        popUp(menu ? menu : "bndPopUp_View", column, where);
+    });
+    connect(gridGroups, &Grid::contextMenuAsked, this, [this](int, int, QPoint where) {
+        if (m_kind.tools.groupMenu) popUp(m_kind.tools.groupMenu, -1, where);
+    });
+    for (const Grid *grid : {gridItems, gridGroups}) {
+        connect(grid, &Grid::selectionMoved, ab1, &ToolSet::refresh);
+        connect(grid, &Grid::currentRowMoved, ab1, &ToolSet::refresh);
+        connect(grid, &Grid::groupingChanged, ab1, &ToolSet::refresh);
+    }
     const auto *const copies = new QShortcut(QKeySequence::Copy, gridItems, nullptr, nullptr,
                                              Qt::WidgetWithChildrenShortcut);
     connect(copies, &QShortcut::activated, this, &GridPage::copy);
     showView(qint16(gridItems->view()));
 }
 
-void GridPage::popUpViewMenu(int column, QPoint where)
+void GridPage::popUp(const char *band, int column, QPoint where)
 {
     m_column = column;
-    QMenu *const menu = ab1->popUp("bndPopUp_View");
+    QMenu *const menu = ab1->popUp(band);
     menu->popup(where);
     connect(
         menu, &QMenu::aboutToHide, this,
@@ -153,17 +174,26 @@ void GridPage::showView(qint16 view)
 
 void GridPage::retranslate()
 {
-    gridGroups->setTitle(txt(Text{20155, u"Rétegcsoportok"}));
-    gridItems->setTitle(txt(Text{3283, u"Rétegek"}));
+    gridGroups->setTitle(txt(m_kind.groups));
+    gridItems->setTitle(txt(m_kind.pageCaption).trimmed());
     ab1->retranslate();
 }
 
-void GridPage::arrange(const ResourceKind &kind)
+/// In the setup dialog the border between group list and grid stays where it is.
+void GridPage::arrange(In dialog)
 {
+    imgSplitter->setOpaqueResize(false);        // laid out when the drag ends
+    imgSplitter->setChildrenCollapsible(false);
+    imgSplitter->setStretchFactor(0, 0);        // the pane keeps its width, the grid fills the rest
+    imgSplitter->setStretchFactor(1, 1);
+    for (Grid *g : {gridGroups, gridItems}) g->setMinimumWidth(pixelsOf(kEdgeTwips, *this));
+    if (dialog == In::Setup) {
+        imgSplitter->setHandleWidth(0);
+        imgSplitter->handle(1)->setEnabled(false);
+    }
     setPaneWidth(0);
-    m_hasGroups = kind.groupPane;
-    gridGroups->setVisible(kind.groupPane);
-    if (kind.groupPane) setPaneWidth(kPaneTwips);
+    gridGroups->setVisible(m_kind.hasGroups());
+    if (m_kind.hasGroups()) setPaneWidth(kPaneTwips);
 }
 
 void GridPage::setPaneWidth(int twips)

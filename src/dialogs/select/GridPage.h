@@ -17,21 +17,24 @@ namespace QV_DOC_CONTROLS {
 class GridPage final : public QWidget {
     Q_OBJECT
 public:
-    GridPage(ErrorRelay &relay, QWidget *parent);
+    enum class In { Selection, Setup };         ///< the dialog: in the setup dialog the page has a menu bar
+    GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidget *parent);
     ~GridPage() override;
 
-    /// Builds the page for a kind and makes its manager; throws std::out_of_range for a mode outside 0..5.
-    template <class Manager> Manager &open(int mode)
+    /// Makes the manager of the page and hands it the tools of its table.
+    template <class Manager>
+    Manager &open(std::span<const std::type_identity_t<ToolCommand<Manager>>> commands)
     {
-        arrange(resourceKind(mode));
         TearDown();
         auto manager = std::make_unique<Manager>();
         manager->setRelay(m_relay);
         Manager &made = *manager;
         m_manager = std::move(manager);
+        ab1->connectTools(made, commands);
         ab1->refresh();
         return made;
     }
+    GridManager *manager() const { return m_manager.get(); } ///< null before open() and after TearDown()
     void TearDown();                            ///< tears the manager down and drops it
     void retranslate();
     void showView(qint16 view);                 ///< checks the view tool that matches
@@ -45,17 +48,18 @@ protected:
     void resizeEvent(QResizeEvent *) override;
 
 private:
-    void arrange(const ResourceKind &kind);
+    void arrange(In dialog);
     void setPaneWidth(int twips);
     void connectTools();
-    void popUpViewMenu(int column, QPoint where);
+    void connectGrids();
+    void popUp(const char *band, int column, QPoint where);
     void find();
     void print();
     void copy();
+    const ResourceKind &m_kind;                 ///< a row of the table of kinds
     ErrorRelay &m_relay;
     ViewCommands m_view;
     std::unique_ptr<GridManager> m_manager;
-    bool m_hasGroups = false;
     int m_column = -1; ///< under the mouse when the menu came; -1 = the current cell's
     int m_paneTwips = 0;                        ///< wanted until the splitter has a size of its own
 };

@@ -1,8 +1,8 @@
 #include "dialogs/select/frmSelect.h"
 
-#include "facade/services/Prompts.h"
+#include "dialogs/select/InvisibleLayer.h"
 #include "facade/services/Services.h"
-#include "grids/clsJs_Layer.h"
+#include "grids/layer/LayerCommands.h"
 #include "kit/forms/Buttons.h"
 #include "kit/forms/WindowSize.h"
 
@@ -14,13 +14,11 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-frmSelect::frmSelect() : m_page(new GridPage(m_relay, this)), m_buttons(okCancelButtons(*this))
+frmSelect::frmSelect() : m_buttons(okCancelButtons(*this))
 {
     setObjectName(QStringLiteral("frmSelect"));
     auto *const column = new QVBoxLayout(this);
-    column->addWidget(m_page, 1);
     column->addWidget(m_buttons);
-    connect(m_page->gridItems, &Grid::rowActivated, this, &frmSelect::accept);
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &frmSelect::ml_RuntimeSupport_LanguageChanged);
 }
@@ -29,7 +27,7 @@ frmSelect::~frmSelect() { TearDown(); }
 
 void frmSelect::TearDown()
 {
-    m_page->TearDown();
+    if (m_page) m_page->TearDown();
     jsLayer = nullptr;
 }
 
@@ -37,29 +35,43 @@ void frmSelect::ml_RuntimeSupport_LanguageChanged()
 {
     setWindowTitle(txt(resourceKind(m_mode).selectCaption));
     retranslate(*m_buttons);
-    m_page->retranslate();
+    if (m_page) m_page->retranslate();
 }
 
 void frmSelect::buildFrame(int mode, QWidget *owner)
 {
+    const ResourceKind &kind = resourceKind(mode);
+    TearDown();
+    delete m_page;
+    m_page = new GridPage(kind, GridPage::In::Selection, m_relay, this);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_page, 1);
+    m_page->gridItems->setEditStart(Grid::EditStart::KeyOnly);  // a double click picks
+    connect(m_page->gridItems, &Grid::rowActivated, this, &frmSelect::accept);
     m_mode = mode;
     m_ok = false;
-    setWindowTitle(txt(resourceKind(mode).selectCaption));
+    setWindowTitle(txt(kind.selectCaption));
     if (QWidget *const over = owner ? owner->window() : QApplication::activeWindow())
         setParent(over, windowFlags());
-    restoreSize(*this, QStringLiteral("frmSelect"));
+    restoreSize(*this, objectName());
+}
+
+void frmSelect::openLayers(ZOLW_Doc &doc, bool single)
+{
+    m_many = !single;
+    jsLayer = &m_page->open<clsJs_Layer>(kLayerCommands);
+    connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSelect::jsLayer_CurrentChanced);
+    connect(jsLayer, &clsJs_Layer::SelectedChanched, this, &frmSelect::jsLayer_SelectedChanched);
+    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
+    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
+    jsLayer->setAllowEdit(true);
+    jsLayer->init(doc, *m_page->gridItems, m_page->gridGroups, single);
 }
 
 bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
 {
     m_lay = lay;
     buildFrame(0, owner);
-    jsLayer = &m_page->open<clsJs_Layer>(m_mode);
-    connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSelect::jsLayer_CurrentChanced);
-    connect(jsLayer, &clsJs_Layer::SelectedChanched, this, &frmSelect::jsLayer_SelectedChanched);
-    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
-    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
-    jsLayer->init(oDoc, *m_page->gridItems, m_page->gridGroups, true);
+    openLayers(oDoc, true);
     if (jsLayer->selectById(lay.LayId)) jsLayer->setCurrentLayer(lay.LayId);
     const bool ok = run();
     TearDown();
@@ -70,28 +82,54 @@ bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
     return true;
 }
 
+bool frmSelect::bDoSelect_LayArr(ZOLW_Doc &oDoc, tLayArr &layers, QWidget *owner)
+{
+    m_layers = layers;
+    buildFrame(0, owner);
+    openLayers(oDoc, false);
+    std::vector<qint16> ids;
+    for (const tLay &l : layers) ids.push_back(l.LayId);
+    jsLayer->selectByIds(ids);
+    const bool ok = run();
+    TearDown();
+    if (ok) layers = m_layers;
+    return ok;
+}
+
 bool frmSelect::run()
 {
+    m_page->ab1->refresh();
     m_page->setFocus();
     m_relay.exec(*this);
-    keepSizeOf(*this, QStringLiteral("frmSelect"));
+    keepSizeOf(*this, objectName());
     return m_ok;
 }
 
-void frmSelect::jsLayer_CurrentChanced(tLay &lay) { m_lay = lay; }
-void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
-} // one layer is picked: nothing follows the count
+void frmSelect::jsLayer_CurrentChanced(tLay &lay)
+{
+    m_lay = lay;
+    m_page->ab1->refresh();
+}
 
+void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
+} // what can be done now, the page asks the grid itself
 void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 
+bool frmSelect::isBusy() const { return m_page && m_page->manager() && m_page->manager()->refusesNow(); }
+
 void frmSelect::accept()
 {
-    m_relay.guard([this] { confirmLayer(); });
+    m_relay.guard([this] {
+        if (isBusy()) return;
+        if (m_many) confirmLayers();
+        else confirmLayer();
+    });
 }
 
 void frmSelect::reject()
 {
+    if (isBusy()) return;
     m_ok = false;
     QDialog::reject();
 }
@@ -103,16 +141,22 @@ void frmSelect::confirmLayer()
     if (chosen.empty()) return reject();
     const tLay &first = chosen.front();
     if (m_warnInvisible && !first.Visible) {
-        const QString question =
-            join(first.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
-                 QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
-        const bool confirmed = prompts().yesNo({Icon::Question, appTitle(), question}, this);
+        const bool confirmed = isConfirmed(first, this);
         m_relay.checkpoint();
         m_ok = confirmed;
         if (!confirmed) return;
     }
     m_lay = first;
     jsLayer->setCurrentLayer(first.LayId);
+    QDialog::accept();
+}
+
+void frmSelect::confirmLayers()
+{
+    m_layers = jsLayer->selectedLayers();
+    if (m_layers.empty()) return reject();
+    m_ok = true;
+    jsLayer->setCurrentLayer(m_layers.front().LayId);
     QDialog::accept();
 }
 

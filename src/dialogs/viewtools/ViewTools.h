@@ -18,8 +18,6 @@ inline constexpr Tool kViewTools[] = {
     {"mnuBar", "miView_Card"},
     {"mnuBar", "miView_CardMin"},
     {"mnuBar", kToolLine},
-    {"mnuBar", "miShowGroups", {20166, u"Csoportok megjelenítése"}, "showGroups"},
-    {"mnuBar", "miHideGroups", {20167, u"Csoportok elrejtése"}, "hideGroups"},
     {"mnuBar", "miPrintPreview", {20168, u"Nyomtatási kép"}, "printPreview", "Ctrl+P"},
 
     {"bndPopUp_View", "miFind"},

@@ -6,6 +6,8 @@ namespace ZolWDoc {
 
 ZOLW_Doc::~ZOLW_Doc() = default;
 
+QString DocumentList::name(int index) const { return QString::number(index + 1) + u'.'; }
+
 void LayerRole::removeAll(std::span<const qint16> ids, bool alsoOrphans, int &done)
 {
     done = 0;

@@ -49,6 +49,7 @@ struct DocumentList {
     virtual ~DocumentList() = default;
     virtual int count() const = 0;
     virtual ZOLW_Doc *item(int index) = 0;              ///< 0-based; the host's own
+    virtual QString name(int index) const;              ///< in messages; by default its place, "2."
 };
 
 /// Runs `body` as one command of the document: durable at its end, whether it throws or not.

@@ -68,6 +68,16 @@ public:
         if (row >= 0) m_grid->setCurrentRow(row);
         return row >= 0;
     }
+    /// Selects the listed records among these; the first of them becomes the current row.
+    void selectByIds(std::span<const qint16> ids)
+    {
+        std::vector<int> rows;
+        for (const qint16 id : ids)
+            if (const int row = m_grid ? m_grid->rowWithId(id) : -1; row >= 0) rows.push_back(row);
+        if (rows.empty()) return;
+        m_grid->setCurrentRow(rows.front());
+        m_grid->selectRows(rows);
+    }
     std::vector<Record> selected() const  ///< in grid order
     {
         std::vector<Record> out;

@@ -56,7 +56,8 @@ inline constexpr ToolCommand<clsJs_Layer> kLayerCommands[] = {
     {"cmdGroupVisibleOff", &clsJs_Layer::setGroupVisible<false>, &clsJs_Layer::canEditLayers},
     {"cmdLay_ShowGroups", &clsJs_Layer::showGroups<true>, &clsJs_Layer::canShowGroups<true>},
     {"cmdLay_HideGroups", &clsJs_Layer::showGroups<false>, &clsJs_Layer::canShowGroups<false>},
-    {"cmdLay_ShowVisible", &clsJs_Layer::toggleVisibleItems, &clsJs_Layer::isOpen},
+    {"cmdLay_ShowVisible", &clsJs_Layer::toggleVisibleItems, &clsJs_Layer::isOpen,
+     &clsJs_Layer::bShowVisibleItems},
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -28,21 +28,23 @@ QSize sizeOfLetters(const QWidget &window, int across, int down)
     return {letters.averageCharWidth() * across, letters.height() * down};
 }
 
-void restoreSize(QWidget &window, const QString &form, QSize usual)
+void restoreSize(QWidget &window, const QString &form, QSize usual, SizeKeys keys)
 {
     if (!usual.isValid()) usual = sizeOfLetters(window, 160, 28);
-    const QSize wanted(storedPixels(window, keyOf(form, "-Width"), usual.width()),
-                       storedPixels(window, keyOf(form, "-Height"), usual.height()));
+    const QSize wanted(storedPixels(window, keyOf(form, keys.width), usual.width()),
+                       storedPixels(window, keyOf(form, keys.height), usual.height()));
     const QScreen *const screen = window.screen();
     window.resize(screen ? wanted.boundedTo(screen->availableSize()) : wanted);
 }
 
-void keepSizeOf(const QWidget &window, const QString &form)
+void keepSizeOf(const QWidget &window, const QString &form, SizeKeys keys)
 {
-    settingsStore().write(kApplication, kSection, keyOf(form, "-Width"),
-                          QString::number(twipsOf(window.width(), window)));
-    settingsStore().write(kApplication, kSection, keyOf(form, "-Height"),
-                          QString::number(twipsOf(window.height(), window)));
+    const auto keep = [&](const char *suffix, int pixels) {
+        settingsStore().write(kApplication, kSection, keyOf(form, suffix),
+                              QString::number(twipsOf(pixels, window)));
+    };
+    keep(keys.width, window.width());
+    keep(keys.height, window.height());
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -7,10 +7,16 @@ class QWidget;
 
 namespace QV_DOC_CONTROLS {
 
+/// What the width and the height of a window are stored under, behind the name of its form.
+struct SizeKeys {
+    const char *width = "-Width", *height = "-Height";
+};
+
 /// Gives a window the size it had when its user closed it last, else `usual`; without one, a size that fits a
 /// table.
-void restoreSize(QWidget &window, const QString &form, QSize usual = {});
+void restoreSize(QWidget &window, const QString &form, QSize usual = {}, SizeKeys keys = {});
 QSize sizeOfLetters(const QWidget &window, int across, int down); ///< room for so many average letters
-void keepSizeOf(const QWidget &window, const QString &form); ///< stored in twips; errors are swallowed
+/// Stored in twips; errors are swallowed.
+void keepSizeOf(const QWidget &window, const QString &form, SizeKeys keys = {});
 
 } // namespace QV_DOC_CONTROLS

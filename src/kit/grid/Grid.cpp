@@ -64,8 +64,9 @@ void Grid::attach(LineView &view)
     view.setCalls({[this] { dragOut(); }, [this](const QString &letter) { seek(letter); }});
     m_input->watch(view, [&view](int line) { view.setDropLine(line); });
     connect(&view, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &i) {
-        const bool edits = i.flags() & (Qt::ItemIsEditable | Qt::ItemIsUserCheckable);
-        if (!edits && m_model->sourceRow(i) >= 0) emit rowActivated(m_model->sourceRow(i));
+        const bool edits = m_editStart == EditStart::DoubleClick && i.flags() & Qt::ItemIsEditable;
+        const int row = m_model->sourceRow(i);
+        if (!edits && !m_input->wasOnCheckMark() && row >= 0) emit rowActivated(row);
     });
 }
 
@@ -289,6 +290,7 @@ void Grid::makeCurrent(int row)
 
 std::vector<int> Grid::selectedRows() const { return m_selection->shownRows(); }
 int Grid::selectedCount() const { return m_selection->shownCount(); }
+bool Grid::hasSelection() const { return m_selection->isAnyShown(); }
 void Grid::selectRows(std::span<const int> rows)
 {
     m_selection->setRows(rows);
@@ -325,6 +327,18 @@ void Grid::setAllowEdit(bool on)
     arm();
 }
 
+void Grid::setEditStart(EditStart how)
+{
+    m_editStart = how;
+    arm();
+}
+
+void Grid::stylesChanged()
+{
+    m_model->forgetStyles();
+    activeView()->viewport()->update();
+}
+
 void Grid::setDragOut(bool on)
 {
     m_dragsOut = on;
@@ -341,12 +355,13 @@ std::vector<LineView *> Grid::views() const
 /// What both views are told alike.
 void Grid::arm()
 {
+    QAbstractItemView::EditTriggers starts = QAbstractItemView::EditKeyPressed;
+    if (m_editStart == EditStart::DoubleClick) starts |= QAbstractItemView::DoubleClicked;
+    if (m_editStart == EditStart::SecondClick) starts |= QAbstractItemView::SelectedClicked;
     for (LineView *view : views()) {
         view->setSelectionMode(m_multi ? QAbstractItemView::ExtendedSelection
                                        : QAbstractItemView::SingleSelection);
-        view->setEditTriggers(m_allowEdit
-                                  ? QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                                  : QAbstractItemView::NoEditTriggers);
+        view->setEditTriggers(m_allowEdit ? starts : QAbstractItemView::NoEditTriggers);
         view->setDragEnabled(m_dragsOut);
     }
 }

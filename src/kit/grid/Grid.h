@@ -57,6 +57,7 @@ public:
     void setCurrentRow(int row); ///< makes it visible and the selected one; a filter that hides it goes
     std::vector<int> selectedRows() const;          ///< shown ones, in the order of the grid
     int selectedCount() const;                      ///< shown ones
+    bool hasSelection() const;                      ///< as selectedCount() > 0, at once
     void selectRows(std::span<const int> rows);     ///< replaces the selection
     void selectAll();                               ///< every shown row
     /// Makes the next row current whose shown text is `text`, or else begins with it, or else contains it;
@@ -68,6 +69,11 @@ public:
     void setListOnly(bool on);                      ///< without filter line and group-by box
     void setMultiSelection(bool on);
     void setAllowEdit(bool on);
+    /// What begins to edit a cell, beside F2: a double click, which rowActivated() is for otherwise, or a
+    /// click on the row that is selected.
+    enum class EditStart { DoubleClick, SecondClick, KeyOnly };
+    void setEditStart(EditStart how);
+    void stylesChanged();                           ///< rows wear other styles now; same values
     void setTooltips(bool on);
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
@@ -155,6 +161,7 @@ private:
     int m_current = -1;                             ///< the record last made current, even when not shown
     std::vector<int> m_pending;                     ///< rows edited while an editor is open
     int m_hidden = 0;                               ///< selected rows that the filter hides
+    EditStart m_editStart = EditStart::DoubleClick;
     bool m_allowEdit = false, m_multi = false, m_dragsOut = false, m_quiet = false;
     QString m_sought;                               ///< letters typed to search
     QElapsedTimer m_soughtAt;

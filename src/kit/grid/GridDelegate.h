@@ -27,6 +27,7 @@ public:
                const QModelIndex &index) const override;
     void paintBand(QPainter *painter, const QStyleOptionViewItem &option, int band) const;
     QRect bandMark(const QStyleOptionViewItem &option, int band) const;     ///< where a click toggles
+    static QRect checkMark(const QStyleOptionViewItem &option);             ///< where a click toggles a cell
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -42,6 +43,8 @@ protected:
 private:
     QWidget *listEditor(QWidget *parent, int column) const;
     void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
+                   bool right) const;
+    void paintBold(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
                    bool right) const;
     void paintCheck(QPainter *painter, const QStyleOptionViewItem &option, bool on) const;
     void paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const;

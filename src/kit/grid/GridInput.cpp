@@ -51,6 +51,7 @@ bool GridInput::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonPress:
         return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), false);
     case QEvent::MouseButtonDblClick:
+        m_onCheckMark = isOnCheckMark(view, static_cast<const QMouseEvent &>(*event).position().toPoint());
         return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), true);
     case QEvent::DragEnter:
     case QEvent::DragMove:
@@ -114,6 +115,15 @@ bool GridInput::isBandPressed(QAbstractItemView &view, const QMouseEvent &event,
     if (!doubleClick && !m_delegate.bandMark(option, band).contains(at)) return false;
     emit bandToggled(band);
     return true;
+}
+
+bool GridInput::isOnCheckMark(const QAbstractItemView &view, QPoint at) const
+{
+    const QModelIndex index = view.indexAt(at);
+    QStyleOptionViewItem option;
+    option.initFrom(&view);
+    option.rect = view.visualRect(index);
+    return index.flags() & Qt::ItemIsUserCheckable && m_delegate.checkMark(option).contains(at);
 }
 
 bool GridInput::askForMenu(QAbstractItemView &view, const QContextMenuEvent &event)

@@ -26,6 +26,7 @@ public:
     GridInput(GridModel &model, GridDelegate &delegate, QObject *parent);
     void watch(QAbstractItemView &view, std::function<void(int line)> markDrop);
     void watch(QHeaderView &header);
+    bool wasOnCheckMark() const { return m_onCheckMark; } ///< the last double click
 
 signals:
     void bandToggled(int band);
@@ -42,6 +43,7 @@ private:
     bool isBandKeyTaken(QAbstractItemView &view, int key);
     bool isListOpened(QAbstractItemView &view);
     bool isBandPressed(QAbstractItemView &view, const QMouseEvent &event, bool doubleClick);
+    bool isOnCheckMark(const QAbstractItemView &view, QPoint at) const;
     bool askForMenu(QAbstractItemView &view, const QContextMenuEvent &event);
     bool isDropTaken(const Watched &over, QEvent &event);
     DropTarget targetAt(const QModelIndex &index) const;
@@ -49,6 +51,7 @@ private:
     GridDelegate &m_delegate;
     std::vector<Watched> m_views;
     QHeaderView *m_header = nullptr;
+    bool m_onCheckMark = false;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -158,6 +158,7 @@ GridStyle GridModel::styleOf(int row, int column) const
 {
     if (row != m_styledRow) m_rowStyles = m_source->styles(row), m_styledRow = row;
     GridStyle style = m_styles.find(m_rowStyles.row);
+    style.bold |= m_rowStyles.bold;
     if (const auto own = m_rowStyles.cells.constFind(column); own != m_rowStyles.cells.constEnd()) {
         const GridStyle cell = m_styles.find(*own);
         if (cell.background.isValid()) style.background = cell.background, style.grayed = false;

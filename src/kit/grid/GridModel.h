@@ -50,6 +50,7 @@ public:
     int rowWithId(qint64 id) const;             ///< -1 = none
     GridStyles &formatStyles() { return m_styles; }
     GridStyle styleOf(int sourceRow, int column) const; ///< the cell's own over the row's
+    void forgetStyles() { m_styledRow = -1; }   ///< the source answers otherwise now
     QPixmap picture(int sourceRow, int column) const;
     const GridColumn *column(int c) const;      ///< null beyond the last
     std::vector<GridChoice> choices(int c) const

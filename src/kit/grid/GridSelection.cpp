@@ -65,6 +65,17 @@ int GridSelection::shownCount() const
     return int(std::ranges::count_if(shown, [&](int row) { return marked[size_t(row)]; }));
 }
 
+bool GridSelection::isAnyShown() const
+{
+    const RowEngine &engine = m_model.engine();
+    for (const QItemSelectionRange &range : selection())
+        for (int line = range.top(); line <= range.bottom(); ++line)
+            if (engine.rowAt(line) >= 0) return true;
+    for (size_t r = 0; r < m_away.size(); ++r)
+        if (m_away[r] && engine.isShown(int(r))) return true;
+    return false;
+}
+
 int GridSelection::hiddenCount() const
 {
     int count = 0;

@@ -21,6 +21,7 @@ public:
     std::vector<int> allRows() const;           ///< source rows, also those that the filter leaves out
     std::vector<int> shownRows() const;         ///< in grid order
     int shownCount() const;
+    bool isAnyShown() const;                    ///< as shownCount() > 0, without counting
     int hiddenCount() const;                    ///< left out by the filter
     void setRows(std::span<const int> rows);    ///< replaces the selection; any source rows
 

@@ -30,6 +30,7 @@ protected:
     int horizontalOffset() const override { return m_header->offset(); }
     int verticalOffset() const override;
     bool isIndexHidden(const QModelIndex &index) const override;
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
 

@@ -17,17 +17,18 @@ struct Tool {
     const char *name;                           ///< published; "-" = a line between tools
     Text caption{};
     const char *icon = "";                      ///< a row of the icon table
-    const char *keys = "";                      ///< as QKeySequence reads them
+    const char *keys = "";                      ///< as QKeySequence reads them, several with "; " between
     Check check = Check::No;
     const char *opens = "";                     ///< the band that it pops up
 };
 inline constexpr const char *kToolLine = "-";
 
-/// What a tool does and when it can be used: a row of an owner's command table.
+/// What a tool does, when it can be used and whether it is on: a row of an owner's command table.
 template <class Owner> struct ToolCommand {
     const char *tool;
     void (Owner::*run)();
     bool (Owner::*enabled)() const = nullptr;   ///< null = always
+    bool (Owner::*checked)() const = nullptr;   ///< of a tool that is on or off
 };
 
 } // namespace QV_DOC_CONTROLS

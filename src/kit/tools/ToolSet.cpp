@@ -6,6 +6,8 @@
 
 #include <QActionGroup>
 #include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
 
 #include <cstring>
 
@@ -20,12 +22,12 @@ bool isSame(const Tool &a, const Tool &b) { return std::strcmp(a.name, b.name) =
 
 } // namespace
 
-ToolSet::ToolSet(std::span<const Tool> rows, ErrorRelay &relay, QWidget *owner)
-    : QObject(owner), m_rows(rows), m_relay(relay)
+ToolSet::ToolSet(const Tables &tables, ErrorRelay &relay, QWidget *owner) : QObject(owner), m_relay(relay)
 {
-    for (const Tool &row : rows)
+    for (const auto &table : tables) m_rows.insert(m_rows.end(), table.begin(), table.end());
+    for (const Tool &row : m_rows)
         if (tellsAll(row)) makeTool(row);
-    for (const Tool &row : rows)
+    for (const Tool &row : m_rows)
         if (*row.opens) popUp(row.opens);       // all of its tools are made by now
     retranslate();
 }
@@ -37,7 +39,8 @@ void ToolSet::makeTool(const Tool &row)
     QAction *const action = *row.opens ? menuOf(row.opens)->menuAction() : new QAction(this);
     action->setObjectName(QLatin1String(row.name));
     action->setIcon(toolIcon(row.icon));
-    action->setShortcut(QKeySequence(QLatin1String(row.keys)));
+    action->setVisible(*row.opens != '\0');
+    action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.keys)));
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setCheckable(row.check != Check::No);
     if (row.check == Check::OneOf) {
@@ -60,11 +63,24 @@ template <class Band> void ToolSet::addTo(Band &band, const char *name)
     }
 }
 
-QToolBar *ToolSet::toolBar(const char *band)
+QToolBar *ToolSet::toolBar(const char *band, Text name)
 {
     auto *const bar = new ToolBand(owner());
     bar->setObjectName(QLatin1String(band));
     addTo(*bar, band);
+    m_bars.emplace_back(bar, name);
+    retranslate();
+    return bar;
+}
+
+QMenuBar *ToolSet::menuBar(const char *band, Text name)
+{
+    auto *const bar = new QMenuBar(owner());
+    bar->setObjectName(QLatin1String(band));
+    addTo(*bar, band);
+    m_bars.emplace_back(bar, name);
+    m_keyed.insert(band);
+    retranslate();
     return bar;
 }
 
@@ -74,6 +90,7 @@ QMenu *ToolSet::menuOf(const char *band)
     if (!menu) {
         menu = new QMenu(owner());
         menu->setObjectName(QLatin1String(band));
+        m_keyed.insert(band);
         connect(menu, &QMenu::aboutToShow, this, &ToolSet::refresh);
     }
     return menu;
@@ -89,17 +106,31 @@ QMenu *ToolSet::popUp(const char *band)
     return menu;
 }
 
-void ToolSet::on(const char *name, std::function<void()> run, std::function<bool()> enabled)
+void ToolSet::on(const char *name, Behaviour behaviour)
 {
     QAction *const action = tool(name);
     Q_ASSERT_X(action, "ToolSet::on", name);
-    connect(action, &QAction::triggered, this, [this, run = std::move(run)] { m_relay.guard(run); });
-    if (enabled) m_enabled.emplace_back(action, std::move(enabled));
+    QObject *const user = behaviour.user ? behaviour.user : this;
+    connect(action, &QAction::triggered, user, [this, run = behaviour.run] {
+        m_relay.guard(run);
+        refresh();
+    });
+    action->setVisible(true);
+    action->setEnabled(true);
+    m_bound.push_back({action, std::move(behaviour), user});
 }
 
 void ToolSet::refresh()
 {
-    for (const auto &[action, enabled] : m_enabled) action->setEnabled(enabled());
+    for (const Bound &b : m_bound)
+        if (!b.user) b.tool->setEnabled(false);
+    std::erase_if(m_bound, [](const Bound &b) { return !b.user; });
+    m_relay.guard([this] {
+        for (const Bound &b : m_bound) {
+            if (b.behaviour.enabled) b.tool->setEnabled(b.behaviour.enabled());
+            if (b.behaviour.checked) b.tool->setChecked(b.behaviour.checked());
+        }
+    });
 }
 
 void ToolSet::setChecked(const char *name, bool on)
@@ -113,22 +144,23 @@ void ToolSet::retranslate()
     for (const Tool &row : m_rows) {
         if (!tellsAll(row)) continue;
         QAction *const action = tool(row.name);
-        const QString caption = txt(row.caption);
+        const QString caption = txt(row.caption).trimmed(); // captions of pages begin with a blank
         action->setText(withAccessKeys({caption}, keysBeside(row.name, taken)).first());
         for (const Tool &place : m_rows)
             if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        const QString plain = QString(caption).remove(QStringLiteral("..."));
+        const QString plain = QString(caption).remove(QStringLiteral("...")).remove(u'…');
         action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
     }
+    for (const auto &[bar, name] : m_bars) bar->setAccessibleName(txt(name));
 }
 
-/// Access keys already given on any menu that shows the tool; tool bars have none.
+/// Access keys already given on any menu or menu bar that shows the tool; tool bars have none.
 QString ToolSet::keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const
 {
     QString keys;
     for (const Tool &row : m_rows)
-        if (m_popUps.contains(row.band) && std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
+        if (m_keyed.contains(row.band) && std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
     return keys;
 }
 

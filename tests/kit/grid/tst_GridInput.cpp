@@ -378,7 +378,10 @@ void tst_GridInput::cardsAreWalkedAndEdited()
     s.key(Qt::Key_Right);
     QCOMPARE(s.grid.currentRow(), 1);
     QCOMPARE(cards.currentIndex().column(), int(SampleRows::Visible));
-    s.click(s.cell(4, SampleRows::Visible));
+    const QRect field =
+        cards.visualRect(s.cell(4, SampleRows::Visible)); // its box stands where the value begins
+    QTest::mouseClick(cards.viewport(), Qt::LeftButton, {},
+                      field.topLeft() + QPoint(field.height(), field.height()) / 2);
     QCOMPARE(s.rows.log.last(), "edit 104.Vis=true");
     for (int line = 0; line < 6; ++line)
         for (const int column : {SampleRows::Nr, SampleRows::Kind, SampleRows::Sample})

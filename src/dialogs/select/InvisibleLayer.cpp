@@ -1,0 +1,17 @@
+#include "dialogs/select/InvisibleLayer.h"
+
+#include "facade/services/Prompts.h"
+#include "facade/services/Services.h"
+#include "facade/services/Text.h"
+
+namespace QV_DOC_CONTROLS {
+
+bool isConfirmed(const ZolWDoc::tLay &invisible, QObject *asker)
+{
+    const QString question =
+        join(invisible.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
+             QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
+    return prompts().yesNo({Icon::Question, appTitle(), question}, asker);
+}
+
+} // namespace QV_DOC_CONTROLS
