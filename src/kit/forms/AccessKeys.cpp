@@ -32,8 +32,10 @@ public:
     explicit Giver(std::span<KeyedCaption> all) : m_all(all), m_place(all.size(), -1) {}
     void give()
     {
-        for (size_t i = 0; i < m_all.size(); ++i)
-            if (accessKeyOf(m_all[i].caption).isNull()) place(i, {});
+        for (size_t i = 0; i < m_all.size(); ++i) {
+            QSet<QChar> tried;
+            if (accessKeyOf(m_all[i].caption).isNull()) place(i, tried);
+        }
         for (size_t i = 0; i < m_all.size(); ++i)
             if (m_place[i] >= 0) m_all[i].caption.insert(m_place[i], u'&');
     }
@@ -56,7 +58,7 @@ private:
             if (j != i && keyOf(j) == key && meets(i, j)) out.push_back(j);
         return out;
     }
-    bool place(size_t i, QSet<QChar> tried)
+    bool place(size_t i, QSet<QChar> &tried)
     {
         const std::vector<qsizetype> places = placesIn(m_all[i].caption);
         const auto key = [&](qsizetype at) { return m_all[i].caption[at].toUpper(); };
