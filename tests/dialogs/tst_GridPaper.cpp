@@ -72,7 +72,8 @@ private slots:
     {
         storePageSetup(pageLayoutOf(QPageSize::A4, QPageLayout::Landscape, {15, 15, 15, 15}));
         m_doc = tests::layerDoc({});
-        const char *const names[] = {"Út széle", "Țărm", "Đường đồng mức", "Kerítés", "Ống nước", "Lakóépület"};
+        const char *const names[] = {"Út széle", "Țărm",     "Đường đồng mức",
+                                     "Kerítés",  "Ống nước", "Lakóépület"};
         for (qint16 i = 0; i < 60; ++i)
             m_doc->layers().add({.gNr = qint16(200 + i),
                                  .Name = QString::fromUtf8(names[i % 6]) + QStringLiteral(" %1").arg(i),
@@ -113,7 +114,8 @@ private slots:
         QFETCH(int, language);
         QFETCH(QString, title);
         QFETCH(Act, act);
-        QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty(), "needs poppler-utils");
+        QVERIFY2(!QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty(),
+                 "needs poppler-utils");
         setLanguage(language, {});
         QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("layers.pdf"));

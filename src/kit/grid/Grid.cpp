@@ -36,7 +36,12 @@ Grid::Grid(QWidget *parent)
     m_filter->retranslate(interfaceLocale());
 }
 
-Grid::~Grid() = default;
+/// An editor that is open closes with its view, when there is no grid any more that could be told.
+Grid::~Grid()
+{
+    for (QAbstractItemView *const view : findChildren<QAbstractItemView *>())
+        if (view->itemDelegate()) disconnect(view->itemDelegate(), nullptr, this, nullptr);
+}
 
 void Grid::buildLayout()
 {
