@@ -77,7 +77,8 @@ private slots:
     {
         inDialog([](frmSelect &d, Grid &, ToolSet &tools) {
             std::vector<bool> seen;
-            const auto heard = connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
+            const auto heard =
+                connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
             const auto watch = whileModal<frmGroupBy>([](frmGroupBy &g) {
                 g.cboGroups[0]->setCurrentIndex(3);
                 g.cmdOk->click();
@@ -168,16 +169,16 @@ private slots:
     /// Whatever is open speaks the new language, what it stands on too.
     void aLanguageChangeReachesEveryOpenDialog_data()
     {
-        QTest::addColumn<const char *>("tool");
+        QTest::addColumn<QByteArray>("tool");
         QTest::addColumn<QString>("title");
-        QTest::newRow("sort") << "miSort" << QStringLiteral("Sort");
-        QTest::newRow("group") << "miGroupBy" << QStringLiteral("Grouping");
-        QTest::newRow("columns") << "miShowFields" << QStringLiteral("Display columns");
-        QTest::newRow("preview") << "miPrintPreview" << QStringLiteral("Print preview");
+        QTest::newRow("sort") << QByteArray("miSort") << QStringLiteral("Sort");
+        QTest::newRow("group") << QByteArray("miGroupBy") << QStringLiteral("Grouping");
+        QTest::newRow("columns") << QByteArray("miShowFields") << QStringLiteral("Display columns");
+        QTest::newRow("preview") << QByteArray("miPrintPreview") << QStringLiteral("Print preview");
     }
     void aLanguageChangeReachesEveryOpenDialog()
     {
-        QFETCH(const char *, tool);
+        QFETCH(QByteArray, tool);
         QFETCH(QString, title);
         inDialog([&](frmSelect &d, Grid &grid, ToolSet &tools) {
             const auto watch = whileModal<QDialog>([&](QDialog &open) {
@@ -190,7 +191,7 @@ private slots:
                     QCOMPARE(first->itemText(2), QStringLiteral("Layer name"));
                 open.reject();
             });
-            tools.tool(tool)->trigger();
+            tools.tool(tool.constData())->trigger();
             QCOMPARE(d.windowTitle(), QStringLiteral("Layer selector"));
             QCOMPARE(grid.columns()[1].caption, QStringLiteral("Layer name"));
             QCOMPARE(grid.findChild<GroupBox *>()->accessibleName(),

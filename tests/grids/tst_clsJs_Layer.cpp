@@ -203,7 +203,8 @@ private slots:
                 int version() const override { return 4; }
                 bool readBool(const QString &section, const QString &key, bool fallback) const override
                 {
-                    const bool asked = section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid");
+                    const bool asked =
+                        section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid");
                     return asked ? on : fallback;
                 }
             } host(on);
@@ -236,7 +237,8 @@ private slots:
         };
         const QStringList before = lines();
         faulty.log.failNext = QStringLiteral("layers.update");
-        QVERIFY(!model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole)); // would change its band
+        QVERIFY(
+            !model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole)); // would change its band
         QCOMPARE(lines(), before);
         QVERIFY(model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole));
         QVERIFY(lines() != before);
