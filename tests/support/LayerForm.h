@@ -61,6 +61,17 @@ struct LayerForm {
         for (int r = 0; r < grid.table()->model()->rowCount(); ++r) out << cell(r, 0).toString();
         return out.join(u' ');
     }
+    /// Every group as it shows itself when it is chosen: "RENDSZER: 1 2 | Utak: 2".
+    QString groupsListed()
+    {
+        QStringList out;
+        for (int r = 1; r < groups.table()->model()->rowCount(); ++r) {
+            groups.setCurrentRow(r);
+            out << chosenGroup() + u':' + (listed().isEmpty() ? QString() : u' ' + listed());
+        }
+        groups.setCurrentRow(0);
+        return out.join(QStringLiteral(" | "));
+    }
     QString chosenGroup() const
     {
         return groups.table()->currentIndex().siblingAtColumn(0).data().toString();

@@ -92,12 +92,13 @@ public:
 protected:
     void attach(ZolWDoc::ZOLW_Doc &doc, Grid &grid)
     {
-        m_doc = &doc, m_grid = &grid;
         buildColorStyles(grid, doc);
+        auto all = Table::role(doc).readAll();
+        auto names = Table::namesOf(doc); // an error leaves nothing attached, and no layout to save
+        m_doc = &doc, m_grid = &grid, m_all = std::move(all), m_names = std::move(names);
         grid.setAllowEdit(AllowEdit());
         grid.setTooltips(
             readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-        m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
         showWhatFits();
         grid.setSource(this);
         grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);

@@ -136,14 +136,15 @@ DropTarget GridInput::targetAt(const QModelIndex &index) const
 
 bool GridInput::isDropTaken(LineView &view, QEvent &event)
 {
-    if (event.type() == QEvent::DragLeave) return view.setDropLine(-1), true;
+    if (event.type() == QEvent::DragLeave) return view.setDropLine(-1, nullptr), true;
     auto &drop = static_cast<QDropEvent &>(event);
     const QModelIndex index = view.indexAt(drop.position().toPoint());
     const DropTarget target = targetAt(index);
     auto *const source = const_cast<GridSource *>(m_model.source());
     const bool takes = drop.mimeData() && source->canDrop(*drop.mimeData(), target);
     const bool done = event.type() == QEvent::Drop;
-    view.setDropLine(takes && !done ? index.row() : -1);
+    view.setDropLine(takes && !done ? index.row() : -1,
+                     done ? nullptr : static_cast<QDragMoveEvent *>(&event));
     if (takes) drop.acceptProposedAction();
     else drop.ignore();
     if (takes && done) source->drop(*drop.mimeData(), target);

@@ -74,9 +74,11 @@ void LineView::dropEditor()
 
 QWidget *LineView::openEditor() const { return isEditing() ? indexWidget(currentIndex()) : nullptr; }
 
-void LineView::setDropLine(int line)
+void LineView::setDropLine(int line, QDragMoveEvent *over)
 {
     if (std::exchange(m_dropLine, line) != line) viewport()->update();
+    if (over) QAbstractItemView::dragMoveEvent(over);
+    else stopAutoScroll();
 }
 
 void LineView::paintDropLine(QPainter &painter) const

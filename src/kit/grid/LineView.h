@@ -23,7 +23,9 @@ class LineView : public QAbstractItemView {
     Q_OBJECT
 public:
     void setCalls(ViewCalls calls) { m_calls = std::move(calls); }
-    void setDropLine(int line);                 ///< framed while something is dragged over it; -1 = none
+    /// The line is framed (-1 = none) while something is dragged over it; near an edge the lines go on under
+    /// what is dragged, until `over` is null.
+    void setDropLine(int line, QDragMoveEvent *over);
     bool isEditing() const { return state() == EditingState; }
     void endEditing();                          ///< writes what an open editor holds and closes it
     void dropEditor();                          ///< closes it; what it holds is lost

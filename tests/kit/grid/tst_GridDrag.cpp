@@ -2,6 +2,10 @@
 #include "support/RealDrag.h"
 #include "support/Registry.h"
 
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace tests;
@@ -10,6 +14,7 @@ class tst_GridDrag : public QObject {
     Q_OBJECT
 private slots:
     void rowsAreDraggedFromGridToGrid();
+    void linesScrollUnderWhatIsDragged();
 };
 
 void tst_GridDrag::rowsAreDraggedFromGridToGrid()
@@ -26,6 +31,25 @@ void tst_GridDrag::rowsAreDraggedFromGridToGrid()
     RealDrag drag(left, 1, right, 0);
     QTRY_COMPARE_WITH_TIMEOUT(to.log, QStringList{"drop 1 rows row 0 band -1/-1"}, 15000);
     QVERIFY(drag.ended());
+}
+
+void tst_GridDrag::linesScrollUnderWhatIsDragged()
+{
+    SampleRows rows(QStringList(200, "alma"));
+    Grid grid;
+    grid.setSource(&rows);
+    grid.resize(500, 300);
+    grid.show();
+    QAbstractItemView &view = *grid.activeView();
+    QMimeData mime;
+    mime.setText("egy");
+    const QPoint edge = view.viewport()->rect().bottomLeft() + QPoint(20, -5);
+    QCursor::setPos(view.viewport()->mapToGlobal(edge));
+    QDragEnterEvent enter(edge, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(view.viewport(), &enter);
+    QTRY_VERIFY(view.verticalScrollBar()->value() > 0);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(view.viewport(), &leave);
 }
 
 QVDC_TEST(tst_GridDrag)
