@@ -108,6 +108,10 @@ private slots:
         QTest::newRow("ro, grouped and filtered") << int(Romanian) << QStringLiteral("Straturi") << filtered;
         QTest::newRow("vi, grouped and filtered") << int(Vietnamese) << QStringLiteral("Các lớp") << filtered;
         QTest::newRow("en, all groups but one closed") << int(English) << QStringLiteral("Layers") << closed;
+        QTest::newRow("vi, nothing left") << int(Vietnamese) << QStringLiteral("Các lớp")
+                                          << Act([filtered](Grid &grid) {
+                                                 filtered(grid), grid.setFilterText(QStringLiteral("none"));
+                                             });
     }
     void paperShowsExactlyWhatTheGridShows()
     {

@@ -191,7 +191,7 @@ private slots:
                     QCOMPARE(first->itemText(2), QStringLiteral("Layer name"));
                 open.reject();
             });
-            tools.tool(tool)->trigger();
+            tools.tool(tool.constData())->trigger();
             QCOMPARE(d.windowTitle(), QStringLiteral("Layer selector"));
             QCOMPARE(grid.columns()[1].caption, QStringLiteral("Layer name"));
             QCOMPARE(grid.findChild<GroupBox *>()->accessibleName(),

@@ -67,8 +67,8 @@ protected:
     /// Emits the table's own GroupChanged: the user's grouping, not that of a layout file.
     virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) }
     void followView(Grid &grid);                             ///< raises both, and follows the language
-    void unfollow(Grid &grid);                          ///< hears nothing of it and of the language any more
-    void loadLayout(Grid &grid, const QString &layout); ///< of the table and the language, if there is one
+    void unfollow(Grid &grid);                               ///< hears nothing of either any more
+    void loadLayout(Grid &grid, const QString &layout);      ///< of the language, if there is one
     explicit GridManager(const char *type) : m_identity(type) {}
     ErrorRelay &relay() const { return *m_relay; }
 
