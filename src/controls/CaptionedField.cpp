@@ -144,7 +144,7 @@ CaptionedField::Widths CaptionedField::widths(bool least) const
             caption(*m_lblAfter, m_after, m_widthAfter)};
 }
 
-/// Where room is short the captions give way first.
+/// Where room is short the captions give way first; room to spare is the value's, if the control expands.
 CaptionedField::Widths CaptionedField::widthsIn(int room) const
 {
     Widths parts = widths(false);
@@ -154,6 +154,7 @@ CaptionedField::Widths CaptionedField::widthsIn(int room) const
         const int given = std::clamp(lacking, 0, parts[part] - least[part]);
         parts[part] -= given, lacking -= given;
     }
+    if (sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) parts[1] += std::max(0, -lacking);
     return parts;
 }
 

@@ -58,7 +58,7 @@ usInputBox::usInputBox(QWidget *parent)
             ErrorRelay::reporting().guard([&] { (this->*member)(given...); });
         };
     };
-    connect(&box(), &InputCombo::edited, this, &usInputBox::markText);
+    connect(&box(), &InputCombo::edited, this, &usInputBox::checkTyped);
     connect(&box(), &InputCombo::entered, this, &usInputBox::entered);
     connect(&box(), &InputCombo::left, this, user(&usInputBox::left));
     connect(&box(), &InputCombo::chosen, this, user(&usInputBox::enter));
@@ -105,6 +105,7 @@ usInputBox::Refusal usInputBox::takeNumber(const QVariant &value)
     if (!checked.value) return checked.refusal;
     const bool differs = *checked.value != number();
     m_value = *checked.value;
+    box().forgetTyping();
     if (differs) raiseChange();
     return {};
 }
@@ -136,12 +137,15 @@ void usInputBox::tell(const Message &refusal)
     prompts().tell(refusal, this);
 }
 
-bool usInputBox::enterTyped() { return !box().touched() || enter(box().currentText()); }
+bool usInputBox::enterTyped()
+{
+    return !box().touched() || (!staysTyped() && enter(box().currentText()));
+}
 
 /// The message comes once the focus has changed, so that a click is not lost to it.
 void usInputBox::leaveTyped()
 {
-    if (!box().touched()) return;
+    if (!box().touched() || staysTyped()) return;
     const auto afterwards = qScopeGuard([this] { showValue(); });
     if (const Refusal refusal = take(box().currentText()))
         QMetaObject::invokeMethod(this, [this, refusal = *refusal] {
@@ -162,26 +166,32 @@ void usInputBox::showValue()
 void usInputBox::refresh()
 {
     m_input->locale = locale();
-    if (box().touched()) markText();
+    if (box().touched()) checkTyped();
     else showValue();
 }
 
-void usInputBox::markText()
+void usInputBox::checkTyped()
 {
+    const QString text = box().currentText();
     m_refusal.clear();
     if (m_input->isText()) {
-        const CheckedText checked = checkedText(*m_input, box().currentText());
+        const CheckedText checked = checkedText(*m_input, text);
         if (checked.refusal) m_refusal = checked.refusal->text;
-    } else if (const CheckedNumber checked = checkedNumber(*m_input, box().currentText()); !checked.value) {
-        m_refusal = checked.refusal.text;
+    } else {
+        m_refusal = checkedNumber(*m_input, text).refusal.text;
     }
+    QString refusal = m_refusal;
+    ErrorRelay::reporting().guard([&] { emit TextChecked(refusal); });
+    if (m_errorsInPlace) m_refusal = refusal;
     box().setMarked(m_refusal);
     describe();
 }
 
-bool usInputBox::isAcceptable() const
+std::optional<double> usInputBox::acceptableNumber() const
 {
-    return !box().touched() || !box().isMarked();
+    if (!box().touched()) return number();
+    if (box().isMarked()) return {};
+    return checkedNumber(*m_input, box().currentText()).value;
 }
 
 void usInputBox::ComboValue(const QVariant &item)

@@ -44,6 +44,7 @@ class usInputBox final : public CaptionedField {
     Q_PROPERTY(double UpDownInc READ UpDownInc WRITE setUpDownInc)
     Q_PROPERTY(int LenMax READ LenMax WRITE setLenMax)
     Q_PROPERTY(bool ReadsLocale READ ReadsLocale WRITE setReadsLocale)
+    Q_PROPERTY(bool ErrorsInPlace READ ErrorsInPlace WRITE setErrorsInPlace)
 public:
     explicit usInputBox(QWidget *parent = nullptr);
     ~usInputBox() override;
@@ -75,6 +76,10 @@ public:
     bool ReadsLocale() const;
     /// Typed numbers are read as a person of the widget's locale writes them. Off, "1,5" is read as 1.
     void setReadsLocale(bool on);
+    bool ErrorsInPlace() const { return m_errorsInPlace; }
+    /// What cannot be taken stays in the box, marked and described, and nobody is interrupted by a message.
+    /// Off, it is told and the value before it comes back.
+    void setErrorsInPlace(bool on) { m_errorsInPlace = on; }
 
     /// New bounds, where they are numeric, without a look at each other; then checks and stores the value.
     /// False = refused and told.
@@ -82,7 +87,8 @@ public:
     void ComboValue(const QVariant &item);              ///< adds to the list of the value box; text or number
     QVariantMap propertyBag() const;                    ///< by published key, what differs from its default
     void setPropertyBag(const QVariantMap &bag);        ///< what it lacks gets its default
-    bool isAcceptable() const;                          ///< what stands in the box now could be stored
+    /// The number in the box as it stands, typed or stored; nothing when it cannot be taken.
+    std::optional<double> acceptableNumber() const;
     void ml_RuntimeSupport_LanguageChanged();           // published spelling
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -105,6 +111,9 @@ signals:
     void KeyPress(qint16 &KeyAscii);                    ///< a UTF-16 unit; 0 takes the character away
     void KeyUp(qint16 &KeyCode, qint16 Shift);
     void Change(double &NumValue);                      ///< another value in the bounds is taken silently
+    /// The text is another. `Refusal` says why it cannot be taken; with ErrorsInPlace a reason of the host's
+    /// own, or none, may be put in.
+    void TextChecked(QString &Refusal);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -133,7 +142,8 @@ private:
     void raiseChange();
     void showValue();
     void refresh();                                     ///< the display too, unless the user is typing
-    void markText();
+    void checkTyped();
+    bool staysTyped() const { return m_errorsInPlace && !m_refusal.isEmpty(); }
     void captionsChanged() override { describe(); }
     void describe();
 
@@ -154,7 +164,7 @@ private:
     QVariant m_value = 0.0;
     int m_timerInterval = 50, m_next = -1, m_back = -1;
     float m_step = 0;                                   ///< signed while the arrows are pressed
-    bool m_autoSelect = true;
+    bool m_autoSelect = true, m_errorsInPlace = false;
     bool m_loading = false, m_polished = false, m_raw = false;
     bool m_waiting = false;                             ///< left for a button that rejects, not checked yet
     QString m_refusal;                                  ///< read out until the user goes on

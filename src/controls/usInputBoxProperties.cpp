@@ -43,6 +43,7 @@ constexpr BagRow kBag[] = {
     {"AutoSelect", "AutoSelect", true},
     {"LenMax", "LenMax", 20},
     {"ReadsLocale", "ReadsLocale", false},
+    {"ErrorsInPlace", "ErrorsInPlace", false},
 };
 
 int shortOf(int value) { return std::clamp<int>(value, -32768, 32767); }

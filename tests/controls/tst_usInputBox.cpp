@@ -1,5 +1,6 @@
 #include "controls/InputForm.h"
 
+#include "support/MutePrompts.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
@@ -318,24 +319,7 @@ private slots:
     /// Whatever is pressed, pasted or stepped: the value stays in its bounds and the box has a way back.
     void randomKeysNeverLeaveAValueOutsideTheBounds()
     {
-        struct Mute final : Prompts {
-            Prompts *before = setPrompts(this);
-            ~Mute() override { setPrompts(before); }
-            void tell(const Message &, QObject *) override {}
-            void show(const Report &, QObject *) override {}
-            bool yesNo(const Message &, QObject *) override { return false; }
-            AllYesNo allYesNo(const Message &, QObject *) override { return AllYesNo::No; }
-            std::optional<bool> yesNoCancel(const Message &, QObject *) override { return {}; }
-            std::optional<int> choose(const Choice &, QObject *) override { return {}; }
-            std::optional<QString> text(const TextQuestion &, QObject *) override { return {}; }
-            std::optional<std::vector<double>> numbers(const NumberQuestion &, QObject *) override
-            {
-                return {};
-            }
-            std::optional<int> colorIndex(const ColorIndexQuestion &, QObject *) override { return {}; }
-            QString openFile(const FileQuestion &, QObject *) override { return {}; }
-            QString saveFile(const FileQuestion &, QObject *) override { return {}; }
-        } mute;
+        MutePrompts mute;
         constexpr int kKeys[] = {Qt::Key_Return, Qt::Key_Up, Qt::Key_Down, Qt::Key_Backspace, Qt::Key_Delete,
                                  Qt::Key_Left, Qt::Key_Home, Qt::Key_End};
         const QString characters = QStringLiteral("0123456789.,-+eE a");

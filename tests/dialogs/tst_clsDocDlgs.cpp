@@ -1,9 +1,11 @@
 #include "dialogs/select/frmSelect.h"
+#include "dialogs/select/frmSetup.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "facade/services/clsDebug.h"
+#include "support/Documents.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
@@ -116,6 +118,53 @@ private slots:
         };
         QCOMPARE(pickBy("cmdOk"), std::optional(second));
         QCOMPARE(pickBy("cmdCancel"), std::optional<qint16>());
+    }
+
+    /// Any of the calls that open a dialog, cancelled.
+    void everyCallIsTraced_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"bSelect_LayArr", "bEdit_Layers", "bSetupEx", "bSetup"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void everyCallIsTraced()
+    {
+        QFETCH(QString, name);
+        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        clsDocDlgs dialogs;
+        ZolWDoc::tLayArr layers;
+        const QHash<QString, std::function<bool()>> calls{
+            {QStringLiteral("bSelect_LayArr"), [&] { return dialogs.bSelect_LayArr(*doc, layers); }},
+            {QStringLiteral("bEdit_Layers"), [&] { return dialogs.bEdit_Layers(*doc); }},
+            {QStringLiteral("bSetupEx"), [&] { return dialogs.bSetupEx(*doc, 0, true); }},
+            {QStringLiteral("bSetup"), [&] { return dialogs.bSetup(*doc, 0); }}};
+        const auto watch = tests::whileModal<QDialog>([](QDialog &d) { d.reject(); });
+        QStringList expected;
+        for (const char *mark : {">>", "1", "2", "<<"})
+            expected << QStringLiteral("clsDocDlgs.%1 %2").arg(name, QLatin1String(mark));
+        QCOMPARE(traced([&] { QVERIFY(!calls[name]()); }), expected);
+    }
+    void whatTheSetupDialogIsTold()
+    {
+        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        clsDocDlgs dialogs;
+        tests::Documents list({{doc.get(), QStringLiteral("a")}});
+        dialogs.setWarnInvisibleCurrentLayer(true);
+        dialogs.setoDocList(&list);
+        const auto told = [&](const std::function<bool()> &call) {
+            QString seen;
+            const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {
+                seen = QStringLiteral("%1%2%3").arg(d.WarnInvisibleCurrentLayer())
+                           .arg(d.AutomaticItemSelection()).arg(d.oDocList() == &list);
+                d.reject();
+            });
+            call();
+            return seen;
+        };
+        QCOMPARE(told([&] { return dialogs.bSetupEx(*doc, 0, false); }), QStringLiteral("101"));
+        QVERIFY(!dialogs.AutomaticItemSelection());
+        QCOMPARE(told([&] { return dialogs.bSetup(*doc, 0); }), QStringLiteral("101"));
+        QCOMPARE(told([&] { return dialogs.bEdit_Layers(*doc); }), QStringLiteral("010")); // its own defaults
     }
 
     void titleAndLanguageAreTheLibrarysOwn()

@@ -97,6 +97,40 @@ private slots:
         QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
     }
 
+    void severalLayersAreHandedOverAndTheCurrentOneStays()
+    {
+        m_dialogs.setWarnInvisibleCurrentLayer(true);   // not for several
+        ScriptedPrompts nobody;
+        tLayArr chosen{layer(21), layer(12)};
+        const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
+            QCOMPARE(d.jsLayer->selectedLayers(), (tLayArr{layer(12), layer(21)}));
+            QCOMPARE(d.jsLayer->currentRecord(), layer(21));
+            child<Grid>(d, "gridItems").selectRows(std::vector<int>{0, 1});
+            child<QPushButton>(d, "cmdOk").click();
+        });
+        QVERIFY(m_dialogs.bSelect_LayArr(*m_doc, chosen));
+        QCOMPARE(chosen, (tLayArr{layer(10), layer(12)}));
+        QCOMPARE(m_doc->layers().currentId(), layer(10).LayId);
+    }
+    void severalLayersAreLeftAlone_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::newRow("cancel") << Act([](frmSelect &d) { child<QPushButton>(d, "cmdCancel").click(); });
+        QTest::newRow("ok without a selected row") << Act([](frmSelect &d) {
+            child<Grid>(d, "gridItems").selectRows({});
+            child<QPushButton>(d, "cmdOk").click();
+        });
+    }
+    void severalLayersAreLeftAlone()
+    {
+        QFETCH(Act, act);
+        const tLayArr before{layer(21), layer(12)};
+        tLayArr chosen = before;
+        const auto watch = whileModal<frmSelect>(act);
+        QVERIFY(!m_dialogs.bSelect_LayArr(*m_doc, chosen));
+        QCOMPARE(chosen, before);
+    }
+
     void anInvisibleLayerIsTakenWithoutAQuestionUnlessWanted()
     {
         ScriptedPrompts nobody;

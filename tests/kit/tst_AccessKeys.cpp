@@ -36,6 +36,16 @@ private slots:
         QFETCH(QString, taken);
         QTEST(withAccessKeys(captions, taken), "keyed");
     }
+    /// "Ab" stands on both menus, so it must leave A to "A" and B to "B" can not be its own then: C is.
+    void captionsThatMeetOnAMenuShareNoKey()
+    {
+        std::vector<KeyedCaption> all{
+            {"Abc", {"one", "two"}}, {"A", {"one"}}, {"B", {"two"}}, {"Ax", {"two"}}};
+        giveAccessKeys(all);
+        QStringList seen;
+        for (const KeyedCaption &c : all) seen << c.caption;
+        QCOMPARE(seen, QStringList({"Ab&c", "&A", "&B", "&Ax"}));
+    }
 };
 QVDC_TEST(tst_AccessKeys)
 #include "tst_AccessKeys.moc"

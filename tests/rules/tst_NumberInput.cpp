@@ -16,6 +16,7 @@ namespace {
 const QLocale kEnglish(QLocale::English, QLocale::UnitedKingdom);
 const QLocale kHungarian(QLocale::Hungarian, QLocale::Hungary);
 const QLocale kRomanian(QLocale::Romanian, QLocale::Romania);
+const QLocale kVietnamese(QLocale::Vietnamese, QLocale::Vietnam);
 
 NumberInput decimals(const QLocale &locale, const char *format = "0.00")
 {
@@ -75,8 +76,7 @@ private slots:
                 << QString::fromUtf8(meant);
         };
         row(kHungarian, "0.00", u"3,5", "3.5"), row(kHungarian, "#,##0.0", u"1\u00a0234,5", "1234.5");
-        row(kHungarian, "#,##0.0", u"1 234 567", "1234567"), row(kHungarian, "0.0", u"3.5", ""),
-            row(kEnglish, "0.0", u"1,5", "");
+        row(kHungarian, "#,##0.0", u"1 234 567", "1234567"), 
         row(kRomanian, "0.0", u"1.234,5", "1234.5"), row(kEnglish, "0.0", u"1,234.5", "1234.5");
         row(kEnglish, "0.0 mm", u"3.5 mm", "3.5"), row(kEnglish, "0.0 mm", u"3.5mm", "3.5");
         row(kEnglish, "0.0 mm", u"3.5", "3.5"), row(kEnglish, "0.0 mm", u"3.5 cm", "");
@@ -87,7 +87,25 @@ private slots:
         row(kEnglish, "0,", u"12", "12000"), row(kEnglish, "0.00E+00", u"1.50E+03", "1500");
         row(kEnglish, "0.0E+0%", u"5.0E+1%", "0.5"), row(kEnglish, "0", u"mm", ""),
             row(kEnglish, "mm", u"mm", "");
-        row(kEnglish, "0%", u"1e99999999999", "inf");
+        row(kEnglish, "0E+0%", u"1e99999999999", "inf");
+        // What is typed is read as its writer means it, with or without the unit.
+        row(kHungarian, "0.# mm", u"1234", "1234"), row(kHungarian, "0.# mm", u"1,5", "1.5"),
+        row(kHungarian, "0.# mm", u"1.5", "1.5"), row(kHungarian, "0.# mm", u"1.500", "1.5"),
+        row(kRomanian, "0.# mm", u"1.500", "1500"), row(kRomanian, "0.# mm", u"1.5", "1.5"),
+        row(kVietnamese, "0.# mm", u"12.345,5", "12345.5"), row(kEnglish, "0.# mm", u"1.5", "1.5"),
+        row(kEnglish, "0.# mm", u"1,500", "1500"), row(kEnglish, "0.# mm", u"1,5", "1.5"),
+        row(kHungarian, "0.# mm", u"32 767", "32767"),
+        row(kHungarian, "0.# mm", u"1\u00a0234\u00a0567,25", "1234567.25"),
+        row(kHungarian, "0.# mm", u"3 27", ""), row(kHungarian, "0.# mm", u"-12", "-12"),
+        row(kHungarian, "0.# mm", u"\u221212", "-12"), row(kHungarian, "0.# mm", u" +12 ", "12"),
+        row(kHungarian, "0.# mm", u",5", "0.5"), row(kHungarian, "0.# mm", u"5,", "5"),
+        row(kHungarian, "0.# mm", u"2,5 mm", "2.5"), row(kHungarian, "0.# mm", u"2,5MM", "2.5"),
+        row(kHungarian, "0.# mm", u"2,5 cm", ""), row(kHungarian, "0.# mm", u"mm", ""),
+        row(kHungarian, "0.# mm", u"", ""), row(kHungarian, "0.# mm", u"-", ""),
+        row(kHungarian, "0.# mm", u",", ""), row(kHungarian, "0.# mm", u"1,2,3", ""),
+        row(kHungarian, "0.# mm", u"1,234.5", ""), row(kHungarian, "0.# mm", u"12a", ""),
+        row(kHungarian, "0.# mm", u"1e3", ""), row(kEnglish, "0.# mm", u"inf", ""),
+        row(kEnglish, "0.# mm", u"nan", "");
     }
     void aPersonOfTheLocaleIsUnderstood()
     {

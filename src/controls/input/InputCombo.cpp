@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
@@ -31,16 +32,33 @@ InputCombo::InputCombo(const NumberInput &input, QWidget *parent)
     connect(&line, &QLineEdit::textEdited, this, [this] {
         m_touched = true;
         if (m_filter->takeDropped()) prompts().alert();
-        emit edited();
     });
+    connect(&line, &QLineEdit::textChanged, this, [this] { if (!m_showing) emit edited(); });
     connect(this, &QComboBox::activated, this, [this](int index) { emit chosen(itemData(index)); });
+}
+
+/// A change that is neither filtered nor the user's.
+template <class Change> void InputCombo::showing(Change change)
+{
+    const QScopedValueRollback guard(m_showing, true);
+    m_filter->passing(change);
+    m_filter->takeDropped();
 }
 
 void InputCombo::showText(const QString &text)
 {
-    m_filter->passing([&] { setEditText(text); });
-    m_filter->takeDropped();
-    m_shown = text;
+    showing([&] {
+        const QSignalBlocker quiet(this);
+        // Where the arrow keys start.
+        setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        setEditText(text);
+    });
+    forgetTyping();
+}
+
+void InputCombo::forgetTyping()
+{
+    m_shown = currentText();
     m_touched = false;
     setMarked({});
 }
@@ -63,11 +81,12 @@ void InputCombo::type(const QString &text)
 
 void InputCombo::addChoice(const QString &text, const QVariant &value)
 {
-    const QSignalBlocker quiet(this);
     const QString before = currentText();
-    m_filter->passing([&] {
+    const int chosen = currentIndex();
+    showing([&] {
+        const QSignalBlocker quiet(this);
         addItem(text, value);
-        setCurrentIndex(-1);                    // the list only offers
+        setCurrentIndex(chosen);                // the list only offers
         setEditText(before);
     });
     arrangeLine();

@@ -16,7 +16,8 @@ class InputCombo final : public QComboBox {
     Q_OBJECT
 public:
     InputCombo(const NumberInput &input, QWidget *parent); ///< `input` outlives the box
-    void showText(const QString &text);         ///< from now on the user has not touched it
+    void showText(const QString &text);         ///< the user has not touched it from now on
+    void forgetTyping();                        ///< the text is taken and will be shown anew
     bool touched() const;                       ///< by the user or by hand of a program, since it was shown
     TypingPlace place() const;                  ///< where the next key goes
     void type(const QString &text);             ///< as if typed; no longer filtered
@@ -27,7 +28,7 @@ public:
     std::function<bool()> stepsByWheel;
     double number = 0, step = 0;                ///< for screen readers: what is stored, and its step
 signals:
-    void edited();
+    void edited();                              ///< the text is another, whoever changed it but showText()
     void chosen(const QVariant &value);         ///< from the list
     void entered();
     void left(Qt::FocusReason reason);
@@ -41,12 +42,13 @@ protected:
     void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 private:
+    template <class Change> void showing(Change change);
     void arrangeLine();
     const NumberInput &m_input;
     TypingFilter *m_filter;
     QAction *m_mark;
     QString m_shown;
-    bool m_touched = false, m_enteredByMouse = false;
+    bool m_touched = false, m_showing = false, m_enteredByMouse = false;
 };
 
 } // namespace QV_DOC_CONTROLS

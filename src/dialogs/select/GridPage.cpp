@@ -117,15 +117,21 @@ void GridPage::connectGrids()
     connect(gridGroups, &Grid::contextMenuAsked, this, [this](int, int, QPoint where) {
         if (m_kind.tools.groupMenu) popUp(m_kind.tools.groupMenu, -1, where);
     });
-    for (const Grid *grid : {gridItems, gridGroups}) {
-        connect(grid, &Grid::selectionMoved, ab1, &ToolSet::refresh);
-        connect(grid, &Grid::currentRowMoved, ab1, &ToolSet::refresh);
-        connect(grid, &Grid::groupingChanged, ab1, &ToolSet::refresh);
-    }
     const auto *const copies = new QShortcut(QKeySequence::Copy, gridItems, nullptr, nullptr,
                                              Qt::WidgetWithChildrenShortcut);
     connect(copies, &QShortcut::activated, this, &GridPage::copy);
     showView(qint16(gridItems->view()));
+}
+
+/// Connected behind the manager, whose answers change with the grids.
+void GridPage::follow()
+{
+    for (const Grid *grid : {gridItems, gridGroups}) {
+        connect(grid, &Grid::selectionMoved, ab1, &ToolSet::refresh, Qt::UniqueConnection);
+        connect(grid, &Grid::currentRowMoved, ab1, &ToolSet::refresh, Qt::UniqueConnection);
+        connect(grid, &Grid::groupingChanged, ab1, &ToolSet::refresh, Qt::UniqueConnection);
+    }
+    ab1->refresh();
 }
 
 void GridPage::popUp(const char *band, int column, QPoint where)
@@ -151,7 +157,7 @@ void GridPage::find()
                        : current.isValid() ? current.column()
                        : shown.empty()     ? -1
                                            : shown[0];
-    if (column >= 0 && m_manager) findInColumn(*gridItems, m_manager->source(), column, m_relay);
+    if (m_manager) findInColumn(*gridItems, column, m_relay);
 }
 
 void GridPage::print()

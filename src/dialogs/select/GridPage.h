@@ -21,7 +21,8 @@ public:
     GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidget *parent);
     ~GridPage() override;
 
-    /// Makes the manager of the page and hands it the tools of its table.
+    /// Makes the manager of the page and hands it the tools of its table. To be followed by its init() and
+    /// by follow().
     template <class Manager>
     Manager &open(std::span<const std::type_identity_t<ToolCommand<Manager>>> commands)
     {
@@ -31,9 +32,9 @@ public:
         Manager &made = *manager;
         m_manager = std::move(manager);
         ab1->connectTools(made, commands);
-        ab1->refresh();
         return made;
     }
+    void follow();                              ///< once the manager has its grids: the tools follow them
     GridManager *manager() const { return m_manager.get(); } ///< null before open() and after TearDown()
     void TearDown();                            ///< tears the manager down and drops it
     void retranslate();

@@ -1,6 +1,7 @@
 #include "dialogs/select/frmSelect.h"
 
 #include "dialogs/select/InvisibleLayer.h"
+#include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/layer/LayerCommands.h"
 #include "kit/forms/Buttons.h"
@@ -65,6 +66,7 @@ void frmSelect::openLayers(ZOLW_Doc &doc, bool single)
     connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
     jsLayer->setAllowEdit(true);
     jsLayer->init(doc, *m_page->gridItems, m_page->gridGroups, single);
+    m_page->follow();
 }
 
 bool frmSelect::bDoSelect_Lay(ZOLW_Doc &oDoc, tLay &lay, QWidget *owner)
@@ -98,7 +100,6 @@ bool frmSelect::bDoSelect_LayArr(ZOLW_Doc &oDoc, tLayArr &layers, QWidget *owner
 
 bool frmSelect::run()
 {
-    m_page->ab1->refresh();
     m_page->setFocus();
     m_relay.exec(*this);
     keepSizeOf(*this, objectName());
@@ -111,8 +112,7 @@ void frmSelect::jsLayer_CurrentChanced(tLay &lay)
     m_page->ab1->refresh();
 }
 
-void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
-} // what can be done now, the page asks the grid itself
+void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 

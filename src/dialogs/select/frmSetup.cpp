@@ -48,6 +48,7 @@ frmSetup::frmSetup()
 {
     setObjectName(QStringLiteral("frmSetup"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    m_tools->setObjectName(QStringLiteral("tools"));
     cmdOkAllDocument->setObjectName(QStringLiteral("cmdOkAllDocument"));
     m_parts->setObjectName(QStringLiteral("cmdAllDocMode"));
     build();
@@ -166,7 +167,6 @@ void frmSetup::showPage(int page)
     m_page = page;
     m_stack->setCurrentWidget(shown);
     if (isNew) (this->*kOpeners[page])(*shown);
-    shown->ab1->refresh();
     shown->setFocus();
     ml_RuntimeSupport_LanguageChanged();
 }
@@ -178,6 +178,8 @@ void frmSetup::openLayers(GridPage &page)
     connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSetup::jsLayer_GroupChanged);
     connect(jsLayer, &clsJs_Layer::GridView, this, &frmSetup::jsLayer_GridView);
     connect(jsLayer, &clsJs_Layer::currentLayerMoved, this, &frmSetup::showCurrentLayer);
+    connect(jsLayer, &clsJs_Layer::currentLayerMoved, page.ab1, &ToolSet::refresh);
+    connect(jsLayer, &clsJs_Layer::SelectedChanched, page.ab1, &ToolSet::refresh);
     const auto makes = [this] { makeCurrent(); };
     page.ab1->on("cmdLays_MakeCurrent", {makes, [this] { return canMakeCurrent(); }, {}, jsLayer});
     page.gridItems->setEditStart(Grid::EditStart::SecondClick); // a double click makes current
@@ -185,6 +187,7 @@ void frmSetup::openLayers(GridPage &page)
     jsLayer->setAutomaticItemSelection(m_automatic);
     jsLayer->setAllowEdit(true);
     jsLayer->init(*m_doc, *page.gridItems, page.gridGroups, false);
+    page.follow();
     jsLayer->setCurrentLayer(m_doc->layers().currentId());
 }
 

@@ -18,8 +18,7 @@ constexpr int kMeasured = 200;                                  ///< cards that 
 
 } // namespace
 
-GridCards::GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : LineView(model, delegate, parent)
+GridCards::GridCards(GridModel &model, QWidget *parent) : LineView(model, parent)
 {
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -14,7 +14,7 @@ namespace QV_DOC_CONTROLS {
 class GridCards final : public LineView {
     Q_OBJECT
 public:
-    GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent);
+    GridCards(GridModel &model, QWidget *parent);
     void setColumns(std::vector<int> inOrder, bool compact);
 
     QRect lineRect(int line) const override;                    ///< of a card; a band's: the full width

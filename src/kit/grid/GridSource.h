@@ -40,8 +40,8 @@ struct GridChoice {
 /// Which styles a row and its cells wear; the names are those of the grid's format styles.
 struct RowStyles {
     QString row;
-    bool bold = false;          ///< the record that counts most just now
     QHash<int, QString> cells;  ///< by column
+    bool bold = false;          ///< the record that counts most just now
 };
 
 /// Where something dragged is over a grid.

@@ -10,8 +10,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-GridTable::GridTable(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : LineView(model, delegate, parent), m_header(new GridHeader(this))
+GridTable::GridTable(GridModel &model, QWidget *parent)
+    : LineView(model, parent), m_header(new GridHeader(this))
 {
     setHorizontalScrollMode(ScrollPerPixel);
     m_header->setModel(&model);
@@ -56,11 +56,11 @@ void GridTable::initViewItemOption(QStyleOptionViewItem *option) const
 
 QRect GridTable::visualRect(const QModelIndex &index) const
 {
-    if (!index.isValid() || isIndexHidden(index)) return {};
+    if (!index.isValid()) return {};
     QRect rect = lineRect(index.row());
     if (m_model.bandOf(index) >= 0) return rect;
     rect.setLeft(m_header->sectionViewportPosition(index.column()));
-    rect.setWidth(m_header->sectionSize(index.column()));
+    rect.setWidth(m_header->sectionSize(index.column())); // none of a hidden one, whose line still counts
     return rect;
 }
 

@@ -10,7 +10,7 @@ namespace QV_DOC_CONTROLS {
 class GridTable final : public LineView {
     Q_OBJECT
 public:
-    GridTable(GridModel &model, GridDelegate &delegate, QWidget *parent);
+    GridTable(GridModel &model, QWidget *parent);
     GridHeader *header() const { return m_header; }
 
     QHeaderView *columnHeader() const override { return m_header; }

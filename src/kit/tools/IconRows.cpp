@@ -57,6 +57,11 @@ constexpr IconRow kIcons[] = {
      "M7.5 14.5h-5v-13h6l3 3v1.5M8.5 1.5v3h3M4.5 7h3.5M4.5 9.5h3.5M10.5 8h3M10.5 14.5h3M12 8v6.5"},
     {"fileRenumber",
      "M6.5 14.5h-4v-13h6l3 3v1.5M8.5 1.5v3h3M4.5 7h3M11 8l-1.2 6.5M14 8l-1.2 6.5M8.8 10h6M8.3 12.5h6"},
+    // controls
+    {"inputBox", "M1.5 4.5h13v7h-13zM10.5 4.5v7M4 7l1.5 -1v4M8 6v4M11.5 7l1 -1l1 1M11.5 9l1 1l1 -1"},
+    {"layerSet", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM1.5 8l6.5 3.5l6.5 -3.5M6 13l2 1.5l2 -1.5"},
+    {"layerSetOfGiven", "M8 1.5l5 2.7l-5 2.8l-5 -2.8zM3 7.5l5 2.8l5 -2.8M4 10.5h-2.5v4h13v-4h-2.5"},
+    {"layerInfo", "M5.5 1.5l4 2.2l-4 2.3l-4 -2.3zM12 2h2.5M12 4.5h2.5M1.5 9.5h13v5h-13zM4 12h5"},
     // layers
     {"makeCurrent", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM3.5 11.5l3 3l6 -4.5",
      "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5z"},

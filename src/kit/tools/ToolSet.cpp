@@ -18,6 +18,8 @@ bool isLine(const Tool &row) { return std::strcmp(row.name, kToolLine) == 0; }
 bool tellsAll(const Tool &row) { return row.caption.id != 0; }
 bool isOn(const Tool &row, const char *band) { return std::strcmp(row.band, band) == 0; }
 
+QString captionOf(const Tool &row) { return txt(row.caption).trimmed(); } // those of pages begin with a blank
+
 bool isSame(const Tool &a, const Tool &b) { return std::strcmp(a.name, b.name) == 0; }
 
 } // namespace
@@ -40,7 +42,7 @@ void ToolSet::makeTool(const Tool &row)
     action->setObjectName(QLatin1String(row.name));
     action->setIcon(toolIcon(row.icon));
     action->setVisible(*row.opens != '\0');
-    action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.keys)));
+    if (*row.keys) action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.keys)));
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setCheckable(row.check != Check::No);
     if (row.check == Check::OneOf) {
@@ -140,28 +142,31 @@ void ToolSet::setChecked(const char *name, bool on)
 
 void ToolSet::retranslate()
 {
-    QHash<QByteArray, QString> taken;           // access keys by band
+    giveAccessKeys();
     for (const Tool &row : m_rows) {
         if (!tellsAll(row)) continue;
         QAction *const action = tool(row.name);
-        const QString caption = txt(row.caption).trimmed(); // captions of pages begin with a blank
-        action->setText(withAccessKeys({caption}, keysBeside(row.name, taken)).first());
-        for (const Tool &place : m_rows)
-            if (isSame(place, row)) taken[place.band] += accessKeyOf(action->text());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        const QString plain = QString(caption).remove(QStringLiteral("...")).remove(u'…');
+        const QString plain = captionOf(row).remove(QStringLiteral("...")).remove(u'…');
         action->setToolTip(keys.isEmpty() ? plain : QStringLiteral("%1 (%2)").arg(plain, keys));
     }
     for (const auto &[bar, name] : m_bars) bar->setAccessibleName(txt(name));
 }
 
-/// Access keys already given on any menu or menu bar that shows the tool; tool bars have none.
-QString ToolSet::keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const
+/// On menus and menu bars; tool bars have none.
+void ToolSet::giveAccessKeys()
 {
-    QString keys;
-    for (const Tool &row : m_rows)
-        if (m_keyed.contains(row.band) && std::strcmp(row.name, name) == 0) keys += taken.value(row.band);
-    return keys;
+    std::vector<KeyedCaption> captions;
+    std::vector<QAction *> actions;
+    for (const Tool &row : m_rows) {
+        if (!tellsAll(row)) continue;
+        actions.push_back(tool(row.name));
+        captions.push_back({captionOf(row), {}});
+        for (const Tool &place : m_rows)
+            if (isSame(place, row) && m_keyed.contains(place.band)) captions.back().menus << place.band;
+    }
+    QV_DOC_CONTROLS::giveAccessKeys(captions);
+    for (size_t i = 0; i < actions.size(); ++i) actions[i]->setText(captions[i].caption);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -44,7 +44,7 @@ public:
         QObject *user = nullptr;                ///< the tool is disabled once it is gone; null = never
     };
     void on(const char *name, Behaviour behaviour);     ///< the name must have a row
-    template <class Owner>
+    template <class Owner>                      ///< commands whose tools have no row here are passed over
     void connectTools(Owner &to, std::span<const std::type_identity_t<ToolCommand<Owner>>> table)
     {
         const auto asks = [&to](bool (Owner::*what)() const) {
@@ -53,7 +53,8 @@ public:
         QObject *user = nullptr;
         if constexpr (std::is_base_of_v<QObject, Owner>) user = &to;
         for (const auto &c : table)
-            on(c.tool, {[&to, run = c.run] { (to.*run)(); }, asks(c.enabled), asks(c.checked), user});
+            if (tool(c.tool))
+                on(c.tool, {[&to, run = c.run] { (to.*run)(); }, asks(c.enabled), asks(c.checked), user});
     }
     void refresh();                             ///< asks every tool whether it can be used now
     void setChecked(const char *name, bool on); ///< shows a state; runs nothing
@@ -68,7 +69,7 @@ private:
     void makeTool(const Tool &row);
     QMenu *menuOf(const char *band);            ///< perhaps not filled yet
     template <class Band> void addTo(Band &band, const char *name);
-    QString keysBeside(const char *name, const QHash<QByteArray, QString> &taken) const;
+    void giveAccessKeys();
     QWidget *owner() const;
 
     std::vector<Tool> m_rows;
