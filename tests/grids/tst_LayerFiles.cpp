@@ -1,13 +1,12 @@
 #include "facade/services/Language.h"
 #include "facade/services/LayerFileCodePage.h"
-#include "facade/services/Services.h"
 #include "facade/services/Trace.h"
 #include "import/DxfImport.h"
 #include "rules/LayerFile.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
-#include "support/MemoryStore.h"
+#include "support/OwnStore.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/WillingPrompts.h"
@@ -33,10 +32,6 @@ const QString kSave = QStringLiteral("Rétegek mentése"),
               kLoad = QStringLiteral("Rétegek láthatóságok betöltése");
 Step saveAsked(const QString &path) { return {"saveFile", kSave, QStringLiteral("*.z3l|*.z3l"), path}; }
 Step loadAsked(const QString &path) { return {"openFile", kLoad, QStringLiteral("*.z3l|*.z3l"), path}; }
-Step textFileAsked(const char *title, const QString &path)
-{
-    return {"openFile", QString::fromUtf8(title), QStringLiteral("Rétegek (*.txt)|*.txt"), path};
-}
 Step matchAsked(const QVariant &answer)
 {
     return {"choose", QStringLiteral("Réteg azonosítás"),
@@ -46,22 +41,12 @@ Step refused(const QString &title, const QString &text)
 {
     return {"tell", title, text, {}, Icon::Exclamation};
 }
-const QString kForeign = QStringLiteral(
-    "A(z) '%1' fájl sérült, vagy nem rétegmentés. Mentsd el újra a rétegeket, vagy válassz másik fájlt!");
-const QString kCut =
-    QStringLiteral("A(z) '%1' rétegmentés csonka: hamarabb véget ér, mint a tartalma. Mentsd el "
-                   "újra a rétegeket, vagy válassz másik fájlt!");
-const QString kUnreadable =
-    QStringLiteral("A(z) '%1' fájl nem olvasható. Ellenőrizd, hogy megvan-e, és van-e "
-                   "hozzá jogosultságod! Részletek: ");
-
-/// Nothing of the user's own settings.
-struct Store final : HostServices {
-    tests::MemoryStore kept;
-    Store() { setHostServices(this); }
-    ~Store() override { setHostServices(nullptr); }
-    SettingsStore *store() override { return &kept; }
-};
+const QString kForeign = QStringLiteral("A(z) '%1' fájl sérült, vagy nem rétegmentés. Mentsd el újra a "
+                                        "rétegeket, vagy válassz másik fájlt!");
+const QString kCut = QStringLiteral("A(z) '%1' rétegmentés csonka: hamarabb véget ér, mint a tartalma. "
+                                    "Mentsd el újra a rétegeket, vagy válassz másik fájlt!");
+const QString kUnreadable = QStringLiteral("A(z) '%1' fájl nem olvasható. Ellenőrizd, hogy megvan-e, és "
+                                           "van-e hozzá jogosultságod! Részletek: ");
 
 QByteArray contentOf(const QString &path)
 {
@@ -76,7 +61,7 @@ class tst_LayerFiles : public QObject {
 private:
     std::unique_ptr<refhost::SqliteDoc> m_doc;
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<Store> m_store;
+    std::unique_ptr<tests::OwnStore> m_store;
 
     QString at(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
     QString written(const char *name, const QByteArray &bytes) const
@@ -95,9 +80,8 @@ private:
     QByteArray saved() const
     {
         const LayerRole &layers = m_doc->layers();
-        return std::get<QByteArray>(
-            bytesOf({layers.fileVersion(), layers.readAll(), layers.groups(), layers.members()},
-                    layerFileCodePage()));
+        const LayerFile file{layers.fileVersion(), layers.readAll(), layers.groups(), layers.members()};
+        return std::get<QByteArray>(bytesOf(file, layerFileCodePage()));
     }
 
 private slots:
@@ -105,7 +89,7 @@ private slots:
     {
         setLanguage(Hungarian, {});
         m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_unique<Store>();
+        m_store = std::make_unique<tests::OwnStore>();
         m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("Út")},
                                  {.gNr = 2, .Name = QStringLiteral("Erdő"), .Visible = false},
                                  {.gNr = 3, .Name = QStringLiteral("Árok")}});
@@ -168,12 +152,10 @@ private slots:
             << "windows-1252" << "Erdő" << "Utak"
             << "A(z) 'Erdő' rétegnév egyik betűje hiányzik a beállított kódlapból. Nevezd át a réteget, vagy "
                "állíts be másik kódlapot!";
-        QTest::newRow("a group's letter is lacking") << "windows-1252"
-                                                     << "Erd"
-                                                     << "Fő utak"
-                                                     << "A(z) 'Fő utak' csoportnév egyik betűje hiányzik a "
-                                                        "beállított kódlapból. Nevezd át a csoportot, "
-                                                        "vagy állíts be másik kódlapot!";
+        QTest::newRow("a group's letter is lacking")
+            << "windows-1252" << "Erd" << "Fő utak"
+            << "A(z) 'Fő utak' csoportnév egyik betűje hiányzik a beállított kódlapból. Nevezd át a "
+               "csoportot, vagy állíts be másik kódlapot!";
         QTest::newRow("there is no such code page")
             << "windows-9" << "Erd" << "Utak"
             << "A(z) 'windows-9' kódlap ismeretlen. Állíts be másik kódlapot, például: windows-1250";
@@ -257,8 +239,7 @@ private slots:
         QTest::newRow("goes on") << good + 'x' << kForeign;
         QTest::newRow("of another version") << other << QString();
         QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n") << QString();
-        QTest::newRow("not there") << QByteArray()
-                                   << kUnreadable + QStringLiteral("No such file or directory");
+        QTest::newRow("not there") << QByteArray() << kUnreadable + "No such file or directory";
     }
     void aDamagedFileIsRefused()
     {
@@ -305,9 +286,8 @@ private slots:
         QCOMPARE(form.selection(), QStringLiteral("2* 33"));
         QCOMPARE(form.rows(), m_doc->layers().readAll());
         setLayerFileCodePage(QStringLiteral("windows-9"));
-        const Step unknown =
-            refused(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be másik "
-                                          "kódlapot, például: windows-1250"));
+        const Step unknown = refused(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be "
+                                                           "másik kódlapot, például: windows-1250"));
         ScriptedPrompts user({loadAsked(path), unknown});
         form.run("cmdLays_VisibleUseFile");
     }
@@ -338,8 +318,8 @@ private slots:
         tests::LayerForm form(*map);
         const qint16 current = all[100].LayId;
         form.js.selectById(current);
-        ScriptedPrompts user(
-            {saveAsked(at("map.z3l")), loadAsked(at("map.z3l")), matchAsked(byName ? 1 : 0)});
+        const QString path = at("map.z3l");
+        ScriptedPrompts user({saveAsked(path), loadAsked(path), matchAsked(byName ? 1 : 0)});
         form.run("cmdLays_Save");
         for (tLay &l : all) {
             if (byName) l.gNr = qint16(1000 - l.gNr);
@@ -353,108 +333,6 @@ private slots:
         QCOMPARE(map->layers().readAll(), all);         // and nothing but the visibilities
         QCOMPARE(form.js.currentRecord()->LayId, current);
         QCOMPARE(form.rows(), all);
-    }
-
-    void textFilesGoToTheHost_data()
-    {
-        QTest::addColumn<QByteArray>("tool");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("after");
-        QTest::newRow("names") << QByteArray("cmdLays_FileRename") << "Rétegek átnevezése"
-                               << QByteArray("2 Liget\n") << "1 Út, 2 Liget, 3 Árok";
-        QTest::newRow("numbers") << QByteArray("cmdLays_FileRenum") << "Rétegek sorszámozása"
-                                 << QByteArray("2 20\n") << "1 Út, 20 Erdő, 3 Árok";
-        QTest::newRow("new ones") << QByteArray("cmdLays_FileAddNew") << "Rétegek felvétele fájlból"
-                                  << QByteArray("7 Liget\n") << "1 Út, 2 Erdő, 3 Árok, 7 Liget";
-    }
-    void textFilesGoToTheHost()
-    {
-        QFETCH(QByteArray, tool);
-        QFETCH(QString, title);
-        QFETCH(QByteArray, text);
-        QFETCH(QString, after);
-        const QString path = written("list.txt", text);
-        tests::LayerForm form(*m_doc);
-        form.select({2});
-        {
-            ScriptedPrompts user(
-                {textFileAsked(qPrintable(title), {}), textFileAsked(qPrintable(title), path)});
-            form.run(tool.constData());
-            QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 Út, 2 Erdő, 3 Árok"));
-            form.run(tool.constData());
-        }
-        QCOMPARE(tests::dump(*m_doc), after);
-        QCOMPARE(form.js.currentRecord(), m_doc->layers().find(form.js.currentRecord()->LayId));
-        QCOMPARE(form.rows(), m_doc->layers().readAll());
-
-        written("list.txt", "2 Út\n2 Árok\n");        // the host refuses it
-        ScriptedPrompts user({textFileAsked(qPrintable(title), path)});
-        form.run(tool.constData());
-        QVERIFY(form.error);
-        QCOMPARE(tests::dump(*m_doc), after);
-    }
-
-    void allTextFilesOfTheLastFolderAreProposed()
-    {
-        struct Paths final : tests::WillingPrompts {
-            QStringList proposed;
-            QString openFile(const FileQuestion &q, QObject *) override { return proposed << q.path, path; }
-        } user;
-        user.path = written("list.txt", "2 Liget\n");
-        tests::LayerForm form(*m_doc);
-        form.run("cmdLays_FileRename");
-        form.run("cmdLays_FileRename");
-        m_folder->remove();
-        user.path.clear();
-        form.run("cmdLays_FileRename");
-        QCOMPARE(user.proposed, (QStringList{"*.txt", m_folder->path() + "/*.txt", "*.txt"}));
-    }
-
-    void elementsGoTheirLayersStay()
-    {
-        refhost::Element line;
-        line.kind = refhost::ElementKind::Line;
-        line.vertices = {{0, 0}, {1, 1}};
-        for (const qint16 nr : {1, 1, 2}) {
-            line.layId = m_doc->layers().findByNumber(nr)->LayId;
-            m_doc->addElement(line);
-        }
-        tests::LayerForm form(*m_doc);
-        form.select({1, 3});
-        const QString title = QStringLiteral("Rétegek elemeinek törlése");
-        const auto asked = [&](bool answer) {
-            return Step{"yesNo", title,
-                        QStringLiteral("Kijelölt rétegek száma: 2\nRajzelemek rajtuk: 2\n"
-                                       "Biztosan törlöd ezeket a rajzelemeket? A rétegek megmaradnak."),
-                        answer, Icon::Exclamation};
-        };
-        ScriptedPrompts user({asked(false), asked(true),
-                              {"tell", title, QStringLiteral("A kijelölt rétegeken nincs rajzelem."), {},
-                               Icon::Information}});
-        form.run("cmdLays_DeleteObjs");
-        QCOMPARE(m_doc->elements().size(), size_t(3));
-        form.run("cmdLays_DeleteObjs");
-        QCOMPARE(m_doc->elements().size(), size_t(1));
-        form.run("cmdLays_DeleteObjs");
-        QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 Út, 2 Erdő, 3 Árok"));
-        QCOMPARE(form.selection(), QStringLiteral("1* 3"));
-    }
-
-    void whatTheHostLacksIsDisabled()
-    {
-        struct Poor final : tests::FaultyDoc {
-            using FaultyDoc::FaultyDoc;
-            LayerFileRole *layerFiles() override { return nullptr; }
-            LayerElementsRole *layerElements() override { return nullptr; }
-        } poor(*m_doc);
-        tests::LayerForm form(poor);
-        form.select({1});
-        QVERIFY(!form.js.canAddFromFile() && !form.js.canDeleteElements());
-        ScriptedPrompts nothing;
-        form.js.addFromFile();                          // asked for all the same
-        form.js.deleteElements();
-        QVERIFY(!form.error);
     }
 
     void aHostThatFailsLeavesTheFileAsItWas()
