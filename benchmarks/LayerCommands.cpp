@@ -2,7 +2,7 @@
 
 #include "document/SqliteDoc.h"
 #include "facade/contract/ResourcePicker.h"
-#include "support/LayerForm.h"
+#include "support/LayerWork.h"
 #include "support/WillingPrompts.h"
 
 #include <QTemporaryDir>
@@ -23,29 +23,58 @@ struct FirstPicker final : ResourcePicker {
     std::optional<qint16> pick(TableKind, ZOLW_Doc &, qint16, QObject *) override { return qint16(1); }
 };
 
-/// The reference document on disk with so many layers, each named after its number, at a form that is shown.
+/// Every second layer is in the group "Utak", too.
+void formGroup(LayerRole &layers)
+{
+    auto groups = layers.groups();
+    groups.push_back({-1, QStringLiteral("Utak")});
+    layers.writeGroups(groups);
+    const qint16 roads = layers.groups().back().GroupId;
+    auto members = layers.members();
+    for (const tLay &l : layers.readAll())
+        if (l.gNr % 2 == 0) members.push_back({roads, l.LayId});
+    layers.writeMembers(members);
+}
+
+/// A reference document on disk with so many layers, each named after its number; made once.
+QString originalWith(int layers)
+{
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("%1.qvd").arg(layers));
+    if (QFile::exists(path)) return path;
+    const auto doc = refhost::SqliteDoc::create(path);
+    std::vector<tLay> rows;
+    for (int i = doc->layers().count(); i < layers; ++i) {
+        const bool on = i % 4 < 2;
+        rows.push_back({.gNr = qint16(i + 1),
+                        .Name = QStringLiteral("%1-Layer of the survey").arg(i + 1),
+                        .Visible = on,
+                        .ScrColor = qint16(i % 256),
+                        .ElByLayer = on,
+                        .TxByLayer = on});
+    }
+    std::vector<qint16> ids;
+    doc->layers().addAll(rows, ids);
+    formGroup(doc->layers());
+    return path;
+}
+
+/// A copy of it at a form that is shown, all layers selected.
 struct Form {
     QTemporaryDir folder;
-    std::unique_ptr<refhost::SqliteDoc> real =
-        refhost::SqliteDoc::create(folder.filePath(QStringLiteral("bench.qvd")));
-    TimedDoc doc{*real};
+    std::unique_ptr<refhost::SqliteDoc> real;
+    std::unique_ptr<TimedDoc> doc;
     std::unique_ptr<tests::LayerForm> form;
     tests::WillingPrompts user;
     FirstPicker picker;
 
     explicit Form(int layers)
     {
-        std::vector<tLay> rows;
-        for (int i = real->layers().count(); i < layers; ++i)
-            rows.push_back({.gNr = qint16(i + 1),
-                            .Name = QStringLiteral("%1-Layer of the survey").arg(i + 1),
-                            .Visible = i % 2 == 0,
-                            .ScrColor = qint16(i % 256),
-                            .ElByLayer = i % 2 == 0,
-                            .TxByLayer = i % 2 == 0});
-        std::vector<qint16> ids;
-        real->layers().addAll(rows, ids);
-        form = std::make_unique<tests::LayerForm>(doc);
+        const QString path = folder.filePath(QStringLiteral("bench.qvd"));
+        QFile::copy(originalWith(layers), path);
+        real = refhost::SqliteDoc::open(path);
+        doc = std::make_unique<TimedDoc>(*real);
+        form = std::make_unique<tests::LayerForm>(*doc);
         form->window.resize(1000, 700);
         form->grid.resize(1000, 700);
         form->window.show();
@@ -61,11 +90,11 @@ struct Spent {
 /// One command, to its picture on the screen.
 Spent spentOn(Form &f, const char *tool)
 {
-    const double before = f.doc.spent();
+    const double before = f.doc->spent();
     const auto start = Clock::now();
     f.form->run(tool);
     f.form->grid.repaint();
-    const double whole = nanosecondsSince(start) / 1e6, host = f.doc.spent() - before;
+    const double whole = nanosecondsSince(start) / 1e6, host = f.doc->spent() - before;
     if (f.form->error) std::rethrow_exception(f.form->error);
     return {whole - host, host};
 }
@@ -90,6 +119,8 @@ const Spent &spentOn(const char *tool, int layers)
     for (Spent &s : runs) {
         Form f(layers);
         f.user.typed = typedFor(tool, layers);
+        f.user.path = f.folder.filePath(QStringLiteral("layers"));
+        tests::prepare(tool, *f.form, *f.doc, f.user.path);
         s = spentOn(f, tool);
     }
     std::ranges::nth_element(runs, runs.begin() + 1, {}, &Spent::library);

@@ -53,16 +53,26 @@ struct TimedLayers final : ZolWDoc::LayerRole {
     qint16 currentId() const override { return timed([&] { return real.currentId(); }); }
     std::vector<ZolWDoc::tGroup> groups() const override { return timed([&] { return real.groups(); }); }
     void writeGroups(std::span<const ZolWDoc::tGroup> g) override { timed([&] { real.writeGroups(g); }); }
-    std::vector<ZolWDoc::tLayMember> members() const override { return timed([&] { return real.members(); }); }
-    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override { timed([&] { real.writeMembers(m); }); }
+    std::vector<ZolWDoc::tLayMember> members() const override
+    {
+        return timed([&] { return real.members(); });
+    }
+    void writeMembers(std::span<const ZolWDoc::tLayMember> m) override
+    {
+        timed([&] { real.writeMembers(m); });
+    }
     void writeAll(std::span<const Rec> all) override { timed([&] { real.writeAll(all); }); }
     qint32 fileVersion() const override { return real.fileVersion(); }
     void renameFromFile(const QString &path) override { timed([&] { real.renameFromFile(path); }); }
     void renumberFromFile(const QString &path) override { timed([&] { real.renumberFromFile(path); }); }
 };
 
-/// A document whose layer calls are timed, and its command scopes, which end with the writing.
-class TimedDoc final : public ZolWDoc::ZOLW_Doc, private ZolWDoc::CommandScopeRole {
+/// A document whose layer calls are timed, and its command scopes, which end with the writing. It offers what
+/// the reference document does.
+class TimedDoc final : public ZolWDoc::ZOLW_Doc,
+                       private ZolWDoc::CommandScopeRole,
+                       private ZolWDoc::LayerFileRole,
+                       private ZolWDoc::LayerElementsRole {
 public:
     explicit TimedDoc(ZolWDoc::ZOLW_Doc &real) : m_real(real) {}
     double spent() const { return m_layers.spent; } ///< milliseconds in the document so far
@@ -76,8 +86,8 @@ public:
     ZolWDoc::PointRole &points() override { return m_real.points(); }
     ZolWDoc::KhRole &khItems() override { return m_real.khItems(); }
     void redrawAll() override { m_real.redrawAll(); }
-    ZolWDoc::LayerFileRole *layerFiles() override { return m_real.layerFiles(); }
-    ZolWDoc::LayerElementsRole *layerElements() override { return m_real.layerElements(); }
+    ZolWDoc::LayerFileRole *layerFiles() override { return this; }
+    ZolWDoc::LayerElementsRole *layerElements() override { return this; }
     ZolWDoc::CommandScopeRole *commandScopes() override { return this; }
 
 private:
@@ -86,6 +96,14 @@ private:
         m_layers.timed([&] { m_real.commandScopes()->beginCommand(name); });
     }
     void endCommand() override { m_layers.timed([&] { m_real.commandScopes()->endCommand(); }); }
+    void addFromFile(const QString &path) override
+    {
+        m_layers.timed([&] { m_real.layerFiles()->addFromFile(path); });
+    }
+    int deleteElements(std::span<const qint16> ids) override
+    {
+        return m_layers.timed([&] { return m_real.layerElements()->deleteElements(ids); });
+    }
     ZolWDoc::ZOLW_Doc &m_real;
     TimedLayers m_layers{m_real.layers()};
 };

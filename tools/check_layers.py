@@ -25,7 +25,7 @@ BELOW = {
     "host/sample": ("host/document", "host/fonts", "host/import"),
     "host/window": ("host/document", "host/fonts", "host/import", "host/sample"),
     "apps": ("host/document", "host/fonts", "host/import", "host/sample", "host/window"),
-    "designer": ("src/facade/contract", "src/facade/services", "src/controls"),
+    "designer": (*CORE, "src/kit", "src/controls"),
     "docs/examples": (),
 }
 # What the widgets of the kit may see of the rooms beside: drawings and the state of a view as data, no record.
@@ -47,7 +47,7 @@ def room_of(path):
 
 def resolved(root, name):
     """Path of a project header, looked for where the compiler does; None = not the project's."""
-    for base in ("src", "host", "apps", "docs/examples", "tests", "benchmarks"):
+    for base in ("src", "host", "apps", "designer", "docs/examples", "tests", "benchmarks"):
         if (root / base / name).is_file():
             return f"{base}/{name}"
     return None

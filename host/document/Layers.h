@@ -32,8 +32,9 @@ public:
     void writeAll(std::span<const ZolWDoc::tLay> all) override;
     qint32 fileVersion() const override { return 1; }
 
-    // Text files: UTF-8, or windows-1250 where it is not; empty lines and lines that begin with # are passed
-    // over. A wrong line ends the call with an error that names it, and nothing has changed.
+    // Text files: UTF-8, or the code page of layer files where it is not; empty lines and lines that begin
+    // with # are passed over. A wrong line ends the call with an error that names it, and nothing has
+    // changed.
     void renameFromFile(const QString &path) override;      ///< lines: number, blank or tab or ;, name
     void renumberFromFile(
         const QString &path) override; ///< lines: old number, new number; places may be exchanged

@@ -3,6 +3,8 @@
 #include "document/FileCheck.h"
 #include "document/SqliteDoc.h"
 
+#include "facade/services/LayerFileCodePage.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -18,7 +20,8 @@ QString decoded(const QByteArray &bytes)
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8(bytes);
     if (!utf8.hasError()) return text.startsWith(QChar(QChar::ByteOrderMark)) ? text.mid(1) : text;
-    QStringDecoder local("windows-1250");
+    const QString page = QV_DOC_CONTROLS::layerFileCodePage();
+    QStringDecoder local(page.isEmpty() ? "windows-1250" : page.toLatin1().constData());
     return local.isValid() ? QString(local(bytes)) : text;
 }
 

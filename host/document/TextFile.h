@@ -18,7 +18,8 @@ struct ListLine {
 /// A list file of one purpose, read whole before anything is changed.
 class TextFile {
 public:
-    /// UTF-8 with or without a mark, else windows-1250. Passes over empty lines and those that begin with #.
+    /// UTF-8 with or without a mark, else in the code page of layer files; where that is the system's, in
+    /// windows-1250. Passes over empty lines and those that begin with #.
     /// Throws DocumentError when the file cannot be read or a line does not begin with a number and go on.
     TextFile(const QString &path, QV_DOC_CONTROLS::Text expected);
     const std::vector<ListLine> &lines() const { return m_lines; }

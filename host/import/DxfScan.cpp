@@ -319,7 +319,7 @@ void DxfScan::measure(std::vector<double> &values, double &low, double &high)
     std::ranges::nth_element(values, values.end() - 1 - few);
     const double mostHigh = *(values.end() - 1 - few);
     low = least, high = greatest;
-    const double reach = 10 * (mostHigh - mostLow);
+    const double reach = 20 * (mostHigh - mostLow);
     if (reach > 0 && (mostLow - low > reach || high - mostHigh > reach)) low = mostLow, high = mostHigh;
     values = {};
 }

@@ -17,8 +17,24 @@ bool selectLayer(clsDocDlgs &dialogs, DrawingPage &page)
     return dialogs.bSelect_Lay(doc, lay);
 }
 
+/// Starts from the layers of what is selected, and selects what stands on the chosen ones.
+bool selectLayers(clsDocDlgs &dialogs, DrawingPage &page)
+{
+    ZolWDoc::tLayArr layers = page.edits().layersOfSelection();
+    if (!dialogs.bSelect_LayArr(page.doc(), layers)) return false;
+    page.refreshIfChanged();
+    page.edits().selectOn(layers);
+    return true;
+}
+
+bool editLayers(clsDocDlgs &dialogs, DrawingPage &page) { return dialogs.bEdit_Layers(page.doc()); }
+bool setUp(clsDocDlgs &dialogs, DrawingPage &page) { return dialogs.bSetup(page.doc(), 0); }
+
 constexpr DialogCall kCalls[] = {
     {"bSelect_Lay", {30440, u"Réteg&választás…"}, Sign::Layers, selectLayer},
+    {"bSelect_LayArr", {30525, u"&Több réteg kiválasztása…"}, Sign::SeveralLayers, selectLayers},
+    {"bEdit_Layers", {30526, u"Rétegek &szerkesztése…"}, Sign::EditLayers, editLayers},
+    {"bSetup", {30527, u"Minden &erőforrás…"}, Sign::Setup, setUp},
 };
 
 } // namespace

@@ -12,6 +12,7 @@ namespace refhost {
 namespace {
 
 constexpr int kBaseline = 24; // text-align flag
+constexpr int kManyCopies = 20; // of a new element: more are asked for
 
 /// One line that is typed in the drawing; Esc and leaving it empty place nothing.
 class TextEntry final : public QLineEdit {
@@ -58,9 +59,14 @@ template <class Act> void DrawingEdits::guarded(Act act)
 
 void DrawingEdits::place(Element e)
 {
+    const int copies = int(m_new.layers.size());
+    const QString question =
+        join(Text{30623, u"Ennyi rétegre kerül egy-egy példány: "}, copies, Text{30624, u". Elhelyezed?"});
+    if (copies > kManyCopies &&
+        !prompts().yesNo({Icon::Question, txt(Text{30622, u"Új elem"}), question}, &m_view))
+        return;
     guarded([&] {
-        e.layId = m_drawing->doc().layers().currentId();
-        m_drawing->doc().addElement(e);
+        addNew(m_drawing->doc(), std::move(e), m_new);
         m_drawing->touch();
         emit changed();
     });
@@ -124,13 +130,39 @@ void DrawingEdits::deleteSelected()
     });
 }
 
-void DrawingEdits::selectAll()
+template <class Wanted> void DrawingEdits::selectShown(Wanted wanted)
 {
     const Scene &scene = m_view.scene();
     std::vector<int> shown;
-    for (size_t i = 0; i < scene.elements().size(); ++i)
-        if (scene.shown(scene.resources().layers.indexOf(scene.elements()[i].layId))) shown.push_back(int(i));
+    for (size_t i = 0; i < scene.elements().size(); ++i) {
+        const qint16 layer = scene.elements()[i].layId;
+        if (wanted(layer) && scene.shown(scene.resources().layers.indexOf(layer))) shown.push_back(int(i));
+    }
     m_view.select(std::move(shown));
+}
+
+void DrawingEdits::selectAll()
+{
+    selectShown([](qint16) { return true; });
+}
+
+void DrawingEdits::selectOn(const ZolWDoc::tLayArr &layers)
+{
+    QSet<qint16> wanted;
+    for (const ZolWDoc::tLay &lay : layers) wanted.insert(lay.LayId);
+    selectShown([&wanted](qint16 layer) { return wanted.contains(layer); });
+}
+
+ZolWDoc::tLayArr DrawingEdits::layersOfSelection() const
+{
+    const Scene &scene = m_view.scene();
+    QSet<qint16> wanted;
+    for (int i : m_view.selection()) wanted.insert(scene.elements()[size_t(i)].layId);
+    if (m_view.selection().empty()) wanted.insert(scene.resources().currentLayer);
+    ZolWDoc::tLayArr layers;
+    for (const ZolWDoc::tLay &lay : scene.resources().layers.rows())
+        if (wanted.contains(lay.LayId)) layers.push_back(lay);
+    return layers;
 }
 
 } // namespace refhost

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/DrawingView.h"
+#include "window/NewElement.h"
 #include "window/OpenDrawing.h"
 
 #include <QObject>
@@ -16,8 +17,11 @@ class DrawingEdits : public QObject {
 public:
     explicit DrawingEdits(DrawingView &);
     void setDrawing(OpenDrawing *drawing);          ///< the window's; null while there is none
+    void setNewElement(const NewElement &attributes) { m_new = attributes; } ///< of what is placed
     void deleteSelected();                          ///< asks with the count
     void selectAll();                               ///< of what is shown
+    ZolWDoc::tLayArr layersOfSelection() const;     ///< by number; the current one when nothing is selected
+    void selectOn(const ZolWDoc::tLayArr &layers);  ///< what is shown of them
 signals:
     void changed();                                 ///< the view needs a new scene
     void failed(const QString &why);
@@ -27,8 +31,10 @@ private:
     void placeLine(const QList<QPointF> &world);
     void askForText(QPointF world);
     template <class Act> void guarded(Act);
+    template <class Wanted> void selectShown(Wanted);
     DrawingView &m_view;
     OpenDrawing *m_drawing = nullptr;
+    NewElement m_new;
     QPointer<QLineEdit> m_entry;                    ///< open while a text is typed
 };
 

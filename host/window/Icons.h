@@ -22,7 +22,10 @@ enum class Sign {
     Lettering,
     Delete,
     Layers,
-    Dialog
+    SeveralLayers,
+    EditLayers,
+    Setup,
+    NewElement
 };
 
 /// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.

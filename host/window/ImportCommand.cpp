@@ -54,7 +54,10 @@ std::unique_ptr<OpenDrawing> importedDrawing(QWidget &window, const QString &pat
     } catch (const ImportCancelled &) {
         return nullptr;
     }
-    report = counts.text();
+    report = join(Text{30604, u"Egység: "}, lengthUnits()[size_t(guess.unit)].name,
+                  Text{30605, u", méretarány 1:"}, int(guess.scale), QStringLiteral("\n"));
+    if (!ask && !guess.note.isEmpty()) report += guess.note + u'\n';
+    report += counts.text();
     return OpenDrawing::unsaved(std::move(folder), QFileInfo(path).completeBaseName());
 }
 

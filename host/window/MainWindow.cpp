@@ -1,5 +1,6 @@
 #include "window/MainWindow.h"
 
+#include "window/CodePageMenu.h"
 #include "window/DialogCalls.h"
 #include "window/HostServices.h"
 #include "window/WindowActions.h"
@@ -11,6 +12,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -22,8 +24,8 @@ namespace {
 
 const QString kProgram = QStringLiteral("QVDraw"), kSection = QStringLiteral("Window");
 const QString kGeometry = QStringLiteral("Geometry"), kState = QStringLiteral("State"),
-              kDark = QStringLiteral("Dark");
-constexpr int kStateVersion = 1;               // another one when toolbars come or go
+              kDark = QStringLiteral("Dark"), kWarn = QStringLiteral("WarnInvisible");
+constexpr int kStateVersion = 2;               // another one when toolbars or pages come or go
 
 QString withoutKey(QString caption) { return caption.remove(u'&'); }
 
@@ -31,7 +33,8 @@ QString withoutKey(QString caption) { return caption.remove(u'&'); }
 
 MainWindow::MainWindow(HostServices &services)
     : m_services(services), m_dialogs(std::make_unique<clsDocDlgs>()), m_tabs(new DrawingTabs(this)),
-      m_files(*m_tabs), m_status(*statusBar())
+      m_files(*m_tabs), m_status(*statusBar()), m_newElement(new NewElementForm(this)),
+      m_newElementPage(new QDockWidget(this))
 {
     setAppTitle(kProgram);
     setCentralWidget(m_tabs);
@@ -39,6 +42,7 @@ MainWindow::MainWindow(HostServices &services)
     buildActions();
     buildDialogs();
     buildLanguages();
+    buildNewElement();
     connectParts();
     retranslate();
     restoreLook();
@@ -78,6 +82,8 @@ void MainWindow::buildActions()
     m_recent = new QMenu(this);
     m_menus[WindowActions::File]->insertMenu(action("saveAs"), m_recent);
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::showRecent);
+    m_codePages = new CodePageMenu(this);
+    m_menus[WindowActions::Settings]->addMenu(m_codePages);
 }
 
 void MainWindow::buildDialogs()
@@ -105,6 +111,25 @@ void MainWindow::buildLanguages()
     }
 }
 
+void MainWindow::buildNewElement()
+{
+    m_newElementPage->setObjectName(QStringLiteral("newElementPage"));
+    m_newElementPage->setWidget(m_newElement);
+    addDockWidget(Qt::RightDockWidgetArea, m_newElementPage);
+    connect(m_newElementPage, &QDockWidget::visibilityChanged, this,
+            [this] { action("newElement")->setChecked(!m_newElementPage->isHidden()); });
+    connect(m_newElement, &NewElementForm::failed, &m_files, &FileCommands::tellFailure);
+    connect(m_newElement, &NewElementForm::done, this, [this] {
+        if (m_tabs->page()) m_tabs->page()->setFocus();
+    });
+}
+
+void MainWindow::showNewElement(bool shown)
+{
+    m_newElementPage->setVisible(shown);
+    if (shown) m_newElement->setFocus();
+}
+
 void MainWindow::connectParts()
 {
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this, &MainWindow::retranslate);
@@ -113,6 +138,7 @@ void MainWindow::connectParts()
     connect(m_tabs, &DrawingTabs::currentChanged, this, [this] {
         showTool();
         showStatus();
+        m_newElement->setPage(m_tabs->page());
         if (m_tabs->page()) m_tabs->page()->setFocus();
     });
 }
@@ -157,6 +183,8 @@ void MainWindow::setColors(Colors colors)
     for (int i = 0; i < m_tabs->count(); ++i) m_tabs->page(i)->view().setColors(colors);
 }
 
+void MainWindow::setWarning(bool on) { m_dialogs->setWarnInvisibleCurrentLayer(on); }
+
 void MainWindow::showTool()
 {
     const DrawingView::Tool tool = m_tabs->page() ? view().tool() : DrawingView::Tool::Select;
@@ -170,7 +198,9 @@ void MainWindow::retranslate()
     for (size_t i = 0; i < m_menus.size(); ++i) m_menus[i]->setTitle(txt(WindowActions::menus()[i]));
     for (const WindowActions::Row &row : WindowActions::rows()) action(row.name)->setText(txt(row.text));
     for (const DialogCall &call : dialogCalls()) action(call.name)->setText(txt(call.text));
+    m_codePages->retranslate();
     m_recent->setTitle(txt(Text{30414, u"&Legutóbbi rajzok"}));
+    m_newElementPage->setWindowTitle(withoutKey(action("newElement")->text()));
     const QList<QToolBar *> bars = findChildren<QToolBar *>(Qt::FindDirectChildrenOnly);
     for (qsizetype i = 0; i < bars.size(); ++i)
         bars[i]->setWindowTitle(withoutKey(m_menus[size_t(i)]->title()));
@@ -238,6 +268,8 @@ void MainWindow::restoreLook()
     const bool desktopIsDark = palette().color(QPalette::Base).lightness() < 128;
     action("dark")->setChecked(dark.isEmpty() ? desktopIsDark : dark == u"1");
     setDark(action("dark")->isChecked());
+    action("warn")->setChecked(read(kWarn) != u"0");
+    setWarning(action("warn")->isChecked());
 }
 
 void MainWindow::rememberLook() const
@@ -247,6 +279,7 @@ void MainWindow::rememberLook() const
     };
     write(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));
     write(kState, QString::fromLatin1(saveState(kStateVersion).toBase64()));
+    write(kWarn, action("warn")->isChecked() ? QStringLiteral("1") : QStringLiteral("0"));
     write(kDark, m_dark ? QStringLiteral("1") : QStringLiteral("0"));
 }
 

@@ -1,16 +1,19 @@
 #pragma once
 
 #include "window/FileCommands.h"
+#include "window/NewElementForm.h"
 #include "window/StatusLine.h"
 
 #include <QMainWindow>
 
 class QActionGroup;
+class QDockWidget;
 
 namespace QV_DOC_CONTROLS { class clsDocDlgs; }
 
 namespace refhost {
 
+class CodePageMenu;
 class HostServices;
 struct DialogCall;
 
@@ -27,8 +30,10 @@ public:
     DrawingPage &page() { return *m_tabs->page(); } ///< the drawing in front; there must be one
     DrawingView &view() { return page().view(); }
     void chooseTool(DrawingView::Tool);
+    void showNewElement(bool);                      ///< the page beside the drawing
     void setDark(bool);                             ///< of all drawings
     void setColors(Colors);                         ///< of all drawings
+    void setWarning(bool); ///< asks before an invisible layer becomes current
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
 
 protected:
@@ -39,6 +44,7 @@ private:
     void buildActions();
     void buildDialogs();
     void buildLanguages();
+    void buildNewElement();
     void connectParts();
     void adopt(DrawingPage &);
     void retranslate();
@@ -53,8 +59,11 @@ private:
     DrawingTabs *m_tabs;
     FileCommands m_files;
     StatusLine m_status;
+    NewElementForm *m_newElement;
+    QDockWidget *m_newElementPage;
     std::vector<QMenu *> m_menus;                   ///< in the order of the menu bar
     QMenu *m_recent = nullptr;
+    CodePageMenu *m_codePages = nullptr;
     QActionGroup *m_tools = nullptr;
     QActionGroup *m_languages = nullptr;
     bool m_dark = false;

@@ -13,7 +13,7 @@ constexpr bool kSeparated = true;
 
 constexpr Text kMenus[] = {
     {30400, u"&Fájl"},        {30401, u"&Nézet"}, {30402, u"&Rajzolás"},
-    {30403, u"&Párbeszédek"}, {30404, u"N&yelv"},
+    {30403, u"&Párbeszédek"}, {30517, u"&Beállítások"}, {30404, u"N&yelv"},
 };
 
 constexpr Text kHints[] = {
@@ -95,6 +95,13 @@ const A::Row kRows[] = {
      "",
      [](W &w, bool on) { w.setColors(on ? Colors::Print : Colors::Screen); },
      A::Switch},
+    {"newElement",
+     A::View,
+     {30632, u"Új &elem tulajdonságai"},
+     Sign::NewElement,
+     "F4",
+     [](W &w, bool on) { w.showNewElement(on); },
+     A::Switch},
 
     {"select", A::Draw, {30430, u"&Kijelölés"}, Sign::Select, "", Tool::Select},
     {"point", A::Draw, {30431, u"&Pont"}, Sign::Point, "", Tool::Point},
@@ -114,6 +121,14 @@ const A::Row kRows[] = {
      Sign::Delete,
      "Del",
      [](W &w, bool) { w.page().edits().deleteSelected(); }},
+
+    {"warn",
+     A::Settings,
+     {30528, u"&Figyelmeztetés kikapcsolt aktuális rétegre"},
+     {},
+     "",
+     [](W &w, bool on) { w.setWarning(on); },
+     A::Switch},
 };
 
 } // namespace

@@ -12,7 +12,7 @@ namespace refhost {
 
 /// The program's own commands as data: what menus and toolbars are built from.
 struct WindowActions {
-    enum Menu { File, View, Draw, Dialogs, LanguageMenu, MenuCount };
+    enum Menu { File, View, Draw, Dialogs, Settings, LanguageMenu, MenuCount };
     enum Kind { Plain, Switch };
     using Act = void (*)(MainWindow &, bool checked);
     struct Row {

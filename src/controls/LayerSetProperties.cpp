@@ -71,7 +71,10 @@ void LayerSetControl::colorBox()
     if (m_backcolor != kWindowBackground) {
         const QColor back = shownColor(m_backcolor, palette());
         colors.setColor(QPalette::Base, back);
-        colors.setColor(QPalette::Text, back.lightness() > 127 ? Qt::black : Qt::white);
+        QColor ink = back.lightness() > 127 ? Qt::black : Qt::white;
+        colors.setColor(QPalette::Text, ink);
+        ink.setAlphaF(0.5f);
+        colors.setColor(QPalette::PlaceholderText, ink);
     }
     txtLays->setPalette(colors);
 }

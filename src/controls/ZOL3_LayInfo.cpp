@@ -111,6 +111,7 @@ std::optional<tLay> ZOL3_LayInfo::layerFor(const QVariant &value, const Find &fi
     if (!lay) {
         const Text reason =
             numeric ? Text{32, u"Nincs ilyen számú réteg!"} : Text{42, u"Egész számot kell megadni!"};
+        prompts().alert();
         prompts().tell({Icon::Exclamation, txt(Text{31, u"Hibás rétegszám"}), txt(reason)}, this);
     }
     return lay;
@@ -198,8 +199,8 @@ void ZOL3_LayInfo::setVisibleIcon(bool on)
 
 void ZOL3_LayInfo::RefreshControls()
 {
-    const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("-00000"));
-    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height());
+    const int digits = txtLayNr->fontMetrics().horizontalAdvance(QStringLiteral("00000"));
+    txtLayNr->setFixedWidth(digits + txtLayNr->sizeHint().height() * 3 / 4); // with frame and cursor
     layout()->invalidate();
     layout()->activate();
     updateGeometry();

@@ -97,7 +97,7 @@ public:
 
 signals:
     void CurrentChanced(ZolWDoc::tLay &lay);                          // published spelling
-    void currentLayerMoved();                   ///< another layer is the current one, or it may look otherwise
+    void currentLayerMoved(); ///< another layer is the current one, or it may look otherwise
     void SelectedChanched(qint32 &count, const ZolWDoc::tLay &lay);   // published spelling
 
     void GroupChanged(bool &bIsGrouped);

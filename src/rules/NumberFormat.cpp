@@ -239,6 +239,10 @@ std::vector<NumberFormat::Outside> NumberFormat::outsides() const
 }
 
 int NumberFormat::shift() const { return m_sections.front().shift; }
+bool NumberFormat::scientific() const
+{
+    return std::ranges::any_of(m_sections, [](const Section &s) { return s.scientific || s.pieces.empty(); });
+}
 
 QString formatted(double value, QStringView pattern, const QLocale &locale)
 {

@@ -48,15 +48,14 @@ std::optional<QChar> keyTyped(const NumberInput &input, const TypingPlace &at, Q
     return {};
 }
 
-QString textTyped(const NumberInput &input, TypingPlace at, const QString &inserted)
+TypedText textTyped(const NumberInput &input, TypingPlace at, const QString &inserted)
 {
-    if (input.isText()) return inserted;
-    QString typed;
+    if (input.isText()) return {inserted};
+    TypedText typed;
     for (const QChar c : input.readsLocale ? typedNumber(inserted, input.locale) : inserted) {
         const auto key = keyTyped(input, at, c, 0);
-        if (!key) continue;
-        typed += *key;
-        at.before += *key;
+        if (key) typed.text += *key, at.before += *key;
+        else typed.dropped = true;
     }
     return typed;
 }

@@ -35,7 +35,11 @@ inline constexpr int kKeypadDecimal = 110;      ///< its key code, whatever it t
 std::optional<QChar> keyTyped(const NumberInput &input, const TypingPlace &at, QChar key, int lastKeyCode);
 
 /// What of an inserted text gets in when its characters are typed one after the other.
-QString textTyped(const NumberInput &input, TypingPlace at, const QString &inserted);
+struct TypedText {
+    QString text;
+    bool dropped = false;                       ///< a character did not get in
+};
+TypedText textTyped(const NumberInput &input, TypingPlace at, const QString &inserted);
 
 /// The number that a text says, or the refusal to show.
 struct CheckedNumber {

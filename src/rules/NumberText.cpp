@@ -15,6 +15,7 @@ struct Marks {
     QChar point;
     QChar group{};                              ///< null = digits are not grouped
     bool byThousands = false;                   ///< a group has three digits
+    bool exponent = true;
     bool isGroup(QChar c) const { return !group.isNull() && (c == group || (isBlank(group) && isBlank(c))); }
 };
 constexpr Marks kPlain{u'.'};
@@ -74,7 +75,7 @@ private:
     }
     void readExponent(QByteArray &out)
     {
-        if (!nextIs(u'e') && !nextIs(u'E')) return;
+        if (!m_marks.exponent || (!nextIs(u'e') && !nextIs(u'E'))) return;
         const bool sign = m_rest.size() > 1 && (m_rest[1] == u'+' || m_rest[1] == u'-');
         if (!digitAt(sign ? 2 : 1)) return;
         out += 'e';
@@ -103,7 +104,7 @@ double valueOf(const QByteArray &number, int shift)
 {
     const qsizetype mark = number.indexOf('e');
     bool fits = true;
-    const int exponent = mark < 0 ? 0 : number.mid(mark + 1).toInt(&fits);
+    const qint64 exponent = mark < 0 ? 0 : number.mid(mark + 1).toInt(&fits);
     if (!fits || shift == 0) return valueOf(number);
     return valueOf(number.left(mark < 0 ? number.size() : mark) + 'e' + QByteArray::number(exponent - shift));
 }
@@ -113,9 +114,18 @@ QStringView inside(QStringView text, const NumberFormat::Outside &outside)
 {
     const QString before = outside.before.trimmed(), after = outside.after.trimmed();
     text = text.trimmed();
-    if (!before.isEmpty() && text.startsWith(before)) text = text.mid(before.size());
-    if (!after.isEmpty() && text.endsWith(after)) text.chop(after.size());
+    if (!before.isEmpty() && text.startsWith(before, Qt::CaseInsensitive)) text = text.mid(before.size());
+    if (!after.isEmpty() && text.endsWith(after, Qt::CaseInsensitive)) text.chop(after.size());
     return text;
+}
+
+QByteArray numberMeantBy(QStringView text, const QLocale &locale, bool exponent)
+{
+    Marks marks = marksOf(locale, true);
+    marks.exponent = exponent;
+    const QByteArray number = numberIn(text, marks);
+    if (!number.isEmpty()) return number;
+    return numberIn(text, {.point = marks.point == u',' ? u'.' : u',', .exponent = exponent});
 }
 
 } // namespace
@@ -137,7 +147,7 @@ std::optional<double> numberMeant(QStringView text, QStringView pattern, const Q
     std::vector<NumberFormat::Outside> forms = format.outsides();
     forms.insert(forms.begin(), NumberFormat::Outside{});
     for (const NumberFormat::Outside &form : forms) {
-        QByteArray number = numberIn(inside(text, form), marksOf(locale, true));
+        QByteArray number = numberMeantBy(inside(text, form), locale, format.scientific());
         if (number.isEmpty()) continue;
         if (form.negative && !number.startsWith('-')) number.prepend('-');
         return valueOf(number, format.shift());
@@ -147,7 +157,7 @@ std::optional<double> numberMeant(QStringView text, QStringView pattern, const Q
 
 QString typedNumber(const QString &text, const QLocale &locale)
 {
-    const QByteArray number = numberIn(text, marksOf(locale, true));
+    const QByteArray number = numberMeantBy(text, locale, true);
     if (number.isEmpty()) return text;
     return QString::fromLatin1(number).replace(u'.', decimalSeparator(locale));
 }

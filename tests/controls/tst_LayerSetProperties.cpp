@@ -1,7 +1,11 @@
 #include "controls/LayerSetForm.h"
 
 #include "controls/PropertyError.h"
+#include "facade/services/clsDebug.h"
 #include "support/Registry.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -9,6 +13,20 @@ using namespace tests;
 
 class tst_LayerSetProperties : public LayerSetTest {
     Q_OBJECT
+private:
+    static QString traced(const std::function<void()> &act)
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("trace.log"));
+        clsDebug debug;
+        debug.setsLogFileName(path);
+        debug.setbCallLog(true);
+        act();
+        debug.setbCallLog(false);
+        QFile log(path);
+        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
+    }
+
 private slots:
     void init() { begin(); }
     void cleanup() { end(); }
@@ -129,10 +147,15 @@ private slots:
         QCOMPARE(number([&] { f.control->setsLays(QStringLiteral("1")); }), 387);
         QCOMPARE(number([&] { f.control->setsLayGroup(QStringLiteral("Utak")); }), 387);
         const QVariantMap before = f.control->propertyBag();
-        f.control->setProperty("sLays", QStringLiteral("1")); // ignored, and nothing is thrown through Qt
-        f.control->setProperty("sLayGroup", QStringLiteral("Utak"));
-        f.control->setProperty("CollectionLays", QVariant::fromValue(LayerSet()));
+        const QString log = traced([&] {        // ignored, and nothing is thrown through Qt
+            f.control->setProperty("sLays", QStringLiteral("1"));
+            f.control->setProperty("sLayGroup", QStringLiteral("Utak"));
+            f.control->setProperty("CollectionLays", QVariant::fromValue(LayerSet()));
+        });
         QCOMPARE(f.control->propertyBag(), before);
+        for (const char *line : {"ZOL3_LayGroup.sLays 387", "ZOL3_LayGroup.sLayGroup 387",
+                                 "ZOL3_LayGroup.CollectionLays 383"})
+            QVERIFY2(log.contains(QLatin1String(line)), line);
         setDesignedTest(nullptr);
         f.control->setProperty("CollectionLays", QVariant::fromValue(LayerSet()));
         QCOMPARE(f.numbers(), QStringLiteral("3"));

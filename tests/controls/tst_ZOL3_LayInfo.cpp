@@ -175,6 +175,7 @@ private slots:
         ScriptedPrompts user({refusal(message), refusal(message)});
         f.control->LetLayNr(value, 0);
         f.control->LetLayId(value, 0);
+        QCOMPARE(user.alerts(), 2);
         QCOMPARE(f.shown(), QStringLiteral("12 Út"));
         QCOMPARE(current(), qint16(12));
         QCOMPARE(f.raised, QStringList());
@@ -428,19 +429,30 @@ private slots:
     {
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("captions");
-        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg...";
-        QTest::newRow("en") << int(English) << "Layer  :|Layer...";
-        QTest::newRow("ro") << int(Romanian) << "Strat  :|Strat...";
-        QTest::newRow("vi") << int(Vietnamese) << "Lớp  :|Lớp...";
+        QTest::addColumn<QString>("refusal");
+        QTest::newRow("hu") << int(Hungarian) << "Réteg  :|Réteg..."
+                            << "Hibás rétegszám|Nincs ilyen számú réteg!";
+        QTest::newRow("en") << int(English) << "Layer  :|Layer..."
+                            << "Invalid layer number!|No such a layer with this number";
+        QTest::newRow("ro") << int(Romanian) << "Strat  :|Strat..."
+                            << "Număr de strat greșit|Nu există niciun strat cu acest număr!";
+        QTest::newRow("vi") << int(Vietnamese) << "Lớp  :|Lớp..."
+                            << "Số hiệu lớp không hợp lệ|Không có lớp nào mang số hiệu này!";
     }
     void captionsFollowTheLanguage()
     {
         QFETCH(int, language);
         QFETCH(QString, captions);
+        QFETCH(QString, refusal);
         Form f(m_doc.get());
         setLanguage(language, {});
         emit LanguageHub::instance().LanguageChanged();
         QCOMPARE(f.control->lblLay->text() + u'|' + f.control->cmdModLay->text(), captions);
+        const QStringList said = refusal.split(u'|');
+        ScriptedPrompts user({{"tell", said[0], said[1], {}, Icon::Exclamation}});
+        f.type("99");
+        QTest::keyClick(&f.field(), Qt::Key_Return);
+        QCOMPARE(user.asked(), 1);
     }
 
     void readersHearTheLayer()

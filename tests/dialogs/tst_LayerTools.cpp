@@ -167,7 +167,8 @@ private slots:
                 for (const char *name : names) out += tools.tool(name)->isEnabled() ? u'1' : u'0';
                 return out;
             };
-            const auto selected = {"cmdLays_Copy", "cmdLays_Delete", "cmdLays_SetVisibleOn", "cmdLay_GroupMove"};
+            const auto selected = {"cmdLays_Copy", "cmdLays_Delete", "cmdLays_SetVisibleOn",
+                                   "cmdLay_GroupMove"};
             QCOMPARE(usable(selected), QStringLiteral("1111"));
             grid.selectRows({});
             QCOMPARE(usable(selected), QStringLiteral("0000"));
@@ -188,7 +189,8 @@ private slots:
             tools.tool("cmdLay_HideGroups")->trigger();
             QCOMPARE(usable(band), QStringLiteral("1110"));
             QVERIFY(!child<Grid>(d, "gridGroups").isVisible());
-            // There is no selection dialog of text types, and the document has no role for text files of new layers
+            // There is no selection dialog of text types, and the document has no role for text files of new
+            // layers
             QVERIFY(!tools.tool("cmdLays_TxdId")->isEnabled());
             QCOMPARE(tools.tool("cmdLays_FileAddNew")->isEnabled(), m_doc->layerFiles() != nullptr);
         });
@@ -218,9 +220,12 @@ private slots:
     {
         inSelect([&](frmSelect &d, Grid &grid, ToolSet &tools) {
             QTest::keyClick(grid.activeView(), Qt::Key_F2);
-            QVERIFY(grid.activeView()->findChild<QWidget *>(QStringLiteral("qt_scrollarea_viewport"))->isVisible());
+            QVERIFY(grid.activeView()
+                        ->findChild<QWidget *>(QStringLiteral("qt_scrollarea_viewport"))
+                        ->isVisible());
             QVERIFY(grid.activeView()->indexWidget(grid.activeView()->currentIndex()));
-            QTest::keyClick(grid.activeView()->indexWidget(grid.activeView()->currentIndex()), Qt::Key_Escape);
+            QTest::keyClick(grid.activeView()->indexWidget(grid.activeView()->currentIndex()),
+                            Qt::Key_Escape);
             QVERIFY(d.isVisible());
             tools.tool("cmdLays_SetVisibleOff")->trigger();
             QVERIFY(!m_doc->layers().findByNumber(10)->Visible);

@@ -1,4 +1,5 @@
 #include "dialogs/select/frmSelect.h"
+#include "dialogs/viewtools/frmGroupBy.h"
 #include "dialogs/viewtools/frmPreview.h"
 #include "dialogs/viewtools/frmShowfields.h"
 #include "dialogs/viewtools/frmSort.h"
@@ -6,6 +7,7 @@
 #include "facade/services/Services.h"
 #include "grids/clsJs_Layer.h"
 #include "grids/frame/GridLayouts.h"
+#include "kit/grid/GroupBox.h"
 #include "kit/paper/SheetPreview.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
@@ -17,6 +19,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QListWidget>
+#include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTest>
@@ -68,6 +72,41 @@ private slots:
             QCOMPARE(seen, (std::vector<qint16>{1, 2}));
             QVERIFY(grid.view() == GridView::CardMin && tools.tool("miView_CardMin")->isChecked());
         });
+    }
+    void theGroupCommandRaisesGroupChangedTooAndALayoutDoesNot()
+    {
+        inDialog([](frmSelect &d, Grid &, ToolSet &tools) {
+            std::vector<bool> seen;
+            const auto heard =
+                connect(d.jsLayer, &clsJs_Layer::GroupChanged, [&](bool &g) { seen.push_back(g); });
+            const auto watch = whileModal<frmGroupBy>([](frmGroupBy &g) {
+                g.cboGroups[0]->setCurrentIndex(3);
+                g.cmdOk->click();
+            });
+            tools.popUp("bndPopUp_View")->actions(); // where the command stands for the user
+            tools.tool("miGroupBy")->trigger();
+            QCOMPARE(seen, std::vector{true});
+            d.jsLayer->saveLayout();
+            d.jsLayer->ml_RuntimeSupport_LanguageChanged(); // loads it again
+            QCOMPARE(seen, std::vector{true});
+            QObject::disconnect(heard);
+        });
+    }
+    void aLoadedLayoutRaisesGridViewOnce()
+    {
+        Grid grid;
+        for (const bool saved : {false, true}) {
+            clsJs_Layer js;
+            std::vector<qint16> views;
+            connect(&js, &clsJs_Layer::GridView, [&](qint16 &view) { views.push_back(view); });
+            connect(&js, &clsJs_Layer::GroupChanged, [](bool &) { QFAIL("nobody grouped"); });
+            js.init(*m_doc, grid, nullptr, true);
+            QCOMPARE(views, saved ? std::vector<qint16>{0} : std::vector<qint16>());
+            const SortKey byVisible[] = {{2}};
+            QObject::disconnect(&js, &clsJs_Layer::GroupChanged, nullptr, nullptr);
+            grid.setGroupLevels(byVisible);
+            js.saveLayout();
+        }
     }
     void groupingEnablesItsTools()
     {
@@ -125,6 +164,40 @@ private slots:
             QVERIFY(!groups.isVisible() && tools.tool("miShowGroups")->isEnabled());
             tools.tool("miShowGroups")->trigger();
             QVERIFY(groups.isVisible());
+        });
+    }
+    /// Whatever is open speaks the new language, what it stands on too.
+    void aLanguageChangeReachesEveryOpenDialog_data()
+    {
+        QTest::addColumn<QByteArray>("tool");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("sort") << QByteArray("miSort") << QStringLiteral("Sort");
+        QTest::newRow("group") << QByteArray("miGroupBy") << QStringLiteral("Grouping");
+        QTest::newRow("columns") << QByteArray("miShowFields") << QStringLiteral("Display columns");
+        QTest::newRow("preview") << QByteArray("miPrintPreview") << QStringLiteral("Print preview");
+    }
+    void aLanguageChangeReachesEveryOpenDialog()
+    {
+        QFETCH(QByteArray, tool);
+        QFETCH(QString, title);
+        inDialog([&](frmSelect &d, Grid &grid, ToolSet &tools) {
+            const auto watch = whileModal<QDialog>([&](QDialog &open) {
+                setLanguage(English, {});
+                emit LanguageHub::instance().LanguageChanged();
+                QCOMPARE(open.windowTitle(), title);
+                for (const QListWidget *list : open.findChildren<QListWidget *>())
+                    if (list->count()) QVERIFY(list->item(0)->text() != QStringLiteral("Sorszám"));
+                if (auto *const first = open.findChild<QComboBox *>(QStringLiteral("cboGroups0")))
+                    QCOMPARE(first->itemText(2), QStringLiteral("Layer name"));
+                open.reject();
+            });
+            tools.tool(tool.constData())->trigger();
+            QCOMPARE(d.windowTitle(), QStringLiteral("Layer selector"));
+            QCOMPARE(grid.columns()[1].caption, QStringLiteral("Layer name"));
+            QCOMPARE(grid.findChild<GroupBox *>()->accessibleName(),
+                     QStringLiteral("Drag here the column header to sort the list by the column values"));
+            QCOMPARE(tools.tool("miSort")->toolTip().section(u' ', 0, 0), QStringLiteral("Sort"));
+            QVERIFY(tools.tool("miGroupBy")->text().remove(u'&').startsWith(QStringLiteral("Group by")));
         });
     }
     void paperBearsTheTablesOwnCaptions()

@@ -147,7 +147,8 @@ private slots:
         QTest::addColumn<Act>("close");
         QTest::addColumn<bool>("confirmed");
         QTest::newRow("ok") << Act([](frmSetup &d) { child<QPushButton>(d, "cmdOk").click(); }) << true;
-        QTest::newRow("cancel") << Act([](frmSetup &d) { child<QPushButton>(d, "cmdCancel").click(); }) << false;
+        QTest::newRow("cancel") << Act([](frmSetup &d) { child<QPushButton>(d, "cmdCancel").click(); })
+                                << false;
         QTest::newRow("close box") << Act([](frmSetup &d) { d.close(); }) << false;
         QTest::newRow("escape") << Act([](frmSetup &d) { QTest::keyClick(&d, Qt::Key_Escape); }) << false;
     }
@@ -157,7 +158,8 @@ private slots:
         QFETCH(bool, confirmed);
         const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
             tool(d, "miView_Card").trigger();
-            items(d).table()->model()->setData(items(d).table()->model()->index(0, 1), QStringLiteral("Kert"));
+            items(d).table()->model()->setData(items(d).table()->model()->index(0, 1),
+                                               QStringLiteral("Kert"));
             close(d);
         });
         QCOMPARE(m_dialogs.bSetup(*m_doc, 0), confirmed);
@@ -181,9 +183,10 @@ private slots:
         openAt(true, 720);
         openAt(false, 780);
         const auto twips = [](int pixels) { return QString::number(twipsOf(pixels, QWidget())); };
-        QCOMPARE(host.kept.dump(), QStringList({"ZolWOp/Settings/ZolWOpfrmSetup-Height=" + twips(480),
-                                                "ZolWOp/Settings/ZolWOpfrmSetup-Width4Edit=" + twips(720),
-                                                "ZolWOp/Settings/ZolWOpfrmSetup-Width4Select=" + twips(780)}));
+        QCOMPARE(host.kept.dump(),
+                 QStringList({"ZolWOp/Settings/ZolWOpfrmSetup-Height=" + twips(480),
+                              "ZolWOp/Settings/ZolWOpfrmSetup-Width4Edit=" + twips(720),
+                              "ZolWOp/Settings/ZolWOpfrmSetup-Width4Select=" + twips(780)}));
         openAt(true, -720);
         openAt(false, -780);
     }
@@ -192,13 +195,15 @@ private slots:
     {
         QTest::addColumn<Act>("act");
         QTest::addColumn<int>("current");
-        QTest::newRow("double click") << Act([](frmSetup &d) { doubleClick(d, QStringLiteral("Telek")); }) << 10;
+        QTest::newRow("double click")
+            << Act([](frmSetup &d) { doubleClick(d, QStringLiteral("Telek")); }) << 10;
         QTest::newRow("beside the check mark") << Act([](frmSetup &d) {
             const QPoint mark = cellOf(d, QStringLiteral("Telek"), 2);
             const QAbstractItemView &table = *items(d).table();
             doubleClickAt(d, {table.visualRect(table.indexAt(mark)).left() + 3, mark.y()});
         }) << 10;
-        QTest::newRow("on the check mark") << Act([](frmSetup &d) { doubleClick(d, QStringLiteral("Telek"), 2); }) << 21;
+        QTest::newRow("on the check mark")
+            << Act([](frmSetup &d) { doubleClick(d, QStringLiteral("Telek"), 2); }) << 21;
         QTest::newRow("Ctrl+Enter") << Act([](frmSetup &d) {
             goTo(d, QStringLiteral("Telek"));
             QTest::keyClick(items(d).table(), Qt::Key_Return, Qt::ControlModifier);
@@ -331,10 +336,13 @@ private slots:
                                {third.get(), QStringLiteral("c.qvd")}});
         m_dialogs.setoDocList(&list);
         faulty.log.failNext = QStringLiteral("layers.update");
-        ScriptedPrompts user({{"tell", appTitle(),
-                               QStringLiteral("Nem sikerült átvinni a rétegek tulajdonságait ebbe a rajzba: b.qvd\n"
-                                              "layers.update\nA sorrendben utána következő rajzok nem változtak."),
-                               {}, Icon::Exclamation}});
+        ScriptedPrompts user(
+            {{"tell",
+              appTitle(),
+              QStringLiteral("Nem sikerült átvinni a rétegek tulajdonságait ebbe a rajzba: b.qvd\n"
+                             "layers.update\nA sorrendben utána következő rajzok nem változtak."),
+              {},
+              Icon::Exclamation}});
         const auto watch = whileModal<frmSetup>([](frmSetup &d) { d.cmdOkAllDocument->click(); });
         QVERIFY_THROWS_EXCEPTION(tests::HostError, m_dialogs.bSetup(*m_doc, 0));
         QVERIFY(third->layers().findByNumber(12)->Visible);

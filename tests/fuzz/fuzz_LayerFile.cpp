@@ -1,5 +1,6 @@
-// Any bytes as a layer file, and saved layers with any bytes of theirs spoilt: no crash, no more memory than a few
-// times the file's size whatever it claims to hold, and what was read comes back from what is written of it.
+// Any bytes as a layer file, and saved layers with any bytes of theirs spoilt: no crash, no more memory than
+// a few times the file's size whatever it claims to hold, and what was read comes back from what is written
+// of it.
 #include "../fuzz/Feed.h"
 #include "rules/LayerFile.h"
 

@@ -1,5 +1,5 @@
-// Any text over any table of layers: the set is sorted, holds nothing twice and only what the text can name, and
-// its own text names the same layers again.
+// Any text over any table of layers: the set is sorted, holds nothing twice and only what the text can name,
+// and its own text names the same layers again.
 #include "../fuzz/Feed.h"
 #include "rules/LayerSet.h"
 
@@ -50,7 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         PROMISE(std::ranges::any_of(numbers, [&](auto n) { return n.from <= l.gNr && l.gNr <= n.to; }));
 
     QString again = layerSetText(set.layers());
-    const bool readable = set.count() == 0 || set.layers().front().gNr >= 0; // a run that begins below 0 is not
+    const bool readable =
+        set.count() == 0 || set.layers().front().gNr >= 0; // a run that begins below 0 is not
     if (readable) PROMISE(layersNumbered(layerNumbersIn(again), set.layers()).count() == set.count());
     return 0;
 }

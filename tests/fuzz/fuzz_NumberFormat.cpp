@@ -1,5 +1,5 @@
-// Any pattern with any number: no crash, no endless text, and a text that the pattern's own reading understands
-// comes back as the same text.
+// Any pattern with any number: no crash, no endless text, and a text that the pattern's own reading
+// understands comes back as the same text.
 #include "../fuzz/Feed.h"
 #include "rules/NumberFormat.h"
 #include "rules/NumberText.h"

@@ -1,5 +1,5 @@
-// Random keys, pastes and overwritten pieces in a box for one number: only what may be typed stands in it, and what
-// is accepted lies in the bounds.
+// Random keys, pastes and overwritten pieces in a box for one number: only what may be typed stands in it,
+// and what is accepted lies in the bounds.
 #include "../fuzz/Feed.h"
 #include "rules/NumberFormat.h"
 #include "rules/NumberInput.h"
@@ -12,7 +12,8 @@ namespace {
 
 QString overwritten(const QString &text, tests::Feed &feed, TypingPlace &at)
 {
-    const qsizetype a = feed.take<uint8_t>() % (text.size() + 1), b = feed.take<uint8_t>() % (text.size() + 1);
+    const qsizetype a = feed.take<uint8_t>() % (text.size() + 1),
+                    b = feed.take<uint8_t>() % (text.size() + 1);
     at = {text.left(std::min(a, b)), text.mid(std::max(a, b))};
     return at.before + at.behind;
 }
@@ -48,8 +49,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         overwritten(text, feed, at);
         const auto how = feed.take<uint8_t>();
         QString typed;
-        if (how & 1) typed = textTyped(input, at, feed.text(how >> 3));
-        else if (const auto key = keyTyped(input, at, QChar(feed.take<char16_t>()), how & 2 ? kKeypadDecimal : 0))
+        if (how & 1) typed = textTyped(input, at, feed.text(how >> 3)).text;
+        else if (const auto key =
+                     keyTyped(input, at, QChar(feed.take<char16_t>()), how & 2 ? kKeypadDecimal : 0))
             typed = *key;
         text = at.before + typed + at.behind;
         checkText(input, text);

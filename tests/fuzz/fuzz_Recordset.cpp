@@ -1,5 +1,5 @@
-// Any bytes as a recordset: no crash, memory and time that grow with the file, and what was read comes back from what
-// is written of it, value for value.
+// Any bytes as a recordset: no crash, memory and time that grow with the file, and what was read comes back
+// from what is written of it, value for value.
 #include "../fuzz/Feed.h"
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetXml.h"

@@ -2,9 +2,11 @@
 #include "facade/services/Language.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
-#include "support/LayerForm.h"
+#include "support/LayerWork.h"
 #include "support/Registry.h"
 #include "support/WillingPrompts.h"
+
+#include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -25,24 +27,35 @@ struct AnyPicker final : ResourcePicker {
     }
 };
 
+/// Picks the second of several things: another group than the one that all layers are in.
+struct Picking final : tests::WillingPrompts {
+    std::optional<int> choose(const Choice &, QObject *) override { return 1; }
+};
+
 /// Runs a tool on the first three of four layers, the host failing at one call of it; counts the calls.
 struct Run {
     std::unique_ptr<refhost::SqliteDoc> doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-A")},
                                                                {.gNr = 2, .Name = QStringLiteral("2-B")},
                                                                {.gNr = 3, .Name = QStringLiteral("3-C")},
                                                                {.gNr = 4, .Name = QStringLiteral("D")}});
+    QTemporaryDir folder;
     tests::FaultyDoc faulty{*doc};
     tests::LayerForm form{faulty};
-    tests::WillingPrompts user;
+    Picking user;
     explicit Run(const char *tool, int failAt)
     {
         form.js.setCurrentLayer(doc->layers().findByNumber(1)->LayId);
         form.select({1, 2, 3});
+        const std::vector<refhost::Element> line{{.layId = form.js.currentLayer()}};
+        doc->addElements(line);
+        user.path = folder.filePath(QStringLiteral("layers"));
+        tests::prepare(tool, form, faulty, user.path);
         faulty.log.calls.clear();
         faulty.log.failAt = failAt;
         if (std::strcmp(tool, kCellEdit) == 0) editCell();
         else form.run(tool);
         faulty.log.failAt = -1;
+        form.groups.setCurrentRow(0);                   // all layers are listed
     }
     void editCell()
     {
@@ -80,13 +93,16 @@ private slots:
         const AnyPicker picker;
         const Run undisturbed(tool.constData(), -1);
         QVERIFY(!undisturbed.form.error);
+        const QByteArrayList onlyShow{"cmdLay_GroupAllLay", "cmdLay_ShowGroups", "cmdLay_HideGroups",
+                                      "cmdLay_ShowVisible", "miGroupCollapse"};
+        QCOMPARE(undisturbed.calls() > 0, !onlyShow.contains(tool));
         for (int at = 0; at < undisturbed.calls(); ++at) {
             Run run(tool.constData(), at);
             const QString call = run.faulty.log.calls.value(at);
             QVERIFY2(run.failed() == call, qPrintable(call));
             QVERIFY2(run.form.rows() == run.doc->layers().readAll(), qPrintable(call));
-            const int groups = int(run.doc->layers().groups().size());
-            QVERIFY2(run.form.groups.table()->model()->rowCount() == groups + 1, qPrintable(call));
+            run.form.js.setbShowVisibleItems(false);
+            QVERIFY2(run.form.groupsListed() == tests::dumpGroups(*run.doc), qPrintable(call));
             QVERIFY(!run.form.js.isBusy());
         }
     }

@@ -178,8 +178,9 @@ private slots:
             form.run("cmdLay_GroupMove");
         }
         form.chooseGroup(QStringLiteral("Utak"));
-        const QString refusal = QStringLiteral("A(z) 'Utak' csoport nem minden rétege szerepel más csoportban\n"
-                                               "ezért nem szüntethető meg!");
+        const QString refusal =
+            QStringLiteral("A(z) 'Utak' csoport nem minden rétege szerepel más csoportban\n"
+                           "ezért nem szüntethető meg!");
         {
             ScriptedPrompts user({sure(true), told("Rétegcsoport törlés", refusal)});
             form.run("miGroupRemove");

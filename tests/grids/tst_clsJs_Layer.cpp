@@ -193,6 +193,56 @@ private slots:
         QCOMPARE(js.currentRecord()->gNr, qint16(3));
     }
 
+    void tooltipsAreTheHostsToSwitchOn()
+    {
+        for (const bool on : {false, true}) {
+            struct Host final : HostServices, SettingsService {
+                bool on;
+                explicit Host(bool o) : on(o) {}
+                SettingsService *settings() override { return this; }
+                int version() const override { return 4; }
+                bool readBool(const QString &section, const QString &key, bool fallback) const override
+                {
+                    const bool asked =
+                        section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid");
+                    return asked ? on : fallback;
+                }
+            } host(on);
+            setHostServices(&host);
+            Grid grid, groups;
+            clsJs_Layer js;
+            js.init(*m_doc, grid, &groups, true);
+            setHostServices(nullptr);
+            for (const auto &[of, text] : {std::pair(&grid, "A"), {&groups, "MIND"}}) {
+                const QModelIndex cell = of->table()->model()->index(0, of == &grid ? 1 : 0);
+                QCOMPARE(cell.data(Qt::ToolTipRole).toString(), QString(on ? text : ""));
+            }
+        }
+    }
+    void aHostErrorInAGroupedGridLeavesItAsItWas()
+    {
+        tests::FaultyDoc faulty(*m_doc);
+        ScriptedPrompts user({{"tell", appTitle(), QStringLiteral("layers.update"), {}, Icon::Exclamation}});
+        Grid grid;
+        clsJs_Layer js;
+        js.setAllowEdit(true);
+        js.init(faulty, grid, nullptr, true);
+        const SortKey byVisible[] = {{2, SortOrder::Descending}};
+        grid.setGroupLevels(byVisible);
+        QAbstractItemModel &model = *grid.table()->model();
+        const auto lines = [&] {
+            QStringList out;
+            for (int line = 0; line < model.rowCount(); ++line) out << model.index(line, 1).data().toString();
+            return out;
+        };
+        const QStringList before = lines();
+        faulty.log.failNext = QStringLiteral("layers.update");
+        QVERIFY(
+            !model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole)); // would change its band
+        QCOMPARE(lines(), before);
+        QVERIFY(model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole));
+        QVERIFY(lines() != before);
+    }
     void afterTearDownItIsInert()
     {
         Grid grid;

@@ -1,6 +1,8 @@
 #include "document/CadPalette.h"
 #include "document/SqliteDoc.h"
 
+#include "facade/services/LayerFileCodePage.h"
+
 #include "support/Registry.h"
 
 #include <QDir>
@@ -369,6 +371,21 @@ private slots:
         QStringList now;
         for (const tLay &l : doc->layers().readAll()) now << QString::number(l.gNr) + u' ' + l.Name;
         QCOMPARE(now.join(QStringLiteral(", ")), layers);
+    }
+
+    void textFilesAreInTheCodePageOfLayerFiles()
+    {
+        const auto doc = inMemory();
+        const QByteArray word("\xCA\xEE\xEB\xEE\xE4\xE5\xF6");
+        const auto nameIn = [&](const char *codePage) {
+            QV_DOC_CONTROLS::setLayerFileCodePage(QLatin1String(codePage));
+            writeBytes(file("list.txt"), "1 " + word);
+            doc->layers().renameFromFile(file("list.txt"));
+            QV_DOC_CONTROLS::setLayerFileCodePage({});
+            return doc->layers().findByNumber(1)->Name;
+        };
+        QCOMPARE(nameIn("windows-1251"), QStringLiteral("Колодец"));
+        QCOMPARE(nameIn(""), QStringLiteral("Ęîëîäĺö"));
     }
 
     void thePaletteIsTheOneDrawingsShare()

@@ -117,7 +117,7 @@ private slots:
         row("cad_sample_r12", 0.0254, 200, false);              // says nothing; the same drawing says inches
         row("cad_sample_r2007", 0.0254, 200, false);
         row("house_floorplan_r2004", 0.0254, 100, true);        // says millimetres, its lengths are 58'-0"
-        row("swiss_cadastre_r12", 1, 1000, false);
+        row("swiss_cadastre_r12", 1, 25000, false);             // a whole district, forty kilometres wide
         row("orienteering_map_r12", 0.001, 1, true);            // says nothing and is as large as an A4 sheet
     }
     void theUnitIsGuessed()

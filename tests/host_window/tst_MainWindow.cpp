@@ -1,10 +1,12 @@
 #include "import/DxfImport.h"
+#include "window/CodePageMenu.h"
 #include "window/DialogCalls.h"
 #include "window/HostServices.h"
 #include "window/MainWindow.h"
 #include "window/WindowActions.h"
 
 #include "facade/services/Language.h"
+#include "facade/services/LayerFileCodePage.h"
 #include "facade/services/Services.h"
 
 #include "support/Registry.h"
@@ -254,7 +256,11 @@ private slots:
         ScriptedPrompts user(
             {{"choose", title, text, QVariant()},
              {"choose", title, text, 0},
-             {"tell", title, expected.text(), QVariant(), Icon::Information},
+             {"tell",
+                               title,
+                               QStringLiteral("Egység: méter, méretarány 1:100\n") + expected.text(),
+                               QVariant(),
+                               Icon::Information},
              {"choose", QStringLiteral("Rajz mentése"),
               QStringLiteral("A(z) 'telek' rajz még nincs fájlba mentve. Mi legyen vele?"), 1}});
         QVERIFY(!m_window->files().importFile(path));
@@ -295,6 +301,27 @@ private slots:
         QVERIFY(status("countStatus").endsWith(QStringLiteral("đối tượng")));
         QCOMPARE(Language().currentLanguage(), int(Vietnamese)); // remembered
         m_services->language()->setCurrent(Hungarian);
+    }
+
+    void theCodePageOfLayerFilesIsSeenAndChosen()
+    {
+        auto &menu = *m_window->findChild<CodePageMenu *>();
+        const auto chosen = [&menu] {
+            emit menu.aboutToShow();
+            QStringList all;
+            for (const QAction *a : menu.actions())
+                if (a->isChecked()) all << a->data().toString();
+            return all.join(u'|');
+        };
+        QCOMPARE(chosen(), QString());
+        for (QAction *a : menu.actions())
+            if (a->data() == QStringLiteral("windows-1251")) a->trigger();
+        QCOMPARE(layerFileCodePage(), QStringLiteral("windows-1251"));
+        QCOMPARE(chosen(), QStringLiteral("windows-1251"));
+        setLayerFileCodePage(QStringLiteral("IBM852")); // by hand, in the settings file
+        QCOMPARE(chosen(), QStringLiteral("IBM852"));
+        menu.actions().front()->trigger();
+        QCOMPARE(layerFileCodePage(), QString());
     }
 
     void accessKeysAreUniquePerMenuInEveryLanguage()

@@ -39,7 +39,8 @@ private slots:
     /// "Ab" stands on both menus, so it must leave A to "A" and B to "B" can not be its own then: C is.
     void captionsThatMeetOnAMenuShareNoKey()
     {
-        std::vector<KeyedCaption> all{{"Abc", {"one", "two"}}, {"A", {"one"}}, {"B", {"two"}}, {"Ax", {"two"}}};
+        std::vector<KeyedCaption> all{
+            {"Abc", {"one", "two"}}, {"A", {"one"}}, {"B", {"two"}}, {"Ax", {"two"}}};
         giveAccessKeys(all);
         QStringList seen;
         for (const KeyedCaption &c : all) seen << c.caption;

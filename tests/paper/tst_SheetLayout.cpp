@@ -32,12 +32,16 @@ QString dump(const SheetLayout &layout, const QString &outline)
     return pages.join(u'|');
 }
 
-SampleSheet columns(int count, int width)
+/// `filled`: every cell but the first holds as much text as fits its column on the screen.
+SampleSheet columns(int count, int width, bool filled)
 {
     SampleSheet sheet;
-    for (int c = 0; c < count; ++c)
+    QStringList cells{QStringLiteral("1")};
+    for (int c = 0; c < count; ++c) {
         sheet.columns.push_back({QStringLiteral("C%1").arg(c), c == 0 ? 40 : width});
-    sheet.record({QStringLiteral("1")});
+        if (c > 0) cells << (filled ? QString(width / 8, u'n') : QStringLiteral("n"));
+    }
+    sheet.record(cells);
     return sheet;
 }
 
@@ -76,20 +80,23 @@ private slots:
     {
         QTest::addColumn<int>("count");
         QTest::addColumn<int>("width");
+        QTest::addColumn<bool>("filled");
         QTest::addColumn<bool>("shrinks");
         QTest::addColumn<int>("across");
-        QTest::newRow("as on the screen") << 4 << 80 << false << 1;
-        QTest::newRow("somewhat wide") << 6 << 150 << true << 1;
-        QTest::newRow("far too wide") << 21 << 150 << true << 4;
-        QTest::newRow("one column wider than the paper") << 2 << 4000 << true << 2;
-        QTest::newRow("no column") << 0 << 0 << false << 1;
+        QTest::newRow("as on the screen") << 4 << 80 << true << false << 1;
+        QTest::newRow("somewhat wide") << 6 << 150 << true << true << 1;
+        QTest::newRow("wide but blank") << 12 << 150 << false << false << 1;
+        QTest::newRow("far too wide") << 21 << 150 << true << true << 4;
+        QTest::newRow("one column wider than the paper") << 2 << 4000 << true << true << 2;
+        QTest::newRow("no column") << 0 << 0 << false << false << 1;
     }
     void columnsShrinkAndThenGoOnAcross()
     {
         QFETCH(int, count);
         QFETCH(int, width);
+        QFETCH(bool, filled);
         QFETCH(bool, shrinks);
-        const SampleSheet sheet = columns(count, width);
+        const SampleSheet sheet = columns(count, width, filled);
         const SheetLayout layout(sheet, true, sheetOf(210, 297, 15));
         const int full = int(std::lround(SheetLayout::kPoints * kUnitsPerPoint));
         QCOMPARE(layout.font().font().pixelSize() < full, shrinks);

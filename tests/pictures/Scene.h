@@ -1,5 +1,8 @@
 #pragma once
 
+#include "facade/contract/ZOLW_Doc.h"
+#include "pictures/Sheet.h"
+
 #include <functional>
 #include <vector>
 
@@ -12,5 +15,7 @@ struct Scene {
 };
 
 std::vector<Scene> valueScenes();               ///< the boxes behind prompts()
+void takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet);  ///< the controls on a form as a host builds it
+void takeSelection(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet); ///< the selection dialog in its views, and on paper
 
 } // namespace tests

@@ -4,6 +4,7 @@
 #include "facade/services/Text.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -27,8 +28,8 @@ void typeMeanwhile(const QString &typed)
 {
     QTimer::singleShot(0, qApp, [typed] {
         const auto lines =
-            QApplication::activeModalWidget()->findChildren<QLineEdit *>(QStringLiteral("txtNumber"));
-        lines.last()->setText(typed);
+            QApplication::activeModalWidget()->findChildren<QComboBox *>(QStringLiteral("txtCombo"));
+        lines.last()->setEditText(typed);
     });
 }
 

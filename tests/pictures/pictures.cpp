@@ -1,15 +1,16 @@
-// Saves a picture of every dialog in its states, in each language and palette, for the eye: pictures FOLDER
+// Pictures of the dialogs in their states, in each language and palette, for the eye: qvpictures FOLDER
+// [SCALE]. Each sheet shows the states of one language; 1 when a text has no room or a bar is too short for
+// its tools.
 #include "facade/services/Language.h"
-#include "facade/clsDocDlgs.h"
 #include "document/SqliteDoc.h"
-#include "grids/clsJs_Layer.h"
 #include "pictures/Scene.h"
-#include "support/LayerDoc.h"
+#include "support/Looks.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
-#include <QPalette>
+#include <QFile>
+#include <QStyle>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
@@ -18,19 +19,8 @@ using namespace QV_DOC_CONTROLS;
 
 namespace {
 
-QPalette darkPalette()
-{
-    QPalette p(QColor(53, 53, 53));
-    p.setColor(QPalette::Base, QColor(35, 35, 35));
-    p.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
-    p.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    for (auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-        p.setColor(role, Qt::white);
-        p.setColor(QPalette::Disabled, role, QColor(127, 127, 127));
-    }
-    return p;
-}
+constexpr char kScreen[] =
+    R"({"screens": [{"name": "wide", "x": 0, "y": 0, "width": 4000, "height": 3000}]})";
 
 std::unique_ptr<refhost::SqliteDoc> sample()
 {
@@ -43,7 +33,7 @@ std::unique_ptr<refhost::SqliteDoc> sample()
         doc->layers().add({.gNr = qint16(101 + i),
                            .Name = QString::fromUtf8(names[i % 10]) + QStringLiteral(" %1").arg(i / 10),
                            .Visible = i % 4 != 3,
-                           .PenStyleId = 1,
+                           .PenStyleId = qint16(1 + i % 3),
                            .ScrColor = qint16(i * 6),
                            .PrnColor = qint16(i),
                            .PenColorId = qint16(i * 6),
@@ -52,51 +42,76 @@ std::unique_ptr<refhost::SqliteDoc> sample()
     return doc;
 }
 
-std::vector<tests::Scene> selectionScenes()
+/// The platform without a display, with a screen that every dialog fits on.
+void prepareScreen(const QTemporaryDir &home, const char *scale)
 {
-    return {{"select", [] {
-                 const auto doc = sample();
-                 ZolWDoc::tLay lay = doc->layers().readAll()[3];
-                 clsDocDlgs().bSelect_Lay(*doc, lay);
-             }}};
+    const QString screen = home.filePath(QStringLiteral("screen.json"));
+    QFile file(screen);
+    if (!file.open(QIODevice::WriteOnly) || file.write(kScreen) < 0) qFatal("no screen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen));
+    qputenv("QT_SCALE_FACTOR", scale);
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path())); // the settings of who looks play no part
 }
 
-void saveModalWindow(const QString &path)
+void takeValues(ZolWDoc::ZOLW_Doc &, tests::Sheet &sheet)
 {
-    auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog) qFatal("nothing is open for %s", qPrintable(path));
-    dialog->grab().save(path);
-    std::printf("%s\n", qPrintable(path));
-    dialog->reject();
+    for (const tests::Scene &scene : tests::valueScenes()) {
+        QTimer::singleShot(0, qApp, [&] { // after what the scene does to its open box
+            QTimer::singleShot(0, qApp, [&] {
+                auto *const box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                if (!box) qFatal("nothing is open for %s", scene.name);
+                sheet.take(*box);
+                box->reject();
+            });
+        });
+        scene.open();
+    }
+}
+
+struct SheetRow {
+    const char *name;
+    void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
+};
+constexpr SheetRow kSheets[] = {
+    {"controls", tests::takeControls}, {"select", tests::takeSelection}, {"values", takeValues}};
+
+/// One language in one palette; false when a flaw was found.
+bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)
+{
+    bool flawless = true;
+    for (const SheetRow &row : kSheets) {
+        tests::Sheet sheet;
+        row.take(doc, sheet);
+        const QString path = folder + u'/' + QLatin1String(row.name) + variant;
+        for (const QString &flaw : std::as_const(sheet.flaws))
+            std::fprintf(stderr, "%s: %s\n", qPrintable(path), qPrintable(flaw));
+        std::printf("%s\n", qPrintable(path));
+        flawless &= sheet.save(path) && sheet.flaws.isEmpty();
+    }
+    return flawless;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir home;
+    const char *const scale = argc > 2 ? argv[2] : "1";
+    prepareScreen(home, scale);
     QApplication app(argc, argv);
     app.setStyle(QStringLiteral("Fusion"));
     const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("out");
     QDir().mkpath(folder);
-    const QPalette light = app.palette();
-    std::vector<tests::Scene> scenes = selectionScenes();
-    for (tests::Scene &scene : tests::valueScenes()) scenes.push_back(std::move(scene));
-    for (const auto &[language, suffix] :
-         {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}}) {
+    const auto doc = sample();
+    bool flawless = true;
+    for (const auto &[language, name] :
+         {std::pair(Hungarian, "hu"), {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}})
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
-            app.setPalette(dark ? darkPalette() : light);
-            for (const tests::Scene &scene : scenes) {
-                const QString path = QStringLiteral("%1/%2-%3-%4.png")
-                                         .arg(folder, QLatin1String(scene.name), QLatin1String(suffix),
-                                              dark ? QStringLiteral("dark") : QStringLiteral("light"));
-                QTimer::singleShot(0, &app, [&] { // after what the scene does to its open box
-                    QTimer::singleShot(0, &app, [&] { saveModalWindow(path); });
-                });
-                scene.open();
-            }
+            app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
+            flawless &= takeSheets(
+                *doc, folder,
+                QStringLiteral("-%1-%2-x%3.png").arg(QLatin1String(name), dark ? "dark" : "light", scale));
         }
-    }
-    return 0;
+    return flawless ? 0 : 1;
 }

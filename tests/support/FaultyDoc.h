@@ -143,7 +143,7 @@ struct FaultyExtras final : ZolWDoc::LayerFileRole, ZolWDoc::LayerElementsRole {
 };
 
 /// A real document whose calls are logged and fail on demand.
-class FaultyDoc final : public ZolWDoc::ZOLW_Doc {
+class FaultyDoc : public ZolWDoc::ZOLW_Doc {
 public:
     explicit FaultyDoc(ZolWDoc::ZOLW_Doc &real) : m_real(real) {}
     CallLog log;

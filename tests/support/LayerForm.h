@@ -4,7 +4,7 @@
 #include "kit/grid/Grid.h"
 
 #include <QTest>
-#include <QTreeView>
+#include <QAbstractItemView>
 
 #include <cstring>
 
@@ -61,7 +61,21 @@ struct LayerForm {
         for (int r = 0; r < grid.table()->model()->rowCount(); ++r) out << cell(r, 0).toString();
         return out.join(u' ');
     }
-    QString chosenGroup() const { return groups.table()->currentIndex().siblingAtColumn(0).data().toString(); }
+    /// Every group as it shows itself when it is chosen: "RENDSZER: 1 2 | Utak: 2".
+    QString groupsListed()
+    {
+        QStringList out;
+        for (int r = 1; r < groups.table()->model()->rowCount(); ++r) {
+            groups.setCurrentRow(r);
+            out << chosenGroup() + u':' + (listed().isEmpty() ? QString() : u' ' + listed());
+        }
+        groups.setCurrentRow(0);
+        return out.join(QStringLiteral(" | "));
+    }
+    QString chosenGroup() const
+    {
+        return groups.table()->currentIndex().siblingAtColumn(0).data().toString();
+    }
     void chooseGroup(const QString &name)
     {
         for (int r = 0; r < groups.table()->model()->rowCount(); ++r)

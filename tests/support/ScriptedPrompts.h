@@ -24,9 +24,12 @@ public:
     ScriptedPrompts(std::vector<Step> steps = {});
     ~ScriptedPrompts() override;
     int asked() const { return m_next; }
+    int alerts() const { return m_alerts; }     ///< how often the sound was heard
 
+    void alert() override { ++m_alerts; }
     void tell(const QV_DOC_CONTROLS::Message &, QObject *) override;
-    void show(const QV_DOC_CONTROLS::Report &, QObject *) override; ///< expects text and lines, joined by '\n'
+    void show(const QV_DOC_CONTROLS::Report &,
+              QObject *) override; ///< expects text and lines, joined by '\n'
     bool yesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     QV_DOC_CONTROLS::AllYesNo allYesNo(const QV_DOC_CONTROLS::Message &, QObject *) override;
     std::optional<bool> yesNoCancel(const QV_DOC_CONTROLS::Message &, QObject *) override;
@@ -44,7 +47,7 @@ public:
 private:
     QVariant next(const char *kind, const QString &title, const QString &text, QV_DOC_CONTROLS::Icon icon);
     std::vector<Step> m_steps;
-    int m_next = 0;
+    int m_next = 0, m_alerts = 0;
     QV_DOC_CONTROLS::Prompts *m_before;
 };
 

@@ -4,7 +4,7 @@
 
 namespace tests {
 
-/// A user who says yes to everything and types the same numbers and text every time.
+/// A user who says yes to everything, takes the last of several things and always types the same.
 struct WillingPrompts : QV_DOC_CONTROLS::Prompts {
     std::vector<double> typed = {1000};
     QString written = QStringLiteral("X");
@@ -20,7 +20,10 @@ struct WillingPrompts : QV_DOC_CONTROLS::Prompts {
         return QV_DOC_CONTROLS::AllYesNo::Yes;
     }
     std::optional<bool> yesNoCancel(const QV_DOC_CONTROLS::Message &, QObject *) override { return false; }
-    std::optional<int> choose(const QV_DOC_CONTROLS::Choice &, QObject *) override { return 0; }
+    std::optional<int> choose(const QV_DOC_CONTROLS::Choice &c, QObject *) override
+    {
+        return int(c.items.size()) - 1;
+    }
     std::optional<QString> text(const QV_DOC_CONTROLS::TextQuestion &, QObject *) override { return written; }
     std::optional<std::vector<double>> numbers(const QV_DOC_CONTROLS::NumberQuestion &q, QObject *) override
     {

@@ -85,7 +85,7 @@ private slots:
         QTest::addColumn<QStringList>("options");   // as captioned; none = a list
         QTest::newRow("two") << kTwo << QStringList{"&sorszám alapján", "&név alapján"};
         QTest::newRow("three, names with signs") << QStringList{"A & B", "A", "<b>C</b>"}
-                                                 << QStringList{"&A && B", "A", "<&b>C</b>"};
+                                                 << QStringList{"A && &B", "&A", "<b>&C</b>"};
         QTest::newRow("two, one too long for a button")
             << QStringList{"A", QString(71, u'x')} << QStringList();
         QTest::newRow("four") << kFour << QStringList();

@@ -6,6 +6,7 @@
 #include "support/Typing.h"
 
 #include <QAccessible>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -88,7 +89,7 @@ private slots:
         const auto watch = whileModal<ColorBox>([&](ColorBox &box) {
             QCOMPARE(box.focusWidget(), &gridOf(box));
             QTest::keyClick(box.focusWidget(), Qt::Key(key), control ? Qt::ControlModifier : Qt::NoModifier);
-            QCOMPARE(child<QLineEdit>(box, "txtNumber").text(), QString::number(to));
+            QCOMPARE(child<QComboBox>(box, "txtCombo").currentText(), QString::number(to));
             QCOMPARE(child<QLabel>(box, "lblRgb").text(), QStringLiteral("RGB 0, %1, 64").arg(to));
             type(box, QStringLiteral("\r"));
         });
@@ -133,7 +134,7 @@ private slots:
     void anIndexOutsideThePaletteIsShownAndRefused()
     {
         const auto watch = whileModal<ColorBox>([](ColorBox &box) {
-            QCOMPARE(child<QLineEdit>(box, "txtNumber").text(), QStringLiteral("20"));
+            QCOMPARE(child<QComboBox>(box, "txtCombo").currentText(), QStringLiteral("20"));
             QCOMPARE(gridOf(box).current(), -1);
             QCOMPARE(child<QLabel>(box, "lblRgb").text(), QString());
             type(box, QStringLiteral("\r"));

@@ -49,7 +49,7 @@ Act typed(const char *keys)
 
 QLineEdit &line(NumberBox &box, int field)
 {
-    return *box.findChildren<QLineEdit *>(QStringLiteral("txtNumber")).at(field);
+    return *box.findChildren<QComboBox *>(QStringLiteral("txtCombo")).at(field)->lineEdit();
 }
 
 } // namespace
@@ -100,7 +100,7 @@ private slots:
             QVERIFY(!line(box, 1).actions().first()->isVisible());
             child<QPushButton>(box, "cmdOk").click();
             QVERIFY(box.isVisible());
-            QCOMPARE(box.focusWidget(), &line(box, 0));
+            QCOMPARE(box.focusWidget(), line(box, 0).parentWidget());
             QCOMPARE(line(box, 0).selectedText(), QStringLiteral("70000"));
             QCOMPARE(line(box, 1).text(), QStringLiteral("2"));
             type(box, QStringLiteral("7"));
@@ -126,7 +126,7 @@ private slots:
         QTest::newRow("with its unit") << typed("2.75 mm\r") << Answer({2.75});
         QTest::newRow("the beginning of one") << typed("3\r") << Answer({3});
         QTest::newRow("the wheel over it changes nothing") << Act([](NumberBox &box) {
-            auto &list = child<QComboBox>(box, "cboItems");
+            auto &list = child<QComboBox>(box, "txtCombo");
             child<QPushButton>(box, "cmdOk").setFocus();
             QWheelEvent wheel(QPointF(3, 3), list.mapToGlobal(QPointF(3, 3)), {}, {0, -120}, {}, {},
                               Qt::NoScrollPhase, false);

@@ -81,7 +81,7 @@ private slots:
         if (answer == QStringLiteral("9 %1"))
             steps.push_back({"tell", "ZOL", "Nincs 9 %1 érték!", {}, Icon::Information});
         ScriptedPrompts user(steps);
-        findInColumn(grid, streets, 1, ErrorRelay());
+        findInColumn(grid, 1, ErrorRelay());
         QCOMPARE(grid.currentRow(), row);
     }
 };

@@ -5,19 +5,15 @@
 #include "dialogs/viewtools/frmSort.h"
 #include "facade/services/Language.h"
 #include "facade/services/Text.h"
-#include "kit/forms/AccessKeys.h"
 #include "kit/tools/Icons.h"
 #include "kit/tools/ToolSet.h"
+#include "support/Looks.h"
 #include "support/Modal.h"
 #include "support/PlainGrid.h"
 #include "support/Registry.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QComboBox>
 #include <QDir>
-#include <QGroupBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPainter>
@@ -26,6 +22,7 @@
 #include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
+using tests::darkPalette;
 using tests::PlainGrid;
 using tests::whileModal;
 
@@ -34,54 +31,12 @@ namespace {
 constexpr std::pair<int, const char *> kLanguages[] = {
     {Hungarian, "hu"}, {Romanian, "ro"}, {Vietnamese, "vi"}, {English, "en"}};
 
-QPalette darkPalette()
-{
-    QPalette p(QColor(0x2d, 0x2f, 0x33));
-    p.setColor(QPalette::Base, QColor(0x1e, 0x20, 0x23));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        p.setColor(QPalette::Disabled, role, QColor(0x85, 0x88, 0x8c));
-    p.setColor(QPalette::Highlight, QColor(0x3d, 0x7a, 0xc2));
-    return p;
-}
-
 /// Pictures for the eye go where QVDC_PICTURES says; without it none are kept.
 void keepPicture(const QPixmap &picture, const QString &name)
 {
     const QString folder = qEnvironmentVariable("QVDC_PICTURES");
     if (!folder.isEmpty() && QDir().mkpath(folder))
         QVERIFY(picture.save(folder + u'/' + name + QStringLiteral(".png")));
-}
-
-QString captionOf(const QWidget &w)
-{
-    if (const auto *b = qobject_cast<const QAbstractButton *>(&w)) return b->text();
-    if (const auto *g = qobject_cast<const QGroupBox *>(&w)) return g->title();
-    const auto *l = qobject_cast<const QLabel *>(&w);
-    return l ? l->text() : QString();
-}
-
-/// Everything with a caption has room for it, and no two access keys are the same.
-void lookAt(const QDialog &d)
-{
-    QString keys;
-    for (const QWidget *w : d.findChildren<QWidget *>()) {
-        if (!w->isVisible()) continue;
-        const QString caption = captionOf(*w);
-        const auto *label = qobject_cast<const QLabel *>(w);
-        if (!caption.isEmpty() && !(label && label->wordWrap()))
-            QVERIFY2(w->width() >= w->minimumSizeHint().width()
-                         && w->height() >= w->minimumSizeHint().height(),
-                     qPrintable(d.objectName() + u' ' + caption));
-        if (label && label->wordWrap())
-            QVERIFY2(label->heightForWidth(label->width()) <= label->height(), qPrintable(caption));
-        if (const auto *list = qobject_cast<const QComboBox *>(w))
-            QVERIFY2(list->width() >= list->sizeHint().width(),
-                     qPrintable(d.objectName() + u' ' + list->objectName()));
-        const QChar key = accessKeyOf(caption);
-        if (key.isNull()) continue;
-        QVERIFY2(!keys.contains(key), qPrintable(d.objectName() + u' ' + caption));
-        keys += key;
-    }
 }
 
 struct Names final : EntrySource {
@@ -113,7 +68,7 @@ private slots:
         const QPalette before = QApplication::palette();
         QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
         const auto look = [](QDialog &d) {
-            lookAt(d);
+            QCOMPARE(tests::flawsOf(d), QStringList());
             keepPicture(d.grab(), d.objectName() + u'-' + QLatin1String(QTest::currentDataTag()));
             d.reject();
         };
@@ -149,7 +104,8 @@ private slots:
                 if (const QAction *tool = tools.tool(row.name); tool && !tool->menu()) tools.on(row.name, {});
             tools.setChecked("miView_Table", true);
             tools.tool("miExpandAll")->setEnabled(false);
-            keepPicture(tools.toolBar("mnuBar", {21801, u"Eszköztár"})->grab(), QStringLiteral("bar-") + QLatin1String(name));
+            keepPicture(tools.toolBar("mnuBar", {21801, u"Eszköztár"})->grab(),
+                        QStringLiteral("bar-") + QLatin1String(name));
             QMenu &menu = *tools.popUp("bndPopUp_View");
             menu.adjustSize();
             keepPicture(menu.grab(), QStringLiteral("menu-") + QLatin1String(name));

@@ -109,7 +109,9 @@ void GridPage::connectTools()
 void GridPage::connectGrids()
 {
     connect(gridItems, &Grid::contextMenuAsked, this, [this](int row, int column, QPoint where) {
-        const char *const menu = row >= 0 ? m_kind.tools.rowMenu : column < 0 ? m_kind.tools.tableMenu : nullptr;
+        const char *const menu = row >= 0     ? m_kind.tools.rowMenu
+                                 : column < 0 ? m_kind.tools.tableMenu
+                                              : nullptr;
         popUp(menu ? menu : "bndPopUp_View", column, where);
     });
     connect(gridGroups, &Grid::contextMenuAsked, this, [this](int, int, QPoint where) {
@@ -155,7 +157,7 @@ void GridPage::find()
                        : current.isValid() ? current.column()
                        : shown.empty()     ? -1
                                            : shown[0];
-    if (column >= 0 && m_manager) findInColumn(*gridItems, m_manager->source(), column, m_relay);
+    if (m_manager) findInColumn(*gridItems, column, m_relay);
 }
 
 void GridPage::print()

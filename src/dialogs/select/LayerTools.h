@@ -5,8 +5,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// The pop-ups of the layer table: "bndPopUp_LaysSelected" over selected rows, "bndPopUp_Table" over the empty
-/// part of the grid, "bndGroups" over a group, "mnuLayGroups" with all that there is for groups and
+/// The pop-ups of the layer table: "bndPopUp_LaysSelected" over selected rows, "bndPopUp_Table" over the
+/// empty part of the grid, "bndGroups" over a group, "mnuLayGroups" with all that there is for groups and
 /// "bndGroups2" with what selected layers have to do with them. Names are published, but for the menus'
 /// "mnu...".
 inline constexpr Tool kLayerTools[] = {
@@ -103,6 +103,7 @@ inline constexpr Tool kLayerSelectTools[] = {
     {"mnuBar", "miLayer", {3219, u"Réteg"}, "layer", "", Check::No, "bndPopUp_LaysSelected"},
     {"mnuBar", "miShowGroups", {20166, u"Csoportok megjelenítése"}, "showGroups"},
     {"mnuBar", "miHideGroups", {20167, u"Csoportok elrejtése"}, "hideGroups"},
+    {"mnuBar", "miSave2File", {21841, u"Rétegek mentése..."}, "save"},
 };
 
 /// On the menu bar and the tool bar of the setup dialog.
@@ -147,7 +148,12 @@ inline constexpr AllDocumentsPart kAllDocumentsParts[] = {
 };
 inline constexpr Tool kAllDocumentsTools[] = {
     {"bndPopup_AllDocMode", "miAllDocMode_LayVisible", {3306, u"Láthatóság"}, "", "", Check::Toggle},
-    {"bndPopup_AllDocMode", "miAllDocMode_ElByLayer", {3304, u"Vonalak réteg szerint"}, "", "", Check::Toggle},
+    {"bndPopup_AllDocMode",
+     "miAllDocMode_ElByLayer",
+     {3304, u"Vonalak réteg szerint"},
+     "",
+     "",
+     Check::Toggle},
     {"bndPopup_AllDocMode",
      "miAllDocMode_TxByLayer",
      {3302, u"Felirat/jelkulcs réteg szerint"},

@@ -9,7 +9,7 @@ namespace QV_DOC_CONTROLS {
 /// What a kind offers beside the tools of every grid.
 struct KindTools {
     std::span<const Tool> common;               ///< its pop-ups, the same in both dialogs
-    std::span<const Tool> select, setup;        ///< what stands on the bars of the one and of the other dialog
+    std::span<const Tool> select, setup; ///< what stands on the bars of the one and of the other dialog
     const char *rowMenu = nullptr;              ///< over selected rows; null = the view menu
     const char *tableMenu = nullptr;            ///< over the empty part of the grid; null = the view menu
     const char *groupMenu = nullptr;            ///< over the group list; null = none

@@ -1,6 +1,7 @@
 #include "dialogs/select/frmSelect.h"
 
 #include "dialogs/select/InvisibleLayer.h"
+#include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/layer/LayerCommands.h"
 #include "kit/forms/Buttons.h"
@@ -111,8 +112,7 @@ void frmSelect::jsLayer_CurrentChanced(tLay &lay)
     m_page->ab1->refresh();
 }
 
-void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) {
-} // what can be done now, the page asks the grid itself
+void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 

@@ -11,8 +11,8 @@ namespace QV_DOC_CONTROLS {
 
 class clsJs_Layer;
 
-/// The modal dialog in which the user picks one resource of a document, or several layers. Made anew for every
-/// call; the caller's record is written only when the user confirmed, but what was edited on the way is
+/// The modal dialog in which the user picks one resource of a document, or several layers. Made anew for
+/// every call; the caller's record is written only when the user confirmed, but what was edited on the way is
 /// written at once and stays. An error of the host closes the dialog and reaches the caller.
 class frmSelect final : public QDialog {
     Q_OBJECT

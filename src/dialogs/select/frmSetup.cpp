@@ -37,7 +37,8 @@ QLabel *labelIn(QWidget *owner, const char *name)
 
 } // namespace
 
-const frmSetup::Opener frmSetup::kOpeners[kKinds] = {&frmSetup::openLayers}; // null = there is no such page yet
+const frmSetup::Opener frmSetup::kOpeners[kKinds] = {
+    &frmSetup::openLayers}; // null = there is no such page yet
 
 frmSetup::frmSetup()
     : cmdOkAllDocument(new QPushButton(this)), m_tools(new ToolSet(tools(), m_relay, this)),
@@ -117,14 +118,16 @@ void frmSetup::TearDown()
 void frmSetup::ml_RuntimeSupport_LanguageChanged()
 {
     const QString title = txt(Text{21800, u"Rajzbeállítás"});
-    setWindowTitle(m_page < 0 ? title : title + QStringLiteral(" –") + txt(kResourceKinds[m_page].pageCaption));
+    setWindowTitle(m_page < 0 ? title
+                              : title + QStringLiteral(" –") + txt(kResourceKinds[m_page].pageCaption));
     m_hint->setText(txt(Text{21804, u"Válasszon táblát a felső sorban!"}));
     m_parts->setText(txt(Text{21808, u"Átvitt tulajdonságok"}));
     cmdOkAllDocument->setText(txt(Text{21807, u"OK minden rajzban"}));
     cmdOkAllDocument->setToolTip(
         txt(Text{21809, u"Átviszi a rétegek kiválasztott tulajdonságait a többi nyitott rajz azonos sorszámú "
                         u"rétegeire"}));
-    m_current->setToolTip(txt(Text{21813, u"Aktuális réteg választása: dupla kattintás vagy Ctrl+Enter a során"}));
+    m_current->setToolTip(
+        txt(Text{21813, u"Aktuális réteg választása: dupla kattintás vagy Ctrl+Enter a során"}));
     retranslate(*m_buttons);
     m_tools->retranslate();
     for (GridPage *page : m_pages)
@@ -175,6 +178,8 @@ void frmSetup::openLayers(GridPage &page)
     connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSetup::jsLayer_GroupChanged);
     connect(jsLayer, &clsJs_Layer::GridView, this, &frmSetup::jsLayer_GridView);
     connect(jsLayer, &clsJs_Layer::currentLayerMoved, this, &frmSetup::showCurrentLayer);
+    connect(jsLayer, &clsJs_Layer::currentLayerMoved, page.ab1, &ToolSet::refresh);
+    connect(jsLayer, &clsJs_Layer::SelectedChanched, page.ab1, &ToolSet::refresh);
     const auto makes = [this] { makeCurrent(); };
     page.ab1->on("cmdLays_MakeCurrent", {makes, [this] { return canMakeCurrent(); }, {}, jsLayer});
     page.gridItems->setEditStart(Grid::EditStart::SecondClick); // a double click makes current

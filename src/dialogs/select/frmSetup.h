@@ -21,7 +21,8 @@ class clsJs_Layer;
 /// every call. Every edit is written at once and stays, also when the user cancels. An error of the host
 /// closes the dialog and reaches the caller.
 ///
-/// A layer becomes the document's current one by a double click or Ctrl+Enter on its row, and by nothing else.
+/// A layer becomes the document's current one by a double click or Ctrl+Enter on its row, and by nothing
+/// else.
 class frmSetup final : public QDialog {
     Q_OBJECT
 public:

@@ -1,92 +1,102 @@
 #include "dialogs/values/NumberEntry.h"
 
-#include "dialogs/values/DropDown.h"
+#include "controls/usInputBox.h"
 #include "dialogs/values/NumberText.h"
+#include "facade/services/InterfaceLocale.h"
+#include "kit/forms/Twips.h"
+#include "kit/forms/WindowSize.h"
 
-#include <QAction>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace QV_DOC_CONTROLS {
 
 NumberEntry::NumberEntry(const NumberField &field, QWidget *parent)
-    : QWidget(parent), m_field(field), m_hint(new QLabel(this)), m_sign(new QAction(this))
+    : QWidget(parent), m_field(field), m_box(new usInputBox(this)), m_hint(new QLabel(this))
 {
-    QWidget *const box = makeLine();
-    setFocusProxy(box);
-    m_line->setObjectName(QStringLiteral("txtNumber"));
-    m_sign->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    m_line->addAction(m_sign, QLineEdit::TrailingPosition);
+    setFocusProxy(m_box->txtCombo);
     m_hint->setObjectName(QStringLiteral("lblHint"));
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     m_hint->setMinimumHeight(2 * fontMetrics().lineSpacing()); // nothing moves when it refuses
-    auto *const row = new QHBoxLayout;
-    row->addWidget(box, 1);
-    if (!field.unit.isEmpty()) row->addWidget(new QLabel(field.unit, this));
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addLayout(row);
+    column->addWidget(m_box);
     column->addWidget(m_hint, 1);
+    fill();
     setNumber(field.preset);
-    connect(m_line, &QLineEdit::textChanged, this, [this] {
-        showRefusal();
+    connect(m_box, &usInputBox::TextChecked, this, [this](QString &refusal) {
+        refusal = refusalFor(m_box->txtCombo->currentText(), m_field);
+        m_hint->setText(refusal.isEmpty() ? allowedIn(m_field) : refusal);
         emit changed();
     });
-    showRefusal();
+    connect(m_box, &usInputBox::Change, this, [this] {
+        showHint();
+        emit changed();
+    });
+    m_box->txtCombo->installEventFilter(this);
+    showHint();
 }
 
-QWidget *NumberEntry::makeLine()
+void NumberEntry::fill()
 {
-    if (m_field.presets.empty()) return m_line = new QLineEdit(this);
-    QStringList items;
-    for (const double preset : m_field.presets) items << textOf(preset, m_field.decimals);
-    QComboBox *const list = dropDown(items, textOf(m_field.preset, m_field.decimals), this);
-    m_line = list->lineEdit();
-    return list;
+    m_box->setLocale(interfaceLocale());
+    m_box->setReadsLocale(true);
+    m_box->setErrorsInPlace(true);
+    m_box->setInputType(m_field.decimals > 0 ? 3 : 0);
+    m_box->setFormatString(patternOf(m_field.decimals));
+    m_box->setWidthBeforeString(0);
+    m_box->setWidthValue(twipsOf(sizeOfLetters(*this, 16, 0).width(), *this));
+    m_box->setAfterString(m_field.unit);
+    if (m_field.unit.isEmpty()) m_box->setWidthAfterString(0);
+    m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_box->LetValue(std::clamp(m_field.preset, m_field.min, m_field.max), m_field.min, m_field.max);
+    for (const double preset : m_field.presets) m_box->ComboValue(preset);
 }
 
-std::optional<double> NumberEntry::number() const
-{
-    const bool refused = !refusalFor(m_line->text(), m_field).isEmpty();
-    return refused ? std::nullopt : numberOf(m_line->text(), m_field.unit);
-}
+std::optional<double> NumberEntry::number() const { return m_box->acceptableNumber(); }
 
+/// A number that cannot be taken is shown all the same, as if it was typed.
 void NumberEntry::setNumber(double number)
 {
-    m_line->setText(textOf(number, m_field.decimals));
-    m_line->selectAll();
+    QLineEdit &line = *m_box->txtCombo->lineEdit();
+    if (number >= m_field.min && number <= m_field.max) m_box->LetValue(number);
+    else line.setText(textOf(number, m_field.decimals));
+    line.selectAll();
 }
 
 void NumberEntry::type(const QString &digits)
 {
     takeFocus();
-    m_line->insert(digits);
+    m_box->txtCombo->lineEdit()->insert(digits);
 }
 
 void NumberEntry::takeFocus()
 {
     focusProxy()->setFocus();
-    m_line->selectAll();
+    m_box->txtCombo->lineEdit()->selectAll();
 }
 
-void NumberEntry::setCaption(const QString &spoken)
+void NumberEntry::setCaption(const QString &spoken) { m_box->setBeforeString(spoken); }
+
+void NumberEntry::showHint()
 {
-    focusProxy()->setAccessibleName(spoken);
-    m_line->setAccessibleName(spoken);
+    const QString refusal = number() ? QString() : refusalFor(m_box->txtCombo->currentText(), m_field);
+    m_hint->setText(refusal.isEmpty() ? allowedIn(m_field) : refusal);
 }
 
-void NumberEntry::showRefusal()
+bool NumberEntry::eventFilter(QObject *watched, QEvent *event)
 {
-    const QString refusal = refusalFor(m_line->text(), m_field);
-    const QString hint = refusal.isEmpty() ? allowedIn(m_field) : refusal;
-    m_hint->setText(hint);
-    m_line->setAccessibleDescription(hint);
-    m_sign->setVisible(!refusal.isEmpty());
-    m_sign->setToolTip(refusal);
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) return event->ignore(), true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 NumberEntry *makeNumberEntry(const NumberField &field, QWidget *parent)

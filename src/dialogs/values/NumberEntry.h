@@ -4,14 +4,14 @@
 
 #include <QWidget>
 
-class QAction;
 class QLabel;
-class QLineEdit;
 
 namespace QV_DOC_CONTROLS {
 
-/// A number being typed: the line, its drop-down of presets, its unit and, below, what is allowed and why the
-/// text cannot be taken. What is typed stays as it is until the user changes it.
+class usInputBox;
+
+/// A number being typed: the input box with its presets and unit and, below, what is allowed and why the text
+/// cannot be taken. What is typed stays as it is until the user changes it. Enter is the dialog's.
 class NumberEntry final : public QWidget {
     Q_OBJECT
 public:
@@ -25,13 +25,15 @@ public:
 signals:
     void changed();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
-    QWidget *makeLine();
-    void showRefusal();
+    void fill();
+    void showHint();
     NumberField m_field;
-    QLineEdit *m_line = nullptr;
+    usInputBox *m_box;
     QLabel *m_hint;
-    QAction *m_sign;
 };
 
 /// The field that a number is typed into, wherever a prompt asks for one. The parent's own.

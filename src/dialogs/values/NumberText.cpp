@@ -2,22 +2,15 @@
 
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Text.h"
-
-#include <QRegularExpression>
+#include "rules/NumberFormat.h"
+#include "rules/NumberText.h"
 
 #include <cmath>
 
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr QChar kMinus(0x2212), kHardBlank(0xa0);
-
-/// Without the blanks that set off groups of three digits, with a plain minus.
-QString bare(QString text)
-{
-    static const QRegularExpression gap(QStringLiteral("(?<=\\d)[ \u00a0\u202f\u2009](?=\\d{3}(?!\\d))"));
-    return text.remove(gap).replace(kMinus, u'-');
-}
+constexpr QChar kHardBlank(0xa0);
 
 bool isWhole(double number, int decimals)
 {
@@ -36,30 +29,14 @@ QString reasonFor(double number, const NumberField &field)
 
 } // namespace
 
-QString textOf(double number, int decimals)
+QString patternOf(int decimals)
 {
-    QLocale locale = interfaceLocale();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    QString text = locale.toString(number, 'f', decimals);
-    if (!text.contains(locale.decimalPoint())) return text;
-    while (text.endsWith(locale.zeroDigit())) text.chop(1);
-    if (text.endsWith(locale.decimalPoint())) text.chop(locale.decimalPoint().size());
-    return text;
+    return decimals > 0 ? QStringLiteral("0.") + QString(decimals, u'#') : QStringLiteral("0");
 }
 
-std::optional<double> numberOf(QString text, const QString &unit)
+QString textOf(double number, int decimals)
 {
-    static const QRegularExpression shape(QStringLiteral("^[+-]?[\\d.,]*\\d[.,]?$"));
-    text = text.trimmed();
-    if (!unit.isEmpty() && text.endsWith(unit, Qt::CaseInsensitive))
-        text = text.chopped(unit.size()).trimmed();
-    text = bare(text);
-    if (!shape.match(text).hasMatch()) return {};
-    const QLocale locale = interfaceLocale();
-    bool read = false;
-    double number = locale.toDouble(text, &read);
-    if (!read) number = QLocale::c().toDouble(text.replace(u',', u'.'), &read);
-    return read ? std::optional(number) : std::nullopt;
+    return formatted(number, patternOf(decimals), interfaceLocale());
 }
 
 QString allowedIn(const NumberField &field)
@@ -71,7 +48,8 @@ QString allowedIn(const NumberField &field)
 
 QString refusalFor(const QString &text, const NumberField &field)
 {
-    const auto number = numberOf(text, field.unit);
+    const QString pattern = patternOf(field.decimals) + u'"' + field.unit + u'"';
+    const auto number = numberMeant(text, pattern, interfaceLocale());
     const QString reason = number ? reasonFor(*number, field) : txt(Text{21600, u"Írj be egy számot!"});
     return reason.isEmpty() ? QString() : reason + u'\n' + allowedIn(field);
 }

@@ -19,9 +19,10 @@
 #include <QLabel>
 #include <QPrinter>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSpinBox>
 #include <QStandardPaths>
+#include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace QV_DOC_CONTROLS {
@@ -31,11 +32,23 @@ constexpr Text kCaption{3133, u"Nyomtatási kép"};
 const QString kForm = QStringLiteral("frmPreview");
 constexpr QSize kUsualLetters(130, 50); ///< a page in it can be recognised
 
+constexpr Tool kPreviewTools[] = {
+    {"barPreview", "cmdPrint", {3346, u"Nyomtatás"}, "print", "Ctrl+P"},
+    {"barPreview", "cmdSavePdf", {21400, u"Mentés PDF-be…"}, "savePdf", "Ctrl+S"},
+    {"barPreview", "cmdPageSetup", {3345, u"Oldalbeállítás"}, "pageSetup"},
+    {"barPreview", kToolLine},
+    {"barPreview", "cmdPrevious", {21401, u"Előző oldal"}, "pagePrevious"},
+    {"barPreview", "cmdNext", {21402, u"Következő oldal"}, "pageNext"},
+    {"barPreview", kToolLine},
+};
+
 } // namespace
 
 frmPreview::frmPreview()
-    : grPrev(new SheetPreview(this)), m_pageLabel(new QLabel(this)), m_zoomLabel(new QLabel(this)),
-      m_note(new QLabel(this)), m_page(new QSpinBox(this)), m_zoom(new QComboBox(this))
+    : grPrev(new SheetPreview(this)), m_tools(kPreviewTools, ErrorRelay::reporting(), this),
+      m_bar(m_tools.toolBar("barPreview", {21350, u"Az előnézet eszközei"})), m_pageLabel(new QLabel(this)),
+      m_zoomLabel(new QLabel(this)), m_note(new QLabel(this)), m_page(new QSpinBox(this)),
+      m_zoom(new QComboBox(this)), m_close(new QPushButton(this))
 {
     setObjectName(kForm);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -43,6 +56,7 @@ frmPreview::frmPreview()
     m_page->setObjectName(QStringLiteral("spinPage"));
     m_zoom->setObjectName(QStringLiteral("cboZoom"));
     m_note->setObjectName(QStringLiteral("lblNote"));
+    m_close->setObjectName(QStringLiteral("cmdClose"));
     build();
     connectAll();
     retranslate();
@@ -58,45 +72,39 @@ void frmPreview::TearDown()
     m_titles = {};
 }
 
-QPushButton *frmPreview::add(const char *name, Text caption, void (frmPreview::*run)())
+/// Pages and zoom stand among the tools; the arrows beside the page need no words.
+void frmPreview::buildBar()
 {
-    auto *const button = new QPushButton(this);
-    button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
-    m_commands.push_back({button, caption});
-    connect(button, &QPushButton::clicked, this, run);
-    return button;
+    m_bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const char *name : {"cmdPrevious", "cmdNext"})
+        if (auto *const arrow = qobject_cast<QToolButton *>(m_bar->widgetForAction(m_tools.tool(name))))
+            arrow->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const int gap = fontMetrics().horizontalAdvance(u' ');
+    for (QLabel *label : {m_pageLabel, m_zoomLabel}) label->setContentsMargins(gap, 0, gap, 0);
+    m_bar->insertWidget(m_tools.tool("cmdNext"), m_pageLabel);
+    m_bar->insertWidget(m_tools.tool("cmdNext"), m_page);
+    m_bar->addWidget(m_zoomLabel);
+    m_bar->addWidget(m_zoom);
 }
 
 void frmPreview::build()
 {
-    QPushButton *const previous = add("cmdPrevious", {21401, u"Előző oldal"}, &frmPreview::previousPage);
-    QPushButton *const next = add("cmdNext", {21402, u"Következő oldal"}, &frmPreview::nextPage);
-    QPushButton *const setup = add("cmdPageSetup", {3345, u"Oldalbeállítás"}, &frmPreview::pageSetup);
-    QPushButton *const pdf = add("cmdSavePdf", {21400, u"Mentés PDF-be…"}, &frmPreview::askPdf);
-    QPushButton *const printing = add("cmdPrint", {3346, u"Nyomtatás"}, &frmPreview::print);
-    QPushButton *const closing = add("cmdClose", {3344, u"Bezárás"}, &frmPreview::reject);
-    printing->setDefault(true);
+    buildBar();
+    m_close->setDefault(true);
     m_page->installEventFilter(this);
     m_pageLabel->setBuddy(m_page);
     m_zoomLabel->setBuddy(m_zoom);
+    m_zoom->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_note->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     for (QWidget *box : {static_cast<QWidget *>(m_page), static_cast<QWidget *>(m_zoom)}) quietWheel(*box);
-
-    auto *const looking = new QHBoxLayout;
-    for (QWidget *w : {static_cast<QWidget *>(previous), static_cast<QWidget *>(next),
-                       static_cast<QWidget *>(m_pageLabel), static_cast<QWidget *>(m_page),
-                       static_cast<QWidget *>(m_zoomLabel), static_cast<QWidget *>(m_zoom)})
-        looking->addWidget(w);
-    looking->addStretch();
-    auto *const doing = new QHBoxLayout;
-    doing->addWidget(m_note, 1);
-    for (QWidget *w : {setup, pdf, printing, closing}) doing->addWidget(w);
+    auto *const below = new QHBoxLayout;
+    below->addWidget(m_note, 1);
+    below->addWidget(m_close);
     auto *const column = new QVBoxLayout(this);
-    column->addLayout(looking);
+    column->addWidget(m_bar);
     column->addWidget(grPrev, 1);
-    column->addLayout(doing);
+    column->addLayout(below);
 }
 
 void frmPreview::connectAll()
@@ -107,11 +115,15 @@ void frmPreview::connectAll()
     connect(m_page, &QSpinBox::valueChanged, this, [this](int page) { grPrev->goToPage(page - 1); });
     connect(m_zoom, &QComboBox::activated, this,
             [this] { grPrev->setZoom(m_zoom->currentData().toDouble()); });
-    const auto key = [this](QKeySequence keys, void (frmPreview::*run)()) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, run);
+    static constexpr ToolCommand<frmPreview> kCommands[] = {
+        {"cmdPrint", &frmPreview::print},
+        {"cmdSavePdf", &frmPreview::askPdf},
+        {"cmdPageSetup", &frmPreview::pageSetup},
+        {"cmdPrevious", &frmPreview::previousPage, &frmPreview::hasPreviousPage},
+        {"cmdNext", &frmPreview::nextPage, &frmPreview::hasNextPage},
     };
-    key(QKeySequence::Print, &frmPreview::print);
-    key(QKeySequence::Save, &frmPreview::askPdf);
+    m_tools.connectTools(*this, kCommands);
+    connect(m_close, &QPushButton::clicked, this, &frmPreview::reject);
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &frmPreview::ml_RuntimeSupport_LanguageChanged);
 }
@@ -129,7 +141,8 @@ void frmPreview::fillZooms()
 void frmPreview::retranslate()
 {
     setWindowTitle(txt(kCaption));
-    for (const Command &c : m_commands) c.button->setText(txt(c.caption));
+    m_tools.retranslate();
+    m_close->setText(txt(Text{3344, u"Bezárás"}));
     m_pageLabel->setText(txt(Text{21403, u"Oldal:"}));
     m_zoomLabel->setText(txt(Text{21406, u"Nagyítás:"}));
     grPrev->setAccessibleName(txt(kCaption));
@@ -176,11 +189,7 @@ void frmPreview::followPage(int page)
 {
     const QSignalBlocker quiet(m_page);
     m_page->setValue(page + 1);
-    for (const Command &c : m_commands) {
-        if (c.button->objectName() == QLatin1String("cmdPrevious")) c.button->setEnabled(page > 0);
-        if (c.button->objectName() == QLatin1String("cmdNext"))
-            c.button->setEnabled(page + 1 < grPrev->pageCount());
-    }
+    m_tools.refresh();
 }
 
 void frmPreview::keyPressEvent(QKeyEvent *event)
@@ -202,6 +211,8 @@ bool frmPreview::eventFilter(QObject *watched, QEvent *event)
 
 void frmPreview::nextPage() { grPrev->nextPage(); }
 void frmPreview::previousPage() { grPrev->previousPage(); }
+bool frmPreview::hasNextPage() const { return grPrev->currentPage() + 1 < grPrev->pageCount(); }
+bool frmPreview::hasPreviousPage() const { return grPrev->currentPage() > 0; }
 
 void frmPreview::pageSetup()
 {

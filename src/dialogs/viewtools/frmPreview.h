@@ -3,6 +3,7 @@
 #include "facade/services/Trace.h"
 #include "facade/services/Text.h"
 #include "kit/paper/SheetPainter.h"
+#include "kit/tools/ToolSet.h"
 
 #include <QDialog>
 
@@ -11,6 +12,7 @@ class QLabel;
 class QPrinter;
 class QPushButton;
 class QSpinBox;
+class QToolBar;
 
 namespace QV_DOC_CONTROLS {
 
@@ -39,13 +41,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    struct Command {
-        QPushButton *button;
-        Text caption;
-    };
     void build();
+    void buildBar();
     void connectAll();
-    QPushButton *add(const char *name, Text caption, void (frmPreview::*run)());
     void retranslate();
     void fillZooms();
     void layOutSheet();
@@ -57,6 +55,8 @@ private:
     void writePdf(const SheetPainter &sheet, const QString &path);
     void nextPage();
     void previousPage();
+    bool hasNextPage() const;
+    bool hasPreviousPage() const;
     QString proposedPdf() const;
 
     DebugIdentity m_identity{"frmPreview"};
@@ -64,10 +64,12 @@ private:
     Titles m_titles;
     QPageLayout m_paper;
     std::unique_ptr<SheetPainter> m_sheet;
-    std::vector<Command> m_commands;
+    ToolSet m_tools;
+    QToolBar *m_bar;
     QLabel *m_pageLabel, *m_zoomLabel, *m_note;
     QSpinBox *m_page;
     QComboBox *m_zoom;
+    QPushButton *m_close;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -67,6 +67,7 @@ struct FileQuestion {
 struct Prompts {
     virtual ~Prompts() = default;
     virtual void tell(const Message &, QObject *asker = nullptr) = 0;
+    virtual void alert() {}                     ///< the system's sound: a key was refused
     virtual void show(const Report &, QObject *asker = nullptr) = 0;
     virtual bool yesNo(const Message &, QObject *asker = nullptr) = 0;             ///< closing the box is No
     virtual AllYesNo allYesNo(const Message &, QObject *asker = nullptr) = 0;      ///< closing the box is No

@@ -100,4 +100,14 @@ template <auto M, class Names> constexpr auto field(const char *key, Text captio
                               kindOf<T>()};
 }
 
+/// The columns of a table as a grid shows them, captions in the current language.
+template <class Table> std::vector<GridColumn> gridColumnsOf()
+{
+    std::vector<GridColumn> columns;
+    for (const auto &c : Table::columns)
+        columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
+                             c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
+    return columns;
+}
+
 } // namespace QV_DOC_CONTROLS

@@ -8,10 +8,11 @@
 
 namespace QV_DOC_CONTROLS {
 
-void findInColumn(Grid &grid, const GridSource &source, int column, const ErrorRelay &relay)
+void findInColumn(Grid &grid, int column, const ErrorRelay &relay)
 {
+    if (column < 0 || column >= int(grid.columns().size())) return;
     const int row = grid.currentRow();
-    const QString proposed = row < 0 ? QString() : source.text(row, column);
+    const QString proposed = row < 0 ? QString() : grid.shownText(row, column);
     const auto value =
         prompts().text({txt(Text{3030, u"Keresés"}), txt(Text{3031, u"A keresett érték:"}), proposed}, &grid);
     relay.checkpoint();

@@ -1,8 +1,11 @@
 #include "grids/frame/GridManager.h"
 
+#include "facade/services/Language.h"
 #include "facade/services/Prompts.h"
 #include "facade/services/Services.h"
 #include "facade/services/Text.h"
+#include "grids/frame/GridLayouts.h"
+#include "kit/grid/Grid.h"
 
 #include <QScopedValueRollback>
 
@@ -27,6 +30,28 @@ void GridManager::writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name,
         throw;
     }
     relay().checkpoint();
+}
+
+void GridManager::followView(Grid &grid)
+{
+    connect(&grid, &Grid::viewChanged, this, [this](GridView view) { raiseView(qint16(view)); });
+    connect(&grid, &Grid::groupingChanged, this, [this](bool grouped) {
+        if (!m_loading) raiseGrouped(grouped);
+    });
+    connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
+            [this] { ml_RuntimeSupport_LanguageChanged(); });
+}
+
+void GridManager::unfollow(Grid &grid)
+{
+    disconnect(&grid, nullptr, this, nullptr);
+    disconnect(&LanguageHub::instance(), nullptr, this, nullptr);
+}
+
+void GridManager::loadLayout(Grid &grid, const QString &layout)
+{
+    const QScopedValueRollback loading(m_loading, true);
+    loadGridLayout(grid, layout);
 }
 
 bool GridManager::refillBy(const StepRun::Steps &steps, QWidget *grid)

@@ -11,6 +11,7 @@
 
 namespace QV_DOC_CONTROLS {
 
+class Grid;
 class GridSource;
 
 /// What a printed table says around and above its columns.
@@ -63,7 +64,11 @@ protected:
     /// the form closes, or has torn the manager down. Throws what a step throws.
     bool refillBy(const StepRun::Steps &steps, QWidget *grid);
     virtual void raiseView(qint16 view) = 0;                 ///< emits the table's own GridView
-    virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) } ///< emits the table's own GroupChanged
+    /// Emits the table's own GroupChanged: the user's grouping, not that of a layout file.
+    virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) }
+    void followView(Grid &grid);                             ///< raises both, and follows the language
+    void unfollow(Grid &grid);                               ///< hears nothing of either any more
+    void loadLayout(Grid &grid, const QString &layout);      ///< of the language, if there is one
     explicit GridManager(const char *type) : m_identity(type) {}
     ErrorRelay &relay() const { return *m_relay; }
 
@@ -74,6 +79,7 @@ private:
     bool m_showGroups = true;
     bool m_busy = false, m_again = false;
     bool m_isSlow = false;                                   ///< the last refill took long
+    bool m_loading = false;                                  ///< a layout
 };
 
 } // namespace QV_DOC_CONTROLS

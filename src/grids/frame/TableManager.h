@@ -1,6 +1,5 @@
 #pragma once
 
-#include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/frame/CellEdit.h"
 #include "grids/frame/ColorStyles.h"
@@ -24,8 +23,7 @@ public:
     void TearDown() override
     {
         if (!m_grid) return;
-        QObject::disconnect(m_grid, nullptr, this, nullptr);
-        QObject::disconnect(&LanguageHub::instance(), nullptr, this, nullptr);
+        unfollow(*m_grid);
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         m_all.clear(), m_shown.clear();
@@ -37,7 +35,7 @@ public:
         if (!m_grid) return;
         m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
         m_grid->captionsChanged();
-        loadGridLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
+        loadLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
     void saveLayout() override { if (m_grid) saveGridLayout(*m_grid, Table::layout); }
     const GridSource &source() const override { return *this; }
@@ -94,24 +92,21 @@ public:
 protected:
     void attach(ZolWDoc::ZOLW_Doc &doc, Grid &grid)
     {
-        m_doc = &doc, m_grid = &grid;
         buildColorStyles(grid, doc);
+        auto all = Table::role(doc).readAll();
+        auto names = Table::namesOf(doc); // an error leaves nothing attached, and no layout to save
+        m_doc = &doc, m_grid = &grid, m_all = std::move(all), m_names = std::move(names);
         grid.setAllowEdit(AllowEdit());
         grid.setTooltips(
             readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-        m_all = Table::role(doc).readAll(), m_names = Table::namesOf(doc);
         showWhatFits();
         grid.setSource(this);
         grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
-        QObject::connect(&grid, &Grid::viewChanged, this, [this](GridView v) { raiseView(qint16(v)); });
-        QObject::connect(&grid, &Grid::groupingChanged, this,
-                         [this](bool grouped) { raiseGrouped(grouped); });
-        loadGridLayout(grid, Table::layout);
+        followView(grid);
+        loadLayout(grid, Table::layout);
         QObject::connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
         QObject::connect(&grid, &Grid::selectionMoved, this,
                          [this] { raiseSelection(m_grid->selectedCount()); });
-        QObject::connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
-                         [this] { ml_RuntimeSupport_LanguageChanged(); });
     }
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
@@ -167,13 +162,7 @@ private:
         for (const Record &r : selected()) ids.push_back(Table::id(r));
         return ids;
     }
-    void readCaptions()
-    {
-        m_columns.clear();
-        for (const auto &c : Table::columns)
-            m_columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
-                                 c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
-    }
+    void readCaptions() { m_columns = gridColumnsOf<Table>(); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)

@@ -9,6 +9,7 @@
 #include "rules/LayerRules.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 
@@ -117,8 +118,12 @@ void LayerEdits::copy()
         LayerRole &layers = m_desk.doc().layers();
         std::vector<qint16> ids;
         layers.addAll(made.copies, ids);
-        const auto members = layers.members();
-        layers.writeMembers(withMembers(members, membersLike(made.models, ids, members)));
+        auto members = layers.members();
+        const auto more = membersLike(made.models, ids, members);
+        QSet<qint16> placed; // a document may have put the copies into a group of its own choice
+        for (const tLayMember &m : more) placed.insert(m.LayId);
+        std::erase_if(members, [&](const tLayMember &m) { return placed.contains(m.LayId); });
+        layers.writeMembers(withMembers(std::move(members), more));
     });
 }
 

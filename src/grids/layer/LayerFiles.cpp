@@ -3,7 +3,7 @@
 #include "facade/services/LayerFileCodePage.h"
 #include "facade/services/Services.h"
 #include "facade/services/Trace.h"
-#include "grids/layer/LayerFileTexts.h"
+#include "rules/LayerFileTexts.h"
 #include "kit/ask/ErrorRelay.h"
 #include "rules/LayerRules.h"
 
@@ -65,9 +65,12 @@ bool LayerFiles::saveTo(const QString &path)
         tell(Icon::Exclamation, txt(kSave), notSaved(*refusal, content));
         return false;
     }
+    const QByteArray &whole = std::get<QByteArray>(bytes);
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(std::get<QByteArray>(bytes)) >= 0 && file.commit())
-        return true;
+    // On a full disk a part may be written without an error, and the flush of commit() says nothing of it.
+    const bool isOnDisk =
+        file.open(QIODevice::WriteOnly) && file.write(whole) == whole.size() && file.flush();
+    if (isOnDisk && file.commit()) return true;
     tell(Icon::Exclamation, txt(kSave), notWritable(path, file.errorString()));
     return false;
 }

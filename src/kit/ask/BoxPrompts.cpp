@@ -141,6 +141,8 @@ void BoxPrompts::tell(const Message &m, QObject *asker)
     box.exec();
 }
 
+void BoxPrompts::alert() { QApplication::beep(); }
+
 bool BoxPrompts::yesNo(const Message &m, QObject *asker)
 {
     Box box(m, windowOf(asker));

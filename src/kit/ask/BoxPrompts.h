@@ -11,6 +11,7 @@ namespace QV_DOC_CONTROLS {
 class BoxPrompts : public Prompts {
 public:
     void tell(const Message &, QObject *asker) override;
+    void alert() override;
     bool yesNo(const Message &, QObject *asker) override;
     AllYesNo allYesNo(const Message &, QObject *asker) override;
     std::optional<bool> yesNoCancel(const Message &, QObject *asker) override;

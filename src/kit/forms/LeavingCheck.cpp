@@ -8,13 +8,13 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
+/// A button of a row says its role; one that stands alone is known by name.
 bool rejects(QWidget &widget)
 {
     auto *const button = qobject_cast<QAbstractButton *>(&widget);
-    for (QWidget *around = widget.parentWidget(); button && around; around = around->parentWidget())
-        if (const auto *box = qobject_cast<QDialogButtonBox *>(around))
-            return box->buttonRole(button) == QDialogButtonBox::RejectRole;
-    return false;
+    const auto *const row = button ? qobject_cast<QDialogButtonBox *>(button->parentWidget()) : nullptr;
+    return row ? row->buttonRole(button) == QDialogButtonBox::RejectRole
+               : button && button->objectName() == u"cmdCancel";
 }
 
 } // namespace
@@ -30,7 +30,9 @@ bool LeavingCheck::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != &m_field || event->type() != QEvent::FocusOut) return false;
     const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return false;
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+        reason == Qt::MenuBarFocusReason)
+        return false;
     m_due = true;
     later();
     return false;

@@ -19,7 +19,6 @@ namespace QV_DOC_CONTROLS {
 
 class FilterLine;
 class GridCards;
-class GridDelegate;
 class GridHeader;
 class GridInput;
 class GridModel;
@@ -64,6 +63,7 @@ public:
     /// case does not count. Looks behind the current row first. False = no shown row has it.
     bool find(int column, const QString &text);
     int rowWithId(qint64 id) const;                 ///< -1 = none
+    QString shownText(int row, int column) const;   ///< of a check box too: the word that find() takes
 
     void setTitle(const QString &name);             ///< what a screen reader calls the grid
     void setListOnly(bool on);                      ///< without filter line and group-by box
@@ -137,6 +137,7 @@ private:
     void applyFilter();
     void updateCounts();
     void columnsMoved();
+    void columnsCame(int before);
     int fittingWidth(int column) const;
     int contentWidth(int column) const;
     void resetColumns();
@@ -146,15 +147,16 @@ private:
     void dragOut();
     void arm();
     bool isEditing() const;
+    void endEditing();
     void prepareNext();
     GridSource *m_source = nullptr;
     GridModel *m_model;
     GridSelection *m_selection;
-    GridDelegate *m_delegate;
     GridInput *m_input;
     FilterLine *m_filter;
     GroupBox *m_box;
     GridTable *m_table;
+    QSize m_pictureSize;
     GridHeader *m_header;
     GridCards *m_cards = nullptr;                   ///< made when first asked for
     GridView m_view = GridView::Table;

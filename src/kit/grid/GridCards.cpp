@@ -11,12 +11,14 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr int kCardLetters = 36, kCompactLetters = 26;          ///< width of a card in average letters
+constexpr int kValueLetters = 20;                               ///< room of a value, in average letters
+constexpr int kLeastCaption = 16, kMostCaption = 40;            ///< of a compact card, likewise
+constexpr int kMostTitle = 40;                                  ///< of a field's name
+constexpr int kMeasured = 200;                                  ///< cards that the width is taken from
 
 } // namespace
 
-GridCards::GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : LineView(model, delegate, parent)
+GridCards::GridCards(GridModel &model, QWidget *parent) : LineView(model, parent)
 {
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -35,13 +37,26 @@ void GridCards::setColumns(std::vector<int> inOrder, bool compact)
     doItemsLayout();
 }
 
-/// What stands in a card, and its size.
+int GridCards::captionWidth() const
+{
+    const auto &rows = m_model.engine().shownRows();
+    QString longest;
+    for (size_t i = 0; i < std::min(rows.size(), size_t(kMeasured)); ++i)
+        if (const QString caption = m_model.cardCaption(rows[i]); caption.size() > longest.size())
+            longest = caption;
+    const int letter = fontMetrics().averageCharWidth();
+    return std::clamp(fontMetrics().horizontalAdvance(longest) + 2 * letter, kLeastCaption * letter,
+                      kMostCaption * letter);
+}
+
+/// What stands in a card, and how much room that needs.
 void GridCards::arrangeFields()
 {
     const QStyleOptionViewItem option = cellOption();
     const int line = m_delegate.lineHeight(option), letter = fontMetrics().averageCharWidth();
     int bottom = line;
     m_fields.clear();
+    m_titles = 0;
     for (int c : m_columns) {
         const GridColumn *column = m_model.column(c);
         const bool picture = column && column->kind == CellKind::Picture;
@@ -49,15 +64,20 @@ void GridCards::arrangeFields()
         const int height = picture ? std::max(line, m_delegate.pictureSize().height() + 2) : line;
         m_fields.push_back({c, bottom, height, !m_compact});
         bottom += height;
+        if (!m_compact) m_titles = std::max(m_titles, fontMetrics().horizontalAdvance(column->caption));
     }
-    m_card = {(m_compact ? kCompactLetters : kCardLetters) * letter, bottom + 2};
+    m_titles = std::min(m_titles, kMostTitle * letter) + 2 * GridDelegate::padding(fontMetrics());
+    m_least = m_compact ? captionWidth() : m_titles + kValueLetters * letter;
+    m_card.setHeight(bottom + 2);
 }
 
 void GridCards::arrange() const
 {
     if (!std::exchange(m_stale, false)) return;
     const int gap = GridDelegate::padding(fontMetrics()), bandHeight = m_delegate.lineHeight(cellOption());
-    m_perLine = std::max(1, (viewport()->width() - gap) / (m_card.width() + gap));
+    const int room = viewport()->width() - gap;
+    m_perLine = std::max(1, room / (m_least + gap));
+    m_card.setWidth(std::max(m_least, room / m_perLine - gap));
     m_blocks.clear();
     const RowEngine &engine = m_model.engine();
     int top = gap;
@@ -146,7 +166,7 @@ int GridCards::fieldOf(int column) const
 
 QRect GridCards::fieldRect(const QRect &card, const Field &field) const
 {
-    const int title = field.titled ? card.width() * 2 / 5 : 0;
+    const int title = field.titled ? m_titles : 0;
     return {card.left() + 1 + title, card.top() + field.top, card.width() - 2 - title, field.height};
 }
 

@@ -6,14 +6,15 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// Cards and compact cards: a card for each row, in lines of as many as fit; bands over the full width.
+/// Cards and compact cards: a card for each row, in lines of as many as fit, which share the width; bands
+/// over the full width.
 ///
 /// A card has a caption and a field for each shown column; a compact card only its pictures below the
 /// caption. Up and Down go from field to field and on to the next card, Left and Right from card to card.
 class GridCards final : public LineView {
     Q_OBJECT
 public:
-    GridCards(GridModel &model, GridDelegate &delegate, QWidget *parent);
+    GridCards(GridModel &model, QWidget *parent);
     void setColumns(std::vector<int> inOrder, bool compact);
 
     QRect lineRect(int line) const override;                    ///< of a card; a band's: the full width
@@ -42,6 +43,7 @@ private:
     struct Block { int line, count, top; bool band; };          ///< a band, or the cards up to the next one
     void arrange() const;
     void arrangeFields();
+    int captionWidth() const;                                   ///< that the first cards ask for
     const Block *blockOf(int line) const;
     int lineNear(QPoint content) const;                         ///< -1 = none there
     int fieldOf(int column) const;
@@ -53,7 +55,8 @@ private:
     std::vector<int> m_columns;
     bool m_compact = false;
     std::vector<Field> m_fields;
-    QSize m_card;
+    int m_titles = 0, m_least = 0;                              ///< width of field names; of a card at least
+    mutable QSize m_card;
     mutable std::vector<Block> m_blocks;
     mutable bool m_stale = true; ///< blocks are of other lines, or another width
     mutable int m_perLine = 1, m_height = 0;

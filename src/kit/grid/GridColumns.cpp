@@ -99,6 +99,7 @@ std::vector<int> Grid::shownColumns() const
 
 void Grid::showColumns(std::span<const int> inOrder)
 {
+    endEditing();
     {
         QScopedValueRollback quiet(m_quiet, true);
         for (int c = 0; c < m_header->count(); ++c)
@@ -106,6 +107,15 @@ void Grid::showColumns(std::span<const int> inOrder)
         for (int i = 0; i < int(inOrder.size()); ++i)
             m_header->moveSection(m_header->visualIndex(inOrder[size_t(i)]), i);
     }
+    columnsMoved();
+}
+
+/// A refill brought columns behind those before, or took the last ones away.
+void Grid::columnsCame(int before)
+{
+    for (int c = before; c < m_header->count(); ++c) m_header->resizeSection(c, fittingWidth(c));
+    m_header->setSortKeys(sortKeys());
+    m_box->showLevels(groupLevels(), columns());
     columnsMoved();
 }
 
@@ -163,6 +173,7 @@ void Grid::sortBy(int column, bool adding)
 
 void Grid::toggleBandOf(int row)
 {
+    endEditing();
     const std::vector<int> closed = m_model->engine().closedBandsOver(row),
                            over = m_model->engine().bandsOver(row);
     if (!over.empty()) toggleBand(closed.empty() ? over.back() : closed.front());
@@ -180,6 +191,7 @@ int Grid::openBandOf(int row) const
 
 void Grid::collapseBandOf(int row)
 {
+    endEditing();
     if (const int band = openBandOf(row); band >= 0) toggleBand(band);
 }
 
@@ -235,9 +247,9 @@ void Grid::seek(const QString &letter)
         std::ranges::find_if(shown, [&](int c) { return columns()[size_t(c)].kind == CellKind::Text; });
     const int column = !sortKeys().empty() ? sortKeys().front().column : texts != shown.end() ? *texts : -1;
     const RowEngine &engine = m_model->engine();
-    const int here = std::max(0, m_selection->currentIndex().row());
-    for (int i = goesOn ? 0 : 1; column >= 0 && i <= engine.lines(); ++i) {
-        const int row = engine.rowAt((here + i) % engine.lines());
+    const int here = std::max(0, m_selection->currentIndex().row()), lines = engine.lines();
+    for (int i = goesOn ? 0 : 1; column >= 0 && lines > 0 && i <= lines; ++i) {
+        const int row = engine.rowAt((here + i) % lines);
         if (row >= 0 && m_model->cellText(row, column).startsWith(m_sought, Qt::CaseInsensitive))
             return makeCurrent(row);
     }
@@ -246,7 +258,8 @@ void Grid::seek(const QString &letter)
 GridCards &Grid::cards()
 {
     if (m_cards) return *m_cards;
-    m_cards = new GridCards(*m_model, *m_delegate, this);
+    m_cards = new GridCards(*m_model, this);
+    m_cards->setPictureSize(m_pictureSize);
     m_cards->setAccessibleName(accessibleName());
     layout()->addWidget(m_cards);
     static_cast<QVBoxLayout *>(layout())->setStretchFactor(m_cards, 1);
@@ -264,6 +277,7 @@ QAbstractItemView *Grid::activeView() const
 void Grid::setView(GridView view)
 {
     if (view == m_view) return;
+    endEditing();
     const bool focused = activeView()->hasFocus();
     m_view = view;
     if (view != GridView::Table) cards().setColumns(shownColumns(), view == GridView::CardMin);

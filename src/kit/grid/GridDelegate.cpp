@@ -1,5 +1,6 @@
 #include "kit/grid/GridDelegate.h"
 
+#include "kit/forms/Contrast.h"
 #include "kit/grid/GridModel.h"
 
 #include <QApplication>
@@ -25,6 +26,15 @@ QPalette::ColorGroup groupOf(const QStyleOptionViewItem &option)
     return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
 }
 
+/// Of a column, numbers stand on its right and check boxes in its middle; of a form, all begins on the left.
+bool isInColumn(const QStyleOptionViewItem &option) { return option.displayAlignment & Qt::AlignRight; }
+
+QColor between(QColor a, QColor b, double share)
+{
+    const auto mixed = [share](int x, int y) { return int(std::lround(x + (y - x) * share)); };
+    return {mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue())};
+}
+
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette::ColorRole on)
 {
     QStyleOptionFocusRect focus;
@@ -39,8 +49,6 @@ void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette:
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
 }
 
-bool isLegiblyWhite(const QColor &background) { return qGray(background.rgb()) < 128; }
-
 } // namespace
 
 GridDelegate::GridDelegate(const GridModel &model, QObject *parent)
@@ -53,21 +61,22 @@ QRect GridDelegate::checkMark(const QStyleOptionViewItem &option)
     const QStyle &style = styleOf(option);
     const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
                      style.pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
-    return QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+    const int gap = isInColumn(option) ? 0 : padding(option.fontMetrics);
+    return QStyle::alignedRect(option.direction, isInColumn(option) ? Qt::AlignCenter : Qt::AlignVCenter,
+                               size, option.rect.adjusted(gap, 0, 0, 0));
 }
 
 QColor GridDelegate::textColor(const QStyleOptionViewItem &option, const GridStyle &style)
 {
     if (style.background.isValid()) // digits stay legible on every colour
-        return style.text.isValid() ? style.text
-                                    : QColor(isLegiblyWhite(style.background) ? Qt::white : Qt::black);
+        return style.text.isValid() ? style.text : blackOrWhiteOn(style.background);
     const bool selected = option.state & QStyle::State_Selected;
-    QColor color =
-        option.palette.color(groupOf(option), selected ? QPalette::HighlightedText : QPalette::Text);
+    const auto color = [&](QPalette::ColorRole role) { return option.palette.color(groupOf(option), role); };
+    const QColor ink = color(selected ? QPalette::HighlightedText : QPalette::Text);
     if (style.text.isValid() && !selected) return style.text;
-    if (style.grayed && selected) color.setAlphaF(0.65f);
-    else if (style.grayed) color = option.palette.color(QPalette::Disabled, QPalette::Text);
-    return color;
+    if (!style.grayed) return ink;
+    return selected ? between(ink, color(QPalette::Highlight), 0.35)
+                    : between(ink, color(QPalette::Base), 0.5);
 }
 
 void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -89,7 +98,7 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         paintPicture(painter, option.rect.adjusted(1, 1, -1, -1), m_model.picture(row, c));
     } else {
         painter->setPen(textColor(option, style));
-        const bool right = kind == CellKind::Number || kind == CellKind::Color;
+        const bool right = isInColumn(option) && (kind == CellKind::Number || kind == CellKind::Color);
         const QString text = m_model.source()->text(row, c);
         if (style.bold) paintBold(painter, option, text, right);
         else paintText(painter, option, text, right);
@@ -103,7 +112,10 @@ void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 void GridDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
                              bool right) const
 {
-    if (m_font != option.font) m_texts.clear(), m_font = option.font, m_gap = padding(option.fontMetrics);
+    if (m_gap == 0 || m_font != option.font) {
+        m_texts.clear();
+        m_font = option.font, m_gap = padding(option.fontMetrics);
+    }
     QStaticText *glyphs = m_texts.object(text);
     if (!glyphs) {
         glyphs = new QStaticText(text);
@@ -221,7 +233,7 @@ QWidget *GridDelegate::listEditor(QWidget *parent, int column) const
     return list;
 }
 
-QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
+QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
     const GridColumn *column = m_model.column(index.column());
@@ -231,7 +243,7 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     } else {
         auto *const line = new QLineEdit(parent);
         line->setFrame(false);
-        if (column->kind != CellKind::Text) line->setAlignment(Qt::AlignRight);
+        if (column->kind != CellKind::Text && isInColumn(option)) line->setAlignment(Qt::AlignRight);
         editor = line;
     }
     editor->setAccessibleName(column->caption);

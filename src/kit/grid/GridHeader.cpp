@@ -20,6 +20,7 @@ GridHeader::GridHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
     setTextElideMode(Qt::ElideRight);
     setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setContextMenuPolicy(Qt::NoContextMenu); // the grid asks for one
+    connect(this, &QHeaderView::sectionCountChanged, this, &GridHeader::giveUpDrag); // other columns
 }
 
 void GridHeader::setSortKeys(std::vector<SortKey> keys)
@@ -45,6 +46,11 @@ void GridHeader::setShown(int column, bool shown)
     if (!shown) m_widths.insert(column, sectionSize(column));
     setSectionHidden(column, !shown);
     if (shown && m_widths.contains(column)) resizeSection(column, m_widths.take(column));
+}
+
+void GridHeader::makeRoomForCaptions()
+{
+    for (int c = 0; c < count(); ++c) setWidth(c, std::max(widthOf(c), sectionSizeHint(c)));
 }
 
 int GridHeader::rankOf(int column) const
@@ -153,6 +159,12 @@ void GridHeader::startDrag(const QPoint &)
     qApp->installEventFilter(this);         // Esc gives up, wherever the focus is
 }
 
+void GridHeader::giveUpDrag()
+{
+    m_column = -1;
+    if (m_ghost) endDrag();
+}
+
 void GridHeader::endDrag()
 {
     qApp->removeEventFilter(this);
@@ -166,7 +178,7 @@ bool GridHeader::eventFilter(QObject *watched, QEvent *event)
     if (!m_ghost || !key || static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return QHeaderView::eventFilter(watched, event);
     event->accept();
-    if (event->type() == QEvent::KeyPress) m_column = -1, endDrag();
+    if (event->type() == QEvent::KeyPress) giveUpDrag();
     return true;
 }
 

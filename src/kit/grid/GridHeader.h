@@ -19,6 +19,7 @@ public:
     int widthOf(int column) const;                      ///< pixels; of a hidden column the one it had
     void setWidth(int column, int pixels);              ///< kept for a hidden column until it is shown
     void setShown(int column, bool shown);
+    void makeRoomForCaptions();                         ///< widens columns that are too narrow for theirs
 
 signals:
     void sortAsked(int column, bool adding);
@@ -42,6 +43,7 @@ private:
     int markRoom(int column) const;
     int rankOf(int column) const;                       ///< -1 = no sort key
     void startDrag(const QPoint &at);
+    void giveUpDrag();
     void endDrag();
     void moveColumn(int column, int x);
     std::vector<SortKey> m_keys;

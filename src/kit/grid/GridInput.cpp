@@ -1,9 +1,8 @@
 #include "kit/grid/GridInput.h"
 
-#include "kit/grid/GridDelegate.h"
 #include "kit/grid/GridModel.h"
+#include "kit/grid/LineView.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDropEvent>
@@ -13,16 +12,11 @@
 
 namespace QV_DOC_CONTROLS {
 
-GridInput::GridInput(GridModel &model, GridDelegate &delegate, QObject *parent)
-    : QObject(parent), m_model(model), m_delegate(delegate)
-{
-}
-
-void GridInput::watch(QAbstractItemView &view, std::function<void(int line)> markDrop)
+void GridInput::watch(LineView &view)
 {
     view.installEventFilter(this);
     view.viewport()->installEventFilter(this);
-    m_views.push_back({&view, std::move(markDrop)});
+    m_views.push_back(&view);
 }
 
 void GridInput::watch(QHeaderView &header)
@@ -39,11 +33,10 @@ bool GridInput::eventFilter(QObject *watched, QEvent *event)
         emit contextMenuAsked(-1, m_header->logicalIndexAt(menu.pos()), menu.globalPos());
         return true;
     }
-    const auto over = std::ranges::find_if(m_views, [&](const Watched &w) {
-        return watched == w.view || watched == w.view->viewport();
-    });
+    const auto over = std::ranges::find_if(
+        m_views, [&](const LineView *view) { return watched == view || watched == view->viewport(); });
     if (over == m_views.end() || !m_model.source()) return false;
-    QAbstractItemView &view = *over->view;
+    LineView &view = **over;
     const bool onViewport = watched == view.viewport();
     switch (event->type()) {
     case QEvent::KeyPress: return !onViewport && isKeyTaken(view, static_cast<const QKeyEvent &>(*event));
@@ -51,17 +44,17 @@ bool GridInput::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonPress:
         return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), false);
     case QEvent::MouseButtonDblClick:
-        m_onCheckMark = isOnCheckMark(view, static_cast<const QMouseEvent &>(*event).position().toPoint());
+        rememberCheckMark(view, static_cast<const QMouseEvent &>(*event).position().toPoint());
         return onViewport && isBandPressed(view, static_cast<const QMouseEvent &>(*event), true);
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::DragLeave:
-    case QEvent::Drop: return onViewport && isDropTaken(*over, *event);
+    case QEvent::Drop: return onViewport && isDropTaken(view, *event);
     default: return false;
     }
 }
 
-bool GridInput::isKeyTaken(QAbstractItemView &view, const QKeyEvent &event)
+bool GridInput::isKeyTaken(LineView &view, const QKeyEvent &event)
 {
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down) return isListOpened(view);
@@ -76,7 +69,7 @@ bool GridInput::isKeyTaken(QAbstractItemView &view, const QKeyEvent &event)
 }
 
 /// On a band: Left closes it or goes to the one over it, Right opens it, Space and Enter turn it.
-bool GridInput::isBandKeyTaken(QAbstractItemView &view, int key)
+bool GridInput::isBandKeyTaken(LineView &view, int key)
 {
     const QModelIndex now = view.currentIndex();
     const int b = m_model.bandOf(now);
@@ -93,7 +86,7 @@ bool GridInput::isBandKeyTaken(QAbstractItemView &view, int key)
     return true;
 }
 
-bool GridInput::isListOpened(QAbstractItemView &view)
+bool GridInput::isListOpened(LineView &view)
 {
     const QModelIndex now = view.currentIndex();
     if (!(now.flags() & Qt::ItemIsEditable) || m_model.column(now.column())->kind != CellKind::List)
@@ -103,30 +96,23 @@ bool GridInput::isListOpened(QAbstractItemView &view)
     return true;
 }
 
-bool GridInput::isBandPressed(QAbstractItemView &view, const QMouseEvent &event, bool doubleClick)
+bool GridInput::isBandPressed(LineView &view, const QMouseEvent &event, bool doubleClick)
 {
     const QPoint at = event.position().toPoint();
     const QModelIndex index = view.indexAt(at);
     const int band = m_model.bandOf(index);
     if (band < 0 || event.button() != Qt::LeftButton) return false;
-    QStyleOptionViewItem option;
-    option.initFrom(&view);
-    option.rect = view.visualRect(index);
-    if (!doubleClick && !m_delegate.bandMark(option, band).contains(at)) return false;
+    if (!doubleClick && !view.isOnBandMark(index, at)) return false;
     emit bandToggled(band);
     return true;
 }
 
-bool GridInput::isOnCheckMark(const QAbstractItemView &view, QPoint at) const
+void GridInput::rememberCheckMark(const LineView &view, QPoint at)
 {
-    const QModelIndex index = view.indexAt(at);
-    QStyleOptionViewItem option;
-    option.initFrom(&view);
-    option.rect = view.visualRect(index);
-    return index.flags() & Qt::ItemIsUserCheckable && m_delegate.checkMark(option).contains(at);
+    m_onCheckMark = view.isOnCheckMark(view.indexAt(at), at);
 }
 
-bool GridInput::askForMenu(QAbstractItemView &view, const QContextMenuEvent &event)
+bool GridInput::askForMenu(LineView &view, const QContextMenuEvent &event)
 {
     const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
     QPoint global = event.globalPos();
@@ -148,16 +134,17 @@ DropTarget GridInput::targetAt(const QModelIndex &index) const
     return {-1, engine.groupLevels()[size_t(engine.band(band).level)].column, engine.firstRowOf(band)};
 }
 
-bool GridInput::isDropTaken(const Watched &over, QEvent &event)
+bool GridInput::isDropTaken(LineView &view, QEvent &event)
 {
-    if (event.type() == QEvent::DragLeave) return over.markDrop(-1), true;
+    if (event.type() == QEvent::DragLeave) return view.setDropLine(-1, nullptr), true;
     auto &drop = static_cast<QDropEvent &>(event);
-    const QModelIndex index = over.view->indexAt(drop.position().toPoint());
+    const QModelIndex index = view.indexAt(drop.position().toPoint());
     const DropTarget target = targetAt(index);
     auto *const source = const_cast<GridSource *>(m_model.source());
     const bool takes = drop.mimeData() && source->canDrop(*drop.mimeData(), target);
     const bool done = event.type() == QEvent::Drop;
-    over.markDrop(takes && !done ? index.row() : -1);
+    view.setDropLine(takes && !done ? index.row() : -1,
+                     done ? nullptr : static_cast<QDragMoveEvent *>(&event));
     if (takes) drop.acceptProposedAction();
     else drop.ignore();
     if (takes && done) source->drop(*drop.mimeData(), target);

@@ -5,9 +5,6 @@
 #include <QObject>
 #include <QPoint>
 
-#include <functional>
-
-class QAbstractItemView;
 class QContextMenuEvent;
 class QDropEvent;
 class QHeaderView;
@@ -16,15 +13,15 @@ class QMouseEvent;
 
 namespace QV_DOC_CONTROLS {
 
-class GridDelegate;
 class GridModel;
+class LineView;
 
 /// Keys, clicks on bands, context menus and drops of a grid's views; what follows from them is the grid's.
 class GridInput final : public QObject {
     Q_OBJECT
 public:
-    GridInput(GridModel &model, GridDelegate &delegate, QObject *parent);
-    void watch(QAbstractItemView &view, std::function<void(int line)> markDrop);
+    GridInput(GridModel &model, QObject *parent) : QObject(parent), m_model(model) {}
+    void watch(LineView &view);
     void watch(QHeaderView &header);
     bool wasOnCheckMark() const { return m_onCheckMark; } ///< the last double click
 
@@ -38,18 +35,16 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    struct Watched { QAbstractItemView *view; std::function<void(int)> markDrop; };
-    bool isKeyTaken(QAbstractItemView &view, const QKeyEvent &event);
-    bool isBandKeyTaken(QAbstractItemView &view, int key);
-    bool isListOpened(QAbstractItemView &view);
-    bool isBandPressed(QAbstractItemView &view, const QMouseEvent &event, bool doubleClick);
-    bool isOnCheckMark(const QAbstractItemView &view, QPoint at) const;
-    bool askForMenu(QAbstractItemView &view, const QContextMenuEvent &event);
-    bool isDropTaken(const Watched &over, QEvent &event);
+    bool isKeyTaken(LineView &view, const QKeyEvent &event);
+    bool isBandKeyTaken(LineView &view, int key);
+    bool isListOpened(LineView &view);
+    bool isBandPressed(LineView &view, const QMouseEvent &event, bool doubleClick);
+    void rememberCheckMark(const LineView &view, QPoint at);
+    bool askForMenu(LineView &view, const QContextMenuEvent &event);
+    bool isDropTaken(LineView &view, QEvent &event);
     DropTarget targetAt(const QModelIndex &index) const;
     GridModel &m_model;
-    GridDelegate &m_delegate;
-    std::vector<Watched> m_views;
+    std::vector<LineView *> m_views;
     QHeaderView *m_header = nullptr;
     bool m_onCheckMark = false;
 };

@@ -41,15 +41,23 @@ void GridModel::refill(const std::function<void()> &change)
     m_pictures.clear();
     m_styledRow = -1;
     m_filter.refill(cellRows());
-    m_engine.refill(m_filter.fitting(m_rule));
+    m_engine.refill(m_filter.fitting(m_rule), known(m_engine.groupLevels()), known(m_engine.sortKeys()));
     endResetModel();
 }
 
 void GridModel::setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts)
 {
     beginResetModel();
-    m_engine.setKeys(groups, sorts);
+    m_engine.setKeys(known(groups), known(sorts));
     endResetModel();
+}
+
+std::vector<SortKey> GridModel::known(std::span<const SortKey> keys) const
+{
+    std::vector<SortKey> out;
+    for (const SortKey &key : keys)
+        if (column(key.column)) out.push_back(key);
+    return out;
 }
 
 void GridModel::setAllExpanded(bool expanded)
@@ -71,7 +79,8 @@ void GridModel::setFilter(const FilterRule &rule)
 void GridModel::searchColumns(const std::vector<int> &columns)
 {
     m_filter.reset(cellRows(), [this, columns](int row, FilterRule::RowFolder &folder) {
-        for (int c : columns) folder.add(cellText(row, c), column(c)->kind == CellKind::Check);
+        for (int c : columns)
+            if (column(c)) folder.add(cellText(row, c), column(c)->kind == CellKind::Check);
     });
 }
 
@@ -296,7 +305,8 @@ void GridModel::readColumns()
 {
     m_flags.clear();
     for (int c = 0; const GridColumn *col = column(c); ++c) {
-        Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+        Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
+                              Qt::ItemNeverHasChildren; // whether rows are dragged is the views' affair
         if (m_writable && col->editable && col->kind != CellKind::Picture)
             flags |= col->kind == CellKind::Check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
         m_flags.push_back(flags);

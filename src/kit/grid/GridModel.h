@@ -84,6 +84,7 @@ private:
     QVariant accessibleText(int row, int column) const;
     QString accessibleBand(int band) const;
     void readColumns();
+    std::vector<SortKey> known(std::span<const SortKey> keys) const; ///< those of columns that are there
     QVariant cellData(int row, int column, int role) const;
 
     GridSource *m_source = nullptr;

@@ -10,7 +10,7 @@ namespace QV_DOC_CONTROLS {
 struct GridStyle {
     QColor background;
     QColor text;
-    bool grayed = false;    ///< text in the palette's disabled colour
+    bool grayed = false;    ///< text halfway between the palette's text and its ground
     bool bold = false;
 };
 

@@ -10,8 +10,8 @@
 
 namespace QV_DOC_CONTROLS {
 
-GridTable::GridTable(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : LineView(model, delegate, parent), m_header(new GridHeader(this))
+GridTable::GridTable(GridModel &model, QWidget *parent)
+    : LineView(model, parent), m_header(new GridHeader(this))
 {
     setHorizontalScrollMode(ScrollPerPixel);
     m_header->setModel(&model);
@@ -47,13 +47,20 @@ bool GridTable::isIndexHidden(const QModelIndex &index) const
     return m_model.bandOf(index) < 0 && m_header->isSectionHidden(index.column());
 }
 
+/// Cells stand in columns: numbers on their right.
+void GridTable::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    LineView::initViewItemOption(option);
+    option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+}
+
 QRect GridTable::visualRect(const QModelIndex &index) const
 {
-    if (!index.isValid() || isIndexHidden(index)) return {};
+    if (!index.isValid()) return {};
     QRect rect = lineRect(index.row());
     if (m_model.bandOf(index) >= 0) return rect;
     rect.setLeft(m_header->sectionViewportPosition(index.column()));
-    rect.setWidth(m_header->sectionSize(index.column()));
+    rect.setWidth(m_header->sectionSize(index.column())); // none of a hidden one, whose line still counts
     return rect;
 }
 
@@ -111,17 +118,14 @@ void GridTable::placeHeader()
     m_header->setGeometry(below.left(), below.top() - height, below.width(), height);
 }
 
-/// A bar takes room away from what the other one scrolls: both are reckoned twice. Neither is needed when
-/// everything fits without them.
+/// Neither bar is needed when everything fits without them.
 void GridTable::setScrollRanges()
 {
     const QSize whole = maximumViewportSize();
     const int lines = m_model.rowCount(), width = m_header->length();
     const bool fits = lines * lineHeight() <= whole.height() && width <= whole.width();
-    for (int pass = 0; pass < 2; ++pass) {
-        verticalScrollBar()->setRange(0, fits ? 0 : std::max(0, lines - wholeLines()));
-        horizontalScrollBar()->setRange(0, fits ? 0 : std::max(0, width - viewport()->width()));
-    }
+    verticalScrollBar()->setRange(0, fits ? 0 : std::max(0, lines - wholeLines()));
+    horizontalScrollBar()->setRange(0, fits ? 0 : std::max(0, width - viewport()->width()));
     verticalScrollBar()->setPageStep(wholeLines());
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(lineHeight());
@@ -132,8 +136,7 @@ void GridTable::updateGeometries()
     if (m_arranging) return;
     const QScopedValueRollback arranging(m_arranging, true);
     placeHeader();
-    setScrollRanges();
-    placeHeader();                              // a bar takes width from it
+    setScrollRanges();                          // a bar that comes or goes resizes the view once more
     m_header->setOffset(horizontalScrollBar()->value());
     QAbstractItemView::updateGeometries();
 }

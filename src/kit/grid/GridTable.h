@@ -10,7 +10,7 @@ namespace QV_DOC_CONTROLS {
 class GridTable final : public LineView {
     Q_OBJECT
 public:
-    GridTable(GridModel &model, GridDelegate &delegate, QWidget *parent);
+    GridTable(GridModel &model, QWidget *parent);
     GridHeader *header() const { return m_header; }
 
     QHeaderView *columnHeader() const override { return m_header; }
@@ -30,6 +30,7 @@ protected:
     int horizontalOffset() const override { return m_header->offset(); }
     int verticalOffset() const override;
     bool isIndexHidden(const QModelIndex &index) const override;
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
 

@@ -24,7 +24,7 @@ GroupChip::GroupChip(const QString &caption, SortOrder order, QWidget *parent)
 QSize GroupChip::sizeHint() const
 {
     const int height = fontMetrics().height();
-    return {fontMetrics().horizontalAdvance(text()) + 3 * height, height * 3 / 2};
+    return {fontMetrics().horizontalAdvance(text()) + 7 * height / 2, height * 3 / 2};
 }
 
 QRect GroupChip::crossRect() const { return {width() - height(), 0, height(), height()}; }
@@ -38,7 +38,7 @@ void GroupChip::paintEvent(QPaintEvent *)
     style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
     const int side = fontMetrics().height() / 2, gap = side / 2;
     QStyleOption arrow = option;
-    arrow.rect = {gap, (height() - side) / 2, side, side};
+    arrow.rect = {2 * gap, (height() - side) / 2, side, side};
     style()->drawPrimitive(m_order == SortOrder::Ascending ? QStyle::PE_IndicatorArrowUp
                                                            : QStyle::PE_IndicatorArrowDown,
                            &arrow, &painter, this);

@@ -5,16 +5,17 @@
 #include "kit/grid/LineAccessible.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QInputEvent>
 #include <QPainter>
 
 namespace QV_DOC_CONTROLS {
 
-LineView::LineView(GridModel &model, GridDelegate &delegate, QWidget *parent)
-    : QAbstractItemView(parent), m_model(model), m_delegate(delegate)
+LineView::LineView(GridModel &model, QWidget *parent)
+    : QAbstractItemView(parent), m_model(model), m_delegate(*new GridDelegate(model, this))
 {
     LineAccessible::install();
-    setItemDelegate(&delegate);
+    setItemDelegate(&m_delegate);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -30,16 +31,54 @@ LineView::LineView(GridModel &model, GridDelegate &delegate, QWidget *parent)
     setModel(&model);
 }
 
-QStyleOptionViewItem LineView::cellOption() const
+QStyleOptionViewItem LineView::cellOption(const QModelIndex &index) const
 {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
+    if (index.isValid()) option.rect = visualRect(index);
     return option;
 }
 
-void LineView::setDropLine(int line)
+void LineView::setPictureSize(QSize size)
+{
+    m_delegate.setPictureSize(size);
+    doItemsLayout();
+}
+
+bool LineView::isOnBandMark(const QModelIndex &index, QPoint at) const
+{
+    const int band = m_model.bandOf(index);
+    return band >= 0 && m_delegate.bandMark(cellOption(index), band).contains(at);
+}
+
+bool LineView::isOnCheckMark(const QModelIndex &index, QPoint at) const
+{
+    return index.flags() & Qt::ItemIsUserCheckable && GridDelegate::checkMark(cellOption(index)).contains(at);
+}
+
+void LineView::endEditing()
+{
+    QWidget *const editor = openEditor();
+    if (!editor) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void LineView::dropEditor()
+{
+    QWidget *const editor = openEditor();
+    if (!editor) return;
+    if (auto *const list = qobject_cast<QComboBox *>(editor)) list->hidePopup();
+    closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
+QWidget *LineView::openEditor() const { return isEditing() ? indexWidget(currentIndex()) : nullptr; }
+
+void LineView::setDropLine(int line, QDragMoveEvent *over)
 {
     if (std::exchange(m_dropLine, line) != line) viewport()->update();
+    if (over) QAbstractItemView::dragMoveEvent(over);
+    else stopAutoScroll();
 }
 
 void LineView::paintDropLine(QPainter &painter) const

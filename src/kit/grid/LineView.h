@@ -17,23 +17,30 @@ struct ViewCalls {
     std::function<void(const QString &)> typed; ///< a letter to look for
 };
 
-/// What the table and the cards have in common: lines of a GridModel, painted by its delegate. Where a line
-/// stands is reckoned when it is asked for, so that other lines cost no layout.
+/// What the table and the cards have in common: lines of a GridModel, painted and edited by a delegate. Where
+/// a line stands is reckoned when it is asked for, so that other lines cost no layout.
 class LineView : public QAbstractItemView {
     Q_OBJECT
 public:
     void setCalls(ViewCalls calls) { m_calls = std::move(calls); }
-    void setDropLine(int line);                 ///< framed while something is dragged over it; -1 = none
+    /// The line is framed (-1 = none) while something is dragged over it; near an edge the lines go on under
+    /// what is dragged, until `over` is null.
+    void setDropLine(int line, QDragMoveEvent *over);
     bool isEditing() const { return state() == EditingState; }
+    void endEditing();                          ///< writes what an open editor holds and closes it
+    void dropEditor();                          ///< closes it; what it holds is lost
+    void setPictureSize(QSize size);            ///< of pictures in cells, device-independent pixels
+    bool isOnBandMark(const QModelIndex &index, QPoint at) const;   ///< where a click toggles the band
+    bool isOnCheckMark(const QModelIndex &index, QPoint at) const;
     virtual QRect lineRect(int line) const = 0; ///< on the viewport; of a card, or the full width
     virtual QHeaderView *columnHeader() const { return nullptr; }   ///< null = the lines have none
     void selectAll() override;                  ///< as one range
     void keyboardSearch(const QString &search) override { m_calls.typed(search); }
 
 protected:
-    LineView(GridModel &model, GridDelegate &delegate, QWidget *parent);
+    LineView(GridModel &model, QWidget *parent);
     virtual void linesChanged(int first) = 0;   ///< from there on they are others
-    QStyleOptionViewItem cellOption() const;
+    QStyleOptionViewItem cellOption(const QModelIndex &index = {}) const;   ///< and where the cell stands
     void paintDropLine(QPainter &painter) const;
 
     void dataChanged(const QModelIndex &from, const QModelIndex &to, const QList<int> &roles) override;
@@ -45,9 +52,10 @@ protected:
     void startDrag(Qt::DropActions) override { m_calls.dragOut(); }
 
     GridModel &m_model;
-    GridDelegate &m_delegate;
+    GridDelegate &m_delegate;                   ///< its own: an editor must belong to one view only
 
 private:
+    QWidget *openEditor() const;                ///< null = none
     ViewCalls m_calls;
     int m_dropLine = -1;
 };

@@ -25,13 +25,13 @@ void RowEngine::setLocale(const QLocale &locale)
 
 void RowEngine::restart()
 {
-    m_groups.clear(), m_sorts.clear();
     setAllExpanded(true);
-    refill({});
+    refill({}, {}, {});
 }
 
-void RowEngine::refill(std::vector<bool> fitting)
+void RowEngine::refill(std::vector<bool> fitting, std::vector<SortKey> groups, std::vector<SortKey> sorts)
 {
+    m_groups = std::move(groups), m_sorts = std::move(sorts);
     m_ranks.clear();
     m_fits = std::move(fitting);
     rebuild();

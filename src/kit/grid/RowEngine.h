@@ -34,7 +34,8 @@ public:
     explicit RowEngine(const RowCells &cells) : m_cells(&cells) { setLocale(QLocale::c()); }
     void setLocale(const QLocale &locale);                  ///< order of texts; digits count as numbers
     void restart();                                         ///< another table: no keys, no filter, no states
-    void refill(std::vector<bool> fitting);                 ///< other rows of the table, see setFitting()
+    /// Other rows of the table, see setFitting(), maybe with fewer columns.
+    void refill(std::vector<bool> fitting, std::vector<SortKey> groups, std::vector<SortKey> sorts);
     void setKeys(std::span<const SortKey> groups, std::span<const SortKey> sorts);
     void setFitting(std::vector<bool> rows);                ///< by row; empty = all
     const std::vector<SortKey> &groupLevels() const { return m_groups; }

@@ -11,8 +11,6 @@ inline constexpr QRgb kGrayInk = 0xff6e6e6e;        ///< of grayed rows; still l
 inline constexpr QRgb kRule = 0xffb8b8b8;           ///< lines of the table
 inline constexpr QRgb kCaptionFill = 0xffe6e6e6;
 
-double contrastOf(QColor a, QColor b);              ///< 1 (same) to 21 (black on white)
-
 /// The colour that letters get on that ground (invalid = paper): `wanted` when it can be read there, or black
 /// or white.
 QColor inkOn(QColor ground, QColor wanted);

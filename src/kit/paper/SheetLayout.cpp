@@ -13,6 +13,7 @@ constexpr double kPadPerLine = 0.25;        ///< blank beside a text, in line he
 constexpr double kRowPadPerLine = 0.12;     ///< above and below it
 constexpr double kMostPictureLines = 3;     ///< pictures of a row are not higher
 constexpr double kGapPerLine = 0.5;         ///< between header, table and footer
+constexpr double kRoundingSlack = 1.03;
 
 QFont boldened(QFont font)
 {
@@ -32,6 +33,8 @@ QRectF areaOf(const QPageLayout &paper)
     return QRectF(QPointF(), size).marginsRemoved(margins);
 }
 
+double sumOf(const std::vector<double> &widths) { return std::accumulate(widths.begin(), widths.end(), 0.0); }
+
 bool staysWithNext(int level, int next) { return level >= 0 && (next < 0 || next > level); }
 
 } // namespace
@@ -40,7 +43,7 @@ SheetLayout::SheetLayout(const SheetSource &source, bool withHeader, const QPage
     : m_paper(paper), m_area(areaOf(paper)), m_withHeader(withHeader), m_columns(source.sheetColumns()),
       m_titleFont(boldened(QGuiApplication::font()), kPoints * 1.3)
 {
-    fitColumns();
+    fitColumns(source);
     breakPages(source);
 }
 
@@ -60,29 +63,66 @@ std::vector<double> SheetLayout::wantedWidths() const
     return widths;
 }
 
-void SheetLayout::fitColumns()
+/// What the captions and some rows from all over the table fill on one line, at most what the screen gives.
+std::vector<double> SheetLayout::neededWidths(const SheetSource &source,
+                                              const std::vector<double> &wanted) const
+{
+    constexpr int kRows = 400;
+    std::vector<double> needed(m_columns.size());
+    for (size_t c = 0; c < needed.size(); ++c) needed[c] = m_boldFont->widestWord(m_columns[c].caption);
+    const int step = std::max(1, source.sheetRows() / kRows);
+    for (int r = 0; r < source.sheetRows(); r += step) {
+        const SheetSource::Row row = source.sheetRow(r);
+        for (size_t c = 0; row.level < 0 && c < std::min(row.cells.size(), needed.size()); ++c) {
+            const SheetSource::Cell &cell = row.cells[c];
+            double width = cell.text.isEmpty() ? 0 : m_font->width(cell.text);
+            if (cell.check >= 0) width += m_font->lineHeight();
+            if (!cell.picture.isNull())
+                width += cell.picture.deviceIndependentSize().width() * m_unitsPerPixel + m_pad;
+            needed[c] = std::max(needed[c], width);
+        }
+    }
+    for (size_t c = 0; c < needed.size(); ++c) needed[c] = std::min(needed[c] + 2 * m_pad, wanted[c]);
+    return needed;
+}
+
+void SheetLayout::sizeLetters(double points)
 {
     const QFont screen = QGuiApplication::font();
-    double points = kPoints;
-    const auto take = [&] {
-        m_font = sized(screen, points);
-        m_boldFont = sized(boldened(screen), points);
-        m_pad = m_font->lineHeight() * kPadPerLine;
-        m_unitsPerPixel = double(m_font->font().pixelSize()) / std::max(QFontInfo(screen).pixelSize(), 1);
-        return wantedWidths();
-    };
-    m_widths = take();
-    const double whole = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
-    if (whole > m_area.width()) {
-        points = std::max(kPoints * m_area.width() / whole, kSmallestPoints);
-        m_widths = take();
+    m_font = sized(screen, points);
+    m_boldFont = sized(boldened(screen), points);
+    m_pad = m_font->lineHeight() * kPadPerLine;
+    m_unitsPerPixel = double(m_font->font().pixelSize()) / std::max(QFontInfo(screen).pixelSize(), 1);
+}
+
+void SheetLayout::fitColumns(const SheetSource &source)
+{
+    const double room = m_area.width();
+    sizeLetters(kPoints);
+    m_widths = wantedWidths();
+    double whole = sumOf(m_widths);
+    if (whole > room) {
+        std::vector<double> needed = neededWidths(source, m_widths);
+        double least = sumOf(needed);
+        if (least > room) {
+            sizeLetters(std::max(kPoints * room / least, kSmallestPoints));
+            m_widths = wantedWidths();
+            needed = neededWidths(source, m_widths);
+            whole = sumOf(m_widths), least = sumOf(needed);
+        }
+        const double share = whole > least ? std::clamp((room - least) / (whole - least), 0.0, 1.0) : 0;
         // Sizes of letters are whole units: what rounding leaves over the edge is taken off every column.
-        const double now = std::accumulate(m_widths.begin(), m_widths.end(), 0.0);
-        if (points > kSmallestPoints && now > m_area.width())
-            for (double &w : m_widths) w *= m_area.width() / now;
+        const double over = least > room && least < room * kRoundingSlack ? room / least : 1;
+        for (size_t c = 0; c < needed.size(); ++c)
+            m_widths[c] = (needed[c] + (m_widths[c] - needed[c]) * share) * over;
     }
-    for (double &w : m_widths) w = std::min(w, m_area.width());
+    for (double &w : m_widths) w = std::min(w, room);
     cutStrips(m_widths);
+    takeCaptionsHeight();
+}
+
+void SheetLayout::takeCaptionsHeight()
+{
     int lines = 0;
     for (size_t c = 0; c < m_columns.size(); ++c) {
         const double room = m_widths[c] - 2 * m_pad;

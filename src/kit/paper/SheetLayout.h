@@ -10,10 +10,10 @@ namespace QV_DOC_CONTROLS {
 
 /// Where everything of a sheet stands on its pages; all lengths in paper units from the paper's corner.
 ///
-/// Columns keep the proportions they have on the screen and shrink, letters and all, until they fit the page;
-/// below the smallest legible letters they go on upon further pages across, each of which begins with the
-/// first column. A record takes one line, or two where a text is longer than its column. No row is cut by a
-/// page's end, and a band stands on the page of the first row below it.
+/// Columns are as wide as on the screen. Where the page has less room, their blanks go first, then the
+/// letters shrink; below the smallest legible ones columns go on upon further pages across, each of which
+/// begins with the first column. A record takes one line, or two where a text is longer than its column. No
+/// row is cut by a page's end, and a band stands on the page of the first row below it.
 class SheetLayout {
 public:
     static constexpr double kPoints = 9, kSmallestPoints = 6.5;   ///< letters of the table
@@ -51,7 +51,10 @@ public:
 
 private:
     std::vector<double> wantedWidths() const;
-    void fitColumns();
+    std::vector<double> neededWidths(const SheetSource &source, const std::vector<double> &wanted) const;
+    void sizeLetters(double points);
+    void fitColumns(const SheetSource &source);
+    void takeCaptionsHeight();
     void cutStrips(const std::vector<double> &widths);
     double heightOf(const SheetSource::Row &row, const std::vector<double> &rooms) const;
     void breakPages(const SheetSource &source);

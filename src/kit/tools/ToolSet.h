@@ -78,7 +78,7 @@ private:
     QHash<QByteArray, QMenu *> m_popUps;
     QHash<QByteArray, QActionGroup *> m_oneOf;  ///< by band
     QSet<QByteArray> m_keyed;                   ///< bands whose tools have access keys
-    std::vector<std::pair<QWidget *, Text>> m_bars;
+    std::vector<std::pair<QWidget *, Text>> m_bars;     ///< and what a screen reader calls them
     std::vector<Bound> m_bound;
 };
 

@@ -110,6 +110,14 @@ qint64 Recordset::integer(int row, int field) const
 double Recordset::real(int row, int field) const { return numberIn(text(row, field)).value_or(0); }
 bool Recordset::boolean(int row, int field) const { return booleanIn(text(row, field)).value_or(false); }
 
+Recordset Recordset::withoutRows() const
+{
+    Recordset set(m_fields);
+    set.rowName = rowName;
+    set.rowDescription = rowDescription;
+    return set;
+}
+
 int Recordset::addRow(RowState state)
 {
     m_rows.push_back({m_values.size(), 0, state});

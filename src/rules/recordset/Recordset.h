@@ -78,6 +78,7 @@ public:
     double real(int row, int field) const;      ///< of any number column; 0 for null
     bool boolean(int row, int field) const;     ///< of a boolean column; false for null
 
+    Recordset withoutRows() const;              ///< the same columns
     int addRow(RowState state);       ///< without values; returns its index
     void setNull(int row, int field); ///< said explicitly, as an edited value is
     // Each false = the column cannot hold it (too long, out of range, not finite); nothing changes then.

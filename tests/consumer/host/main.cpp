@@ -1,5 +1,6 @@
 #include "TinyDoc.h"
 
+#include "controls/ZOL3_LayGroup.h"
 #include "facade/clsDocDlgs.h"
 
 #include <QApplication>
@@ -45,4 +46,11 @@ int main(int argc, char **argv)
     if (!dialogs.bSelect_Lay(doc, lay)) return 1;
     std::printf("picked %d %s\n", lay.gNr, qPrintable(lay.Name));
     std::printf("current %d\n", doc.layers().find(doc.layers().currentId()).value().gNr);
+
+    QV_DOC_CONTROLS::ZOL3_LayGroup set;
+    QObject::connect(&set, &QV_DOC_CONTROLS::ZOL3_LayGroup::ChangeLays,
+                     [](QV_DOC_CONTROLS::LayerSet &layers) { std::printf("set of %d\n", layers.count()); });
+    set.setZOLW_Doc(&doc);
+    set.setsLays(QStringLiteral("30,1-20"));
+    std::printf("named %s\n", qPrintable(set.sLays()));
 }

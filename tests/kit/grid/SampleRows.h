@@ -59,7 +59,7 @@ struct SampleRows : GridSource {
     }
     RowStyles styles(int row) const override
     {
-        return {{}, {{Color, QString::number(at(row).color) + "ColorId"}}};
+        return {.cells = {{Color, QString::number(at(row).color) + "ColorId"}}};
     }
     QPixmap picture(int row, int) const override
     {

@@ -1,39 +1,25 @@
 #include "kit/grid/SampleRows.h"
+#include "support/RealDrag.h"
 #include "support/Registry.h"
 
-#include "kit/grid/Grid.h"
-
-#include <QGuiApplication>
-#include <QProcess>
-#include <QScreen>
-#include <QStandardPaths>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
-#include <QTimer>
-#include <QAbstractItemView>
-#include <QWindow>
 
 using namespace tests;
 
-/// A real drag with the pointer of an X server, from one grid to another. Other platforms end a drag at once.
 class tst_GridDrag : public QObject {
     Q_OBJECT
 private slots:
     void rowsAreDraggedFromGridToGrid();
+    void linesScrollUnderWhatIsDragged();
 };
-
-static QPoint onScreen(Grid &grid, int line)
-{
-    QAbstractItemView &table = *grid.table();
-    const QPoint at = table.visualRect(table.model()->index(line, SampleRows::Name)).center();
-    return table.viewport()->mapToGlobal(at) * grid.devicePixelRatioF();
-}
 
 void tst_GridDrag::rowsAreDraggedFromGridToGrid()
 {
-    if (QGuiApplication::platformName() != "xcb") QSKIP("needs an X server");
-    const QString pointer = QStandardPaths::findExecutable("xdotool");
-    if (pointer.isEmpty()) QSKIP("needs xdotool to move the pointer");
-
+    if (const char *const why = RealDrag::hindrance()) QSKIP(why);
     SampleRows from({"alma", "körte"}), to({"barack", "szilva"});
     Grid left, right;
     left.setSource(&from), right.setSource(&to);
@@ -42,21 +28,28 @@ void tst_GridDrag::rowsAreDraggedFromGridToGrid()
     left.show(), right.show();
     QVERIFY(QTest::qWaitForWindowExposed(&left) && QTest::qWaitForWindowExposed(&right));
     left.setCurrentRow(1);
-
-    const QPoint start = onScreen(left, 1), end = onScreen(right, 0);
-    QStringList moves;
-    const auto moveTo = [&](QPoint at) {
-        moves << "mousemove" << QString::number(at.x()) << QString::number(at.y()) << "sleep" << "0.1";
-    };
-    moveTo(start);
-    moves << "mousedown" << "1" << "sleep" << "0.1";
-    for (int i = 1; i <= 5; ++i) moveTo(start + (end - start) * i / 5);
-    moveTo(end + QPoint(2, 0));
-    moves << "mouseup" << "1";
-    QProcess hand;
-    hand.start(pointer, moves);
+    RealDrag drag(left, 1, right, 0);
     QTRY_COMPARE_WITH_TIMEOUT(to.log, QStringList{"drop 1 rows row 0 band -1/-1"}, 15000);
-    QVERIFY(hand.waitForFinished());
+    QVERIFY(drag.ended());
+}
+
+void tst_GridDrag::linesScrollUnderWhatIsDragged()
+{
+    SampleRows rows(QStringList(200, "alma"));
+    Grid grid;
+    grid.setSource(&rows);
+    grid.resize(500, 300);
+    grid.show();
+    QAbstractItemView &view = *grid.activeView();
+    QMimeData mime;
+    mime.setText("egy");
+    const QPoint edge = view.viewport()->rect().bottomLeft() + QPoint(20, -5);
+    QCursor::setPos(view.viewport()->mapToGlobal(edge));
+    QDragEnterEvent enter(edge, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(view.viewport(), &enter);
+    QTRY_VERIFY(view.verticalScrollBar()->value() > 0);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(view.viewport(), &leave);
 }
 
 QVDC_TEST(tst_GridDrag)

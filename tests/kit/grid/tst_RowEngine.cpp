@@ -132,7 +132,7 @@ void tst_RowEngine::statesOfBandsOutliveSortEditAndRefill()
     engine.setFitting({false, false, false, true, false});
     QCOMPARE(dump(engine, cells), "[y:1] c");           // no row of x
     cells.rows.push_back({"new", "0", "x"});
-    engine.refill({});
+    engine.refill({}, engine.groupLevels(), engine.sortKeys());
     QCOMPARE(dump(engine, cells), "[y:1] c [x:5-]");
     QCOMPARE(engine.shownCount(), 6);                   // collapsed rows are shown rows
     QCOMPARE(engine.lineOf(5), -1);

@@ -1,4 +1,4 @@
-#include "grids/layer/LayerFileTexts.h"
+#include "rules/LayerFileTexts.h"
 
 #include "facade/services/Text.h"
 

@@ -1,0 +1,127 @@
+#include "qvres/TableFiles.h"
+
+#include "qvres/CsvTable.h"
+#include "qvres/JsonTable.h"
+#include "qvres/RecordTables.h"
+
+#include "document/SqliteDoc.h"
+#include "facade/services/Text.h"
+#include "rules/LayerFile.h"
+#include "rules/LayerFileTexts.h"
+#include "rules/recordset/RecordsetXml.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace qvres {
+
+using namespace QV_DOC_CONTROLS;
+
+namespace {
+
+Failure failureOf(const QString &path, const QString &why)
+{
+    return Failure(path + QStringLiteral(": ") + why);
+}
+
+QByteArray bytesIn(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw failureOf(path, file.errorString());
+    return file.readAll();
+}
+/// Errors of `body` name the file.
+template <class Body> auto about(const QString &path, Body body)
+{
+    try {
+        return body();
+    } catch (const Failure &e) {
+        throw failureOf(path, QString::fromUtf8(e.what()));
+    }
+}
+
+Recordset setIn(const QString &path)
+{
+    auto read = recordsetOf(bytesIn(path));
+    if (const auto *const refusal = std::get_if<RecordsetRefusal>(&read))
+        throw failureOf(path, textOf(*refusal));
+    return std::get<Recordset>(std::move(read));
+}
+
+Content readSet(const QString &path, const QString &)
+{
+    Recordset set = setIn(path);
+    return {{tableOf(set)}, std::move(set)};
+}
+Content readLayers(const QString &path, const QString &codePage)
+{
+    const auto read = layerFileOf(bytesIn(path), codePage);
+    if (const auto *const refusal = std::get_if<LayerFileRefusal>(&read))
+        throw Failure(notUsable(*refusal, path));
+    return {tablesOf(std::get<LayerFile>(read)), {}};
+}
+Content readDocument(const QString &path, const QString &)
+{
+    return {tablesOf(*refhost::SqliteDoc::open(path)), {}};
+}
+template <Table (*tableOfBytes)(const QByteArray &)> Content readText(const QString &path, const QString &)
+{
+    const QByteArray bytes = bytesIn(path);
+    return about(path, [&] { return Content{{tableOfBytes(bytes)}, {}}; });
+}
+
+const Table &onlyTable(const Content &content)
+{
+    if (content.tables.size() != 1)
+        throw Failure(txt(Text{31112, u"A forrásban több táblázat van; ezek csak JSON-fájlba írhatók."}));
+    return content.tables.front();
+}
+
+QByteArray setBytes(const Content &content, const QString &like)
+{
+    if (content.set && like.isEmpty()) return bytesOf(*content.set); // its values as they stand
+    if (like.isEmpty()) return bytesOf(setFor(onlyTable(content), nullptr));
+    const Recordset model = setIn(like);
+    return bytesOf(setFor(onlyTable(content), &model));
+}
+QByteArray jsonBytes(const Content &content, const QString &) { return jsonOf(content.tables); }
+QByteArray csvBytes(const Content &content, const QString &) { return csvOf(onlyTable(content)); }
+
+struct FileKind {
+    const char *ending;
+    Content (*read)(const QString &path, const QString &codePage);
+    QByteArray (*bytes)(const Content &, const QString &like); ///< null = cannot be written
+};
+constexpr FileKind kKinds[] = {
+    {"rst", readSet, setBytes},
+    {"json", readText<tableOfJson>, jsonBytes},
+    {"csv", readText<tableOfCsv>, csvBytes},
+    {"z3l", readLayers, nullptr},
+    {"qvd", readDocument, nullptr},
+};
+
+const FileKind &kindOf(const QString &path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    for (const FileKind &kind : kKinds)
+        if (ending == QLatin1String(kind.ending)) return kind;
+    throw failureOf(
+        path, txt(Text{31113, u"Ismeretlen fájlfajta. Ismert végződések: .rst, .json, .csv, .z3l, .qvd."}));
+}
+
+} // namespace
+
+Content read(const QString &path, const QString &codePage) { return kindOf(path).read(path, codePage); }
+
+void write(const QString &path, const Content &content, const QString &like)
+{
+    const FileKind &kind = kindOf(path);
+    if (!kind.bytes)
+        throw failureOf(path, txt(Text{31114, u"Ilyen fájlba nem lehet írni. Írható: .rst, .json, .csv."}));
+    const QByteArray bytes = about(path, [&] { return kind.bytes(content, like); });
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw failureOf(path, file.errorString());
+}
+
+} // namespace qvres

@@ -1,0 +1,310 @@
+#include "controls/InputForm.h"
+
+#include "controls/PropertyError.h"
+#include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QMetaProperty>
+#include <QStyle>
+
+#include <algorithm>
+
+using namespace QV_DOC_CONTROLS;
+using namespace tests;
+
+namespace {
+
+using Values = std::vector<std::pair<const char *, QVariant>>;
+/// Every published property, outside its default.
+const Values kValues = {
+    {"Backcolor", QColor(0x11, 0x22, 0x33)},
+    {"ForeColor", QColor::fromRgba(0x80000012)},
+    {"Enabled", false},
+    {"Font", QFont(QStringLiteral("DejaVu Serif"), 17)},
+    {"BorderStyle", 1},
+    {"BeforeString", QStringLiteral("ő =")},
+    {"Value", QStringLiteral("12.25")},
+    {"Min", 11.5},
+    {"Max", 13.0},
+    {"FormatString", QStringLiteral("#,##0.0")},
+    {"WidthBeforeString", 100},
+    {"AfterString", QStringLiteral("cm")},
+    {"InfoMode", true},
+    {"BeforeStringAlign", 2},
+    {"WidthValue", 2345},
+    {"WidthAfterString", 678},
+    {"TimerInterval", 77},
+    {"SetFocusNextTabIndex", 4},
+    {"SetFucusBackTabIndex", 5},
+    {"InputType", 3},
+    {"AutoSelect", false},
+    {"UpDownInc", 0.25},
+    {"UpDownVisible", true},
+    {"LenMax", 9},
+    {"ReadsLocale", true},
+    {"ErrorsInPlace", true},
+};
+
+QPalette darkPalette()
+{
+    QPalette p(QColor(0x2d, 0x2f, 0x33));
+    p.setColor(QPalette::Base, QColor(0x1e, 0x20, 0x23));
+    return p;
+}
+
+/// Pictures for the eye go where QVDC_PICTURES says; without it none are kept.
+void keepPicture(const QPixmap &picture, const QString &name)
+{
+    const QString folder = qEnvironmentVariable("QVDC_PICTURES");
+    if (!folder.isEmpty() && QDir().mkpath(folder))
+        QVERIFY(picture.save(folder + u'/' + name + QStringLiteral(".png")));
+}
+
+} // namespace
+
+class tst_usInputBoxLook : public QObject {
+    Q_OBJECT
+private slots:
+    void cleanup()
+    {
+        setDesignedTest(nullptr);
+        setLanguage(Hungarian, {});
+    }
+
+    void aFormMayLoadThePropertiesInAnyOrder()
+    {
+        Values values = kValues;
+        std::ranges::sort(values, {}, [](const auto &v) { return QByteArray(v.first); });
+        for (int turn = 0; turn < 60; ++turn) {
+            ScriptedPrompts silent;
+            InputForm f;
+            for (const auto &[name, value] : values) QVERIFY2(f.box->setProperty(name, value), name);
+            f.shown();
+            for (const auto &[name, value] : kValues) QCOMPARE(f.box->property(name), value);
+            std::next_permutation(values.begin(), values.end(), [](const auto &a, const auto &b) {
+                return QByteArray(a.first) < QByteArray(b.first);
+            });
+            std::rotate(values.begin(), values.begin() + turn % 7, values.end());
+        }
+    }
+
+    void aBagKeepsWhatDiffersFromItsDefault()
+    {
+        ScriptedPrompts silent;
+        InputForm f;
+        QCOMPARE(f.box->propertyBag(), QVariantMap());
+        for (const auto &[name, value] : kValues) f.box->setProperty(name, value);
+        const QVariantMap bag = f.box->propertyBag();
+        QCOMPARE(bag.size(), qsizetype(kValues.size()));
+        QCOMPARE(bag.value(QStringLiteral("BackColor")), QVariant(0x112233u));
+        QCOMPARE(bag.value(QStringLiteral("ForeColor")), QVariant(0x80000012u));
+        InputForm g;
+        g.shown();
+        g.box->setPropertyBag(bag);
+        QCOMPARE(g.box->propertyBag(), bag);
+        QCOMPARE(g.box->picValue->text(), QStringLiteral("12.3"));
+        g.box->setPropertyBag({});
+        QCOMPARE(g.box->propertyBag(), QVariantMap());
+    }
+
+    void whatAFormSaysWrongIsPutRightWhenFirstShown()
+    {
+        ScriptedPrompts silent;
+        InputForm f;
+        f.box->setProperty("Value", QStringLiteral("99"));
+        f.box->setProperty("Min", 20.0);
+        f.box->setProperty("Max", 10.0);
+        QCOMPARE(f.box->Min(), 20.0);           // raw until then
+        f.shown();
+        QCOMPARE(f.box->Min(), 10.0);
+        QCOMPARE(f.box->Max(), 20.0);
+        QCOMPARE(f.box->Value().toDouble(), 20.0);
+        QCOMPARE(f.raised, QStringList());
+    }
+
+    void atRunTimeThePropertyPathChecksLikeTheSetter()
+    {
+        InputForm f;
+        f.whole(5, 0, 10).shown();
+        ScriptedPrompts user(
+            {{"tell", QStringLiteral("Hiba"), QStringLiteral("Hibás minimum!"), {}, Icon::Exclamation}});
+        f.box->setProperty("Min", 6.0);
+        f.box->setProperty("Value", QStringLiteral("7"));
+        QCOMPARE(f.box->Min(), 0.0);
+        QCOMPARE(f.raised, QStringList{"Change 7"});
+    }
+
+    void whileDesignedItShowsAndStoresOnly()
+    {
+        ScriptedPrompts silent;
+        setDesignedTest([](const QWidget &) { return true; });
+        InputForm f;
+        f.shown();
+        f.box->setProperty("Min", 20.0);
+        f.box->setProperty("Value", QStringLiteral("7"));
+        f.box->setProperty("Enabled", false);
+        QVERIFY(f.box->isEnabled());            // else it could not be clicked
+        QVERIFY(!f.box->Enabled());
+        QCOMPARE(f.box->property("Value").toString(), QStringLiteral("7"));
+        QCOMPARE(f.text(), QStringLiteral("7"));
+    }
+
+    void sixteenBitAndSinglePropertiesAreCut()
+    {
+        usInputBox box;
+        for (const char *name :
+             {"BorderStyle", "WidthBeforeString", "BeforeStringAlign", "WidthValue", "TimerInterval",
+              "WidthAfterString", "SetFocusNextTabIndex", "SetFucusBackTabIndex", "InputType", "LenMax"}) {
+            box.setProperty(name, 100000);
+            QCOMPARE(box.property(name).toInt(), 32767);
+            box.setProperty(name, -100000);
+            QCOMPARE(box.property(name).toInt(), -32768);
+        }
+        box.setBorderStyle(0);
+        QCOMPARE(box.sizeHint().width(), 0);    // negative widths count as none
+        box.setProperty("UpDownInc", 1e300);
+        QVERIFY(box.UpDownInc() < 3.5e38);
+        box.setProperty("UpDownInc", -0.1);
+        QCOMPARE(box.UpDownInc(), 0.1);
+    }
+
+    void theChildrenStandInARow()
+    {
+        InputForm f;
+        f.box->setUpDownVisible(true);
+        f.shown();
+        const auto &before = *f.box->findChild<QLabel *>(QStringLiteral("lblBefore"));
+        const auto &unit = *f.box->findChild<QLabel *>(QStringLiteral("lblAfter"));
+        const int inch = f.box->logicalDpiX();
+        QCOMPARE(before.width(), 1200 * inch / 1440);
+        QCOMPARE(f.box->txtCombo->x(), before.width());
+        QCOMPARE(f.box->txtCombo->width(), 1200 * inch / 1440);
+        QCOMPARE(f.box->UpDown1->x(), f.box->txtCombo->geometry().right() + 1);
+        QCOMPARE(unit.x(), f.box->UpDown1->geometry().right() + 1);
+        QVERIFY(unit.width() >= 300 * inch / 1440);
+        QCOMPARE(f.line().rect(), f.box->txtCombo->rect()); // nothing to open
+        f.box->setBeforeString(QStringLiteral("Mittelparallelabstand der Straßenachsen ="));
+        f.sendPosted();
+        QCOMPARE(before.text(), f.box->BeforeString()); // not cut off while there is room
+        f.box->setFixedWidth(200);
+        QVERIFY(before.text().endsWith(u'…'));
+        QCOMPARE(before.toolTip(), f.box->BeforeString());
+        QVERIFY(f.box->txtCombo->width() > 60);
+    }
+
+    void infoModeShowsTheValueAsALabel()
+    {
+        InputForm f(kComma);
+        f.decimals(0, 10).box->LetValue(2.5);
+        f.box->setUpDownVisible(true);
+        f.box->setInfoMode(true);
+        f.shown();
+        QVERIFY(f.box->picValue->isVisible() && !f.box->txtCombo->isVisible() &&
+                !f.box->UpDown1->isVisible());
+        QCOMPARE(f.box->picValue->text(), QStringLiteral("2,50"));
+        QVERIFY(f.box->LetValue(3));
+        QCOMPARE(f.box->picValue->text(), QStringLiteral("3,00"));
+        f.box->setLocale(kDot);
+        QCOMPARE(f.box->picValue->text(), QStringLiteral("3.00"));
+    }
+
+    void screenReadersHearNameValueRangeAndError()
+    {
+        InputForm f;
+        f.whole(5, 0, 10).shown();
+        QAccessibleInterface &box = *QAccessible::queryAccessibleInterface(f.box->txtCombo);
+        QCOMPARE(box.role(), QAccessible::SpinBox);
+        QCOMPARE(box.text(QAccessible::Name), QStringLiteral("Value, mm"));
+        QCOMPARE(box.text(QAccessible::Value), QStringLiteral("5"));
+        QCOMPARE(box.text(QAccessible::Description), QStringLiteral("0 és 10 közé eső érték!"));
+        QCOMPARE(box.valueInterface()->maximumValue(), QVariant(10.0));
+        QCOMPARE(box.textInterface()->characterCount(), 1);
+        box.valueInterface()->setCurrentValue(6);
+        QCOMPARE(f.raised, QStringList{"Change 6"});
+        f.type(QStringLiteral("11"));           // already while typing
+        QCOMPARE(box.text(QAccessible::Description),
+                 QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
+        QVERIFY(!f.box->acceptableNumber());
+        ScriptedPrompts user({{"tell",
+                               QStringLiteral("Érték hiba!"),
+                               QStringLiteral("0 és 10 közé eső értéket kell megadni!"),
+                               {},
+                               Icon::Exclamation}});
+        f.press(Qt::Key_Return);
+        QCOMPARE(box.text(QAccessible::Description),
+                 QStringLiteral("0 és 10 közé eső értéket kell megadni!"));
+        f.type(QStringLiteral("7\n"));
+        QCOMPARE(box.text(QAccessible::Description), QStringLiteral("0 és 10 közé eső érték!"));
+        QCOMPARE(f.box->acceptableNumber(), std::optional(7.0));
+    }
+
+    void textsFollowTheLanguage_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("hint");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("refusal");
+        QTest::newRow("hu") << int(Hungarian) << "1,0 és 2,5 közé eső érték!"
+                            << "Érték hiba!"
+                            << "Számot kell megadni!";
+        QTest::newRow("en") << int(English) << "1.0 and2.5 in range!" << "Invalid value!" << "Input number!";
+        QTest::newRow("ro") << int(Romanian) << "1,0 și 2,5 sunt limitele valorii!" << "Eroare de valoare!"
+                            << "Introduceți un număr!";
+        QTest::newRow("vi") << int(Vietnamese) << "1,0 đến 2,5 là khoảng giá trị cho phép!" << "Lỗi giá trị!"
+                            << "Phải nhập một số!";
+    }
+    void textsFollowTheLanguage()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, hint);
+        QFETCH(QString, title);
+        QFETCH(QString, refusal);
+        InputForm f(language == English ? kDot : kComma);
+        f.decimals(1, 2.5, "0.0").shown();
+        setLanguage(language, {});
+        emit LanguageHub::instance().LanguageChanged();
+        QCOMPARE(f.box->txtCombo->toolTip(), hint);
+        QCOMPARE(f.box->AfterString(), QStringLiteral("mm"));
+        ScriptedPrompts user({{"tell", title, refusal, {}, Icon::Exclamation}});
+        f.type(QStringLiteral("\n"));
+        f.type(QStringLiteral("2"));
+        keepPicture(f.dialog.grab(), QStringLiteral("inputbox-") + QLatin1String(QTest::currentDataTag()));
+        f.leave();
+    }
+
+    void colorsAreTheFormsOrTheDesktops()
+    {
+        const QPalette light = QApplication::palette();
+        InputForm f;
+        f.whole(5, 0, 10).shown();
+        QApplication::setPalette(darkPalette());
+        f.sendPosted();
+        QCOMPARE(f.line().palette().color(QPalette::Base), QColor(0x1e, 0x20, 0x23));
+        f.box->setBackcolor(QColor(0xff, 0xff, 0xd0));
+        QCOMPARE(f.line().palette().color(QPalette::Base), QColor(0xff, 0xff, 0xd0));
+        QCOMPARE(f.line().palette().color(QPalette::Text), QColor(Qt::black)); // legible on it
+        f.box->setForeColor(QColor(0x80, 0, 0));
+        QCOMPARE(f.line().palette().color(QPalette::Text), QColor(0x80, 0, 0));
+        f.box->resetBackcolor(), f.box->resetForeColor();
+        QCOMPARE(f.line().palette().color(QPalette::Base), QColor(0x1e, 0x20, 0x23));
+        f.box->setUpDownVisible(true), f.box->setBorderStyle(1);
+        f.box->ComboValue(3);
+        f.sendPosted();
+        for (const bool dark : {true, false}) {
+            QApplication::setPalette(dark ? darkPalette() : light);
+            f.sendPosted();
+            f.type(QStringLiteral("7"));
+            const QImage fine = f.dialog.grab().toImage();
+            f.type(QStringLiteral("11"));
+            const QImage wrong = f.dialog.grab().toImage();
+            QVERIFY(fine != wrong);
+            keepPicture(QPixmap::fromImage(wrong),
+                        dark ? QStringLiteral("inputbox-dark") : QStringLiteral("inputbox-light"));
+            f.type(QStringLiteral("7\n"));
+        }
+    }
+};
+QVDC_TEST(tst_usInputBoxLook)
+#include "tst_usInputBoxLook.moc"

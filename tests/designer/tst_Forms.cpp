@@ -1,0 +1,267 @@
+#include "controls/DesignMode.h"
+#include "controls/ZOL3_LayGroup.h"
+#include "controls/ZOL3_LayInfo.h"
+#include "controls/usInputBox.h"
+#include "controls/usLays.h"
+#include "facade/services/Language.h"
+#include "support/Registry.h"
+
+#include "ui_AttributeForm.h"
+
+#include <QtDesigner/QDesignerComponents>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerIntegration>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
+#include <QtDesigner/QFormBuilder>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtUiTools/QUiLoader>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QComboBox>
+#include <QDir>
+#include <QDomDocument>
+#include <QPluginLoader>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <random>
+
+using namespace QV_DOC_CONTROLS;
+
+namespace {
+
+using Values = std::vector<std::pair<const char *, QVariant>>;
+struct Control {
+    const char *name;
+    Values values;                              ///< design-time properties, outside their defaults
+    QStringList closed{};                       ///< that the designer shows and does not set
+};
+
+const QVariant kFont = QFont(QStringLiteral("DejaVu Serif"), 17);
+
+const std::vector<Control> &controls()
+{
+    static const std::vector<Control> all{
+        {"usInputBox",
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"ForeColor", QColor::fromRgba(0x80000012)},
+          {"Enabled", false},
+          {"Font", kFont},
+          {"BorderStyle", 1},
+          {"BeforeString", QStringLiteral("ő & <=>")},
+          {"Value", QStringLiteral("12.25")},
+          {"Min", 11.5},
+          {"Max", 13.125},
+          {"FormatString", QStringLiteral("#,##0.0 \"m\"")},
+          {"WidthBeforeString", 100},
+          {"AfterString", QStringLiteral("cm")},
+          {"InfoMode", true},
+          {"BeforeStringAlign", 2},
+          {"WidthValue", 2345},
+          {"WidthAfterString", 678},
+          {"TimerInterval", 77},
+          {"SetFocusNextTabIndex", 4},
+          {"SetFucusBackTabIndex", 5},
+          {"InputType", 3},
+          {"AutoSelect", false},
+          {"UpDownInc", 0.25},
+          {"UpDownVisible", true},
+          {"LenMax", 9},
+          {"ReadsLocale", true},
+          {"ErrorsInPlace", true}}},
+        {"ZOL3_LayGroup",
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"Font", kFont},
+          {"SingleLine", true},
+          {"WidthDiferent", 12.5}},
+         {"sLays", "sLayGroup"}},
+        {"usLays",
+         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+          {"Font", kFont},
+          {"SingleLine", true},
+          {"WidthDiferent", -12.5}},
+         {"sLays", "sLayGroup"}},
+        {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
+    };
+    return all;
+}
+
+QString className(const Control &control)
+{
+    return QStringLiteral("QV_DOC_CONTROLS::") + QLatin1String(control.name);
+}
+
+QList<QDesignerCustomWidgetInterface *> offered()
+{
+    static QPluginLoader loader;
+    const QDir folder(QStringLiteral(PLUGINS "/designer"));
+    loader.setFileName(folder.filePath(folder.entryList(QDir::Files).value(0)));
+    auto *const plugin = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
+    return plugin ? plugin->customWidgets() : QList<QDesignerCustomWidgetInterface *>();
+}
+
+std::unique_ptr<QWidget> loaded(const QByteArray &form, bool byUiLoader)
+{
+    QBuffer buffer;
+    buffer.setData(form);
+    buffer.open(QIODevice::ReadOnly);
+    if (byUiLoader) {
+        QUiLoader loader;
+        loader.addPluginPath(QStringLiteral(PLUGINS "/designer"));
+        return std::unique_ptr<QWidget>(loader.load(&buffer));
+    }
+    QFormBuilder builder;
+    builder.setPluginPath({QStringLiteral(PLUGINS "/designer")});
+    return std::unique_ptr<QWidget>(builder.load(&buffer));
+}
+
+/// The form with the properties of its control in another order.
+QByteArray shuffled(const QByteArray &form, std::mt19937 &random)
+{
+    QDomDocument dom;
+    dom.setContent(form);
+    QDomElement widget = dom.documentElement().firstChildElement(QStringLiteral("widget"));
+    widget = widget.firstChildElement(QStringLiteral("widget"));
+    std::vector<QDomElement> properties;
+    for (auto p = widget.firstChildElement(QStringLiteral("property")); !p.isNull();
+         p = p.nextSiblingElement(QStringLiteral("property")))
+        properties.push_back(p);
+    std::ranges::shuffle(properties, random);
+    for (const QDomElement &p : properties) widget.appendChild(p);
+    return dom.toByteArray();
+}
+
+QString said(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QFont ? value.value<QFont>().toString() : value.toString();
+}
+
+/// On a form of its own, every value as it was set, once shown.
+void holdsValues(QWidget *form, const Control &control)
+{
+    QVERIFY(form);
+    const QWidget *const found = form->findChild<QWidget *>(QStringLiteral("control"));
+    QVERIFY(found);
+    QCOMPARE(QLatin1String(found->metaObject()->className()), className(control));
+    form->show();
+    for (const auto &[name, value] : control.values)
+        QVERIFY2(said(found->property(name)) == said(value),
+                 qPrintable(QStringLiteral("%1.%2: %3, not %4")
+                                .arg(QLatin1String(control.name), QLatin1String(name),
+                                     said(found->property(name)), said(value))));
+}
+
+QByteArray savedForm(const Control &control)
+{
+    QWidget form;
+    for (auto *const offer : offered()) {
+        if (offer->name() != className(control)) continue;
+        QWidget *const made = offer->createWidget(&form);
+        made->setObjectName(QStringLiteral("control"));
+        for (const auto &[name, value] : control.values)
+            if (!made->setProperty(name, value)) qFatal("no property %s", name);
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QFormBuilder().save(&buffer, &form);
+    return buffer.data();
+}
+
+} // namespace
+
+class tst_Forms : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase() { QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS)); }
+
+    void thePluginOffersEveryControl()
+    {
+        const auto all = offered();
+        QCOMPARE(all.size(), qsizetype(controls().size()));
+        QStringList tips;
+        for (size_t i = 0; i < controls().size(); ++i) {
+            const auto &offer = *all[qsizetype(i)];
+            QCOMPARE(offer.name(), className(controls()[i]));
+            QVERIFY(!offer.icon().pixmap(22, 22).isNull());
+            QVERIFY(offer.domXml().contains(offer.name()));
+            for (const int language : {Hungarian, English, Romanian, Vietnamese}) {
+                setLanguage(language, {});
+                tips << offer.toolTip();
+            }
+            setLanguage(Hungarian, {});
+            QWidget form;
+            QWidget *const preview = all[qsizetype(i)]->createWidget(&form);
+            preview->resize(preview->sizeHint());
+            const QImage picture = preview->grab().toImage();
+            QImage blank(picture.size(), picture.format());
+            blank.fill(picture.pixel(0, 0));
+            QVERIFY2(picture != blank, controls()[i].name);
+        }
+        QVERIFY(!tips.contains(QString()));
+        QCOMPARE(tips.removeDuplicates(), 0);
+    }
+
+    void aSavedFormLoadsBackInEveryOrder_data()
+    {
+        QTest::addColumn<int>("control");
+        for (size_t i = 0; i < controls().size(); ++i) QTest::newRow(controls()[i].name) << int(i);
+    }
+    void aSavedFormLoadsBackInEveryOrder()
+    {
+        QFETCH(int, control);
+        const Control &c = controls()[size_t(control)];
+        const QByteArray form = savedForm(c);
+        std::mt19937 random(7);
+        for (int turn = 0; turn < 12; ++turn) holdsValues(loaded(shuffled(form, random), turn % 2).get(), c);
+    }
+
+    void theDesignerShowsAndKeepsEveryProperty_data() { aSavedFormLoadsBackInEveryOrder_data(); }
+    void theDesignerShowsAndKeepsEveryProperty()
+    {
+        QFETCH(int, control);
+        const Control &c = controls()[size_t(control)];
+        QDesignerComponents::initializeResources();
+        const std::unique_ptr<QDesignerFormEditorInterface> core(
+            QDesignerComponents::createFormEditor(nullptr));
+        QDesignerComponents::initializePlugins(core.get());
+        new QDesignerIntegration(core.get(), core.get()); // which form windows ask what they may offer
+        QWidget desk;
+        QDesignerFormWindowInterface *const window = core->formWindowManager()->createFormWindow(&desk);
+        QVERIFY(window->setContents(QString::fromUtf8(savedForm(c))));
+        auto *const made = window->findChild<QWidget *>(QStringLiteral("control"));
+        QVERIFY(made && isDesigned(*made));
+        auto *const sheet = qt_extension<QDesignerPropertySheetExtension *>(core->extensionManager(), made);
+        for (const auto &[name, value] : c.values) {
+            const int index = sheet->indexOf(QLatin1String(name));
+            QVERIFY2(index >= 0 && sheet->isVisible(index), name);
+        }
+        for (const QString &name : c.closed) {
+            QVERIFY2(sheet->isVisible(sheet->indexOf(name)), qPrintable(name));
+            const QVariant before = made->property(name.toLatin1());
+            made->setProperty(name.toLatin1(), QStringLiteral("1-3"));
+            QCOMPARE(made->property(name.toLatin1()), before);
+        }
+        holdsValues(loaded(window->contents().toUtf8(), true).get(), c);
+        delete window;
+    }
+
+    void aCompiledFormHoldsItsValues()
+    {
+        QWidget form;
+        Ui::AttributeForm ui;
+        ui.setupUi(&form);
+        form.show();
+        QCOMPARE(ui.width->Value().toDouble(), 12.5);
+        QCOMPARE(ui.width->Min(), 10.0);
+        QCOMPARE(ui.width->txtCombo->currentText(), QStringLiteral("12.50"));
+        QCOMPARE(ui.width->AfterString(), QStringLiteral("cm"));
+        QVERIFY(ui.layers->SingleLine());
+    }
+};
+QVDC_TEST(tst_Forms)
+#include "tst_Forms.moc"
