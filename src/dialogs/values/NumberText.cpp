@@ -34,7 +34,10 @@ QString patternOf(int decimals)
     return decimals > 0 ? QStringLiteral("0.") + QString(decimals, u'#') : QStringLiteral("0");
 }
 
-QString textOf(double number, int decimals) { return formatted(number, patternOf(decimals), interfaceLocale()); }
+QString textOf(double number, int decimals)
+{
+    return formatted(number, patternOf(decimals), interfaceLocale());
+}
 
 QString allowedIn(const NumberField &field)
 {
