@@ -57,7 +57,7 @@ void SymbolDrawing::paint(QPainter &painter, QSize surface) const
     }
     if (frame) {
         const OnPixels lines(painter);
-        painter.setPen(QPen(blackOrWhiteOn(background), 1));
+        painter.setPen(QPen(blackOrWhiteOn(background), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(0, 0, surface.width() - 1, surface.height() - 1);
     }
     painter.restore();
@@ -118,7 +118,8 @@ void SymbolDrawing::paintMarker(QPainter &painter, QSize surface) const
 {
     const OnPixels lines(painter);
     const QPointF middle = middlePixel(surface);
-    painter.setPen(QPen(QColor(255, 0, 0), 1));
+    const double pen = record->ProtType == kRectangle ? 1 : 1.5; // a curve of one pixel would fade
+    painter.setPen(QPen(QColor(255, 0, 0), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     const double x = record->ProtXmm * scale(), y = record->ProtYmm * scale();
     switch (record->ProtType) {
     case kCircle: return painter.drawEllipse(middle, rounded(x), rounded(x));
