@@ -1,203 +1,34 @@
-#include "dialogs/select/frmSetup.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/services/Language.h"
 #include "import/DxfImport.h"
-#include "kit/grid/Grid.h"
-#include "support/LayerModel.h"
-#include "support/Modal.h"
+#include "support/DrawingReader.h"
 #include "support/OwnStore.h"
 #include "support/Registry.h"
-#include "support/Typing.h"
+#include "support/Someone.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QDir>
-#include <QMenu>
-#include <QMenuBar>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <map>
 #include <numeric>
 
 using namespace QV_DOC_CONTROLS;
 using tests::child;
 using Places = tests::LayerModel::Places;
+using Row = tests::LayerModel::Row;
 
 namespace {
 
-/// The drawing's file as another program reads it.
-class FileReader {
-public:
-    explicit FileReader(const QString &path)
-    {
-        m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("reader"));
-        m_db.setDatabaseName(path);
-        if (!m_db.open()) qFatal("%s", qPrintable(m_db.lastError().text()));
-    }
-    ~FileReader()
-    {
-        m_db = {};
-        QSqlDatabase::removeDatabase(QStringLiteral("reader"));
-    }
-    tests::LayerModel layers()
-    {
-        tests::LayerModel now;
-        std::map<int, size_t> place;
-        QSqlQuery q = ask("SELECT id, nr, name, visible, lines_by_layer, texts_by_layer, "
-                          "(SELECT count(*) FROM elements e WHERE e.layer=l.id) FROM layers l ORDER BY id");
-        while (q.next()) {
-            place[q.value(0).toInt()] = now.rows.size();
-            now.rows.push_back({q.value(1).toInt(), q.value(2).toString(), q.value(3).toBool(),
-                                q.value(4).toBool(), q.value(5).toBool(), {}, q.value(6).toInt()});
-        }
-        q = ask("SELECT m.layer, g.name FROM layer_members m JOIN layer_groups g ON g.id=m.group_id");
-        while (q.next()) now.rows[place.at(q.value(0).toInt())].groups.insert(q.value(1).toString());
-        return now;
-    }
-    int orphans() { return number("SELECT count(*) FROM elements WHERE layer IS NULL"); }
-    QString systemGroup() { return text("SELECT name FROM layer_groups WHERE system=1"); }
-    QString groups()
-    {
-        return text("SELECT group_concat(name, '|') FROM (SELECT name FROM layer_groups ORDER BY id)");
-    }
-
-private:
-    QSqlQuery ask(const char *sql)
-    {
-        QSqlQuery q(m_db);
-        if (!q.exec(QLatin1String(sql))) qFatal("%s", qPrintable(q.lastError().text()));
-        return q;
-    }
-    QString text(const char *sql)
-    {
-        QSqlQuery q = ask(sql);
-        q.next();
-        return q.value(0).toString();
-    }
-    int number(const char *sql) { return text(sql).toInt(); }
-    QSqlDatabase m_db;
-};
-
-/// Someone with a mouse and a keyboard before the layer page. What comes up on the way is answered as was
-/// planned: keys, or "@" and the caption of the button that is clicked.
-class Someone {
-public:
-    explicit Someone(frmSetup &dialog)
-        : m_dialog(dialog), m_grid(child<Grid>(dialog, "gridItems")),
-          m_groups(child<Grid>(dialog, "gridGroups"))
-    {
-        QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { answer(); });
-        m_watch.start(0);
-    }
-    QStringList answers, surprises;
-
-    void select(const std::vector<int> &numbers)
-    {
-        Qt::KeyboardModifiers held;
-        for (const int nr : numbers) click(lineOf(nr), 0, std::exchange(held, Qt::ControlModifier));
-    }
-    /// A click on a cell of the line with that number; column by its place on the screen.
-    void click(int line, int column, Qt::KeyboardModifiers held = {}) { clickIn(m_grid, line, column, held); }
-    int lineOf(int nr) const
-    {
-        const QAbstractItemModel &rows = *m_grid.table()->model();
-        for (int r = 0; r < rows.rowCount(); ++r)
-            if (rows.index(r, 0).data().toInt() == nr) return r;
-        return -1;
-    }
-    void chooseGroup(const QString &name)
-    {
-        const QAbstractItemModel &rows = *m_groups.table()->model();
-        for (int r = 0; r < rows.rowCount(); ++r)
-            if (rows.index(r, 0).data().toString() == name) return clickIn(m_groups, r, 0, {});
-        surprises << QStringLiteral("no group ") + name;
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers held = {})
-    {
-        m_dialog.activateWindow();              // as the desktop does when a box has closed
-        QTRY_VERIFY(m_dialog.isActiveWindow());
-        QTest::keyClick(m_grid.table(), key, held);
-    }
-    /// Into the current cell.
-    void type(const QString &text)
-    {
-        press(Qt::Key_F2);
-        tests::type(m_dialog, text + u'\r');
-
-        QTRY_COMPARE(m_dialog.focusWidget(), m_grid.table()); // the editor has closed
-    }
-    /// A click on the menu bar, then by keys down to that tool.
-    void menu(const char *tool)
-    {
-        auto &bar = child<QMenuBar>(m_dialog, "mnuMain");
-        const auto way = wayTo(QLatin1String(tool), bar.actions());
-        if (way.isEmpty() || !way.last()->isEnabled()) {
-            surprises << QStringLiteral("cannot be clicked: ") + QLatin1String(tool);
-            return;
-        }
-        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(way.first()).center());
-        for (qsizetype i = 1; i < way.size(); ++i) {
-            QMenu *const open = way[i - 1]->menu();
-            QTRY_VERIFY(open->isVisible());
-            for (auto n = open->actions().size(); n > 0 && open->activeAction() != way[i]; --n)
-                QTest::keyClick(open, Qt::Key_Down); // a long menu does not fit the screen
-            QTest::keyClick(open, Qt::Key_Return);
-        }
-    }
-
-private:
-    static QList<QAction *> wayTo(const QString &tool, const QList<QAction *> &from)
-    {
-        for (QAction *const a : from) {
-            if (a->objectName() == tool) return {a};
-            if (const auto rest = a->menu() ? wayTo(tool, a->menu()->actions()) : QList<QAction *>();
-                !rest.isEmpty())
-                return QList<QAction *>{a} + rest;
-        }
-        return {};
-    }
-    static void clickIn(Grid &grid, int line, int column, Qt::KeyboardModifiers held)
-    {
-        QAbstractItemView &view = *grid.table();
-        const QModelIndex cell = view.model()->index(line, column);
-        view.scrollTo(cell);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, held, view.visualRect(cell).center());
-    }
-    void answer()
-    {
-        QWidget *const box = QApplication::activeModalWidget();
-        if (!box || box == &m_dialog || !box->isVisible()) return;
-        if (!box->isActiveWindow()) return box->activateWindow();
-        if (answers.isEmpty()) {
-            surprises << box->windowTitle();
-            return void(box->close());
-        }
-        const QString next = answers.takeFirst();
-        if (!next.startsWith(u'@')) return tests::type(*box, next);
-        for (auto *const b : box->findChildren<QAbstractButton *>())
-            if (b->text().remove(u'&') == next.mid(1))
-                return QTest::mouseClick(b, Qt::LeftButton, {}, {8, b->height() / 2});
-        surprises << QStringLiteral("no button ") + next;
-        box->close();
-    }
-    frmSetup &m_dialog;
-    Grid &m_grid, &m_groups;
-    QTimer m_watch;
-};
-
 /// One drawing, one user, and what the drawing ought to be.
 struct Session {
-    FileReader &file;
-    Someone &user;
+    tests::DrawingReader &file;
+    tests::Someone &user;
     tests::LayerModel model;
     QString groups;
     int orphans;
 
-    Session(FileReader &f, Someone &u)
+    Session(tests::DrawingReader &f, tests::Someone &u)
         : file(f), user(u), model(f.layers()), groups(f.groups()), orphans(f.orphans())
     {
         model.firstGroups = {file.systemGroup()};
@@ -217,7 +48,7 @@ struct Session {
         return out;
     }
 
-    void flags(const char *tool, bool tests::LayerModel::Row::*flag, bool on, const Places &rows)
+    void flags(const char *tool, bool Row::*flag, bool on, const Places &rows)
     {
         model.flag(rows, flag, on);
         select(rows);
@@ -225,23 +56,30 @@ struct Session {
     }
     void hide()
     {
-        model.flag({0, 1, 2}, &tests::LayerModel::Row::visible, false), select({0, 1, 2}),
-            user.press(Qt::Key_H, Qt::ControlModifier);
+        model.flag({0, 1, 2}, &Row::visible, false);
+        select({0, 1, 2});
+        user.press(Qt::Key_H, Qt::ControlModifier);
     }
     void show()
     {
-        model.flag({0, 2}, &tests::LayerModel::Row::visible, true), select({0, 2}),
-            user.press(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+        model.flag({0, 2}, &Row::visible, true);
+        select({0, 2});
+        user.press(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
     }
-    void linesOn() { flags("cmdLays_ElByLayerOn", &tests::LayerModel::Row::lines, true, {1, 2}); }
-    void linesOff() { flags("cmdLays_ElByLayerOff", &tests::LayerModel::Row::lines, false, {0, 1}); }
-    void textsOn() { flags("cmdLays_TxByLayerOn", &tests::LayerModel::Row::texts, true, {0, 2}); }
-    void textsOff() { flags("cmdLays_TxByLayerOff", &tests::LayerModel::Row::texts, false, {2, 1}); }
+    void linesOn() { flags("cmdLays_ElByLayerOn", &Row::lines, true, {1, 2}); }
+    void linesOff() { flags("cmdLays_ElByLayerOff", &Row::lines, false, {0, 1}); }
+    void textsOn() { flags("cmdLays_TxByLayerOn", &Row::texts, true, {0, 2}); }
+    void textsOff() { flags("cmdLays_TxByLayerOff", &Row::texts, false, {2, 1}); }
     void allOff()
     {
-        model.flag(all(), &tests::LayerModel::Row::visible, false), user.menu("cmdVisibleAllOff");
+        model.flag(all(), &Row::visible, false);
+        user.menu("cmdVisibleAllOff");
     }
-    void allOn() { model.flag(all(), &tests::LayerModel::Row::visible, true), user.menu("cmdVisibleAllOn"); }
+    void allOn()
+    {
+        model.flag(all(), &Row::visible, true);
+        user.menu("cmdVisibleAllOn");
+    }
     void addNew()
     {
         model.addNew(1);
@@ -328,7 +166,7 @@ struct Session {
     void hideGroup()
     {
         user.chooseGroup(QStringLiteral("Új_csoport"));
-        model.flag({1, last()}, &tests::LayerModel::Row::visible, false);
+        model.flag({1, last()}, &Row::visible, false);
         user.menu("cmdLay_GroupVisibleOff");
     }
     void addInGroup()
@@ -378,7 +216,7 @@ struct Session {
     /// "Mind" for all the rest; what stood on them goes too.
     void removeAll()
     {
-        const auto used = std::ranges::max_element(model.rows, {}, &tests::LayerModel::Row::elements);
+        const auto used = std::ranges::max_element(model.rows, {}, &Row::elements);
         const Places going{size_t(used - model.rows.begin())};
         select(going);
         user.answers << QStringLiteral("@Igen");
@@ -454,8 +292,8 @@ private slots:
         refhost::ImportReport report;
         const auto doc = refhost::DxfImport::into(saved, path, {1, 1000}, report);
         const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {
-            FileReader file(saved);
-            Someone user(d);
+            tests::DrawingReader file(saved);
+            tests::Someone user(d);
             Session session(file, user);
             for (const auto &[name, act] : kActs) {
                 (session.*act)();
