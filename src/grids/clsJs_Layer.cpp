@@ -19,7 +19,6 @@ void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool sing
     m_groupRows.setGroups(std::move(m_readGroups));
     m_members = std::move(m_readMembers);
     groupGrid->setSource(&m_groupRows);
-    groupGrid->setMultiSelection(!singleSelection);
     groupGrid->setTooltips(
         readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
     groupGrid->setVisible(bShowGroups());

@@ -53,7 +53,7 @@ public:
     template <auto Flag, bool On> void setFlag() { command([this] { m_values.setFlag(Flag, On); }); }
     template <bool On> void setAllVisible() { command([this] { m_values.setAllVisible(On); }); }
     template <ZolWDoc::TableKind Kind> void pick() { command([this] { m_values.pick(Kind); }); }
-    void toggleVisibleItems() { setbShowVisibleItems(!m_onlyVisible); }
+    void toggleVisibleItems() { command([this] { setbShowVisibleItems(!m_onlyVisible); }); }
 
     void newGroup() { command([this] { m_groups.addNew(); }); }
     void renameGroup() { command([this] { m_groups.rename(); }); }
@@ -62,14 +62,17 @@ public:
     void copyToGroup() { command([this] { m_groups.copySelected(); }); }
     template <bool On> void setGroupVisible() { command([this] { m_values.setGroupVisible(On); }); }
     template <bool On> void showGroups() { setbShowGroups(On); }
-    void showAllLayers() { showGroup(GroupRows::kAll); }
-    void collapseGroup() { if (grid()) grid()->collapseBandOf(grid()->currentRow()); }
+    void showAllLayers() { command([this] { showGroup(GroupRows::kAll); }); }
+    void collapseGroup() { command([this] { grid()->collapseBandOf(grid()->currentRow()); }); }
 
     void OpLay_Save() { command([this] { m_files.save(); }); }                         // published spelling
     void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
     /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
     /// host's error.
-    bool OpLay_Save2File(const QString &path) { return isOpen() && m_files.saveTo(path); }
+    bool OpLay_Save2File(const QString &path) 
+    {
+        return isOpen() && !refusesNow() && m_files.saveTo(path);
+    }
     void addFromFile() { command([this] { m_files.addFromFile(); }); }
     void renameFromFile() { command([this] { m_files.renameFromFile(); }); }
     void renumberFromFile() { command([this] { m_files.renumberFromFile(); }); }
@@ -86,6 +89,10 @@ public:
     }
     bool isOpen() const override { return TableManager::isOpen(); }
     void fill() override;
+    bool canEditLayersOfGroup() const
+    {
+        return canEditLayers() && (m_group == GroupRows::kAll || !m_inGroup.isEmpty());
+    }
     bool canEditGroups() const { return canEditTable() && m_groupGrid; }
     bool canEditGroup() const { return canEditGroups() && m_group != GroupRows::kAll; }
     bool canGroupSelected() const { return canEditSelected() && !m_groupRows.groups().empty(); }
