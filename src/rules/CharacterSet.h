@@ -7,9 +7,9 @@ namespace QV_DOC_CONTROLS {
 /// Character set numbers that the rules know by name; codePageOf() has the others.
 inline constexpr int kDefaultCharSet = 1, kSymbolCharSet = 2, kCentralEuropean = 238, kOemCharSet = 255;
 
-/// The code page of a character set number, by the name that text decoders know it by. The sets that stand for
-/// the machine's own are those of a Central European one: windows-1250 for 1 and for unknown numbers, IBM852
-/// for 255. Null for the symbol set, which has none.
+/// The code page of a character set number, by the name that text decoders know it by. The sets that stand
+/// for the machine's own are those of a Central European one: windows-1250 for 1 and for unknown numbers,
+/// IBM852 for 255. Null for the symbol set, which has none.
 const char *codePageOf(int charSet);
 
 /// The character that a symbol's or a label's code stands for; null = nothing to show.

@@ -181,7 +181,8 @@ QDomElement element(QDomDocument &dom, const QVariant &value)
         const auto color = value.value<QColor>();
         QDomElement e = dom.createElement(QStringLiteral("color"));
         e.setAttribute(QStringLiteral("alpha"), color.alpha());
-        addNumber(e, "red", color.red()), addNumber(e, "green", color.green()), addNumber(e, "blue", color.blue());
+        addNumber(e, "red", color.red()), addNumber(e, "green", color.green()),
+            addNumber(e, "blue", color.blue());
         return e;
     }
     case QMetaType::QFont: {
@@ -202,7 +203,8 @@ QString formWith(const Control &control)
 {
     QDomDocument dom;
     dom.setContent(QStringLiteral("<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'>"
-                                  "<widget name='control' class='%1'/></widget></ui>").arg(className(control)));
+                                  "<widget name='control' class='%1'/></widget></ui>")
+                       .arg(className(control)));
     QDomElement widget = dom.documentElement().lastChildElement().firstChildElement();
     for (const auto &[name, value] : control.values) {
         QDomElement property = dom.createElement(QStringLiteral("property"));
