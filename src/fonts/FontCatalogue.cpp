@@ -33,7 +33,7 @@ constexpr Script kScripts[] = {
     {{22483, u"Kínai (egyszerűsített)"}, 134, System::SimplifiedChinese, u"简体汉字"},
     {{22484, u"Kínai (hagyományos)"}, 136, System::TraditionalChinese, u"繁體漢字"},
 };
-constexpr Script kMachinesOwn{{22485, u"Alapértelmezett"}, kDefaultCharSet, System::Any, u""};
+constexpr Script kMachinesOwn{{22485, u"Alapértelmezett"}, 1, System::Any, u""};
 constexpr int kFewSymbols = 16;
 
 /// Names that the font configuration answers with a face of its choice: no face of a drawing that travels.
@@ -129,7 +129,7 @@ const Script *scriptOf(qint32 charSet)
 {
     const auto at = std::ranges::find(kScripts, charSet, &Script::charSet);
     if (at != std::end(kScripts)) return at;
-    return charSet == kDefaultCharSet ? &kMachinesOwn : nullptr;
+    return charSet == kMachinesOwn.charSet ? &kMachinesOwn : nullptr;
 }
 
 QString scriptNameOf(qint32 charSet)

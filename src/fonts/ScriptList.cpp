@@ -1,7 +1,6 @@
 #include "fonts/ScriptList.h"
 
 #include "fonts/FontCatalogue.h"
-#include "rules/CharacterSet.h"
 
 #include <QComboBox>
 #include <QSignalBlocker>
@@ -22,8 +21,9 @@ bool fillScripts(QComboBox &list, const QString &face, qint32 wanted)
 
 qint32 charSetOf(const QComboBox &list)
 {
+    constexpr qint32 machinesOwn = 1;
     const QVariant number = list.currentData();
-    return number.isValid() ? number.toInt() : kDefaultCharSet;
+    return number.isValid() ? number.toInt() : machinesOwn;
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -5,7 +5,7 @@
 namespace QV_DOC_CONTROLS {
 
 /// Character set numbers that the rules know by name; codePageOf() has the others.
-inline constexpr int kDefaultCharSet = 1, kSymbolCharSet = 2, kCentralEuropean = 238, kOemCharSet = 255;
+inline constexpr int kSymbolCharSet = 2, kCentralEuropean = 238, kOemCharSet = 255;
 
 /// The code page of a character set number, by the name that text decoders know it by. The sets that stand
 /// for the machine's own are those of a Central European one: windows-1250 for 1 and for unknown numbers,
