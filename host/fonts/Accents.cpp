@@ -112,13 +112,16 @@ std::optional<Glyph> composed(char16_t letter, const std::map<qint32, Glyph> &pl
     const auto base = plain.find(parts[0].unicode()), small = plain.find('x');
     if (parts.size() < 2 || parts[0].unicode() > 127 || base == plain.end() || small == plain.end())
         return std::nullopt;
-    const bool hasDot = parts[0] == u'i' || parts[0] == u'j';
-    Draft draft(hasDot ? withoutDot(base->second, Box(small->second.strokes).top) : base->second);
+    std::vector<const Mark *> added;
     for (const QChar c : parts.mid(1)) {
         const auto mark = std::ranges::find(marks(), c.unicode(), &Mark::mark);
         if (mark == marks().end()) return std::nullopt;
-        draft.add(*mark);
+        added.push_back(&*mark);
     }
+    const bool givesWay = (parts[0] == u'i' || parts[0] == u'j')
+                          && std::ranges::any_of(added, [](auto *m) { return m->where == Where::Above; });
+    Draft draft(givesWay ? withoutDot(base->second, Box(small->second.strokes).top) : base->second);
+    for (const Mark *mark : added) draft.add(*mark);
     return draft.glyph;
 }
 

@@ -1,6 +1,8 @@
 #include "fonts/StrokeFile.h"
 
+extern "C" { // the header is C's alone
 #include <hersheyfont.h>
+}
 
 #include <QFile>
 
