@@ -23,7 +23,9 @@ ZolWDoc::VectorFontProvider *HostServices::vectorFonts(const ZolWDoc::ZOLW_Doc *
 {
     auto *const own =
         dynamic_cast<SqliteDoc *>(const_cast<ZolWDoc::ZOLW_Doc *>(doc)); // the contract hands it out const
-    return own ? &own->ownFont() : nullptr;
+    auto &fonts = m_fonts[own];
+    if (!fonts) fonts = std::make_unique<DrawingFonts>(own, m_strokeFonts);
+    return fonts.get();
 }
 
 } // namespace refhost

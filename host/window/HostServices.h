@@ -1,8 +1,11 @@
 #pragma once
 
+#include "fonts/StrokeFonts.h"
+#include "window/DrawingFonts.h"
 #include "window/Language.h"
 #include "window/QtTexts.h"
 
+#include <map>
 #include <memory>
 
 namespace refhost {
@@ -17,9 +20,11 @@ public:
 
     Language *language() override { return &m_language; }
     ZolWDoc::VectorFontProvider *vectorFonts(
-        const ZolWDoc::ZOLW_Doc *) override; ///< the drawing's own characters
+        const ZolWDoc::ZOLW_Doc *) override; ///< its own characters, and stroke fonts for any drawing
 private:
     Language m_language;
+    StrokeFonts m_strokeFonts;
+    std::map<const SqliteDoc *, std::unique_ptr<DrawingFonts>> m_fonts; ///< stay as long as the program
     std::unique_ptr<QtTexts> m_qtTexts;             ///< made when the language is known
 };
 

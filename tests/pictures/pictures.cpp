@@ -53,9 +53,9 @@ void prepareScreen(const QTemporaryDir &home, const char *scale)
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path())); // the settings of who looks play no part
 }
 
-void takeValues(ZolWDoc::ZOLW_Doc &, tests::Sheet &sheet)
+template <auto Scenes> void takeScenes(ZolWDoc::ZOLW_Doc &, tests::Sheet &sheet)
 {
-    for (const tests::Scene &scene : tests::valueScenes()) {
+    for (const tests::Scene &scene : Scenes()) {
         QTimer::singleShot(0, qApp, [&] { // after what the scene does to its open box
             QTimer::singleShot(0, qApp, [&] {
                 auto *const box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
@@ -73,7 +73,10 @@ struct SheetRow {
     void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
 };
 constexpr SheetRow kSheets[] = {
-    {"controls", tests::takeControls}, {"select", tests::takeSelection}, {"values", takeValues}};
+    {"controls", tests::takeControls},
+    {"fonts", takeScenes<tests::fontScenes>},
+    {"select", tests::takeSelection},
+    {"values", takeScenes<tests::valueScenes>}};
 
 /// One language in one palette; false when a flaw was found.
 bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)

@@ -89,15 +89,10 @@ QString rgbOf(quint32 color)
 }
 
 ColorGrid::ColorGrid(std::vector<quint32> palette, QWidget *parent)
-    : QTableView(parent), m_count(int(palette.size()))
+    : CellGrid(kPerLine, parent), m_count(int(palette.size()))
 {
     setModel(new PaletteModel(std::move(palette), this));
     setItemDelegate(new SwatchDelegate(this));
-    setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
-    setTabKeyNavigation(false);
-    setCornerButtonEnabled(false);
-    setShowGrid(false);
     fitSwatches();
 }
 
@@ -107,10 +102,6 @@ void ColorGrid::fitSwatches()
     for (QHeaderView *header : {horizontalHeader(), verticalHeader()}) {
         header->setMinimumSectionSize(side);
         header->setDefaultSectionSize(side);
-        header->setSectionResizeMode(QHeaderView::Fixed);
-        header->setSectionsClickable(false);
-        header->setHighlightSections(true);
-        header->setDefaultAlignment(Qt::AlignCenter);
     }
     const QSize swatches(side * model()->columnCount(), side * model()->rowCount());
     const QSize headers(verticalHeader()->sizeHint().width(), horizontalHeader()->sizeHint().height());
@@ -121,56 +112,9 @@ void ColorGrid::fitSwatches()
     setMaximumSize(whole);
 }
 
-int ColorGrid::current() const { return indexOf(currentIndex()); }
-
-void ColorGrid::setCurrent(int index)
-{
-    if (index == current()) return;
-    const bool inside = index >= 0 && index < m_count;
-    setCurrentIndex(inside ? model()->index(index / kPerLine, index % kPerLine) : QModelIndex());
-    if (!inside) clearSelection();
-}
-
 void ColorGrid::keyboardSearch(const QString &typed)
 {
     if (std::ranges::all_of(typed, [](QChar c) { return c >= u'0' && c <= u'9'; })) emit digitsTyped(typed);
-}
-
-QModelIndex ColorGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers keys)
-{
-    if (current() < 0) return model()->index(0, 0);
-    const int last = m_count - 1, at = current();
-    const int column = at % kPerLine, begin = at - column;
-    const bool whole = keys & Qt::ControlModifier;
-    int to = at;
-    switch (action) {
-    case MoveLeft:
-    case MovePrevious: to = at - 1; break;
-    case MoveRight:
-    case MoveNext: to = at + 1; break;
-    case MoveUp: to = at >= kPerLine ? at - kPerLine : at; break;
-    case MoveDown: to = at + kPerLine <= last ? at + kPerLine : at; break;
-    case MoveHome: to = whole ? 0 : begin; break;
-    case MoveEnd: to = whole ? last : begin + kPerLine - 1; break;
-    case MovePageUp: to = column; break;
-    case MovePageDown: to = last - (last - column) % kPerLine; break;
-    }
-    to = std::clamp(to, 0, last);
-    return model()->index(to / kPerLine, to % kPerLine);
-}
-
-void ColorGrid::currentChanged(const QModelIndex &now, const QModelIndex &before)
-{
-    QTableView::currentChanged(now, before);
-    emit currentMoved(indexOf(now));
-}
-
-/// Without a current swatch none is chosen by merely coming here.
-void ColorGrid::focusInEvent(QFocusEvent *event)
-{
-    if (current() >= 0) return QTableView::focusInEvent(event);
-    QAbstractScrollArea::focusInEvent(event);
-    viewport()->update();
 }
 
 } // namespace QV_DOC_CONTROLS

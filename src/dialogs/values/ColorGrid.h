@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTableView>
+#include "kit/forms/CellGrid.h"
 
 #include <vector>
 
@@ -9,25 +9,20 @@ namespace QV_DOC_CONTROLS {
 QString rgbOf(quint32 color);                   ///< "RGB 255, 128, 0" of 0xRRGGBB
 
 /// The swatches of a palette in lines of sixteen; a swatch's index is the number before its line plus the one
-/// above its column. Arrows run on over the ends of lines, Home and End stay in the line, with Ctrl they and
-/// always PgUp and PgDn go to the ends. On a small screen it scrolls.
-class ColorGrid final : public QTableView {
+/// above its column. PgUp and PgDn go to the first and last line. On a small screen it scrolls.
+class ColorGrid final : public CellGrid {
     Q_OBJECT
 public:
     ColorGrid(std::vector<quint32> palette, QWidget *parent);
-    int current() const;                        ///< index; -1 = none
-    void setCurrent(int index);                 ///< one outside the palette = none
 
     void keyboardSearch(const QString &typed) override; ///< digits are handed on
 
 signals:
-    void currentMoved(int index);
     void digitsTyped(const QString &digits);
 
 protected:
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers keys) override;
-    void currentChanged(const QModelIndex &now, const QModelIndex &before) override;
-    void focusInEvent(QFocusEvent *event) override;
+    int cellCount() const override { return m_count; }
+    int linesPerPage() const override { return m_count; }
 
 private:
     void fitSwatches();

@@ -32,7 +32,7 @@ struct LevelFrame : QGroupBox {
 } // namespace
 
 LevelDialog::LevelDialog(const char *form, QWidget *owner)
-    : ViewToolDialog(form, owner), cmdClearAll(new QPushButton(this)), m_body(new QVBoxLayout)
+    : ModalForm(form, owner), cmdClearAll(new QPushButton(this)), m_body(new QVBoxLayout)
 {
     auto *const column = new QVBoxLayout(this);
     QWidget *before = nullptr;
@@ -141,7 +141,7 @@ void LevelDialog::offerFreeColumns()
 /// The wheel scrolls what lies below and changes no level on its way.
 bool LevelDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Wheel) return ViewToolDialog::eventFilter(watched, event);
+    if (event->type() != QEvent::Wheel) return ModalForm::eventFilter(watched, event);
     event->ignore();
     return true;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/viewtools/ViewToolDialog.h"
+#include "kit/forms/ModalForm.h"
 #include "kit/grid/AbstractGrid.h"
 
 #include <array>
@@ -17,7 +17,7 @@ namespace QV_DOC_CONTROLS {
 /// A level can be set only when the one above it is; one without a column takes the levels below it along to
 /// "(None)". A column serves one level: the other lists show it and do not offer it, for a second key of the
 /// same column would order nothing.
-class LevelDialog : public ViewToolDialog {
+class LevelDialog : public ModalForm {
     Q_OBJECT
 public:
     std::array<QComboBox *, kMaxLevels> cboGroups{};            // published names

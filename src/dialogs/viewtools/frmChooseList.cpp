@@ -10,7 +10,7 @@
 namespace QV_DOC_CONTROLS {
 
 frmChooseList::frmChooseList(QWidget *owner)
-    : ViewToolDialog("frmChooseList", owner), lstKh(new QListWidget(this))
+    : ModalForm("frmChooseList", owner), lstKh(new QListWidget(this))
 {
     lstKh->setObjectName(QStringLiteral("lstKh"));
     lstKh->setUniformItemSizes(true);

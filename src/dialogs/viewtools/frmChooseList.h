@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/viewtools/ViewToolDialog.h"
+#include "kit/forms/ModalForm.h"
 
 #include <QStringList>
 
@@ -15,7 +15,7 @@ struct EntrySource {
 };
 
 /// The dialog in which the user picks one entry of a list.
-class frmChooseList final : public ViewToolDialog {
+class frmChooseList final : public ModalForm {
     Q_OBJECT
 public:
     explicit frmChooseList(QWidget *owner = nullptr);

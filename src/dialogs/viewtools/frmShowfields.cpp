@@ -27,7 +27,7 @@ int columnAt(const QListWidget &list, int row) { return columnOf(list.item(row)-
 } // namespace
 
 frmShowfields::frmShowfields(QWidget *owner)
-    : ViewToolDialog("frmShowfields", owner), lstAvail(makeList("lstAvail")),
+    : ModalForm("frmShowfields", owner), lstAvail(makeList("lstAvail")),
       lstVisible(makeList("lstVisible")), cmdAdd(makeButton("cmdAdd", "moveRight")),
       cmdRemove(makeButton("cmdRemove", "moveLeft")), cmdUp(makeButton("cmdUp", "moveUp")),
       cmdDown(makeButton("cmdDown", "moveDown")), lblCaption(new QLabel(this)),

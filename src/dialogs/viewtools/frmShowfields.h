@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/viewtools/ViewToolDialog.h"
+#include "kit/forms/ModalForm.h"
 #include "kit/grid/AbstractGrid.h"
 
 class QKeySequence;
@@ -10,7 +10,7 @@ class QListWidget;
 namespace QV_DOC_CONTROLS {
 
 /// The dialog in which the user chooses which columns of a grid are shown, and in which order.
-class frmShowfields final : public ViewToolDialog {
+class frmShowfields final : public ModalForm {
     Q_OBJECT
 public:
     explicit frmShowfields(QWidget *owner = nullptr);

@@ -1,6 +1,7 @@
-#include "dialogs/viewtools/ViewToolDialog.h"
+#include "kit/forms/ModalForm.h"
 
 #include "facade/services/Language.h"
+#include "kit/ask/ErrorRelay.h"
 #include "kit/forms/Buttons.h"
 #include "kit/forms/WindowSize.h"
 
@@ -10,28 +11,28 @@
 
 namespace QV_DOC_CONTROLS {
 
-ViewToolDialog::ViewToolDialog(const char *form, QWidget *owner)
+ModalForm::ModalForm(const char *form, QWidget *owner)
     : QDialog(owner ? owner->window() : QApplication::activeWindow()), m_identity(form),
       m_buttons(okCancelButtons(*this)), cmdOk(m_buttons->button(QDialogButtonBox::Ok)),
       cmdCancel(m_buttons->button(QDialogButtonBox::Cancel))
 {
     setObjectName(QLatin1String(form));
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
-            &ViewToolDialog::ml_RuntimeSupport_LanguageChanged);
+            &ModalForm::ml_RuntimeSupport_LanguageChanged);
 }
 
-void ViewToolDialog::ml_RuntimeSupport_LanguageChanged()
+void ModalForm::ml_RuntimeSupport_LanguageChanged()
 {
     retranslate(*m_buttons);
     readCaptions();
 }
 
-bool ViewToolDialog::run()
+bool ModalForm::run(ErrorRelay *relay)
 {
     readCaptions();
     ensurePolished();
     restoreSize(*this, objectName(), sizeHint());
-    const bool confirmed = exec() == Accepted;
+    const bool confirmed = (relay ? relay->exec(*this) : exec()) == Accepted;
     keepSizeOf(*this, objectName());
     return confirmed;
 }

@@ -9,9 +9,11 @@ class QPushButton;
 
 namespace QV_DOC_CONTROLS {
 
-/// What the view tools share: made for one call, modal over its owner, closed by OK or Cancel, in the
-/// language of the moment. Nothing is written before the user confirmed.
-class ViewToolDialog : public QDialog {
+class ErrorRelay;
+
+/// What forms made for one call share: modal over their owner, closed by OK or Cancel, as large as their user
+/// left them, in the language of the moment. Nothing is written before the user confirmed.
+class ModalForm : public QDialog {
     Q_OBJECT
 public:
     qint32 lDebugId() const { return m_identity; }
@@ -19,8 +21,9 @@ public:
     void ml_RuntimeSupport_LanguageChanged();   // published spelling
 
 protected:
-    ViewToolDialog(const char *form, QWidget *owner); ///< `owner` null = the active window
-    bool run();                                 ///< modal; true = confirmed
+    ModalForm(const char *form, QWidget *owner); ///< `owner` null = the active window
+    /// Modal; true = confirmed. A form that can reach the host runs in its relay, which throws what it kept.
+    bool run(ErrorRelay *relay = nullptr);
     virtual void readCaptions() = 0;            ///< in the current language; buttons apart
     QDialogButtonBox *buttons() const { return m_buttons; }
 
