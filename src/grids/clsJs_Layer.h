@@ -48,7 +48,7 @@ public:
     template <auto Flag, bool On> void setFlag() { command([this] { m_values.setFlag(Flag, On); }); }
     template <bool On> void setAllVisible() { command([this] { m_values.setAllVisible(On); }); }
     template <ZolWDoc::TableKind Kind> void pick() { command([this] { m_values.pick(Kind); }); }
-    void toggleVisibleItems() { setbShowVisibleItems(!m_onlyVisible); }
+    void toggleVisibleItems() { command([this] { setbShowVisibleItems(!m_onlyVisible); }); }
 
     void newGroup() { command([this] { m_groups.addNew(); }); }
     void renameGroup() { command([this] { m_groups.rename(); }); }
@@ -61,7 +61,10 @@ public:
     void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
     /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
     /// host's error.
-    bool OpLay_Save2File(const QString &path) { return isOpen() && m_files.saveTo(path); }
+    bool OpLay_Save2File(const QString &path)
+    {
+        return isOpen() && !refusesNow() && m_files.saveTo(path);
+    }
     void addFromFile() { command([this] { m_files.addFromFile(); }); }
     void renameFromFile() { command([this] { m_files.renameFromFile(); }); }
     void renumberFromFile() { command([this] { m_files.renumberFromFile(); }); }
@@ -73,6 +76,10 @@ public:
         return canEditSelected() && canPickResource(Kind);
     }
     void fill() override;
+    bool canEditLayersOfGroup() const
+    {
+        return canEditAll() && (chosenGroup() == GroupRows::kAll || !m_inGroup.isEmpty());
+    }
     bool canAddFromFile() const { return canEditTable() && document()->layerFiles(); }
     bool canDeleteElements() const { return canEditSelected() && document()->layerElements(); }
 

@@ -24,7 +24,6 @@ public:
         if (!groupGrid) return;
         groupGrid->setSource(&m_groupRows);
         showBeside();
-        groupGrid->setMultiSelection(!singleSelection);
         this->readTooltips(*groupGrid);
         groupGrid->setVisible(bShowGroups());
         groupGrid->setCurrentRow(0);
@@ -59,8 +58,8 @@ public:
         armGrids();
     }
     template <bool On> void showGroups() { setbShowGroups(On); }
-    void showAllGroups() { showGroup(GroupRows::kAll); }
-    void collapseGroup() { if (grid()) grid()->collapseBandOf(grid()->currentRow()); }
+    void showAllGroups() { this->command([this] { showGroup(GroupRows::kAll); }); }
+    void collapseGroup() { this->command([this] { grid()->collapseBandOf(grid()->currentRow()); }); }
 
     // --- when a command can be used
     bool canEditGroups() const { return canEditTable() && m_groupGrid; }

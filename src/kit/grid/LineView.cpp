@@ -142,7 +142,8 @@ bool LineView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event
     if (trigger == EditKeyPressed) QAbstractItemView::edit(index, CurrentChanged, nullptr);
     const QItemSelection &selection = selectionModel()->selection();
     const bool isOne = selection.size() == 1 && selection.first().height() == 1;
-    return (trigger != SelectedClicked || isOne) && QAbstractItemView::edit(index, trigger, event);
+    if (trigger == SelectedClicked && !isOne && !(index.flags() & Qt::ItemIsUserCheckable)) return false;
+    return QAbstractItemView::edit(index, trigger, event);
 }
 
 /// The keyboard is back on the lines also where a message, a refusal for one, stands before the window.
