@@ -38,7 +38,8 @@ constexpr BagRow kBag[] = {
 
 ZOL3_LayInfo::ZOL3_LayInfo(QWidget *parent)
     : QWidget(parent), lblLay(new QLabel(this)), txtLayNr(new QLineEdit(this)),
-      lblLayId(new ElidedLabel(this)), fraModLay(new QFrame(this)), cmdModLay(new QPushButton(fraModLay))
+      lblLayId(new ElidedLabel(this)), fraModLay(new QFrame(this)), cmdModLay(new QPushButton(fraModLay)),
+      m_relay(&ErrorRelay::reporting())
 {
     announceAsGroup<ZOL3_LayInfo>();
     lblLay->setObjectName(QStringLiteral("lblLay"));
@@ -140,7 +141,7 @@ void ZOL3_LayInfo::showLayer()
 void ZOL3_LayInfo::takeTyped()
 {
     const QPointer<ZOL3_LayInfo> alive(this);
-    ErrorRelay::reporting().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
+    m_relay->guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
     if (alive) showLayer();
 }
 
@@ -160,7 +161,7 @@ void ZOL3_LayInfo::click()
 {
     Trace trace("ZOL3_LayInfo", "cmdModLay_Click");
     const QPointer<ZOL3_LayInfo> alive(this);
-    ErrorRelay &user = ErrorRelay::reporting();
+    ErrorRelay &user = *m_relay;
     bool cancel = false;
     if (!user.guard([&] { emit LayIdClickBefore(cancel); }) || cancel || !alive) return;
     user.guard([this] { pick(); });
