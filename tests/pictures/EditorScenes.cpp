@@ -2,10 +2,12 @@
 
 #include "controls/usInputBox.h"
 #include "dialogs/editors/frmEditSid.h"
+#include "dialogs/editors/frmSupSid.h"
 #include "document/SqliteDoc.h"
 #include "facade/services/Services.h"
 #include "fonts/StrokeFonts.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -60,6 +62,48 @@ const EditorState kStates[] = {
      }},
 };
 
+/// Three groups, one of them empty, with letters and signs.
+std::unique_ptr<refhost::SqliteDoc> drawing()
+{
+    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    ZolWDoc::SymbolRole &symbols = doc->symbols();
+    const qint16 ground = symbols.groups().readAll()[0].GroupId;
+    const qint16 trees = symbols.groups().add(QStringLiteral("Fák és cserjék"));
+    symbols.groups().add(QStringLiteral("Vasút"));
+    for (int i = 0; i < 46; ++i) {
+        tSid s = i % 3 ? letter("Kút", "DejaVu Sans", 0x2600 + i) : sign("Alappont", 65 + i / 3);
+        s.SidId = qint16(1000 + i), s.GroupId = i < 38 ? ground : trees;
+        s.ShortName += QStringLiteral(" %1").arg(i + 1);
+        s.DspZoom = 3, s.LayId = doc->layers().readAll()[0].LayId;
+        symbols.add(s);
+    }
+    return doc;
+}
+
+const char *const kManagerStates[] = {"miView_Report", "miView_Icons", "miView_Size+", "miView_SmallIcon",
+                                      "miView_List", "cmdByGroups"};
+
+void takeManager(tests::Sheet &sheet)
+{
+    const auto doc = drawing();
+    for (const enumSetupMode mode : {MODE_SELECT, MODE_EDIT}) {
+        frmSupSid form;
+        QTimer::singleShot(0, &form, [&] {
+            for (const char *tool : kManagerStates) {
+                if (mode == MODE_EDIT && qstrcmp(tool, "miView_Icons") != 0) continue;
+                form.findChild<QAction *>(QLatin1String(tool))->trigger();
+                QApplication::processEvents();  // pictures are drawn once they were asked for
+                form.grab();
+                QApplication::processEvents();
+                sheet.take(form);
+            }
+            form.reject();
+        });
+        qint16 id = mode == MODE_EDIT ? 1002 : -1;
+        form.bDoModal(*doc, mode, id);
+    }
+}
+
 } // namespace
 
 void tests::takeEditors(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
@@ -75,4 +119,5 @@ void tests::takeEditors(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
         });
         form.edit();
     }
+    takeManager(sheet);
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "kit/tools/Icons.h"
+
+#include <cstring>
+
+namespace QV_DOC_CONTROLS {
+
+/// The image list of a manager: what its lists mark their items with, by published key.
+struct ManagerImage {
+    const char *key, *icon;                     ///< the icon is a row of the icon table
+};
+inline constexpr ManagerImage kManagerImages[] = {
+    {"Open", "groupOpen"},   {"Empty", "groupEmpty"},  {"Current", "currentItem"}, {"Egyéb", "groupOther"},
+    {"SortAZ", "sortAZ"},    {"SortZA", "sortZA"},     {"Vector", "vectorFont"},   {"TrueType", "trueType"},
+};
+inline QIcon managerImage(const char *key)      ///< null = no such key
+{
+    for (const ManagerImage &image : kManagerImages)
+        if (std::strcmp(image.key, key) == 0) return toolIcon(image.icon);
+    return {};
+}
+
+} // namespace QV_DOC_CONTROLS
