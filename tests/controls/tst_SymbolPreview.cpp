@@ -91,6 +91,8 @@ private slots:
             QVERIFY(f.blank(c));                // no document
             c->SetDoc(&f.doc);
             QVERIFY(!f.blank(c));
+            c->setSidId(-1);
+            QVERIFY(!f.blank(c));               // no symbol, on a grid
             c->setSidId(32000);
             QVERIFY(f.blank(c));                // no such symbol
             QCOMPARE(c->SidId(), qint16(32000));
