@@ -83,7 +83,6 @@ void FontViewer::build()
     auto *const all = new QVBoxLayout(this);
     all->addLayout(both, 1);
     all->addWidget(buttons());
-    grdCharacters->setMinimumHeight(sizeOfLetters(*this, 0, 20).height());
 }
 
 void FontViewer::buildZoom()
