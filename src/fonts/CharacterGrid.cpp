@@ -123,6 +123,7 @@ void CharacterGrid::setOnlyPresent(bool on)
 {
     if (on == onlyPresent()) return;
     m_model.setOnlyPresent(on);
+    horizontalHeader()->setVisible(!on);        // the last digit of a code says nothing then
     refill();
 }
 

@@ -74,6 +74,7 @@ void FontViewer::build()
     left->addWidget(grdCharacters, 1);
     left->addLayout(code);
     sample->setMinimumSize(sizeOfLetters(*this, 24, 12));
+    sample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     auto *const right = new QVBoxLayout;
     right->addWidget(sample, 1);
     right->addStretch(1);
