@@ -8,10 +8,10 @@
 #include "facade/services/Text.h"
 #include "rules/LayerFile.h"
 #include "rules/LayerFileTexts.h"
+#include "rules/WholeFile.h"
 #include "rules/recordset/RecordsetXml.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace qvres {
 
@@ -119,9 +119,7 @@ void write(const QString &path, const Content &content, const QString &like)
     if (!kind.bytes)
         throw failureOf(path, txt(Text{31114, u"Ilyen fájlba nem lehet írni. Írható: .rst, .json, .csv."}));
     const QByteArray bytes = about(path, [&] { return kind.bytes(content, like); });
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw failureOf(path, file.errorString());
+    if (const auto why = writeWhole(path, bytes)) throw failureOf(path, *why);
 }
 
 } // namespace qvres

@@ -51,6 +51,7 @@ MainWindow::MainWindow(HostServices &services)
 MainWindow::~MainWindow()
 {
     m_tabs->disconnect(this);
+    m_newElementPage->disconnect(this);         // it tells that it is hidden when the window goes
     LanguageHub::instance().disconnect(this);
 }
 

@@ -4,22 +4,18 @@
 #include "grids/frame/Column.h"
 #include "grids/frame/Deletion.h"
 #include "grids/frame/GridManager.h"
-
-#include <QHash>
+#include "grids/frame/RecordNames.h"
 
 namespace QV_DOC_CONTROLS {
 
-/// Line types and text types, in table order and by identifier: what layers refer to.
+/// What layers refer to.
 struct LayerNames {
-    std::vector<GridChoice> lineTypes, textTypes;
-    QHash<qint16, QString> lineTypeOf, textTypeOf;
+    RecordNames lineTypes, textTypes;
 };
-QString lineTypeName(const ZolWDoc::tLay &l,
-                     const LayerNames &n); ///< the identifier when there is no such line type
-QString textTypeName(const ZolWDoc::tLay &l,
-                     const LayerNames &n); ///< the identifier when there is no such text type
-inline std::vector<GridChoice> lineTypeChoices(const LayerNames &n) { return n.lineTypes; }
-inline std::vector<GridChoice> textTypeChoices(const LayerNames &n) { return n.textTypes; }
+inline QString lineTypeName(const ZolWDoc::tLay &l, const LayerNames &n) { return n.lineTypes[l.PenStyleId]; }
+inline QString textTypeName(const ZolWDoc::tLay &l, const LayerNames &n) { return n.textTypes[l.TxdId]; }
+inline std::vector<GridChoice> lineTypeChoices(const LayerNames &n) { return n.lineTypes.choices(); }
+inline std::vector<GridChoice> textTypeChoices(const LayerNames &n) { return n.textTypes.choices(); }
 template <auto M> constexpr auto layerField(const char *key, Text caption)
 {
     return field<M, LayerNames>(key, caption);
@@ -32,7 +28,7 @@ struct LayerTable {
     static Names namesOf(ZolWDoc::ZOLW_Doc &doc);
 
     static constexpr const char *layout = "jsLayer";
-    static constexpr Text cardCaption{3309, u"Réteg:|/"};
+    static constexpr Text cardCaption{3309, u"Réteg:|/"}, groupCaption{2834, u"Név"};
     static constexpr int numberColumn = 0, nameColumn = 1;
     static constexpr Column<Record, Names> columns[] = {
         layerField<&Record::gNr>("gNr", {3308, u"Ssz:"})
@@ -68,6 +64,7 @@ struct LayerTable {
                                           .usedBefore = {3422, u"A(z) '"},
                                           .usedAfter = {3296, u"' réteg nem üres!"}};
     static ZolWDoc::LayerRole &role(ZolWDoc::ZOLW_Doc &doc) { return doc.layers(); }
+    static std::vector<ZolWDoc::tGroup> groupsOf(ZolWDoc::ZOLW_Doc &doc) { return doc.layers().groups(); }
     static qint16 id(const Record &l) { return l.LayId; }
     static Paper paper();                     ///< title, footer and the ten captions of a printed table
     static RowStyles styles(const Record &l); ///< colour cells by their pens, the row by its visibility

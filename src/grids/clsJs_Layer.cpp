@@ -4,86 +4,33 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-clsJs_Layer::clsJs_Layer() : TableManager("clsJs_Layer") { m_groupRows.setDrags(groupDrags()); }
+clsJs_Layer::clsJs_Layer() : GroupedManager("clsJs_Layer") { groupRows().setDrags(groupDrags()); }
 clsJs_Layer::~clsJs_Layer() { TearDown(); }
-
-void clsJs_Layer::init(ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
-{
-    TearDown();
-    attach(doc, itemGrid);
-    itemGrid.setMultiSelection(!singleSelection);
-    m_groupGrid = groupGrid;
-    armDrags();
-    if (!groupGrid) return;
-    readBeside();
-    m_groupRows.setGroups(std::move(m_readGroups));
-    m_members = std::move(m_readMembers);
-    groupGrid->setSource(&m_groupRows);
-    groupGrid->setMultiSelection(!singleSelection);
-    groupGrid->setTooltips(
-        readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-    groupGrid->setVisible(bShowGroups());
-    groupGrid->setCurrentRow(0);
-    connect(groupGrid, &Grid::currentRowMoved, this,
-            [this](int row) { relay().guard([&] { chooseGroup(row); }); });
-}
 
 void clsJs_Layer::TearDown()
 {
-    if (m_groupGrid) {
-        disconnect(m_groupGrid, nullptr, this, nullptr);
-        m_groupGrid->setSource(nullptr);
-        m_groupGrid = nullptr;
-    }
-    m_groupRows.setGroups({});
     m_members.clear(), m_inGroup.clear();
-    m_group = GroupRows::kAll;
     m_current = m_previous = -1;
-    TableManager::TearDown();
-}
-
-void clsJs_Layer::ml_RuntimeSupport_LanguageChanged()
-{
-    TableManager::ml_RuntimeSupport_LanguageChanged();
-    m_groupRows.readCaptions();
-    if (m_groupGrid) m_groupGrid->captionsChanged();
+    GroupedManager::TearDown();
 }
 
 void clsJs_Layer::readBeside()
 {
-    if (!m_groupGrid) return;
-    m_readGroups = document()->layers().groups();
-    m_readMembers = document()->layers().members();
+    GroupedManager::readBeside();
+    if (groupGrid()) m_readMembers = document()->layers().members();
 }
 
-/// The chosen group stays with its identifier; when it is gone, the one in its place is chosen.
 void clsJs_Layer::showBeside()
 {
-    if (!m_groupGrid) return;
-    m_groupGrid->refill([this] { m_groupRows.setGroups(std::move(m_readGroups)); });
     m_members = std::move(m_readMembers);
-    narrowTo(m_groupGrid->currentRow());
+    GroupedManager::showBeside();
 }
 
-void clsJs_Layer::narrowTo(int row)
+void clsJs_Layer::groupChosen()
 {
-    m_group = m_groupRows.groupAt(row);
     m_inGroup.clear();
     for (const tLayMember &m : m_members)
-        if (m.GroupId == m_group) m_inGroup.insert(m.LayId);
-}
-
-void clsJs_Layer::setAllowEdit(bool on)
-{
-    TableManager::setAllowEdit(on);
-    armDrags();
-}
-
-/// What is dragged changes memberships: only where the table can be edited and has its groups beside it.
-void clsJs_Layer::armDrags()
-{
-    for (Grid *const g : {grid(), m_groupGrid})
-        if (g) g->setDragOut(AllowEdit() && m_groupGrid);
+        if (m.GroupId == chosenGroup()) m_inGroup.insert(m.LayId);
 }
 
 QMimeData *clsJs_Layer::dragData(std::span<const int> rows) const
@@ -118,32 +65,15 @@ GroupDrags clsJs_Layer::groupDrags()
             }};
 }
 
-void clsJs_Layer::showGroup(qint16 group)
-{
-    if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));
-}
-
-void clsJs_Layer::chooseGroup(int row)
-{
-    if (row < 0) return;
-    narrowTo(row);
-    showAgain();
-}
-
 bool clsJs_Layer::fits(const tLay &lay) const
 {
-    return (m_group == GroupRows::kAll || m_inGroup.contains(lay.LayId)) && (!m_onlyVisible || lay.Visible);
-}
-
-ZOLW_Doc &clsJs_Layer::doc()
-{
-    if (!isOpen()) ErrorRelay::stop();
-    return *document();
+    return (chosenGroup() == GroupRows::kAll || m_inGroup.contains(lay.LayId)) &&
+           (!m_onlyVisible || lay.Visible);
 }
 
 void clsJs_Layer::write(const QString &command, const std::function<void()> &body)
 {
-    writeAndFill(doc(), command, body);
+    GroupedManager::write(command, body);
     forgetGone();
 }
 
@@ -166,28 +96,22 @@ bool clsJs_Layer::removeRows(std::span<const int>)
 /// The current layer stands out.
 RowStyles clsJs_Layer::styles(int row) const
 {
-    RowStyles styles = TableManager::styles(row);
+    RowStyles styles = GroupedManager::styles(row);
     styles.bold = rowId(row) == m_current;
     return styles;
 }
 
 void clsJs_Layer::fill()
 {
-    TableManager::fill();
+    GroupedManager::fill();
     emit currentLayerMoved();
 }
 
 bool clsJs_Layer::edit(int row, int column, const QVariant &value)
 {
-    const bool stored = TableManager::edit(row, column, value);
+    const bool stored = GroupedManager::edit(row, column, value);
     if (stored && rowId(row) == m_current) emit currentLayerMoved();
     return stored;
-}
-
-void clsJs_Layer::setbShowGroups(bool on)
-{
-    GridManager::setbShowGroups(on);
-    if (m_groupGrid) m_groupGrid->setVisible(on);
 }
 
 void clsJs_Layer::setbShowVisibleItems(bool on)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "facade/contract/ResourcePicker.h"
 #include "grids/LayerTable.h"
-#include "grids/frame/GroupRows.h"
-#include "grids/frame/TableManager.h"
+#include "grids/frame/GroupedManager.h"
 #include "grids/layer/LayerDrag.h"
 #include "grids/layer/LayerEdits.h"
 #include "grids/layer/LayerFiles.h"
@@ -14,24 +14,19 @@ namespace QV_DOC_CONTROLS {
 
 /// The grid manager of the layer table, with its groups in a second grid. It keeps track of the current and
 /// the previously current layer of its form.
-class clsJs_Layer final : public TableManager<LayerTable>, private LayerDesk { // published spelling
+class clsJs_Layer final : public GroupedManager<LayerTable> { // published spelling
     Q_OBJECT
 public:
     clsJs_Layer();
     ~clsJs_Layer() override;
 
-    /// Builds the columns and fills both grids. `groupGrid` may be null. Throws the host's error.
-    void init(ZolWDoc::ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection);
     void TearDown() override;
-    void ml_RuntimeSupport_LanguageChanged() override;  // published spelling
 
     bool AutomaticItemSelection() const { return m_automatic; }
     void setAutomaticItemSelection(bool on)
     {
         m_automatic = on;
     } ///< a layer made current becomes the grid's current row
-    void setbShowGroups(bool on) override;
-    void setAllowEdit(bool on) override;
     bool bShowVisibleItems() const { return m_onlyVisible; }
     void setbShowVisibleItems(bool on);                 ///< lists visible layers only
 
@@ -53,7 +48,7 @@ public:
     template <auto Flag, bool On> void setFlag() { command([this] { m_values.setFlag(Flag, On); }); }
     template <bool On> void setAllVisible() { command([this] { m_values.setAllVisible(On); }); }
     template <ZolWDoc::TableKind Kind> void pick() { command([this] { m_values.pick(Kind); }); }
-    void toggleVisibleItems() { setbShowVisibleItems(!m_onlyVisible); }
+    void toggleVisibleItems() { command([this] { setbShowVisibleItems(!m_onlyVisible); }); }
 
     void newGroup() { command([this] { m_groups.addNew(); }); }
     void renameGroup() { command([this] { m_groups.rename(); }); }
@@ -61,37 +56,30 @@ public:
     void moveToGroup() { command([this] { m_groups.moveSelected(); }); }
     void copyToGroup() { command([this] { m_groups.copySelected(); }); }
     template <bool On> void setGroupVisible() { command([this] { m_values.setGroupVisible(On); }); }
-    template <bool On> void showGroups() { setbShowGroups(On); }
-    void showAllLayers() { showGroup(GroupRows::kAll); }
-    void collapseGroup() { if (grid()) grid()->collapseBandOf(grid()->currentRow()); }
 
     void OpLay_Save() { command([this] { m_files.save(); }); }                         // published spelling
     void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
     /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
     /// host's error.
-    bool OpLay_Save2File(const QString &path) { return isOpen() && m_files.saveTo(path); }
+    bool OpLay_Save2File(const QString &path) 
+    {
+        return isOpen() && !refusesNow() && m_files.saveTo(path);
+    }
     void addFromFile() { command([this] { m_files.addFromFile(); }); }
     void renameFromFile() { command([this] { m_files.renameFromFile(); }); }
     void renumberFromFile() { command([this] { m_files.renumberFromFile(); }); }
     void deleteElements() { command([this] { m_files.deleteElements(); }); }
 
     // --- when a command can be used
-    bool canEditTable() const { return isOpen() && AllowEdit(); }
-    bool canEditLayers() const { return canEditTable() && !all().empty(); }
-    bool canEditCurrent() const { return canEditTable() && grid()->currentRow() >= 0; }
-    bool canEditSelected() const { return canEditTable() && grid()->hasSelection(); }
     template <ZolWDoc::TableKind Kind> bool canPick() const
     {
-        return canEditSelected() && LayerValues::canPick(Kind);
+        return canEditSelected() && canPickResource(Kind);
     }
-    bool isOpen() const override { return TableManager::isOpen(); }
     void fill() override;
-    bool canEditGroups() const { return canEditTable() && m_groupGrid; }
-    bool canEditGroup() const { return canEditGroups() && m_group != GroupRows::kAll; }
-    bool canGroupSelected() const { return canEditSelected() && !m_groupRows.groups().empty(); }
-    bool canShowAllLayers() const { return m_groupGrid && m_group != GroupRows::kAll; }
-    template <bool On> bool canShowGroups() const { return m_groupGrid && bShowGroups() != On; }
-    bool canCollapseGroup() const { return grid() && grid()->canCollapseBandOf(grid()->currentRow()); }
+    bool canEditLayersOfGroup() const
+    {
+        return canEditAll() && (chosenGroup() == GroupRows::kAll || !m_inGroup.isEmpty());
+    }
     bool canAddFromFile() const { return canEditTable() && document()->layerFiles(); }
     bool canDeleteElements() const { return canEditSelected() && document()->layerElements(); }
 
@@ -114,28 +102,13 @@ private:
     bool removeRows(std::span<const int> rows) override;
     void readBeside() override;
     void showBeside() override;
-    Qt::DropAction dragAction() const override { return Qt::CopyAction; }
+    void groupChosen() override;
     QMimeData *dragData(std::span<const int> rows) const override;
     bool canDrop(const QMimeData &mime, const DropTarget &) const override;
     void drop(const QMimeData &mime, const DropTarget &) override;
     GroupDrags groupDrags();
-    void armDrags();
-    void showGroup(qint16 group);
-    void chooseGroup(int row);
-    void narrowTo(int row);
-    void forgetGone();
-
-    // --- the desk of the commands
-    ZolWDoc::ZOLW_Doc &doc() override;
-    ZolWDoc::tLayArr selected() const override { return TableManager::selected(); }
-    int selectedCount() const override { return grid() ? grid()->selectedCount() : 0; }
-    std::optional<ZolWDoc::tLay> current() const override { return currentRecord(); }
-    qint16 chosenGroup() const override { return m_group; }
     void write(const QString &command, const std::function<void()> &body) override;
-    void refill() override { fill(); }
-    void selectLayer(qint16 layId) override { selectById(layId); }
-    ErrorRelay &relay() const override { return GridManager::relay(); }
-    QObject *asker() const override { return grid(); }
+    void forgetGone();
 
     LayerEdits m_edits{*this};
     LayerValues m_values{*this};
@@ -143,12 +116,8 @@ private:
     LayerFiles m_files{*this};
     LayerDrag m_drag{m_groups};
 
-    GroupRows m_groupRows;
-    Grid *m_groupGrid = nullptr;                        ///< the form's, until TearDown()
-    std::vector<ZolWDoc::tGroup> m_readGroups;          ///< until the refill that read them shows them
     std::vector<ZolWDoc::tLayMember> m_readMembers, m_members; ///< m_members: as last shown
     QSet<qint16> m_inGroup;                             ///< layers of the chosen group
-    qint16 m_group = GroupRows::kAll;
     qint16 m_current = -1, m_previous = -1;
     bool m_automatic = true, m_onlyVisible = false;
 };

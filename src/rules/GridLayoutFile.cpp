@@ -2,12 +2,12 @@
 
 #include "facade/services/Services.h"
 #include "facade/services/Text.h"
+#include "rules/WholeFile.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QSet>
 
 namespace QV_DOC_CONTROLS {
@@ -142,10 +142,7 @@ QString layoutFileName(const QString &layout)
 
 void saveLayout(const QString &path, const QString &table, const GridState &state)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return;
-    file.write(layoutBytes(table, state));
-    file.commit(); // leaves the old file alone when anything went wrong
+    writeWhole(path, layoutBytes(table, state)); // an error is swallowed
 }
 
 std::optional<GridState> loadLayout(const QString &path, const QString &table,

@@ -41,20 +41,6 @@ QString notSaved(const LayerFileRefusal &why, const LayerFile &content)
                                        u"át a csoportot, vagy állíts be másik kódlapot!"});
 }
 
-QString notWritable(const QString &path, const QString &details)
-{
-    return aboutFile(path, {21767, u"' fájl nem menthető; ha volt ilyen fájl, a régi tartalma megmaradt. "
-                                   u"Ellenőrizd a szabad helyet és a jogosultságokat! Részletek: "}) +
-           details;
-}
-
-QString notReadable(const QString &path, const QString &details)
-{
-    return aboutFile(path, {21765, u"' fájl nem olvasható. Ellenőrizd, hogy megvan-e, és van-e hozzá "
-                                   u"jogosultságod! Részletek: "}) +
-           details;
-}
-
 QString notUsable(const LayerFileRefusal &why, const QString &path)
 {
     switch (why.why) {

@@ -6,8 +6,6 @@ namespace QV_DOC_CONTROLS {
 
 /// What is wrong with a layer file and what to do about it; each names the file, layer, group or code page.
 QString notSaved(const LayerFileRefusal &why, const LayerFile &content);
-QString notWritable(const QString &path, const QString &details);
-QString notReadable(const QString &path, const QString &details);
 QString notUsable(const LayerFileRefusal &why, const QString &path);
 
 } // namespace QV_DOC_CONTROLS

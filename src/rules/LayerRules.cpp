@@ -34,18 +34,6 @@ std::variant<tLay, QString> copyOf(const tLay &lay, int growth, const TakenLayer
     return copy;
 }
 
-tLayArr asNow(std::span<const tLay> those, std::span<const tLay> all)
-{
-    QHash<qint16, const tLay *> byId;
-    byId.reserve(qsizetype(all.size()));
-    for (const tLay &l : all) byId.insert(l.LayId, &l);
-    tLayArr now;
-    now.reserve(those.size());
-    for (const tLay &l : those)
-        if (const tLay *const found = byId.value(l.LayId)) now.push_back(*found);
-    return now;
-}
-
 int proposedGrowth(std::span<const tLay> layers, const TakenLayers &taken)
 {
     for (int growth = 1; growth <= 10000; growth *= 10) {

@@ -31,9 +31,6 @@ private:
 /// The copy of a layer with its number raised and a name of its own, or the text that says why there is none.
 std::variant<ZolWDoc::tLay, QString> copyOf(const ZolWDoc::tLay &lay, int growth, const TakenLayers &taken);
 
-/// The layers of `those` as they are in `all`, in their order; those that are gone are left out.
-ZolWDoc::tLayArr asNow(std::span<const ZolWDoc::tLay> those, std::span<const ZolWDoc::tLay> all);
-
 /// The first of 1, 10, 100, 1000, 10000 by which all the layers can be raised to free numbers; 1 when none
 /// is.
 int proposedGrowth(std::span<const ZolWDoc::tLay> layers, const TakenLayers &taken);

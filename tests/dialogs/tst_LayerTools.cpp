@@ -250,6 +250,8 @@ private slots:
             QCOMPARE(grid.selectedRows(), std::vector<int>{1});             // a right click goes there first
             askForMenu(table, {}, QContextMenuEvent::Keyboard);
             QCOMPARE(openPopUp(), QStringLiteral("bndPopUp_LaysSelected"));
+            QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
+            QCOMPARE(openPopUp(), QStringLiteral("bndPopUp_LaysSelected"));
             askForMenu(cells, {row.x(), cells.height() - 2}, QContextMenuEvent::Mouse);
             QCOMPARE(openPopUp(), QStringLiteral("bndPopUp_Table"));
             QWidget &header = *grid.findChild<QHeaderView *>()->viewport();

@@ -266,7 +266,7 @@ private slots:
         m_dialogs.setWarnInvisibleCurrentLayer(true);
         m_dialogs.setAutomaticItemSelection(automatic);
         ScriptedPrompts user({{"yesNo", appTitle(),
-                               QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), confirmed,
+                               QStringLiteral("Kikapcsolt réteget választott!\nMegerősíti?"), confirmed,
                                Icon::Question}});
         inSetup([&](frmSetup &d) {
             QCOMPARE(d.jsLayer->currentRecord()->gNr, qint16(automatic ? 21 : 10));

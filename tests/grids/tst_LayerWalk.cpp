@@ -1,15 +1,15 @@
 #include "facade/services/Language.h"
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
+#include "support/LayerModel.h"
 #include "support/Registry.h"
 #include "support/WillingPrompts.h"
 
 #include <QRandomGenerator>
 
-#include <set>
-
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
+using Model = tests::LayerModel;
 
 namespace {
 
@@ -19,97 +19,6 @@ struct NotingPrompts final : tests::WillingPrompts {
     bool onlyNumbers = false;
     void tell(const Message &m, QObject *) override { told << m.text; }
     std::optional<bool> yesNoCancel(const Message &, QObject *) override { return onlyNumbers; }
-};
-
-/// The layer table as its rules were written down, without grid, document or any code of the library.
-struct Model {
-    struct Row {
-        int nr;
-        QString name;
-        bool visible = true, lines = false;
-    };
-    using Places = std::vector<size_t>;
-    std::vector<Row> rows;                      ///< in the order in which they were made
-    QStringList told;
-
-    QString dump() const
-    {
-        QStringList out;
-        for (const Row &r : rows)
-            out << QStringLiteral("%1 %2 %3%4").arg(r.nr).arg(r.name).arg(int(r.visible)).arg(int(r.lines));
-        return out.join(u'\n');
-    }
-    bool hasNumber(int nr) const { return std::ranges::find(rows, nr, &Row::nr) != rows.end(); }
-    bool hasName(const QString &n) const { return std::ranges::find(rows, n, &Row::name) != rows.end(); }
-    QString freeName(const QString &wanted) const
-    {
-        int n = 2;
-        while (hasName(QStringLiteral("%1_%2").arg(wanted).arg(n))) ++n;
-        return hasName(wanted) ? QStringLiteral("%1_%2").arg(wanted).arg(n) : wanted;
-    }
-    void addNew(size_t current)
-    {
-        Row made = rows[current];
-        made.nr = std::ranges::max(rows, {}, &Row::nr).nr + 1;
-        made.name = freeName(QStringLiteral("Az_új_réteg_neve"));
-        if (made.nr <= 32767) rows.push_back(made);
-        else told << QStringLiteral("A legnagyobb rétegsorszám már 32767, ezért nem készíthető új réteg. "
-                                    "Számozza át a rétegeket!");
-    }
-    void copy(const Places &chosen, int growth)
-    {
-        for (const size_t i : chosen) {
-            Row made = rows[i];
-            const int nr = made.nr + growth;
-            if (nr < 1 || nr > 32000)
-                told << QStringLiteral("A(z) %1 sorszámú rétegről nem lehet ").arg(made.nr) +
-                            QStringLiteral("másolatot csinálni %1 sorszámmal!").arg(nr);
-            else if (hasNumber(nr)) told << QStringLiteral("A(z) %1 sorszámú réteg már van !").arg(nr);
-            else {
-                made.nr = nr;
-                made.name = freeName(QStringLiteral("%1_%2").arg(made.name).arg(nr));
-                rows.push_back(made);
-            }
-        }
-    }
-    void renumber(const Places &chosen, int start, int growth)
-    {
-        auto after = rows;
-        for (size_t k = 0; k < chosen.size(); ++k) after[chosen[k]].nr = start + int(k) * growth;
-        std::set<int> numbers;
-        bool refused = false;
-        for (const Row &r : after) refused |= !numbers.insert(r.nr).second || r.nr < 1 || r.nr > 32767;
-        if (refused) told << QStringLiteral("Létező rétegsorszám !");
-        else rows = after;
-    }
-    void trim(const Places &chosen, bool onlyNumbers)
-    {
-        int changed = 0, taken = 0;
-        for (const size_t i : chosen) {
-            QString &name = rows[i].name;
-            const QString head = name.section(u'-', 0, 0), rest = name.section(u'-', 1).trimmed();
-            bool isNumber = false;
-            head.toInt(&isNumber);
-            if (head.isEmpty() || rest.isEmpty() || (onlyNumbers && !isNumber)) continue;
-            if (hasName(rest)) ++taken;
-            else name = rest, ++changed;
-        }
-        if (changed > 0) return;
-        told << QStringLiteral("Egyik kijelölt réteg neve sem változott.");
-        if (taken > 0)
-            told.last() +=
-                QStringLiteral("\nRégi nevükön maradtak, mert az új név már foglalt: %1").arg(taken);
-    }
-    void remove(const Places &chosen)
-    {
-        const bool all = chosen.size() == rows.size();
-        if (all) told << QStringLiteral("Az utolsó réteget nem lehet törölni!");
-        for (size_t k = chosen.size() - (all ? 1 : 0); k-- > 0;) rows.erase(rows.begin() + chosen[k]);
-    }
-    void flag(const Places &chosen, bool Row::*member, bool on)
-    {
-        for (const size_t i : chosen) rows[i].*member = on;
-    }
 };
 
 /// One user at a form whose every act the model follows.
@@ -142,7 +51,8 @@ public:
     QString expected() const { return m_model.dump() + m_model.told.join(u'\n'); }
     QString found()
     {
-        Model now{{}, user.told};
+        Model now;
+        now.told = user.told;
         for (const tLay &l : form.rows()) now.rows.push_back({l.gNr, l.Name, l.Visible, l.ElByLayer});
         return now.dump() + user.told.join(u'\n');
     }

@@ -1,4 +1,5 @@
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "grids/clsJs_Layer.h"
 #include "kit/grid/Grid.h"
 #include "support/FaultyDoc.h"

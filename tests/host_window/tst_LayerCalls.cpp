@@ -115,7 +115,7 @@ private slots:
         hidden.Visible = false;
         page(0).doc().layers().update(hidden);
         ScriptedPrompts user({{"yesNo", appTitle(),
-                               QStringLiteral("103 Kikapcsolt réteget választott!\nMegerősíti?"), false,
+                               QStringLiteral("Kikapcsolt réteget választott!\nMegerősíti?"), false,
                                Icon::Question}});
         const auto makeCurrent = [&](qint16 expected) {
             const auto watch = whileModal<frmSetup>([&](frmSetup &d) {

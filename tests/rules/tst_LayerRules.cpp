@@ -1,4 +1,5 @@
 #include "facade/services/Language.h"
+#include "rules/AsNow.h"
 #include "rules/LayerRules.h"
 #include "support/Registry.h"
 
@@ -127,7 +128,7 @@ private slots:
         const tLayArr old = layers({{1, "A"}, {2, "B"}, {3, "C"}});
         tLayArr now = layers({{1, "A"}, {2, "B2"}});
         std::ranges::reverse(now);
-        QCOMPARE(asNow(old, now), (tLayArr{now[1], now[0]}));
+        QCOMPARE(asNow(old, now, &tLay::LayId), (tLayArr{now[1], now[0]}));
     }
 
     void growthIsProposedWhereCopiesFit()

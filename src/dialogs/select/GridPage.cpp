@@ -71,7 +71,12 @@ GridPage::GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidg
     ab1->setObjectName(QStringLiteral("ab1"));
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    if (dialog == In::Setup) column->addWidget(ab1->menuBar("mnuMain", {21802, u"Menüsor"}));
+    if (dialog == In::Setup) {
+        QMenuBar *const bar = ab1->menuBar("mnuMain", {21802, u"Menüsor"});
+        connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, bar,
+                [bar] { bar->setActiveAction(bar->actions().value(0)); });
+        column->addWidget(bar);
+    }
     column->addWidget(ab1->toolBar("mnuBar", {21801, u"Eszköztár"}));
     column->addWidget(imgSplitter, 1);
     setFocusProxy(gridItems);
@@ -97,8 +102,9 @@ void GridPage::connectTools()
     for (const auto &[view, tool] : kViewTool) ab1->on(tool, {[this, v = view] { gridItems->setView(v); }});
     ab1->on("miFind", {[this] { find(); }});
     ab1->on("miPrintPreview", {[this] { print(); }});
-    ab1->on("miSelectAll", {[this] { gridItems->selectAll(); }});
-    ab1->on("miUnselectAll", {[this] { gridItems->selectRows({}); }});
+    ab1->on("miSelectAll", {[this] { gridItems->selectAll(); }, [this] { return gridItems->canSelectAll(); }});
+    ab1->on("miUnselectAll",
+            {[this] { gridItems->selectRows({}); }, [this] { return gridItems->hasSelection(); }});
     if (!ab1->tool("miShowGroups")) return;
     const auto isShown = [this] { return m_manager && m_manager->bShowGroups(); };
     const auto isHidden = [this] { return m_manager && !m_manager->bShowGroups(); };

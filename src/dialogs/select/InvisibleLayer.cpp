@@ -6,11 +6,10 @@
 
 namespace QV_DOC_CONTROLS {
 
-bool isConfirmed(const ZolWDoc::tLay &invisible, QObject *asker)
+bool isInvisibleMeant(const QString &before, QObject *asker)
 {
-    const QString question =
-        join(invisible.gNr, QStringLiteral(" "), Text{20019, u"Kikapcsolt réteget választott!"},
-             QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
+    const QString question = join(before, Text{20019, u"Kikapcsolt réteget választott!"},
+                                  QStringLiteral("\n"), Text{20020, u"Megerősíti?"});
     return prompts().yesNo({Icon::Question, appTitle(), question}, asker);
 }
 

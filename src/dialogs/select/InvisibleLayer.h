@@ -1,12 +1,12 @@
 #pragma once
 
-#include "facade/contract/Records.h"
-
 class QObject;
+class QString;
 
 namespace QV_DOC_CONTROLS {
 
-/// Asks whether an invisible layer is really meant to be the current one. No checkpoint is made.
-bool isConfirmed(const ZolWDoc::tLay &invisible, QObject *asker);
+/// Asks whether an invisible layer is really meant; `before` stands before the question. No checkpoint is
+/// made.
+bool isInvisibleMeant(const QString &before, QObject *asker);
 
 } // namespace QV_DOC_CONTROLS

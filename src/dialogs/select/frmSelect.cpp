@@ -141,7 +141,7 @@ void frmSelect::confirmLayer()
     if (chosen.empty()) return reject();
     const tLay &first = chosen.front();
     if (m_warnInvisible && !first.Visible) {
-        const bool confirmed = isConfirmed(first, this);
+        const bool confirmed = isInvisibleMeant(QString::number(first.gNr) + u' ', this);
         m_relay.checkpoint();
         m_ok = confirmed;
         if (!confirmed) return;

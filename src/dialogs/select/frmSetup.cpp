@@ -207,7 +207,7 @@ void frmSetup::makeCurrent()
     if (isBusy() || !canMakeCurrent()) return;
     const tLay lay = *jsLayer->currentRecord();
     if (m_warnInvisible && !lay.Visible) {
-        const bool confirmed = isConfirmed(lay, this);
+        const bool confirmed = isInvisibleMeant({}, this);
         m_relay.checkpoint();
         if (!confirmed) {
             jsLayer->selectById(jsLayer->currentLayer());

@@ -21,6 +21,7 @@ struct ResourcePicker {
 };
 
 ResourcePicker *resourcePicker();                       ///< null = there are no selection dialogs
+bool canPickResource(ZolWDoc::TableKind kind);          ///< there is a picker, with a dialog of that kind
 ResourcePicker *setResourcePicker(ResourcePicker *);    ///< not owned; returns what was set before
 
 } // namespace QV_DOC_CONTROLS

@@ -8,17 +8,17 @@
 
 namespace QV_DOC_CONTROLS {
 
-/// Why the table does not take the value that `edited` has in a column: another record has it. Null = it
+/// Why the table does not take `edited` instead of `now`: another record has its value in a column. Null = it
 /// does.
 template <class Table>
-const Refusal *refusalOf(const typename Table::Record &edited, int c,
+const Refusal *refusalOf(const typename Table::Record &now, const typename Table::Record &edited, int c,
                          std::span<const typename Table::Record> all)
 {
     const auto &column = Table::columns[c];
     if (!column.taken) return nullptr;
     const QVariant wanted = column.get(edited);
     const auto has = [&](const auto &r) {
-        return Table::id(r) != Table::id(edited) && column.get(r) == wanted;
+        return Table::id(r) != Table::id(now) && column.get(r) == wanted;
     };
     return std::ranges::any_of(all, has) ? &*column.taken : nullptr;
 }
@@ -33,10 +33,10 @@ std::optional<typename Table::Record> withValue(const typename Table::Record &no
     auto edited = now;
     if (!column.put(edited, value) || !column.takes(column.get(edited))) return std::nullopt;
     if (column.get(edited) == column.get(now)) return std::nullopt;
+    if (column.follow) column.follow(edited);
     return edited;
 }
 
 inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }
-inline void tell(const Refusal &r, QObject *asker) { prompts().tell(messageOf(r), asker); }
 
 } // namespace QV_DOC_CONTROLS

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "facade/services/InterfaceLocale.h"
 #include "facade/services/Prompts.h"
 #include "facade/services/Text.h"
 #include "kit/grid/GridSource.h"
+#include "rules/NumberFormat.h"
+#include "rules/NumberText.h"
 #include "rules/OwnerOf.h"
 
 #include <limits>
+#include <string_view>
 #include <type_traits>
 
 namespace QV_DOC_CONTROLS {
@@ -30,10 +34,16 @@ template <class Rec, class Names> struct Column {
     std::optional<Refusal> taken{};                     ///< set: shown when another row has the value
     std::vector<GridChoice> (*choices)(const Names &) = nullptr;
 
-    int least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max(); ///< of a number
+    double least = std::numeric_limits<double>::lowest(), most = std::numeric_limits<double>::max();
     bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
+    void (*follow)(Rec &) = nullptr;                    ///< set: what an edit of the column changes too
 
-    constexpr Column within(int from, int to) const { auto c = *this; c.least = from, c.most = to; return c; }
+    constexpr Column within(double from, double to) const
+    {
+        auto c = *this;
+        c.least = from, c.most = to;
+        return c;
+    }
     constexpr Column filled() const
     {
         auto c = *this;
@@ -44,11 +54,13 @@ template <class Rec, class Names> struct Column {
     {
         if (proper && !proper(value)) return false;
         return kind == CellKind::Text || kind == CellKind::Check ||
-               (value.toInt() >= least && value.toInt() <= most);
+               (value.toDouble() >= least && value.toDouble() <= most);
     }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
+    constexpr Column alsoSets(void (*what)(Rec &)) const { auto c = *this; c.follow = what; return c; }
+    constexpr Column picture() const { auto c = *this; c.kind = CellKind::Picture; return c; }
     constexpr Column color() const { auto c = *this; c.kind = CellKind::Color; return c; }
     constexpr Column named(QString (*by)(const Rec &, const Names &),
                            std::vector<GridChoice> (*offer)(const Names &)) const
@@ -66,7 +78,9 @@ template <class T> constexpr CellKind kindOf()
     else return std::is_arithmetic_v<T> ? CellKind::Number : CellKind::Text;
 }
 
-/// Takes over an edited value; text that is no whole number of the member's range is no value of a number
+constexpr const char16_t *kRealPattern = u"0.0##";      ///< how a number with decimals is shown
+
+/// Takes over an edited value; text that is no number of the member's kind and range is no value of a number
 /// column.
 template <class T> bool assign(T &member, const QVariant &value)
 {
@@ -75,6 +89,12 @@ template <class T> bool assign(T &member, const QVariant &value)
         const qlonglong n = value.toString().trimmed().toLongLong(&isNumber);
         if (!isNumber || n < std::numeric_limits<T>::min() || n > std::numeric_limits<T>::max()) return false;
         member = T(n);
+    } else if constexpr (std::is_floating_point_v<T>) {
+        const bool typed = value.typeId() == QMetaType::QString;
+        const auto n = typed ? numberMeant(value.toString(), kRealPattern, interfaceLocale())
+                             : std::optional(value.toDouble());
+        if (!n) return false;
+        member = T(*n);
     } else {
         member = value.value<T>();
     }
@@ -85,7 +105,15 @@ template <class T> QString textOf(const T &value)
 {
     if constexpr (std::is_same_v<T, QString>) return value;
     else if constexpr (std::is_same_v<T, bool>) return {};
+    else if constexpr (std::is_floating_point_v<T>)
+        return formatted(value, QString::fromUtf16(kRealPattern), interfaceLocale());
     else return QString::number(value);
+}
+
+template <class T> QVariant valueOf(const T &value)
+{
+    if constexpr (std::is_same_v<T, quint8>) return int(value); // Qt takes a byte for a letter
+    else return QVariant::fromValue(value);
 }
 
 /// The column that shows and edits member M.
@@ -94,10 +122,18 @@ template <auto M, class Names> constexpr auto field(const char *key, Text captio
     using Rec = decltype(ownerOf(M));
     using T = std::remove_cvref_t<decltype(std::declval<Rec>().*M)>;
     return Column<Rec, Names>{key, caption,
-                              [](const Rec &r) { return QVariant::fromValue(r.*M); },
+                              [](const Rec &r) { return valueOf(r.*M); },
                               [](Rec &r, const QVariant &v) { return assign(r.*M, v); },
                               [](const Rec &r, const Names &) { return textOf(r.*M); },
                               kindOf<T>()};
+}
+
+/// The place of a column; an unknown key does not compile.
+template <class Table> consteval int columnOf(std::string_view key)
+{
+    int c = 0;
+    while (Table::columns[c].key != key) ++c;
+    return c;
 }
 
 /// The columns of a table as a grid shows them, captions in the current language.

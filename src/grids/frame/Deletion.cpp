@@ -24,7 +24,9 @@ public:
     bool mayGo(const Doomed &d)
     {
         if (!d.isUsed || m_all) return true;
-        const QString question = join(m_texts.usedBefore, d.name, m_texts.usedAfter, kDelete);
+        QString question = join(m_texts.usedBefore, d.name, m_texts.usedAfter);
+        const QString end = txt(kDelete);
+        question += end.startsWith(u' ') ? end : u' ' + end; // the blank is not in every language's text
         const AllYesNo answer = prompts().allYesNo({Icon::Question, txt(m_texts.title), question}, m_asker);
         m_relay.checkpoint();
         m_all = answer == AllYesNo::All;

@@ -32,6 +32,11 @@ void GridManager::writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name,
     relay().checkpoint();
 }
 
+void GridManager::readTooltips(Grid &grid)
+{
+    grid.setTooltips(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
+}
+
 void GridManager::followView(Grid &grid)
 {
     connect(&grid, &Grid::viewChanged, this, [this](GridView view) { raiseView(qint16(view)); });

@@ -40,6 +40,7 @@ public:
     virtual void ml_RuntimeSupport_LanguageChanged() = 0; ///< reads every caption again; published spelling
 
     virtual bool isOpen() const = 0;                         ///< between init() and TearDown()
+    bool canEditTable() const { return isOpen() && AllowEdit(); }
     /// Reads the whole table again; current row and selection stay with their records. Throws the host's
     /// error.
     virtual void fill() = 0;
@@ -66,6 +67,7 @@ protected:
     virtual void raiseView(qint16 view) = 0;                 ///< emits the table's own GridView
     /// Emits the table's own GroupChanged: the user's grouping, not that of a layout file.
     virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) }
+    static void readTooltips(Grid &grid);                    ///< shown or not, as the user's setting says
     void followView(Grid &grid);                             ///< raises both, and follows the language
     void unfollow(Grid &grid);                               ///< hears nothing of either any more
     void loadLayout(Grid &grid, const QString &layout);      ///< of the language, if there is one

@@ -1,33 +1,58 @@
 #include "grids/frame/GroupRows.h"
 
-#include "facade/services/Text.h"
+#include <algorithm>
 
 namespace QV_DOC_CONTROLS {
 
 void GroupRows::readCaptions()
 {
-    m_columns = {{QStringLiteral("GroupName"), txt(Text{2834, u"Név"}), {}, CellKind::Text, false, 0}};
+    m_columns = {{QStringLiteral("GroupName"), txt(m_caption), {}, CellKind::Text, bool(m_rename), 0}};
+}
+
+bool GroupRows::isGroup(qint16 id) const
+{
+    return std::ranges::count(m_groups, id, &ZolWDoc::tGroup::GroupId) > 0;
+}
+
+qint16 GroupRows::groupAt(int row) const
+{
+    const size_t i = size_t(row - 1);
+    if (row <= 0) return kAll;
+    return i < m_groups.size() ? m_groups[i].GroupId : m_strays[i - m_groups.size()];
 }
 
 QString GroupRows::text(int row, int) const
 {
-    return row == 0 ? txt(Text{3235, u"MIND"}) : m_groups[size_t(row - 1)].GroupName;
+    if (row == 0) return txt(Text{3235, u"MIND"});
+    const size_t i = size_t(row - 1);
+    return i < m_groups.size() ? m_groups[i].GroupName : txt(Text{3204, u"HIBÁS CSOPORT"});
 }
 
-bool GroupRows::edit(int, int, const QVariant &) { return false; } // groups are renamed by command
+void GroupRows::setRenaming(GroupRenaming rename)
+{
+    m_rename = std::move(rename);
+    readCaptions();
+}
+
+bool GroupRows::edit(int row, int, const QVariant &value)
+{
+    const QString name = value.toString().trimmed();
+    if (!m_rename || !isGroup(groupAt(row)) || name.isEmpty() || name == text(row, 0)) return false;
+    return m_rename(groupAt(row), name);
+}
 
 QMimeData *GroupRows::dragData(std::span<const int> rows) const
 {
     std::vector<qint16> groups;
     for (const int row : rows)
-        if (groupAt(row) != kAll) groups.push_back(groupAt(row));
+        if (isGroup(groupAt(row))) groups.push_back(groupAt(row));
     return m_drags.data && !groups.empty() ? m_drags.data(groups) : nullptr;
 }
 
 bool GroupRows::canDrop(const QMimeData &mime, const DropTarget &target) const
 {
     const qint16 group = groupAt(target.row);
-    return m_drags.takes && group != kAll && m_drags.takes(mime, group);
+    return m_drags.takes && isGroup(group) && m_drags.takes(mime, group);
 }
 
 void GroupRows::drop(const QMimeData &mime, const DropTarget &target)

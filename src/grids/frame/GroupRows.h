@@ -1,6 +1,7 @@
 #pragma once
 
 #include "facade/contract/Records.h"
+#include "facade/services/Text.h"
 #include "kit/grid/GridSource.h"
 
 #include <functional>
@@ -15,20 +16,29 @@ struct GroupDrags {
     std::function<void(const QMimeData &, qint16 group)> drop;
 };
 
+/// Gives a group another name; false = it was refused, and the user knows why.
+using GroupRenaming = std::function<bool(qint16 group, const QString &name)>;
+
 /// The group list beside a table: the pseudo-group "MIND", which stands for all records, and the table's
 /// groups.
 class GroupRows final : public GridSource {
 public:
     static constexpr qint16 kAll = -1;                  ///< identifier of the pseudo-group
-    GroupRows() { readCaptions(); }
-    void setGroups(std::vector<ZolWDoc::tGroup> groups) { m_groups = std::move(groups); }
+    explicit GroupRows(Text caption) : m_caption(caption) { readCaptions(); }
+    /// `strays`: groups that records name and that are not there; they are listed behind the others.
+    void setGroups(std::vector<ZolWDoc::tGroup> groups, std::vector<qint16> strays = {})
+    {
+        m_groups = std::move(groups), m_strays = std::move(strays);
+    }
     const std::vector<ZolWDoc::tGroup> &groups() const { return m_groups; }
-    qint16 groupAt(int row) const { return row <= 0 ? kAll : m_groups[size_t(row - 1)].GroupId; }
+    bool isGroup(qint16 id) const; ///< false: the pseudo-group, or one that is not there
+    qint16 groupAt(int row) const;
     void setDrags(GroupDrags drags) { m_drags = std::move(drags); }
+    void setRenaming(GroupRenaming rename); ///< names can be edited in place; none = they cannot
     void readCaptions();
 
     const std::vector<GridColumn> &columns() const override { return m_columns; }
-    int rowCount() const override { return int(m_groups.size()) + 1; }
+    int rowCount() const override { return int(m_groups.size() + m_strays.size()) + 1; }
     qint64 rowId(int row) const override { return groupAt(row); }
     QVariant value(int row, int column) const override { return text(row, column); }
     QString text(int row, int column) const override;
@@ -39,8 +49,11 @@ public:
     void drop(const QMimeData &mime, const DropTarget &target) override;
 
 private:
+    Text m_caption;
     GroupDrags m_drags;
+    GroupRenaming m_rename;
     std::vector<ZolWDoc::tGroup> m_groups;
+    std::vector<qint16> m_strays;
     std::vector<GridColumn> m_columns;
 };
 

@@ -1,10 +1,8 @@
 #include "grids/layer/LayerEdits.h"
 
 #include "facade/services/Services.h"
-#include "grids/LayerTable.h"
-#include "grids/frame/CellEdit.h"
 #include "grids/frame/GroupRows.h"
-#include "kit/ask/ErrorRelay.h"
+#include "grids/frame/RecordWork.h"
 #include "rules/LayerGroupRules.h"
 #include "rules/LayerRules.h"
 
@@ -17,16 +15,10 @@ using namespace ZolWDoc;
 
 namespace {
 
-void tell(LayerDesk &desk, Icon icon, const QString &title, const QString &text)
-{
-    prompts().tell({icon, title, text}, desk.asker());
-    desk.relay().checkpoint();
-}
-
 /// Whose attributes a new layer takes: the layer of the current row, or else the document's current one.
 tLay modelIn(const tLayArr &all, LayerDesk &desk)
 {
-    const auto row = desk.current();
+    const auto row = desk.currentRecord();
     auto found = std::ranges::find(all, row ? row->LayId : desk.doc().layers().currentId(), &tLay::LayId);
     return found == all.end() ? all.front() : *found;
 }
@@ -36,8 +28,8 @@ tLay firstLayer(ZOLW_Doc &doc)
 {
     tLay lay;
     const LayerNames names = LayerTable::namesOf(doc);
-    if (!names.lineTypes.empty()) lay.PenStyleId = names.lineTypes.front().value.value<qint16>();
-    if (!names.textTypes.empty()) lay.TxdId = names.textTypes.front().value.value<qint16>();
+    lay.PenStyleId = names.lineTypes.firstId();
+    lay.TxdId = names.textTypes.firstId();
     return lay;
 }
 
@@ -52,7 +44,7 @@ Copies copiesOf(const tLayArr &chosen, int growth, TakenLayers taken, LayerDesk 
     for (const tLay &l : chosen) {
         const auto copy = copyOf(l, growth, taken);
         if (const auto *const why = std::get_if<QString>(&copy)) {
-            tell(desk, Icon::Information, productName(), *why);
+            desk.tell({Icon::Information, productName(), *why});
             continue;
         }
         out.copies.push_back(std::get<tLay>(copy));
@@ -81,12 +73,13 @@ void LayerEdits::addNew()
 {
     const QString title = txt(Text{21700, u"Új réteg"});
     const tLayArr all = m_desk.doc().layers().readAll();
-    if (all.empty()) tell(m_desk, Icon::Information, productName(), txt(Text{3298, u"Ez az első réteg!"}));
+    if (all.empty()) m_desk.tell({Icon::Information, productName(), txt(Text{3298, u"Ez az első réteg!"})});
     const auto lay = newLayer(all, all.empty() ? firstLayer(m_desk.doc()) : modelIn(all, m_desk));
     if (!lay)
-        return tell(m_desk, Icon::Exclamation, title,
-                    txt(Text{21702, u"A legnagyobb rétegsorszám már 32767, ezért nem készíthető új réteg. "
-                                    u"Számozza át a rétegeket!"}));
+        return m_desk.tell(
+            {Icon::Exclamation, title,
+             txt(Text{21702, u"A legnagyobb rétegsorszám már 32767, ezért nem készíthető új réteg. "
+                             u"Számozza át a rétegeket!"})});
     qint16 id = -1;
     m_desk.write(title, [&] {
         LayerRole &layers = m_desk.doc().layers();
@@ -94,14 +87,14 @@ void LayerEdits::addNew()
         if (m_desk.chosenGroup() != GroupRows::kAll)
             layers.writeMembers(joined(layers.members(), {&id, 1}, m_desk.chosenGroup()));
     });
-    m_desk.selectLayer(id);
+    m_desk.selectById(id);
 }
 
 void LayerEdits::copy()
 {
     const QString title = txt(Text{3337, u"Réteg másolás"});
     const tLayArr all = m_desk.doc().layers().readAll();
-    const tLayArr chosen = asNow(m_desk.selected(), all);
+    const tLayArr chosen = asNow(m_desk.selected(), all, &tLay::LayId);
     const TakenLayers taken(all);
     const auto growth = prompts().numbers(
         {title, txt(Text{3338, u"Milyen értékkel akarod megnövelni a másolt rétegek sorszámát?"}),
@@ -131,7 +124,7 @@ void LayerEdits::renumber()
 {
     const QString title = txt(Text{3342, u"Átsorszámozás"});
     tLayArr all = m_desk.doc().layers().readAll();
-    const tLayArr chosen = asNow(m_desk.selected(), all);
+    const tLayArr chosen = asNow(m_desk.selected(), all, &tLay::LayId);
     if (chosen.empty()) return;
     const auto answer = prompts().numbers(
         {title, txt(Text{3341, u"A kiválasztott rétegek átsorszámozása"}),
@@ -147,7 +140,7 @@ void LayerEdits::renumber()
     m_desk.relay().checkpoint();
     if (!answer) return;
     const auto numbered = renumbered(chosen, int(answer->at(0)), int(answer->at(1)), all);
-    if (!numbered) return tell(*LayerTable::columns[LayerTable::numberColumn].taken, m_desk.asker());
+    if (!numbered) return m_desk.tell(messageOf(*LayerTable::columns[LayerTable::numberColumn].taken));
     if (*numbered == chosen) return;
     QHash<qint16, qint16> numberOf;
     for (const tLay &l : *numbered) numberOf.insert(l.LayId, l.gNr);
@@ -159,7 +152,7 @@ void LayerEdits::renumber()
 void LayerEdits::remove(bool asksForEach)
 {
     const tLayArr all = m_desk.doc().layers().readAll();
-    const tLayArr chosen = asNow(m_desk.selected(), all);
+    const tLayArr chosen = asNow(m_desk.selected(), all, &tLay::LayId);
     std::vector<qint16> ids;
     for (const tLay &l : chosen) ids.push_back(l.LayId);
     const std::vector<int> uses = m_desk.doc().layers().usesAll(ids);
@@ -169,11 +162,9 @@ void LayerEdits::remove(bool asksForEach)
     const DeleteQuestions questions{LayerTable::deletion, asksForEach, int(all.size())};
     const std::vector<qint16> going = questions.ask(doomed, m_desk.relay(), m_desk.asker());
     if (going.empty()) return;
-    const bool alsoOrphans = prompts().yesNo(
-        {Icon::Question, txt(Text{21703, u"Érintett pontok törlése"}),
-         txt(Text{21704, u"Kéred a keletkezett önálló pontok törlését is?"})},
-        m_desk.asker());
-    m_desk.relay().checkpoint();
+    const bool alsoOrphans =
+        m_desk.yesNo({Icon::Question, txt(Text{21703, u"Érintett pontok törlése"}),
+                      txt(Text{21704, u"Kéred a keletkezett önálló pontok törlését is?"})});
     m_desk.write(txt(LayerTable::deletion.title), [&] {
         int done = 0;
         m_desk.doc().layers().removeAll(going, alsoOrphans, done);

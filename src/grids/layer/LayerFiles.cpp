@@ -3,14 +3,12 @@
 #include "facade/services/LayerFileCodePage.h"
 #include "facade/services/Services.h"
 #include "facade/services/Trace.h"
+#include "grids/frame/RecordWork.h"
 #include "rules/LayerFileTexts.h"
-#include "kit/ask/ErrorRelay.h"
 #include "rules/LayerRules.h"
+#include "rules/WholeFile.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <numeric>
 
@@ -22,37 +20,13 @@ namespace {
 
 constexpr Text kSave{1948, u"Rétegek mentése"}, kLoad{1949, u"Rétegek láthatóságok betöltése"};
 const QString kFilter = QStringLiteral("*.z3l|*.z3l"), kSuffix = QStringLiteral("z3l");
-const QString kApplication = QStringLiteral("ZolWOp"), kSection = QStringLiteral("Settings"),
-              kFolder = QStringLiteral("LayerFileFolder");
-
-QString lastFolder()
-{
-    const QString folder = settingsStore().read(kApplication, kSection, kFolder, {});
-    return QFileInfo(folder).isDir() ? folder : QString();
-}
 
 } // namespace
-
-void LayerFiles::tell(Icon icon, const QString &title, const QString &text)
-{
-    prompts().tell({icon, title, text}, m_desk.asker());
-    m_desk.relay().checkpoint();
-}
-
-/// What the user answered to a file question; its folder is proposed the next time.
-QString LayerFiles::picked(QString path)
-{
-    m_desk.relay().checkpoint();
-    if (!path.isEmpty())
-        settingsStore().write(kApplication, kSection, kFolder, QFileInfo(path).absolutePath());
-    return path;
-}
 
 void LayerFiles::save()
 {
     const Trace trace("clsJS_Layer", "OpLay_Save");     // this spelling on purpose
-    const QString path =
-        picked(prompts().saveFile({txt(kSave), kFilter, lastFolder(), kSuffix}, m_desk.asker()));
+    const QString path = m_choice.toSave({txt(kSave), kFilter, {}, kSuffix});
     if (!path.isEmpty()) saveTo(path);
 }
 
@@ -62,16 +36,12 @@ bool LayerFiles::saveTo(const QString &path)
     const LayerFile content{layers.fileVersion(), layers.readAll(), layers.groups(), layers.members()};
     const auto bytes = bytesOf(content, layerFileCodePage());
     if (const auto *const refusal = std::get_if<LayerFileRefusal>(&bytes)) {
-        tell(Icon::Exclamation, txt(kSave), notSaved(*refusal, content));
+        m_desk.tell({Icon::Exclamation, txt(kSave), notSaved(*refusal, content)});
         return false;
     }
-    const QByteArray &whole = std::get<QByteArray>(bytes);
-    QSaveFile file(path);
-    // On a full disk a part may be written without an error, and the flush of commit() says nothing of it.
-    const bool isOnDisk =
-        file.open(QIODevice::WriteOnly) && file.write(whole) == whole.size() && file.flush();
-    if (isOnDisk && file.commit()) return true;
-    tell(Icon::Exclamation, txt(kSave), notWritable(path, file.errorString()));
+    const auto why = writeWhole(path, std::get<QByteArray>(bytes));
+    if (!why) return true;
+    m_desk.tell({Icon::Exclamation, txt(kSave), notWritable(path, *why)});
     return false;
 }
 
@@ -84,19 +54,19 @@ std::optional<LayerFile> LayerFiles::read(const QString &path)
     if (file.open(QIODevice::ReadOnly)) bytes = file.read(sizeof(qint32));
     const auto version = layerFileVersionOf(bytes);
     if (version && *version != m_desk.doc().layers().fileVersion()) {
-        tell(Icon::Information, productName(),
+        m_desk.tell({Icon::Information, productName(),
              join(Text{21755, u"Nem használható!"}, QStringLiteral("\n"),
-                  Text{21756, u"Hibás verziószámú mentés!"}));
+                  Text{21756, u"Hibás verziószámú mentés!"})});
         return {};
     }
     if (file.isOpen()) bytes += file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        tell(Icon::Exclamation, title, notReadable(path, file.errorString()));
+        m_desk.tell({Icon::Exclamation, title, notReadable(path, file.errorString())});
         return {};
     }
     auto content = layerFileOf(bytes, layerFileCodePage());
     if (const auto *const refusal = std::get_if<LayerFileRefusal>(&content)) {
-        tell(Icon::Exclamation, title, notUsable(*refusal, path));
+        m_desk.tell({Icon::Exclamation, title, notUsable(*refusal, path)});
         return {};
     }
     return std::get<LayerFile>(std::move(content));
@@ -105,8 +75,7 @@ std::optional<LayerFile> LayerFiles::read(const QString &path)
 void LayerFiles::loadVisibilities()
 {
     const Trace trace("jslayer", "OpLay_VisibleUseFile"); // another spelling than above, on purpose
-    const QString path =
-        picked(prompts().openFile({txt(kLoad), kFilter, lastFolder(), kSuffix}, m_desk.asker()));
+    const QString path = m_choice.toOpen({txt(kLoad), kFilter, {}, kSuffix});
     if (path.isEmpty()) return;
     const auto saved = read(path);
     if (!saved) return;
@@ -124,11 +93,8 @@ void LayerFiles::loadVisibilities()
 
 void LayerFiles::fromTextFile(const Text &title, const Apply &apply)
 {
-    const QString all = QStringLiteral("*.txt"), folder = lastFolder();
-    const QString path = picked(prompts().openFile({txt(title), txt(Text{3360, u"Rétegek (*.txt)|*.txt"}),
-                                                    folder.isEmpty() ? all : QDir(folder).filePath(all),
-                                                    QStringLiteral("txt")},
-                                                   m_desk.asker()));
+    const QString path = m_choice.toOpen({txt(title), txt(Text{3360, u"Rétegek (*.txt)|*.txt"}),
+                                          QStringLiteral("*.txt"), QStringLiteral("txt")});
     if (!path.isEmpty()) m_desk.write(txt(title), [&] { apply(path); });
 }
 
@@ -157,19 +123,18 @@ void LayerFiles::deleteElements()
     LayerElementsRole *const eraser = m_desk.doc().layerElements();
     if (!eraser) return;
     std::vector<qint16> ids;
-    for (const tLay &l : asNow(m_desk.selected(), m_desk.doc().layers().readAll())) ids.push_back(l.LayId);
+    for (const tLay &l : selectedNow(m_desk)) ids.push_back(l.LayId);
     const std::vector<int> uses = m_desk.doc().layers().usesAll(ids);
     const int elements = std::accumulate(uses.begin(), uses.end(), 0);
     const QString title = txt(Text{21758, u"Rétegek elemeinek törlése"});
     if (elements == 0)
-        return tell(Icon::Information, title, txt(Text{21759, u"A kijelölt rétegeken nincs rajzelem."}));
-    const bool sure = prompts().yesNo(
+        return m_desk.tell(
+            {Icon::Information, title, txt(Text{21759, u"A kijelölt rétegeken nincs rajzelem."})});
+    const bool sure = m_desk.yesNo(
         {Icon::Exclamation, title,
          join(Text{21760, u"Kijelölt rétegek száma: "}, int(ids.size()), QStringLiteral("\n"),
               Text{21761, u"Rajzelemek rajtuk: "}, elements, QStringLiteral("\n"),
-              Text{21762, u"Biztosan törlöd ezeket a rajzelemeket? A rétegek megmaradnak."})},
-        m_desk.asker());
-    m_desk.relay().checkpoint();
+              Text{21762, u"Biztosan törlöd ezeket a rajzelemeket? A rétegek megmaradnak."})});
     if (sure) m_desk.write(title, [&] { eraser->deleteElements(ids); });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "facade/services/Prompts.h"
 #include "facade/services/Text.h"
+#include "grids/frame/FileChoice.h"
 #include "grids/layer/LayerDesk.h"
 #include "rules/LayerFile.h"
 
@@ -26,10 +26,9 @@ public:
 private:
     using Apply = std::function<void(const QString &path)>;
     void fromTextFile(const Text &title, const Apply &apply);
-    QString picked(QString path);
-    void tell(Icon icon, const QString &title, const QString &text);
     std::optional<LayerFile> read(const QString &path);
     LayerDesk &m_desk;
+    FileChoice m_choice{m_desk, "LayerFileFolder"};
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -1,7 +1,6 @@
 #include "grids/layer/LayerGroups.h"
 
-#include "facade/services/Prompts.h"
-#include "kit/ask/ErrorRelay.h"
+#include "grids/frame/RecordWork.h"
 #include "rules/LayerGroupRules.h"
 #include "rules/LayerRules.h"
 
@@ -24,11 +23,11 @@ std::optional<tGroup> LayerGroups::chosen(const std::vector<tGroup> &all) const
     return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
-void LayerGroups::tell(const QString &title, const QString &text)
-{
-    prompts().tell({Icon::Information, title, text}, m_desk.asker());
-    m_desk.relay().checkpoint();
-}
+namespace {
+
+Message told(const QString &title, const QString &text) { return {Icon::Information, title, text}; }
+
+} // namespace
 
 void LayerGroups::addNew()
 {
@@ -45,18 +44,16 @@ void LayerGroups::rename()
     if (!group) return;
     const QString title = txt(kRename);
     if (group->GroupId == systemGroupIn(all))
-        return tell(title, txt(Text{3290, u"A rendszer rétegcsoport neve nem módosítható!"}));
-    QString name = group->GroupName;
-    do {
-        const auto typed =
-            prompts().text({title, txt(Text{21750, u"A csoport új neve:"}), name}, m_desk.asker());
-        m_desk.relay().checkpoint();
-        name = typed.value_or(QString()).trimmed();
-        if (name.isEmpty() || name == group->GroupName) return;
-        if (!isGroupNameTaken(name, group->GroupId, all)) break;
-        tell(txt(Text{3426, u"Csoport átnevezés"}), txt(Text{3089, u"Létező csoportnév !"}));
-    } while (true);
-    std::ranges::find(all, group->GroupId, &tGroup::GroupId)->GroupName = name;
+        return m_desk.tell(told(title, txt(Text{3290, u"A rendszer rétegcsoport neve nem módosítható!"})));
+    const auto refusalFor = [&](const QString &name) -> std::optional<Message> {
+        if (!isGroupNameTaken(name, group->GroupId, all)) return {};
+        return told(txt(Text{3426, u"Csoport átnevezés"}), txt(Text{3089, u"Létező csoportnév !"}));
+    };
+    const auto name = uniqueText(
+        m_desk.relay(), {title, txt(Text{21750, u"A csoport új neve:"}), group->GroupName, {}}, refusalFor,
+        m_desk.asker());
+    if (!name || *name == group->GroupName) return;
+    std::ranges::find(all, group->GroupId, &tGroup::GroupId)->GroupName = *name;
     m_desk.write(title, [&] { m_desk.doc().layers().writeGroups(all); });
 }
 
@@ -66,18 +63,16 @@ void LayerGroups::remove()
     std::vector<tGroup> all = groups();
     const auto group = chosen(all);
     if (!group) return;
-    const bool sure = prompts().yesNo(
-        {Icon::Question, title, txt(Text{3312, u"Biztosan szeretnéd törölni a csoportot?"})}, m_desk.asker());
-    m_desk.relay().checkpoint();
-    if (!sure) return;
+    if (!m_desk.yesNo({Icon::Question, title, txt(Text{3312, u"Biztosan szeretnéd törölni a csoportot?"})}))
+        return;
     if (group->GroupId == systemGroupIn(all))
-        return tell(title, txt(Text{3288, u"A rendszer-rétegcsoport nem törölhető!"}));
+        return m_desk.tell(told(title, txt(Text{3288, u"A rendszer-rétegcsoport nem törölhető!"})));
     std::vector<tLayMember> members = m_desk.doc().layers().members();
     if (!canDeleteGroup(group->GroupId, members))
-        return tell(txt(Text{3424, u"Rétegcsoport törlés"}),
-                    join(Text{3425, u"A(z) '"}, group->GroupName,
-                         Text{3287, u"' csoport nem minden rétege szerepel más csoportban"},
-                         QStringLiteral("\n"), Text{3286, u"ezért nem szüntethető meg!"}));
+        return m_desk.tell(told(txt(Text{3424, u"Rétegcsoport törlés"}),
+                                join(Text{3425, u"A(z) '"}, group->GroupName,
+                                     Text{3287, u"' csoport nem minden rétege szerepel más csoportban"},
+                                     QStringLiteral("\n"), Text{3286, u"ezért nem szüntethető meg!"})));
     std::erase(all, *group);
     std::erase_if(members, [&](const tLayMember &m) { return m.GroupId == group->GroupId; });
     // First the members: should the second write fail, there is an empty group and no layer without one.
@@ -105,7 +100,7 @@ std::optional<qint16> LayerGroups::askForGroup(const QString &title, const Text 
 std::vector<qint16> LayerGroups::selectedNow()
 {
     std::vector<qint16> ids;
-    for (const tLay &l : asNow(m_desk.selected(), m_desk.doc().layers().readAll())) ids.push_back(l.LayId);
+    for (const tLay &l : QV_DOC_CONTROLS::selectedNow(m_desk)) ids.push_back(l.LayId);
     return ids;
 }
 

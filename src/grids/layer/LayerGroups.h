@@ -21,7 +21,6 @@ public:
 private:
     std::vector<ZolWDoc::tGroup> groups() { return m_desk.doc().layers().groups(); }
     std::optional<ZolWDoc::tGroup> chosen(const std::vector<ZolWDoc::tGroup> &all) const;
-    void tell(const QString &title, const QString &text);
     std::optional<qint16> askForGroup(const QString &title, const Text &question);
     std::vector<qint16> selectedNow();
     void store(const QString &command, const std::vector<ZolWDoc::tLayMember> &before,

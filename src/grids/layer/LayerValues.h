@@ -17,10 +17,8 @@ public:
     void setGroupVisible(bool on);                      ///< of the layers of the chosen group
     /// Text type, line type or pen colour of the selected layers, from its selection dialog.
     void pick(ZolWDoc::TableKind kind);
-    static bool canPick(ZolWDoc::TableKind kind);
 
 private:
-    void store(const QString &command, const ZolWDoc::tLayArr &before, ZolWDoc::tLayArr after);
     LayerDesk &m_desk;
 };
 

@@ -59,6 +59,7 @@ public:
     bool hasSelection() const;                      ///< as selectedCount() > 0, at once
     void selectRows(std::span<const int> rows);     ///< replaces the selection
     void selectAll();                               ///< every shown row
+    bool canSelectAll() const;                      ///< several rows can be selected, and there are some
     /// Makes the next row current whose shown text is `text`, or else begins with it, or else contains it;
     /// case does not count. Looks behind the current row first. False = no shown row has it.
     bool find(int column, const QString &text);

@@ -183,6 +183,7 @@ void Grid::selectRows(std::span<const int> rows)
     m_selection->setRows(rows);
     updateCounts();
 }
+bool Grid::canSelectAll() const { return m_multi && m_model->rowCount() > 0; }
 void Grid::selectAll()
 {
     if (m_model->rowCount() > 0) activeView()->selectAll();

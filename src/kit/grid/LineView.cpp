@@ -135,6 +135,26 @@ QItemSelectionModel::SelectionFlags LineView::selectionCommand(const QModelIndex
     return QAbstractItemView::selectionCommand(index, event);
 }
 
+/// A click on one of several selected rows selects that row alone, as everywhere; the next one edits it, a
+/// little later, for it may become a double click. Who presses F2 meanwhile waits for nothing.
+bool LineView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    if (trigger == EditKeyPressed) QAbstractItemView::edit(index, CurrentChanged, nullptr);
+    const QItemSelection &selection = selectionModel()->selection();
+    const bool isOne = selection.size() == 1 && selection.first().height() == 1;
+    if (trigger == SelectedClicked && !isOne && !(index.flags() & Qt::ItemIsUserCheckable)) return false;
+    return QAbstractItemView::edit(index, trigger, event);
+}
+
+/// The keyboard is back on the lines also where a message, a refusal for one, stands before the window.
+void LineView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const QWidget *const focus = window()->focusWidget();
+    const bool hadFocus = focus && (focus == editor || editor->isAncestorOf(focus));
+    QAbstractItemView::closeEditor(editor, hint);
+    if (hadFocus && !openEditor()) setFocus();
+}
+
 void LineView::scrollContentsBy(int dx, int dy)
 {
     scrollDirtyRegion(dx, dy);

@@ -26,6 +26,7 @@ public:
     /// The line is framed (-1 = none) while something is dragged over it; near an edge the lines go on under
     /// what is dragged, until `over` is null.
     void setDropLine(int line, QDragMoveEvent *over);
+    using QAbstractItemView::edit;
     bool isEditing() const { return state() == EditingState; }
     void endEditing();                          ///< writes what an open editor holds and closes it
     void dropEditor();                          ///< closes it; what it holds is lost
@@ -48,6 +49,8 @@ protected:
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void scrollContentsBy(int dx, int dy) override;             ///< pixels
     void startDrag(Qt::DropActions) override { m_calls.dragOut(); }
 

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "grids/frame/Column.h"
+
+namespace QV_DOC_CONTROLS {
+
+/// The records of a table as last read, seen by a grid: those that fit are its rows.
+template <class Table> class RecordRows : public GridSource {
+public:
+    using Record = typename Table::Record;
+
+protected:
+    const std::vector<Record> &all() const { return m_all; } ///< the whole table as last read
+    const typename Table::Names &names() const { return m_names; }
+    const Record &recordAt(int row) const { return m_all[size_t(m_shown[size_t(row)])]; }
+    Record &recordAt(int row) { return m_all[size_t(m_shown[size_t(row)])]; }
+    virtual bool fits(const Record &) const { return true; } ///< whether the record is listed
+
+    void readCaptions() { m_columns = gridColumnsOf<Table>(); }
+    void setRecords(std::vector<Record> all, typename Table::Names names) ///< none of them is listed yet
+    {
+        m_all = std::move(all), m_names = std::move(names);
+        m_shown.clear();
+    }
+    void showWhatFits()
+    {
+        m_shown.clear();
+        for (int i = 0; i < int(m_all.size()); ++i)
+            if (fits(m_all[size_t(i)])) m_shown.push_back(i);
+    }
+
+    const std::vector<GridColumn> &columns() const override { return m_columns; }
+    int rowCount() const override { return int(m_shown.size()); }
+    qint64 rowId(int row) const override { return Table::id(recordAt(row)); }
+    QVariant value(int row, int c) const override { return Table::columns[c].get(recordAt(row)); }
+    QString text(int row, int c) const override { return Table::columns[c].shown(recordAt(row), m_names); }
+    RowStyles styles(int row) const override { return Table::styles(recordAt(row)); }
+    std::vector<GridChoice> choices(int c) const override
+    {
+        return Table::columns[c].choices ? Table::columns[c].choices(m_names) : std::vector<GridChoice>{};
+    }
+
+private:
+    std::vector<Record> m_all;
+    std::vector<int> m_shown;                           ///< rows of the grid as indexes into m_all
+    typename Table::Names m_names;
+    std::vector<GridColumn> m_columns;
+};
+
+} // namespace QV_DOC_CONTROLS
