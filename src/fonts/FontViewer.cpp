@@ -103,6 +103,8 @@ void FontViewer::buildZoom()
         row.button->setFocusPolicy(Qt::TabFocus);
         connect(action, &QAction::triggered, this, [this, row] { grdCharacters->zoom(row.steps); });
     }
+    setTabOrder(chkPresent, cmdZoomOut);
+    setTabOrder(cmdZoomOut, cmdZoomIn);
 }
 
 void FontViewer::connectParts()

@@ -185,6 +185,21 @@ private slots:
         QCOMPARE(fontPicker()->pickCharacter(nullptr, characterOfSans(245), nullptr),
                  (FontCharacter{FontKind::TrueType, QStringLiteral("DejaVu Serif"), 204, 245}));
     }
+    void tabGoesInReadingOrder()
+    {
+        const auto watch = whileModal<FontViewer>([](FontViewer &d) {
+            d.cboFonts->setFocus();
+            QStringList order;
+            for (int i = 0; i < 9; ++i) {
+                order << d.focusWidget()->objectName();
+                QTest::keyClick(d.focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(order.join(u' '), QStringLiteral("cboFonts ComboScript chkPresent cmdZoomOut cmdZoomIn "
+                                                      "grdCharacters txtCode cmdOk cmdCancel"));
+            d.cmdCancel->click();
+        });
+        fontPicker()->pickCharacter(nullptr, characterOfSans(65), nullptr);
+    }
     void anUnknownFaceHasNoCharacters()
     {
         const auto watch = whileModal<FontViewer>([](FontViewer &d) {
