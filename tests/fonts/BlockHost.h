@@ -7,8 +7,8 @@
 
 namespace tests {
 
-/// A host with one vector font of three characters: a cross at 33, a dot at 200 and a line at 40000. It counts
-/// how often a character is asked for, and fails when it is told to.
+/// A host with one vector font of three characters: a cross at 33, a dot at 200 and a line at 40000. It
+/// counts how often a character is asked for, and fails when it is told to.
 class BlockHost final : public ZolWDoc::HostServices,
                         public ZolWDoc::VectorFontProvider,
                         public ZolWDoc::VectorFont {

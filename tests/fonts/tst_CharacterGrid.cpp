@@ -5,8 +5,11 @@
 #include "support/Registry.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
 
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
@@ -97,6 +100,23 @@ private slots:
         QCOMPARE(shown.spoken(0xe1), QStringLiteral("U+00E1, 225, б")); // by the code page
         QCOMPARE(shown.spoken(0xd800), QStringLiteral("U+D800, 55296, A készletben nincs ilyen karakter."));
         QCOMPARE(shown.spoken(7), QStringLiteral("U+0007, 7, A készletben nincs ilyen karakter."));
+    }
+    void charactersAreSeenLarge()
+    {
+        Shown shown;
+        shown.grid.setCode(0x151);
+        const QPoint at = shown.grid.visualRect(shown.grid.currentIndex()).center();
+        QHelpEvent help(QEvent::ToolTip, at, shown.grid.viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(shown.grid.viewport(), &help);
+        QVERIFY(QToolTip::text().contains(QStringLiteral("U+0151 = 337")));
+        QToolTip::hideText();
+        const int usual = shown.grid.rowHeight(0);
+        QWheelEvent wheel(at, at, {}, {0, 120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(shown.grid.viewport(), &wheel);
+        QVERIFY(shown.grid.rowHeight(0) > usual);
+        QCOMPARE(shown.grid.code(), 0x151);
+        for (int i = 0; i < 100; ++i) shown.grid.zoom(-1);
+        QVERIFY(shown.grid.rowHeight(0) > usual / 3);           // but not to nothing
     }
     void codesThatAreMissingCanBeLeftOut()
     {

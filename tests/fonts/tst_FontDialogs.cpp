@@ -104,6 +104,12 @@ private slots:
                    QCOMPARE(d.lblHint->text(), QString());
                    d.cmdOk->click();
                }) << ScriptedFace{kSans.face, 177};
+        QTest::newRow("a number that means no script stays")
+            << ScriptedFace{kSans.face, 1} << FaceAct([=](frmTrueTypeSel &d) {
+                   d.txtSearch->setText(mono);
+                   QCOMPARE(d.ComboScript->currentText(), QStringLiteral("Alapértelmezett"));
+                   d.cmdOk->click();
+               }) << ScriptedFace{mono, 1};
         QTest::newRow("unknown, then found") << unknown << FaceAct([=](frmTrueTypeSel &d) {
             QCOMPARE(d.lblHint->text(), QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
             QVERIFY(!d.cmdOk->isEnabled());
@@ -167,7 +173,8 @@ private slots:
         const auto watch = whileModal<FontViewer>(act);
         const auto chosen = fontPicker()->pickCharacter(nullptr, first, nullptr);
         QTEST(chosen ? int(chosen->code) : -1, "code");
-        if (chosen) QCOMPARE(*chosen, (FontCharacter{FontKind::TrueType, kSans.face, first.charSet, chosen->code}));
+        if (chosen)
+            QCOMPARE(*chosen, (FontCharacter{FontKind::TrueType, kSans.face, first.charSet, chosen->code}));
     }
     void theViewerTakesAnotherFaceAndScript()
     {
@@ -208,7 +215,8 @@ private slots:
             QVERIFY(!hasInk(*d.sample));
             d.cmdCancel->click();
         });
-        QVERIFY(!fontPicker()->pickCharacter(nullptr, {FontKind::TrueType, QStringLiteral("X"), 0, 65}, nullptr));
+        QVERIFY(
+            !fontPicker()->pickCharacter(nullptr, {FontKind::TrueType, QStringLiteral("X"), 0, 65}, nullptr));
     }
     void vectorFontsAreTheHosts()
     {
