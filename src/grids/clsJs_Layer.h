@@ -61,7 +61,7 @@ public:
     void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
     /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
     /// host's error.
-    bool OpLay_Save2File(const QString &path) 
+    bool OpLay_Save2File(const QString &path)
     {
         return isOpen() && !refusesNow() && m_files.saveTo(path);
     }
