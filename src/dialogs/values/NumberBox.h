@@ -16,7 +16,7 @@ public:
     void accept() override;
 
 private:
-    NumberEntry *refused() const;               ///< the first that cannot be taken; null = none
+               ///< the first that cannot be taken; null = none
     std::vector<NumberEntry *> m_entries;
 };
 

@@ -41,6 +41,14 @@ bool GroupRows::edit(int row, int, const QVariant &value)
     return m_rename(groupAt(row), name);
 }
 
+/// The delete key: the list selects one group, the chosen one.
+bool GroupRows::removeRows(std::span<const int> rows)
+{
+    if (!m_remove || rows.size() != 1 || !isGroup(groupAt(rows.front()))) return false;
+    m_remove();
+    return true;
+}
+
 QMimeData *GroupRows::dragData(std::span<const int> rows) const
 {
     std::vector<qint16> groups;

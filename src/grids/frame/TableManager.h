@@ -30,7 +30,6 @@ public:
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         Rows::setRecords({}, {});
-        m_leftOut.reset();
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
@@ -131,29 +130,30 @@ protected:
     void refill() override { fill(); }
     void write(const QString &name, const std::function<void()> &body) override
     {
-        writeAndFill(doc(), name, body);
+        writeAndFill(this->doc(), name, body);
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
 
     Grid *grid() const { return m_grid; }
-    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
-    /// it is current again when it is listed again and no other one was chosen meanwhile.
+    void endEditing() override { if (m_grid) m_grid->endEditing(); }
+    /// fits() answers otherwise now. What is not listed any more stays selected, and current, until the user
+    /// chooses anew.
     void showAgain()
     {
         if (!m_grid) return;
         const auto before = selectedIds();
-        if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
-        m_grid->refill([this] { Rows::showWhatFits(); }, Grid::Gone::Nothing);
-        const bool isBack =
-            !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
-        if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        const auto current = currentRecord();
+        m_grid->refill([this] { Rows::showWhatFits(); });
+        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        if (const auto now = currentRecord(); now && (!current || Table::id(*current) != Table::id(*now)))
+            raiseCurrent(*now);
     }
 
     bool edit(int row, int c, const QVariant &value) override
     {
         bool stored = false;
-        command([&] { stored = tryEdit(row, c, value); });
+        guarded([&] { stored = tryEdit(row, c, value); });
         return stored;
     }
 
@@ -193,7 +193,6 @@ private:
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
     Grid *m_grid = nullptr;                             ///< the form's, until TearDown()
-    std::optional<qint16> m_leftOut;                    ///< the record last current that fits() left out
 };
 
 } // namespace QV_DOC_CONTROLS
