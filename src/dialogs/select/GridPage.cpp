@@ -102,8 +102,7 @@ void GridPage::connectTools()
     for (const auto &[view, tool] : kViewTool) ab1->on(tool, {[this, v = view] { gridItems->setView(v); }});
     ab1->on("miFind", {[this] { find(); }});
     ab1->on("miPrintPreview", {[this] { print(); }});
-    ab1->on("miSelectAll",
-            {[this] { gridItems->selectAll(); }, [this] { return gridItems->canSelectAll(); }});
+    ab1->on("miSelectAll", {[this] { gridItems->selectAll(); }, [this] { return gridItems->canSelectAll(); }});
     ab1->on("miUnselectAll",
             {[this] { gridItems->selectRows({}); }, [this] { return gridItems->hasSelection(); }});
     if (!ab1->tool("miShowGroups")) return;
