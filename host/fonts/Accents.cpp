@@ -11,7 +11,7 @@ using ZolWDoc::PointMm;
 using Stroke = std::vector<PointMm>;
 
 constexpr double kUnit = 1.0 / 21;              // letter heights; what the plain letters are drawn in
-constexpr double kGap = 2 * kUnit, kGapBetween = 1 * kUnit;
+constexpr double kGap = 2 * kUnit, kGapBetween = 2 * kUnit;
 
 enum class Where { Above, Below, Shoulder };
 
@@ -32,10 +32,13 @@ const std::vector<Mark> &marks()
         {u'\u0304', Where::Above, {{{-4, 1}, {4, 1}}}},
         {u'\u0306', Where::Above, {{{-4, 4}, {-3, 1}, {-1, 0}, {1, 0}, {3, 1}, {4, 4}}}},
         {u'\u0307', Where::Above, {dot}},
-        {u'\u0308', Where::Above, {{{-4, 0}, {-3, 1}, {-4, 2}, {-5, 1}, {-4, 0}},
-                                   {{4, 0}, {5, 1}, {4, 2}, {3, 1}, {4, 0}}}},
+        {u'\u0308',
+         Where::Above,
+         {{{-4, 0}, {-3, 1}, {-4, 2}, {-5, 1}, {-4, 0}}, {{4, 0}, {5, 1}, {4, 2}, {3, 1}, {4, 0}}}},
         {u'\u0309', Where::Above, {{{-2, 4}, {-1, 5}, {1, 5}, {2, 4}, {2, 3}, {0, 1}, {0, 0}}}},
-        {u'\u030a', Where::Above, {{{-1, 0}, {1, 0}, {2, 1}, {2, 3}, {1, 4}, {-1, 4}, {-2, 3}, {-2, 1}, {-1, 0}}}},
+        {u'\u030a',
+         Where::Above,
+         {{{-1, 0}, {1, 0}, {2, 1}, {2, 3}, {1, 4}, {-1, 4}, {-2, 3}, {-2, 1}, {-1, 0}}}},
         {u'\u030b', Where::Above, {{{-4, 0}, {-1, 4}}, {{1, 0}, {4, 4}}}},
         {u'\u030c', Where::Above, {{{-4, 4}, {0, 0}, {4, 4}}}},
         {u'\u031b', Where::Shoulder, {{{-2, -2}, {0, -2}, {2, -1}, {3, 1}, {3, 3}}}},
@@ -87,7 +90,7 @@ struct Draft {
             break;
         case Where::Below: {
             const bool touches = size.top > 0;
-            const double at = touches ? bottom - size.top * kUnit + kGapBetween : bottom - kGap;
+            const double at = touches ? bottom - (size.top - 1) * kUnit : bottom - kGap;
             put(glyph, mark, {letter.centre(), at});
             bottom = at + size.bottom * kUnit;
             break;

@@ -12,7 +12,7 @@ namespace refhost {
 namespace {
 
 constexpr double kCapital = 21;                 // units that a capital is high in all of these files
-constexpr qint32 kBlank = 32, kDelete = 127;    // the last sign of a file stands at the latter; it is no letter
+constexpr qint32 kBlank = 32, kDelete = 127; // the last sign of a file stands at the latter; it is no letter
 
 ZolWDoc::Glyph glyphOf(const hershey_glyph &drawn)
 {

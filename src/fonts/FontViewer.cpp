@@ -74,6 +74,7 @@ void FontViewer::build()
     left->addWidget(grdCharacters, 1);
     left->addLayout(code);
     sample->setMinimumSize(sizeOfLetters(*this, 24, 12));
+    sample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     auto *const right = new QVBoxLayout;
     right->addWidget(sample, 1);
     right->addStretch(1);
@@ -83,7 +84,6 @@ void FontViewer::build()
     auto *const all = new QVBoxLayout(this);
     all->addLayout(both, 1);
     all->addWidget(buttons());
-    grdCharacters->setMinimumHeight(sizeOfLetters(*this, 0, 20).height());
 }
 
 void FontViewer::buildZoom()
@@ -103,6 +103,8 @@ void FontViewer::buildZoom()
         row.button->setFocusPolicy(Qt::TabFocus);
         connect(action, &QAction::triggered, this, [this, row] { grdCharacters->zoom(row.steps); });
     }
+    setTabOrder(chkPresent, cmdZoomOut);
+    setTabOrder(cmdZoomOut, cmdZoomIn);
 }
 
 void FontViewer::connectParts()

@@ -61,7 +61,7 @@ public:
     void OpLay_VisibleUseFile() { command([this] { m_files.loadVisibilities(); }); }   // published spelling
     /// Saves without asking where; published spelling. False = not saved, the user was told why. Throws the
     /// host's error.
-    bool OpLay_Save2File(const QString &path) 
+    bool OpLay_Save2File(const QString &path)
     {
         return isOpen() && !refusesNow() && m_files.saveTo(path);
     }
@@ -100,7 +100,7 @@ private:
     RowStyles styles(int row) const override;
     bool edit(int row, int column, const QVariant &value) override;
     bool removeRows(std::span<const int> rows) override;
-    void readBeside() override;
+    void readBeside(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &all) override;
     void showBeside() override;
     void groupChosen() override;
     QMimeData *dragData(std::span<const int> rows) const override;

@@ -101,6 +101,12 @@ struct Session {
         user.answers << QStringLiteral("20000\t-10\r");
         user.press(Qt::Key_R, Qt::ControlModifier);
     }
+    /// With the keyboard only, right after a command.
+    void editOn()
+    {
+        model.rows[last()].nr = 21000;
+        user.type(QStringLiteral("21000"));
+    }
     void rename()
     {
         select({0});
@@ -246,6 +252,7 @@ constexpr std::pair<const char *, Act> kActs[] = {
     {"new", &Session::addNew},
     {"copy", &Session::copy},
     {"renumber", &Session::renumber},
+    {"number in its cell", &Session::editOn},
     {"rename", &Session::rename},
     {"rename, taken", &Session::renameTaken},
     {"number", &Session::number},
