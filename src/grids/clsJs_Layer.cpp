@@ -14,10 +14,10 @@ void clsJs_Layer::TearDown()
     GroupedManager::TearDown();
 }
 
-void clsJs_Layer::readBeside()
+void clsJs_Layer::readBeside(ZOLW_Doc &doc, tLayArr &all)
 {
-    GroupedManager::readBeside();
-    if (groupGrid()) m_readMembers = document()->layers().members();
+    GroupedManager::readBeside(doc, all);
+    if (groupGrid()) m_readMembers = doc.layers().members();
 }
 
 void clsJs_Layer::showBeside()

@@ -100,7 +100,7 @@ private:
     RowStyles styles(int row) const override;
     bool edit(int row, int column, const QVariant &value) override;
     bool removeRows(std::span<const int> rows) override;
-    void readBeside() override;
+    void readBeside(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &all) override;
     void showBeside() override;
     void groupChosen() override;
     QMimeData *dragData(std::span<const int> rows) const override;

@@ -17,12 +17,11 @@ public:
     void init(ZolWDoc::ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
     {
         TearDown();
+        m_groupGrid = groupGrid;
         this->attach(doc, itemGrid);
         itemGrid.setMultiSelection(!singleSelection);
-        m_groupGrid = groupGrid;
         armGrids();
         if (!groupGrid) return;
-        readBeside();
         groupGrid->setSource(&m_groupRows);
         showBeside();
         this->readTooltips(*groupGrid);
@@ -78,9 +77,9 @@ protected:
     {
         if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));
     }
-    void readBeside() override
+    void readBeside(ZolWDoc::ZOLW_Doc &doc, std::vector<typename Table::Record> &) override
     {
-        if (m_groupGrid) m_readGroups = Table::groupsOf(*this->document());
+        if (m_groupGrid) m_readGroups = Table::groupsOf(doc);
     }
     /// The chosen group stays with its identifier; when it is gone, the one in its place is chosen.
     void showBeside() override

@@ -56,7 +56,8 @@ public:
             Rows::showWhatFits();
         };
         const StepRun::Steps steps = {[&] { all = Table::role(*m_doc).readAll(); },
-                                      [&] { names = Table::namesOf(*m_doc); }, [&] { readBeside(); },
+                                      [&] { names = Table::namesOf(*m_doc); },
+                                      [&] { readBeside(*m_doc, all); },
                                       [&] { m_grid->refill(show); }};
         if (!refillBy(steps, m_grid)) return;
         if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
@@ -102,7 +103,8 @@ protected:
     {
         buildColorStyles(grid, doc);
         auto all = Table::role(doc).readAll();
-        auto names = Table::namesOf(doc); // an error leaves nothing attached, and no layout to save
+        auto names = Table::namesOf(doc);
+        readBeside(doc, all); // an error leaves nothing attached, and no layout to save
         m_doc = &doc, m_grid = &grid;
         Rows::setRecords(std::move(all), std::move(names));
         grid.setAllowEdit(AllowEdit());
@@ -117,26 +119,23 @@ protected:
     }
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
-    virtual void readBeside() {}                        ///< what a refill reads beside the table; may throw
-    virtual void showBeside() {}                        ///< shows it, before the rows that fit are listed
+    /// What a fill reads beside the table, of which all records are read; may throw.
+    virtual void readBeside(ZolWDoc::ZOLW_Doc &, std::vector<Record> &) {}
+    virtual void showBeside() {} ///< shows what was read, before the rows that fit are listed
     /// Writes what a cell edit made of a record; there may be more to it.
     virtual void storeEdit(const Record &, const Record &edited) { Table::role(*m_doc).update(edited); }
 
     // --- the desk of the commands
-    ZolWDoc::ZOLW_Doc &doc() override
-    {
-        if (!isOpen()) ErrorRelay::stop();
-        return *m_doc;
-    }
+    ZolWDoc::ZOLW_Doc *document() const override { return m_doc; }
     int selectedCount() const override { return m_grid ? m_grid->selectedCount() : 0; }
-    void write(const QString &command, const std::function<void()> &body) override
+    void refill() override { fill(); }
+    void write(const QString &name, const std::function<void()> &body) override
     {
-        writeAndFill(doc(), command, body);
+        writeAndFill(doc(), name, body);
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
 
-    ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
     /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
     /// it is current again when it is listed again and no other one was chosen meanwhile.

@@ -182,6 +182,12 @@ void Grid::stylesChanged()
     activeView()->viewport()->update();
 }
 
+void Grid::picturesChanged()
+{
+    m_model->dropPictures();
+    activeView()->viewport()->update();
+}
+
 void Grid::setDragOut(bool on)
 {
     m_dragsOut = on;

@@ -62,6 +62,9 @@ constexpr IconRow kIcons[] = {
     {"layerSet", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM1.5 8l6.5 3.5l6.5 -3.5M6 13l2 1.5l2 -1.5"},
     {"layerSetOfGiven", "M8 1.5l5 2.7l-5 2.8l-5 -2.8zM3 7.5l5 2.8l5 -2.8M4 10.5h-2.5v4h13v-4h-2.5"},
     {"layerInfo", "M5.5 1.5l4 2.2l-4 2.3l-4 -2.3zM12 2h2.5M12 4.5h2.5M1.5 9.5h13v5h-13zM4 12h5"},
+    {"symbolPreview", "M1.5 1.5h13v9h-13zM8 3.5l3.2 5h-6.4zM2.5 13.2h3M10.5 13.2h3M12 11.7v3"},
+    {"symbolPreviewOfForm", "M1.5 1.5h13v13h-13zM1.5 4.5h13M8 6.5l3.5 6h-7z", "M1.5 1.5h13v3h-13z"},
+    {"textAlign", "M3.5 3.5h9v9h-9zM3.5 10h9", "M2 2h3v3h-3zM11 2h3v3h-3zM2 11h3v3h-3zM11 11h3v3h-3z"},
     // layers
     {"makeCurrent", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM3.5 11.5l3 3l6 -4.5",
      "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5z"},
@@ -97,6 +100,15 @@ constexpr IconRow kIcons[] = {
     {"groupMove", "M1.5 8h7.5M6.5 5.5l2.5 2.5l-2.5 2.5M10.5 1.5h4v13h-4"},
     {"groupCopy", "M1.5 11.5h7.5M6.5 9l2.5 2.5l-2.5 2.5M10.5 1.5h4v13h-4M4.5 1.5v5M2 4h5"},
     {"collapseOne", "M3.5 3.5h9v9h-9zM6 8h4"},
+    // symbols
+    {"size", "M1.5 14.5l4 -11l4 11M3 10.5h5M12.5 1.5v13M10.5 3.5l2 -2l2 2M10.5 12.5l2 2l2 -2"},
+    {"thickness", "M1.5 3.5h13", "M1.5 6.5h13v2h-13zM1.5 11h13v3.5h-13z"},
+    {"trueType", "M1.5 4.5v-3h9v3M6 1.5v9M4 10.5h4M8.5 8.5v-1.5h6v1.5M11.5 7v7.5M10 14.5h3"},
+    {"vectorFont", "M2.5 14.5l5.5 -12.5l5.5 12.5M4.7 9.5h6.6",
+     "M6.8 2a1.2 1.2 0 1 0 2.4 0a1.2 1.2 0 1 0 -2.4 0zM1.3 14.3a1.2 1.2 0 1 0 2.4 0a1.2 1.2 0 1 0 -2.4 0z"},
+    {"preview", "M1.5 2.5h13v11h-13zM10 2.5v11M11.5 8h1.5", "M11 6.5h2.5v3h-2.5z"},
+    {"samplesLarger", "M1.5 4.5h7v7h-7zM12 5v6M9.5 8h5", "M4 7h2v2h-2z"},
+    {"samplesSmaller", "M1.5 4.5h7v7h-7zM9.5 8h5", "M4 7h2v2h-2z"},
     // moving an entry
     {"moveUp", "M8 14v-12M3.5 6.5l4.5 -4.5l4.5 4.5"},
     {"moveDown", "M8 2v12M3.5 9.5l4.5 4.5l4.5 -4.5"},
