@@ -131,7 +131,7 @@ protected:
     void refill() override { fill(); }
     void write(const QString &name, const std::function<void()> &body) override
     {
-        writeAndFill(doc(), name, body);
+        writeAndFill(this->doc(), name, body);
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
