@@ -73,14 +73,14 @@ void FontViewer::build()
     left->addLayout(shown);
     left->addWidget(grdCharacters, 1);
     left->addLayout(code);
-    sample->setMinimumSize(sizeOfLetters(*this, 24, 12));
-    sample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    sample->setFixedWidth(sizeOfLetters(*this, 26, 0).width()); // what is more goes to the cells
+    sample->setMinimumHeight(sizeOfLetters(*this, 0, 12).height());
     auto *const right = new QVBoxLayout;
     right->addWidget(sample, 1);
     right->addStretch(1);
     auto *const both = new QHBoxLayout;
-    both->addLayout(left, 3);
-    both->addLayout(right, 1);
+    both->addLayout(left, 1);
+    both->addLayout(right);
     auto *const all = new QVBoxLayout(this);
     all->addLayout(both, 1);
     all->addWidget(buttons());

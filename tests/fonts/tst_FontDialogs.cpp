@@ -49,6 +49,13 @@ FontCharacter characterOfSans(qint32 code, qint32 charSet = 238)
     return {FontKind::TrueType, kSans.face, charSet, code};
 }
 
+void faceColumns()
+{
+    QTest::addColumn<ScriptedFace>("first");
+    QTest::addColumn<FaceAct>("act");
+    QTest::addColumn<ScriptedFace>("chosen"); // `first` = cancelled, or nothing changed
+}
+
 bool hasInk(const QWidget &of)
 {
     const QImage seen = const_cast<QWidget &>(of).grab().toImage();
@@ -64,11 +71,9 @@ bool hasInk(const QWidget &of)
 class tst_FontDialogs : public QObject {
     Q_OBJECT
 private slots:
-    void aFaceIsChosenWithItsScript_data()
+    void aFaceIsChosen_data()
     {
-        QTest::addColumn<ScriptedFace>("first");
-        QTest::addColumn<FaceAct>("act");
-        QTest::addColumn<ScriptedFace>("chosen"); // `first` = cancelled, or nothing changed
+        faceColumns();
         const ScriptedFace unknown{QStringLiteral("ZolW_DAT1_M2"), 238};
         const QString serif = QStringLiteral("DejaVu Serif"), mono = QStringLiteral("DejaVu Sans Mono");
         QTest::newRow("as it was") << kSans << typedFace("\r") << kSans;
@@ -86,6 +91,32 @@ private slots:
             QTest::keyClick(d.txtSearch, Qt::Key_Up);
             type(d, QStringLiteral("\r"));
         }) << ScriptedFace{serif, 238};
+        QTest::newRow("unknown, then found") << unknown << FaceAct([=](frmTrueTypeSel &d) {
+            QCOMPARE(d.lblHint->text(), QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
+            QVERIFY(!d.cmdOk->isEnabled());
+            type(d, QStringLiteral("\t"));                      // looking at the list is not choosing
+            QVERIFY(!d.cmdOk->isEnabled());
+            d.txtSearch->setText(kSans.face);
+            d.cmdOk->click();
+        }) << ScriptedFace{kSans.face, 238};
+        QTest::newRow("nothing found") << kSans << FaceAct([](frmTrueTypeSel &d) {
+            d.txtSearch->setText(QStringLiteral("no such face"));
+            QVERIFY(!d.cmdOk->isEnabled());
+            type(d, QStringLiteral("\r\x1b"));
+        }) << kSans;
+    }
+    void aFaceIsChosen()
+    {
+        QFETCH(ScriptedFace, first);
+        QFETCH(FaceAct, act);
+        const auto watch = whileModal<frmTrueTypeSel>(act);
+        const auto chosen = fontPicker()->pickTrueType(first, nullptr);
+        QTEST(chosen.value_or(first), "chosen");
+    }
+    void aScriptIsChosen_data()
+    {
+        faceColumns();
+        const QString serif = QStringLiteral("DejaVu Serif"), mono = QStringLiteral("DejaVu Sans Mono");
         QTest::newRow("a script") << kSans << FaceAct([](frmTrueTypeSel &d) {
             chooseScript(*d.ComboScript, 204);
             d.cmdOk->click();
@@ -110,28 +141,8 @@ private slots:
                    QCOMPARE(d.ComboScript->currentText(), QStringLiteral("Alapértelmezett"));
                    d.cmdOk->click();
                }) << ScriptedFace{mono, 1};
-        QTest::newRow("unknown, then found") << unknown << FaceAct([=](frmTrueTypeSel &d) {
-            QCOMPARE(d.lblHint->text(), QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
-            QVERIFY(!d.cmdOk->isEnabled());
-            type(d, QStringLiteral("\t"));                      // looking at the list is not choosing
-            QVERIFY(!d.cmdOk->isEnabled());
-            d.txtSearch->setText(kSans.face);
-            d.cmdOk->click();
-        }) << ScriptedFace{kSans.face, 238};
-        QTest::newRow("nothing found") << kSans << FaceAct([](frmTrueTypeSel &d) {
-            d.txtSearch->setText(QStringLiteral("no such face"));
-            QVERIFY(!d.cmdOk->isEnabled());
-            type(d, QStringLiteral("\r\x1b"));
-        }) << kSans;
     }
-    void aFaceIsChosenWithItsScript()
-    {
-        QFETCH(ScriptedFace, first);
-        QFETCH(FaceAct, act);
-        const auto watch = whileModal<frmTrueTypeSel>(act);
-        const auto chosen = fontPicker()->pickTrueType(first, nullptr);
-        QTEST(chosen.value_or(first), "chosen");
-    }
+    void aScriptIsChosen() { aFaceIsChosen(); }
     void aCharacterIsChosen_data()
     {
         QTest::addColumn<FontCharacter>("first");
