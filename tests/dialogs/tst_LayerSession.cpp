@@ -82,7 +82,7 @@ struct Session {
     }
     void addNew()
     {
-        model.addNew(1);
+        model.addNew(0); // like the current layer, wherever the user stands
         select({1});
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
@@ -179,7 +179,7 @@ struct Session {
     {
         select({1});
         model.firstGroups.insert(QStringLiteral("Új_csoport"));
-        model.addNew(1);
+        model.addNew(0);
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
     void renameGroup()

@@ -47,6 +47,7 @@ public:
     {
         if (!m_doc) return;
         const auto before = selectedIds();
+        m_selectionTold = false;
         std::vector<Record> all;
         typename Table::Names names;
         const auto show = [&] {
@@ -59,7 +60,7 @@ public:
                                       [&] { readBeside(*m_doc, all); },
                                       [&] { m_grid->refill(show); }};
         if (!refillBy(steps, m_grid)) return;
-        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
         raiseCurrentRow();
     }
     /// Makes the record with this identifier the grid's current row; false when it is not shown.
@@ -114,7 +115,7 @@ protected:
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
-        connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        connect(&grid, &Grid::selectionMoved, this, [this] { tellSelection(); });
     }
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
@@ -143,9 +144,10 @@ protected:
     {
         if (!m_grid) return;
         const auto before = selectedIds();
+        m_selectionTold = false;
         const auto current = currentRecord();
         m_grid->refill([this] { Rows::showWhatFits(); });
-        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
         if (const auto now = currentRecord(); now && (!current || Table::id(*current) != Table::id(*now)))
             raiseCurrent(*now);
     }
@@ -158,6 +160,11 @@ protected:
     }
 
 private:
+    void tellSelection()
+    {
+        m_selectionTold = true;
+        raiseSelection(m_grid->selectedCount());
+    }
     std::vector<qint16> selectedIds() const
     {
         std::vector<qint16> ids;
@@ -193,6 +200,7 @@ private:
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
     Grid *m_grid = nullptr;                             ///< the form's, until TearDown()
+    bool m_selectionTold = false;                       ///< since a refill began
 };
 
 } // namespace QV_DOC_CONTROLS
