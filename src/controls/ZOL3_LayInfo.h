@@ -15,6 +15,8 @@ class QPushButton;
 
 namespace QV_DOC_CONTROLS {
 
+struct Message;
+
 /// Shows one layer of a document by number and name, and lets the user choose another: by its number, or from
 /// the layer selection behind the button. Nothing happens until there is a document.
 ///
@@ -78,11 +80,13 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    using Find = std::function<std::optional<ZolWDoc::tLay>(qint16)>;
-    std::optional<ZolWDoc::tLay> layerFor(const QVariant &value, const Find &find);
+    using Refusal = std::optional<Message>;
+    Refusal takeNumber(const QString &value, quint8 changeMode);
+    static Message refusalOf(const QString &value);
+    void tell(const Message &refusal);
     void take(const ZolWDoc::tLay &lay, quint8 changeMode);
     void showLayer();
-    void takeTyped();
+    std::function<void()> leave();                      ///< takes it; what is left to tell
     void click();
     void pick();
 
