@@ -66,7 +66,7 @@ ZOL3_LayInfo::ZOL3_LayInfo(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     connect(cmdModLay, &QPushButton::clicked, this, &ZOL3_LayInfo::click);
-    new LeavingCheck(*txtLayNr, [this] { return leave(); });
+    m_leaving = std::make_unique<LeavingCheck>(*txtLayNr, [this] { return leave(); });
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &ZOL3_LayInfo::ml_RuntimeSupport_LanguageChanged);
     ml_RuntimeSupport_LanguageChanged();

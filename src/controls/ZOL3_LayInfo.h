@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QFrame;
 class QLabel;
@@ -16,6 +17,7 @@ class QPushButton;
 namespace QV_DOC_CONTROLS {
 
 struct Message;
+class LeavingCheck;
 
 /// Shows one layer of a document by number and name, and lets the user choose another: by its number, or from
 /// the layer selection behind the button. Nothing happens until there is a document.
@@ -93,6 +95,7 @@ private:
     DebugIdentity m_identity{"ZOL3_LayInfo"};
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;
     ZolWDoc::tLay m_shown;                              ///< -1 = none
+    std::unique_ptr<LeavingCheck> m_leaving;
     bool m_notSetCurrentLayer = false, m_infoMode = false, m_visibleIcon = false;
 };
 

@@ -66,7 +66,7 @@ usInputBox::usInputBox(QWidget *parent)
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::released, this, &usInputBox::endSteps);
     connect(Timer1, &QTimer::timeout, this,
             [this] { ErrorRelay::reporting().guard([this] { repeat(); }); });
-    new LeavingCheck(*txtCombo, [this] { return leave(); });
+    m_leaving = std::make_unique<LeavingCheck>(*txtCombo, [this] { return leave(); });
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &usInputBox::ml_RuntimeSupport_LanguageChanged);
     showValue();

@@ -19,6 +19,7 @@ namespace QV_DOC_CONTROLS {
 struct Message;
 struct NumberInput;
 class InputCombo;
+class LeavingCheck;
 
 /// One bounded number, or in text mode one short text.
 ///
@@ -162,6 +163,7 @@ private:
     void step();
     void stepOnce(bool up);
 
+    std::unique_ptr<LeavingCheck> m_leaving;
     QVariant m_value = 0.0;
     int m_timerInterval = 50, m_next = -1, m_back = -1;
     float m_step = 0;                                   ///< signed while the arrows are pressed

@@ -35,7 +35,7 @@ QAbstractButton *buttonFor(const QKeyEvent &key, const QWidget &window)
 } // namespace
 
 LeavingCheck::LeavingCheck(QWidget &field, std::function<Tell()> check)
-    : QObject(&field), m_field(field), m_check(std::move(check))
+    : m_field(field), m_check(std::move(check))
 {
     field.installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *to) { focusWent(to); });

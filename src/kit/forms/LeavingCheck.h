@@ -14,7 +14,8 @@ namespace QV_DOC_CONTROLS {
 ///
 /// It does not come because the window goes inactive or a popup opens, and it waits while the focus is on a
 /// button that rejects: a click on Cancel cancels. A button that is pressed by its access key gets the focus
-/// first, and is not pressed when there is something to tell. The field's own.
+/// first, and is not pressed when there is something to tell. Goes before the field, and before what it
+/// checks.
 class LeavingCheck final : public QObject {
 public:
     using Tell = std::function<void()>;         ///< empty = there is nothing to tell
