@@ -66,9 +66,9 @@ protected:
             if (!refusesNow()) body();
         });
     }
-    /// Runs `body` as one command of the document, then fills; after an error too, so that the grid agrees
-    /// with what had been written by then.
-    void writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name, const std::function<void()> &body);
+    /// Runs `body`, which writes, then fills; after an error too, so that the grid agrees with what had been
+    /// written by then.
+    void runAndFill(const std::function<void()> &body);
     /// Runs the steps of a refill, the last of which shows what the others read. A refill that takes long
     /// shows its progress; one that is asked for meanwhile begins when this one ends. False = given up:
     /// the form closes, or has torn the manager down. Throws what a step throws.

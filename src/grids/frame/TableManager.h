@@ -128,7 +128,7 @@ protected:
     // --- the desk of the commands
     ZolWDoc::ZOLW_Doc *document() const override { return m_doc; }
     int selectedCount() const override { return m_grid ? m_grid->selectedCount() : 0; }
-    void refill() override { fill(); }
+    void refillAfter(const std::function<void()> &body) override { runAndFill(body); }
     void write(const QString &name, const std::function<void()> &body) override
     {
         writeAndFill(this->doc(), name, body);

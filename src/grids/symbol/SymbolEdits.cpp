@@ -94,9 +94,10 @@ void SymbolEdits::edit()
 {
     const auto row = m_desk.currentRecord();
     if (!row || !canEdit()) return;
-    recordEditors()->edit(TableKind::Symbols, m_desk.doc(), row->SidId, m_desk.asker());
-    m_desk.relay().checkpoint();
-    m_desk.refill();
+    m_desk.refillAfter([&] {
+        recordEditors()->edit(TableKind::Symbols, m_desk.doc(), row->SidId, m_desk.asker());
+        m_desk.relay().checkpoint();
+    });
 }
 
 std::optional<double> SymbolEdits::askForNumber(const QString &title, const QString &text,
