@@ -29,8 +29,16 @@ double millisecondsOfPreviews(ZolWDoc::tSid symbol)
 
 ZolWDoc::tSid symbolOf(quint8 type, const QString &face)
 {
-    return {.Code = 'N', .Align = 30, .Size_mm = 4, .YwFact = 1, .Facename = face, .Weight = 30, .CharSet = 238,
-            .ProtXmm = 1, .ProtType = 1, .Type = type};
+    return {.Code = 'N',
+            .Align = 30,
+            .Size_mm = 4,
+            .YwFact = 1,
+            .Facename = face,
+            .Weight = 30,
+            .CharSet = 238,
+            .ProtXmm = 1,
+            .ProtType = 1,
+            .Type = type};
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "fonts/SymbolDrawing.h"
 
-#include "facade/services/Services.h"
 #include "fonts/GlyphPainter.h"
 #include "fonts/TrueTypeGlyph.h"
+#include "fonts/VectorFonts.h"
 #include "kit/forms/Contrast.h"
 
 #include <QPainter>
@@ -137,8 +137,7 @@ void SymbolDrawing::paintMarker(QPainter &painter, QSize surface) const
 ZolWDoc::Glyph vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc)
 {
     if (symbol.Type != kVector) return {};
-    const ZolWDoc::VectorFontProvider *const fonts = vectorFonts(doc);
-    const ZolWDoc::VectorFont *const font = fonts ? fonts->find(symbol.Facename) : nullptr;
+    const ZolWDoc::VectorFont *const font = vectorFont(doc, symbol.Facename);
     return font ? font->glyph(symbol.Code) : ZolWDoc::Glyph();
 }
 

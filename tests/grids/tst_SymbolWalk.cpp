@@ -17,6 +17,8 @@ using tests::symbol;
 
 namespace {
 
+constexpr qint16 kPicked = 7;                           ///< a layer
+
 /// A font with two characters, one of which has no name.
 struct TwoLetters final : VectorFont {
     QString name() const override { return QStringLiteral("Két betű"); }
@@ -39,7 +41,8 @@ struct Beyond final : tests::OwnStore, ResourcePicker, FontPicker, RecordEditors
     bool canPick(TableKind) const override { return true; }
     std::optional<qint16> pick(TableKind, ZOLW_Doc &doc, qint16, QObject *) override
     {
-        return doc.layers().readAll().back().LayId;
+        doc.layers().count();
+        return kPicked;
     }
     std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override
     {
@@ -241,7 +244,7 @@ private slots:
         tSid expected = symbol(3, "C", "Kettő");
         expected.GroupId = form.js.groups().at(1).GroupId;
         expected.Facename = QStringLiteral("DejaVu Sans"), expected.CharSet = 204;
-        expected.LayId = doc->layers().readAll().back().LayId;
+        expected.LayId = kPicked;
         expected.FullName += u'!';
         QVERIFY(doc->symbols().find(3) == expected);
         QCOMPARE(form.rows().back(), *doc->symbols().find(5));

@@ -5,6 +5,7 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 namespace QV_DOC_CONTROLS {
@@ -12,6 +13,18 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 constexpr int kIconLetters = 12, kListLetters = 24;     // room for a name under or beside its picture
+
+/// Items that fill the cells of a flow.
+class CellDelegate final : public QStyledItemDelegate {
+public:
+    explicit CellDelegate(QListView *view) : QStyledItemDelegate(view), m_view(*view) {}
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return m_view.gridSize();
+    }
+private:
+    const QListView &m_view;
+};
 
 } // namespace
 
@@ -25,6 +38,7 @@ public:
         setResizeMode(QListView::Adjust);
         setUniformItemSizes(true);
         setWordWrap(false);
+        setItemDelegate(new CellDelegate(this));
     }
     bool isUnder = false;                       ///< the name stands under its picture
 protected:
@@ -128,6 +142,13 @@ void ItemList::placeIcons()
     m_report->doItemsLayout();
 }
 
+void ItemList::makeRoomForCaptions()
+{
+    QHeaderView &header = *m_report->header();
+    for (int i = 0; i < header.count(); ++i)
+        header.resizeSection(i, std::max(header.sectionSize(i), header.sectionSizeHint(i)));
+}
+
 void ItemList::setDragOut(bool on)
 {
     m_report->setDragEnabled(on);
@@ -148,7 +169,11 @@ std::vector<int> ItemList::selectedRows() const
     return rows;
 }
 
-int ItemList::currentRow() const { return m_report->currentIndex().row(); }
+int ItemList::currentRow() const
+{
+    const QModelIndex current = m_report->currentIndex();
+    return m_report->selectionModel()->isSelected(current) ? current.row() : -1;
+}
 
 void ItemList::setCurrentRow(int row)
 {

@@ -37,11 +37,12 @@ public:
     View view() const { return m_view; }
     void setView(View view);
     void setCell(int side);                     ///< room for a picture, pixels
+    void makeRoomForCaptions();                 ///< widens columns that are too narrow for theirs
     void setDragOut(bool on);
 
     bool hasSelection() const;
     std::vector<int> selectedRows() const;      ///< in list order
-    int currentRow() const;                     ///< -1 = none
+    int currentRow() const;                     ///< of the selected ones; -1 = none
     void setCurrentRow(int row);                ///< and selects it alone; -1 = nothing
     /// Lets `arrange` list other items or the same ones in another order. What was selected and is still
     /// listed stays selected, and the current item stays current.

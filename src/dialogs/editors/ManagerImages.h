@@ -2,6 +2,10 @@
 
 #include "kit/tools/Icons.h"
 
+#include <QApplication>
+#include <QPixmap>
+#include <QStyle>
+
 #include <cstring>
 
 namespace QV_DOC_CONTROLS {
@@ -14,10 +18,13 @@ inline constexpr ManagerImage kManagerImages[] = {
     {"Open", "groupOpen"},   {"Empty", "groupEmpty"},  {"Current", "currentItem"}, {"Egyéb", "groupOther"},
     {"SortAZ", "sortAZ"},    {"SortZA", "sortZA"},     {"Vector", "vectorFont"},   {"TrueType", "trueType"},
 };
-inline QIcon managerImage(const char *key)      ///< null = no such key
+/// As large as icons are in lists; null = no such key.
+inline QPixmap managerImage(const char *key)
 {
+    const int side = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize);
     for (const ManagerImage &image : kManagerImages)
-        if (std::strcmp(image.key, key) == 0) return toolIcon(image.icon);
+        if (std::strcmp(image.key, key) == 0)
+            return toolIcon(image.icon).pixmap(QSize(side, side), qApp->devicePixelRatio());
     return {};
 }
 

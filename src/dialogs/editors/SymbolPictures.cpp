@@ -22,7 +22,7 @@ QPixmap SymbolPictures::of(const ZolWDoc::tSid &symbol)
         m_wanted.insert(symbol.SidId, symbol);
         m_timer.start(0);
     }
-    return isThere ? found->pixmap : QPixmap();
+    return isThere ? found->pixmap : m_blank;
 }
 
 void SymbolPictures::draw()
@@ -51,6 +51,8 @@ void SymbolPictures::setSide(int pixels)
 {
     if (m_preview.size() == QSize(pixels, pixels)) return;
     m_preview.resize(pixels, pixels);
+    m_blank = m_preview.GetSiPicture();
+    m_blank.fill(Qt::transparent);
     outdate();
 }
 

@@ -19,7 +19,7 @@ class SymbolPictures final : public QObject {
     Q_OBJECT
 public:
     SymbolPictures(usSiInfo &preview, ErrorRelay &relay);
-    QPixmap of(const ZolWDoc::tSid &symbol);    ///< what there is now, perhaps nothing yet
+    QPixmap of(const ZolWDoc::tSid &symbol);    ///< what there is now, perhaps only room for it
     void setSide(int pixels);
     void zoomBy(double step);                   ///< within what the preview allows
     void outdate();                             ///< the look has changed: colours, say
@@ -38,6 +38,7 @@ private:
     ErrorRelay &m_relay;
     QHash<qint16, Picture> m_pictures;
     QHash<qint16, ZolWDoc::tSid> m_wanted;
+    QPixmap m_blank;                            ///< as large as the pictures
     QTimer m_timer;                             ///< of zero length
     int m_look = 1;                             ///< counts the changes of it
 };

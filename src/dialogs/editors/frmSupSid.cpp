@@ -145,11 +145,13 @@ void frmSupSid::write(const QString &command, const std::function<void()> &body)
     fill();
 }
 
-/// Somebody else wrote, in the span that was begun for it.
-void frmSupSid::refill()
+void frmSupSid::refillAfter(const std::function<void()> &body)
 {
-    m_span->note();
+    const auto before = m_symbols->all();
+    m_span->begin();
+    body();
     fill();
+    if (m_symbols->all() != before) m_span->note();
 }
 
 bool frmSupSid::selectById(qint16 id)

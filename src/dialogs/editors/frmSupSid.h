@@ -55,7 +55,7 @@ public:
     template <int step> void resizeCells() { changeCell(step); }
     void addSymbol() { m_edits.addNew(); }
     void addFromFont();
-    void editSymbol();
+    void editSymbol() { m_edits.edit(); }
     void renumber();
     void renameSymbol() { m_edits.rename(); }
     void setSize() { m_edits.setSize(); }
@@ -98,7 +98,7 @@ private:
     int selectedCount() const override { return int(lvSids->selectedRows().size()); }
     qint16 chosenGroup() const override;
     void write(const QString &command, const std::function<void()> &body) override;
-    void refill() override;
+    void refillAfter(const std::function<void()> &body) override;
     bool selectById(qint16 id) override;
     ErrorRelay &relay() const override { return m_relay; }
     QObject *asker() const override { return lvSids; }

@@ -51,13 +51,6 @@ void frmSupSid::addFromFont()
     });
 }
 
-/// The editor writes by itself.
-void frmSupSid::editSymbol()
-{
-    m_span->begin();
-    m_edits.edit();
-}
-
 /// Empty = cancelled. A number that another symbol than `own` has is refused and asked for again.
 std::optional<qint16> frmSupSid::askForNumber(NumberQuestion question, qint16 own)
 {

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -47,7 +48,11 @@ void frmSupSid::build()
     usSiItem->setZoom(1);
     buildLists();
     auto *const column = new QVBoxLayout(this);
-    column->addWidget(m_tools->toolBar("mnuBar", {22583, u"Eszközök"}));
+    QToolBar *const bar = m_tools->toolBar("mnuBar", {22583, u"Eszközök"});
+    for (const char *const menu : {"mnuGroups", "mnuSids"})
+        static_cast<QToolButton *>(bar->widgetForAction(m_tools->tool(menu)))
+            ->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    column->addWidget(bar);
     column->addWidget(m_splitter, 1);
     column->addWidget(m_hint);
     column->addWidget(m_buttons);
@@ -172,6 +177,7 @@ void frmSupSid::restoreView()
     const int groups = storedWidth(*lvGroups, objectName(), kGroupsWidth, kGroupLetters * letter);
     const int symbols = storedWidth(*lvSids, objectName(), kSymbolsWidth, kSymbolLetters * letter);
     m_splitter->setSizes({groups, symbols});
+    lvSids->makeRoomForCaptions();
     loadListViewColumns(*lvSids->report()->header(), columnsKey(), kApplication);
     showCell();
 }

@@ -23,7 +23,7 @@ struct Desk {
     /// Runs `body` as one command of the document, then refills; after an error too, so that the grid agrees
     /// with what had been written by then. Current item and selection come back by identifier.
     virtual void write(const QString &command, const std::function<void()> &body) = 0;
-    virtual void refill() = 0;                          ///< after somebody else wrote
+    virtual void refillAfter(const std::function<void()> &body) = 0; ///< the same, of what writes by itself
     virtual bool selectById(qint16 id) = 0;             ///< makes it the current row; false = it is not shown
     virtual ErrorRelay &relay() const = 0;
     virtual QObject *asker() const = 0;                 ///< what the prompts belong to

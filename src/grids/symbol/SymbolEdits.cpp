@@ -101,10 +101,10 @@ void SymbolEdits::edit()
 {
     const auto row = m_desk.currentRecord();
     if (!row || !canEdit()) return;
-    const bool written =
+    m_desk.refillAfter([&] {
         recordEditors()->edit(TableKind::Symbols, m_desk.doc(), row->SidId, m_desk.asker());
-    m_desk.relay().checkpoint();
-    if (written) m_desk.refill();
+        m_desk.relay().checkpoint();
+    });
 }
 
 std::optional<double> SymbolEdits::askForNumber(const QString &title, const QString &text,
