@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -13,6 +14,8 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 constexpr int kIconLetters = 12, kListLetters = 24;     // room for a name under or beside its picture
+
+bool isEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
 
 /// Items that fill the cells of a flow.
 class CellDelegate final : public QStyledItemDelegate {
@@ -234,6 +237,9 @@ bool ItemList::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::Leave) emit headerHovered(-1);
         if (event->type() == QEvent::MouseMove)
             emit headerHovered(header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+    } else if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event))) {
+        emit chosen();
+        return true;                            // or the form's default button would be pressed, too
     } else if (event->type() == QEvent::ContextMenu) {
         const auto &menu = static_cast<QContextMenuEvent &>(*event);
         const QRect current = shown()->visualRect(m_report->currentIndex());

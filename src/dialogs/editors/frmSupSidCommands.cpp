@@ -33,9 +33,9 @@ struct FontEntries final : EntrySource {
 } // namespace
 
 bool frmSupSid::canRenumber() const { return canEditCurrent() && m_doc->symbolRenumber(); }
-bool frmSupSid::canPickFont() const { return m_edit && fontPicker(); }
+bool frmSupSid::canPickFont() const { return isEditMode() && fontPicker(); }
 bool frmSupSid::canPickLayer() const { return canEditSelected() && canPickResource(TableKind::Layers); }
-bool frmSupSid::canEditGroup() const { return m_edit && m_byGroups && m_groups->rowOf(m_group) >= 0; }
+bool frmSupSid::canEditGroup() const { return isEditMode() && m_byGroups && m_groups->rowOf(m_group) >= 0; }
 
 void frmSupSid::zoomIn() { m_pictures->zoomBy(kZoomStep); }
 void frmSupSid::zoomOut() { m_pictures->zoomBy(-kZoomStep); }
