@@ -313,7 +313,7 @@ private slots:
             run(f, "cmdGroup_Remove");
             click(f, "cmdOk");
         }, id);
-        QCOMPARE(groups(), QStringLiteral("Egy"));
+        QCOMPARE(groups(), QStringLiteral("Kettő"));
     }
 
     void loadedSymbolsShareOneGroup()
@@ -405,15 +405,15 @@ private slots:
         qint16 id = 2;
         const Act widths = [](frmSupSid &f) {
             QHeaderView &header = *f.lvSids->report()->header();
-            for (const int wide : {900, 1000}) {
+            for (const int wide : {700, 780}) {
                 f.resize(wide, 500), header.resizeSection(1, wide / 4);
                 run(f, "cmdEditMode");
             }
-            QCOMPARE(f.width(), 900);
-            QCOMPARE(header.sectionSize(1), 225);
+            QCOMPARE(f.width(), 700);
+            QCOMPARE(header.sectionSize(1), 175);
             run(f, "cmdEditMode");
-            QCOMPARE(f.width(), 1000);
-            QCOMPARE(header.sectionSize(1), 250);
+            QCOMPARE(f.width(), 780);
+            QCOMPARE(header.sectionSize(1), 195);
             click(f, "cmdCancel");
         };
         open(*m_doc, MODE_SELECT, widths, id);

@@ -54,8 +54,20 @@ protected:
     }
 };
 
+/// The table. What becomes current moves it up and down only: the pictures stand in its first column.
+class ItemList::ReportView final : public QTreeView {
+public:
+    using QTreeView::QTreeView;
+    void scrollTo(const QModelIndex &index, ScrollHint hint) override
+    {
+        const int across = horizontalScrollBar()->value();
+        QTreeView::scrollTo(index, hint);
+        horizontalScrollBar()->setValue(across);
+    }
+};
+
 ItemList::ItemList(ErrorRelay &relay, QWidget *parent)
-    : QStackedWidget(parent), m_relay(relay), m_report(new QTreeView(this)), m_icons(new IconView(this))
+    : QStackedWidget(parent), m_relay(relay), m_report(new ReportView(this)), m_icons(new IconView(this))
 {
     m_report->setRootIsDecorated(false);
     m_report->setUniformRowHeights(true);

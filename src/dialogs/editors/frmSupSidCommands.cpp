@@ -105,7 +105,9 @@ void frmSupSid::renumber()
 std::vector<qint16> frmSupSid::removableGroups(const std::vector<tSid> &symbols)
 {
     std::vector<qint16> empty;
-    for (const QModelIndex &index : lvGroups->selectionModel()->selectedRows()) {
+    QModelIndexList chosen = lvGroups->selectionModel()->selectedRows();
+    std::sort(chosen.begin(), chosen.end());
+    for (const QModelIndex &index : chosen) {
         const auto &group = m_groups->groups()[size_t(index.row())];
         if (std::ranges::count(symbols, group.id, &tSid::GroupId) == 0) {
             empty.push_back(group.id);
