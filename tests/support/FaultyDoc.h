@@ -18,6 +18,7 @@ struct HostError : std::runtime_error {
 /// Counts and fails the calls of a document.
 struct CallLog {
     QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
+    int bulkUpdates = 0;            ///< of layers, each with its single updates
     int failAt = -1;                ///< the call with this index throws HostError
     QString failNext;               ///< the next call of this name throws HostError
     std::function<void(const QString &)> meanwhile; ///< happens during every call
@@ -49,6 +50,11 @@ struct FaultyLayers final : ZolWDoc::LayerRole {
     qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
     void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
     int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
+    void updateAll(std::span<const Rec> all, int &written) override
+    {
+        ++log.bulkUpdates;                      ///< row by row below, so that each can fail
+        LayerRole::updateAll(all, written);
+    }
     std::optional<Rec> findByNumber(qint16 n) const override
     {
         return log.on("layers.findByNumber"), real.findByNumber(n);
