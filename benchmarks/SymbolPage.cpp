@@ -48,8 +48,8 @@ double reading()
     return spent;
 }
 
-const bool s_entered = figure("symbols.page.32000.open", "ms", unbounded(), [] { return medianOf(&opening); }) &&
-                       figure("symbols.page.32000.reading", "ms", unbounded(),
-                              [] { return medianOf(&reading); });
+const bool s_entered =
+    figure("symbols.page.32000.open", "ms", unbounded(), [] { return medianOf(&opening); }) &&
+    figure("symbols.page.32000.reading", "ms", unbounded(), [] { return medianOf(&reading); });
 
 } // namespace
