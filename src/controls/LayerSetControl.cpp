@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -68,9 +69,10 @@ LayerSetControl::~LayerSetControl() = default;
 void LayerSetControl::setsLays(const QString &text)
 {
     if (isDesigned(*this)) throw PropertyError(PropertyError::SetNotPermitted, "sLays");
+    const QPointer<LayerSetControl> alive(this);
     writeText(text);
     takeText();
-    showSet();
+    if (alive) showSet();
 }
 
 void LayerSetControl::setsLayGroup(const QString &caption)
@@ -81,12 +83,12 @@ void LayerSetControl::setsLayGroup(const QString &caption)
 
 void LayerSetControl::chooseNamed(const QString &caption)
 {
-    m_sLayGroup = caption;
+    const QPointer<LayerSetControl> alive(this);
     if (!select(caption)) select(kCurrent);
-    if (cboLays->currentData().toInt() != kEnumerated) return;
+    if (!alive || cboLays->currentData().toInt() != kEnumerated) return;
     QString text = m_sLays;
     readSet(text);
-    showSet();
+    if (alive) showSet();
 }
 
 void LayerSetControl::layersArrived()
@@ -140,7 +142,6 @@ bool LayerSetControl::select(const QVariant &value)
     const bool isData = value.typeId() == QMetaType::Int;
     const int entry = isData ? cboLays->findData(value) : cboLays->findText(value.toString());
     if (entry < 0) return false;
-    cboLays->setCurrentIndex(entry);
     choose(entry);
     return true;
 }
@@ -148,6 +149,7 @@ bool LayerSetControl::select(const QVariant &value)
 void LayerSetControl::choose(int entry)
 {
     const tLayArr chosen = layersChosenBy(cboLays->itemData(entry).toInt()); // throws before anything changes
+    cboLays->setCurrentIndex(entry);
     // By caption, on purpose: a group of the same name adds to the set and tells nobody.
     const bool enumerated = cboLays->itemText(entry) == cboLays->itemText(kEnumeratedRow);
     if (!enumerated) m_set = {};
@@ -175,6 +177,12 @@ tLayArr LayerSetControl::layersChosenBy(qint32 itemData) const
     default: return layersOf(itemData);
     }
     return layers;
+}
+
+/// Where nothing has arrived or been typed, what is kept stays.
+void LayerSetControl::normalise()
+{
+    if (m_arrived || !txtLays->text().isEmpty()) showSet();
 }
 
 void LayerSetControl::showSet() { writeText(layerSetText(m_set.layers())); }
@@ -230,12 +238,12 @@ bool LayerSetControl::eventFilter(QObject *watched, QEvent *event)
     if (watched == txtLays && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-        showSet();
+        normalise();
         return true; // consumed: the form's default button would hide the result
     }
     if (reason == Qt::PopupFocusReason) return false;
     if (watched == txtLays && event->type() == QEvent::FocusOut && reason != Qt::ActiveWindowFocusReason)
-        showSet();
+        normalise();
     if (watched == cboLays && event->type() == QEvent::FocusIn)
         ErrorRelay::reporting().guard([this] { showChoices(); });
     return false;

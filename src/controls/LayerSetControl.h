@@ -102,6 +102,7 @@ private:
     void choose(int entry);
     ZolWDoc::tLayArr layersChosenBy(qint32 itemData) const;
     void takeText();
+    void normalise();
     void showSet();
     void writeText(const QString &text);
     void arrange();

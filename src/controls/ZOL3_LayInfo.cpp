@@ -18,6 +18,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
+#include <QScopeGuard>
 
 namespace QV_DOC_CONTROLS {
 
@@ -65,9 +66,7 @@ ZOL3_LayInfo::ZOL3_LayInfo(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     connect(cmdModLay, &QPushButton::clicked, this, &ZOL3_LayInfo::click);
-    new LeavingCheck(*txtLayNr, [this] {
-        if (txtLayNr->isModified()) takeTyped(); // what was only shown is not read back
-    });
+    m_leaving = std::make_unique<LeavingCheck>(*txtLayNr, [this] { return leave(); });
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &ZOL3_LayInfo::ml_RuntimeSupport_LanguageChanged);
     ml_RuntimeSupport_LanguageChanged();
@@ -89,32 +88,41 @@ void ZOL3_LayInfo::TearDown() { m_doc = nullptr; }
 void ZOL3_LayInfo::LetLayId(const QVariant &New_LayId, quint8 ChangeMode)
 {
     if (!m_doc) return;
-    const auto lay = layerFor(New_LayId, [this](qint16 id) { return m_doc->layers().find(id); });
+    const QString value = New_LayId.toString();
+    const auto id = shortValue(value);
+    const auto lay = id ? m_doc->layers().find(*id) : std::nullopt;
     if (lay) take(*lay, ChangeMode);
+    else tell(refusalOf(value));
 }
 
 void ZOL3_LayInfo::LetLayNr(const QVariant &New_LayNr, quint8 ChangeMode)
 {
-    if (!m_doc) return;
-    const auto lay = layerFor(New_LayNr, [this](qint16 nr) { return m_doc->layers().findByNumber(nr); });
-    if (!lay) return;
-    if (!m_notSetCurrentLayer) m_doc->layers().makeCurrent(*lay);
-    take(*lay, ChangeMode);
+    if (const auto refusal = takeNumber(New_LayNr.toString(), ChangeMode)) tell(*refusal);
 }
 
-std::optional<tLay> ZOL3_LayInfo::layerFor(const QVariant &value, const Find &find)
+ZOL3_LayInfo::Refusal ZOL3_LayInfo::takeNumber(const QString &value, quint8 changeMode)
 {
-    const QString text = value.toString();
-    const bool numeric = isNumeric(text);
-    const std::optional<qint16> number = shortValue(text);
-    const auto lay = number ? find(*number) : std::nullopt;
-    if (!lay) {
-        const Text reason =
-            numeric ? Text{32, u"Nincs ilyen számú réteg!"} : Text{42, u"Egész számot kell megadni!"};
-        prompts().alert();
-        prompts().tell({Icon::Exclamation, txt(Text{31, u"Hibás rétegszám"}), txt(reason)}, this);
-    }
-    return lay;
+    if (!m_doc) return {};
+    const auto number = shortValue(value);
+    const auto lay = number ? m_doc->layers().findByNumber(*number) : std::nullopt;
+    if (!lay) return refusalOf(value);
+    const QPointer<ZOL3_LayInfo> alive(this);
+    if (!m_notSetCurrentLayer) m_doc->layers().makeCurrent(*lay);
+    if (alive) take(*lay, changeMode);
+    return {};
+}
+
+Message ZOL3_LayInfo::refusalOf(const QString &value)
+{
+    const Text reason =
+        isNumeric(value) ? Text{32, u"Nincs ilyen számú réteg!"} : Text{42, u"Egész számot kell megadni!"};
+    return {Icon::Exclamation, txt(Text{31, u"Hibás rétegszám"}), txt(reason)};
+}
+
+void ZOL3_LayInfo::tell(const Message &refusal)
+{
+    prompts().alert();
+    prompts().tell(refusal, this);
 }
 
 void ZOL3_LayInfo::take(const tLay &lay, quint8 changeMode)
@@ -136,12 +144,18 @@ void ZOL3_LayInfo::showLayer()
     setAccessibleDescription(none ? QString() : txtLayNr->text() + u' ' + m_shown.Name);
 }
 
-/// Takes what stands in the field; what is refused gives way to the layer that stays.
-void ZOL3_LayInfo::takeTyped()
+/// Takes what was typed, not what was only shown; what is refused gives way to the layer that stays.
+LeavingCheck::Tell ZOL3_LayInfo::leave()
 {
-    const QPointer<ZOL3_LayInfo> alive(this);
-    ErrorRelay::reporting().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
-    if (alive) showLayer();
+    if (!txtLayNr->isModified()) return {};
+    const auto afterwards = qScopeGuard([alive = QPointer(this)] {
+        if (alive) alive->showLayer();
+    });
+    const Refusal refusal = takeNumber(txtLayNr->text(), kByUser);
+    if (!refusal) return {};
+    return [this, refusal = *refusal] {
+        if (isVisible()) tell(refusal);
+    };
 }
 
 bool ZOL3_LayInfo::eventFilter(QObject *watched, QEvent *event)
@@ -151,8 +165,10 @@ bool ZOL3_LayInfo::eventFilter(QObject *watched, QEvent *event)
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     if (m_infoMode) return false;
     const QPointer<ZOL3_LayInfo> alive(this);
-    takeTyped();
-    if (alive) txtLayNr->selectAll();
+    ErrorRelay::reporting().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
+    if (!alive) return true;
+    showLayer();
+    txtLayNr->selectAll();
     return true;
 }
 

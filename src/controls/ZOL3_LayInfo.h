@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QFrame;
 class QLabel;
@@ -14,6 +15,9 @@ class QLineEdit;
 class QPushButton;
 
 namespace QV_DOC_CONTROLS {
+
+struct Message;
+class LeavingCheck;
 
 /// Shows one layer of a document by number and name, and lets the user choose another: by its number, or from
 /// the layer selection behind the button. Nothing happens until there is a document.
@@ -78,17 +82,20 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    using Find = std::function<std::optional<ZolWDoc::tLay>(qint16)>;
-    std::optional<ZolWDoc::tLay> layerFor(const QVariant &value, const Find &find);
+    using Refusal = std::optional<Message>;
+    Refusal takeNumber(const QString &value, quint8 changeMode);
+    static Message refusalOf(const QString &value);
+    void tell(const Message &refusal);
     void take(const ZolWDoc::tLay &lay, quint8 changeMode);
     void showLayer();
-    void takeTyped();
+    std::function<void()> leave();                      ///< takes it; what is left to tell
     void click();
     void pick();
 
     DebugIdentity m_identity{"ZOL3_LayInfo"};
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;
     ZolWDoc::tLay m_shown;                              ///< -1 = none
+    std::unique_ptr<LeavingCheck> m_leaving;
     bool m_notSetCurrentLayer = false, m_infoMode = false, m_visibleIcon = false;
 };
 

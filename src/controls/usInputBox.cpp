@@ -4,10 +4,10 @@
 #include "controls/input/InputCombo.h"
 #include "facade/services/Language.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/forms/LeavingCheck.h"
 #include "rules/NumberText.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopeGuard>
@@ -60,14 +60,13 @@ usInputBox::usInputBox(QWidget *parent)
     };
     connect(&box(), &InputCombo::edited, this, &usInputBox::checkTyped);
     connect(&box(), &InputCombo::entered, this, &usInputBox::entered);
-    connect(&box(), &InputCombo::left, this, user(&usInputBox::left));
     connect(&box(), &InputCombo::chosen, this, user(&usInputBox::enter));
     connect(&box(), &InputCombo::wheelStepped, this, user(&usInputBox::stepOnce));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::pressed, this, user(&usInputBox::startSteps));
     connect(static_cast<StepArrows *>(UpDown1), &StepArrows::released, this, &usInputBox::endSteps);
     connect(Timer1, &QTimer::timeout, this,
             [this] { ErrorRelay::reporting().guard([this] { repeat(); }); });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *to) { focusWent(to); });
+    m_leaving = std::make_unique<LeavingCheck>(*txtCombo, [this] { return leave(); });
     connect(&LanguageHub::instance(), &LanguageHub::LanguageChanged, this,
             &usInputBox::ml_RuntimeSupport_LanguageChanged);
     showValue();
@@ -86,7 +85,9 @@ bool usInputBox::LetValue(const QVariant &value, const QVariant &min, const QVar
 
 bool usInputBox::enter(const QVariant &value)
 {
-    const auto afterwards = qScopeGuard([this] { showValue(); }); // in every case, an error of the host too
+    const auto afterwards = qScopeGuard([alive = Alive(this)] { // in every case, an error of the host too
+        if (alive) alive->showValue();
+    });
     const Refusal refusal = take(value);
     if (refusal) tell(*refusal);
     return !refusal;
@@ -121,10 +122,11 @@ usInputBox::Refusal usInputBox::takeText(const QString &text)
 /// The number goes out by reference; another one comes back into the value when the bounds allow it.
 void usInputBox::raiseChange()
 {
+    const Alive alive(this);
     const double told = number();
     double given = told;
     emit Change(given);
-    if (given != told && given >= m_input->min && given <= m_input->max) m_value = given;
+    if (alive && given != told && given >= m_input->min && given <= m_input->max) m_value = given;
 }
 
 void usInputBox::tell(const Message &refusal)
@@ -139,18 +141,21 @@ void usInputBox::tell(const Message &refusal)
 
 bool usInputBox::enterTyped()
 {
-    return !box().touched() || (!staysTyped() && enter(box().currentText()));
+    const Alive alive(this);
+    return !box().touched() || (!staysTyped() && enter(box().currentText()) && alive);
 }
 
-/// The message comes once the focus has changed, so that a click is not lost to it.
-void usInputBox::leaveTyped()
+LeavingCheck::Tell usInputBox::leave()
 {
-    if (!box().touched() || staysTyped()) return;
-    const auto afterwards = qScopeGuard([this] { showValue(); });
-    if (const Refusal refusal = take(box().currentText()))
-        QMetaObject::invokeMethod(this, [this, refusal = *refusal] {
-            if (isVisible()) tell(refusal);
-        }, Qt::QueuedConnection);
+    if (!box().touched() || staysTyped()) return {};
+    const auto afterwards = qScopeGuard([alive = Alive(this)] {
+        if (alive) alive->showValue();
+    });
+    const Refusal refusal = take(box().currentText());
+    if (!refusal) return {};
+    return [this, refusal = *refusal] {
+        if (isVisible()) tell(refusal);
+    };
 }
 
 void usInputBox::showValue()

@@ -2,9 +2,11 @@
 
 #include "controls/CaptionedField.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QVariantMap>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -17,6 +19,7 @@ namespace QV_DOC_CONTROLS {
 struct Message;
 struct NumberInput;
 class InputCombo;
+class LeavingCheck;
 
 /// One bounded number, or in text mode one short text.
 ///
@@ -26,7 +29,7 @@ class InputCombo;
 ///
 /// 16-bit and single precision properties are cut to what they hold. What a form or a bag says is kept as it
 /// comes and checked when the control is first shown: crossed bounds change places, a value outside goes to
-/// the nearest bound, nobody is told.
+/// the nearest bound, nobody is told. A handler of keys, mouse or Change may delete the control.
 ///
 /// Keys beyond those published, while the arrows are shown: Ctrl+Up and Ctrl+Down step, and so do Up and Down
 /// that move no focus. Alt+Down opens the list.
@@ -131,13 +134,14 @@ private:
 
     InputCombo &box() const;
     double number() const { return m_value.toDouble(); }
+    using Alive = QPointer<usInputBox>;                 ///< to be asked after every event raised
     using Refusal = std::optional<Message>;
     Refusal take(const QVariant &value);                ///< checks and stores; none = taken
     Refusal takeNumber(const QVariant &value);
     Refusal takeText(const QString &text);
     bool enter(const QVariant &value);                  ///< takes or tells, then shows what is stored
     bool enterTyped();                                  ///< what the user has typed, if anything
-    void leaveTyped();                                  ///< the same, told once the focus has changed
+    std::function<void()> leave();                      ///< takes it; what is left to tell
     void tell(const Message &refusal);
     void raiseChange();
     void showValue();
@@ -153,20 +157,19 @@ private:
     bool navigated(int keyCode, Qt::KeyboardModifiers modifiers);
     void raiseMouse(QObject *watched, QMouseEvent &event);
     void entered();
-    void left(Qt::FocusReason reason);
-    void focusWent(QWidget *to);
     void startSteps(bool up);
     void endSteps();
     void repeat();
     void step();
     void stepOnce(bool up);
 
+    std::unique_ptr<LeavingCheck> m_leaving;
     QVariant m_value = 0.0;
     int m_timerInterval = 50, m_next = -1, m_back = -1;
     float m_step = 0;                                   ///< signed while the arrows are pressed
     bool m_autoSelect = true, m_errorsInPlace = false;
     bool m_loading = false, m_polished = false, m_raw = false;
-    bool m_waiting = false;                             ///< left for a button that rejects, not checked yet
+    bool m_pressed = false;                             ///< a release is going to be a click
     QString m_refusal;                                  ///< read out until the user goes on
     int m_lastKeyCode = 0;
 };

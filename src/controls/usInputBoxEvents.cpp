@@ -7,11 +7,7 @@
 #include "kit/forms/TabIndex.h"
 #include "kit/forms/Twips.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialogButtonBox>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -35,23 +31,20 @@ QString charactersOf(const QKeyEvent &event)
     return typed ? text : QString();
 }
 
-/// Whether the focus goes to a button that drops what was entered.
-bool rejects(const QWidget *to)
-{
-    auto *const button = qobject_cast<QAbstractButton *>(const_cast<QWidget *>(to));
-    const auto *const row = button ? qobject_cast<const QDialogButtonBox *>(button->parentWidget()) : nullptr;
-    return button && (row ? row->buttonRole(button) == QDialogButtonBox::RejectRole
-                          : button->objectName() == u"cmdCancel");
-}
-
 /// A single precision step as one reads it: 0.1 and not 0.10000000149.
 double plain(float step) { return QString::number(double(step), 'g', 7).toDouble(); }
-double sum(double value, float step) { return QString::number(value + plain(step), 'g', 15).toDouble(); }
+/// The same for their sum, as far as digits that one reads can tell neighbours apart.
+double sum(double value, float step)
+{
+    const double exact = value + plain(step);
+    return std::abs(exact) < 1e15 ? QString::number(exact, 'g', 15).toDouble() : exact;
+}
 
 } // namespace
 
 bool usInputBox::eventFilter(QObject *watched, QEvent *event)
 {
+    const Alive alive(this);
     bool consumed = false;
     ErrorRelay &user = ErrorRelay::reporting();
     switch (event->type()) {
@@ -76,33 +69,37 @@ bool usInputBox::eventFilter(QObject *watched, QEvent *event)
         break;
     default: break;
     }
-    return CaptionedField::eventFilter(watched, event);
+    return !alive;
 }
 
 bool usInputBox::keyPressed(QKeyEvent &event)
 {
+    const Alive alive(this);
     const qint16 pressed = keyCodeOf(event);
     qint16 code = pressed;
     emit KeyDown(code, shiftOf(event.modifiers()));
+    if (!alive || (code == 0 && pressed != 0)) return true;
     m_lastKeyCode = code;
-    if (code == 0 && pressed != 0) return true;
     const bool typed = charactersTyped(event);
-    return navigated(code, event.modifiers()) || typed;
+    return !alive || navigated(code, event.modifiers()) || typed;
 }
 
 /// False when the box is to see the key as well.
 bool usInputBox::charactersTyped(const QKeyEvent &event)
 {
+    const Alive alive(this);
     const QString keys = charactersOf(event);
     QString typed;
     for (const QChar pressed : keys) {
         auto ascii = qint16(pressed.unicode());
         emit KeyPress(ascii);
+        if (!alive) return true;
         const QChar key(static_cast<char16_t>(ascii));
         if (key == QChar(kEnter)) enterTyped();
         else if (key == QChar(kBackspace) && key == pressed) return false;
         else if (key == QChar(kBackspace)) box().lineEdit()->backspace();
         else if (!key.isNull()) characterTyped(key, typed);
+        if (!alive) return true;
     }
     if (!typed.isEmpty()) box().type(typed);
     return !keys.isEmpty();
@@ -135,43 +132,29 @@ void usInputBox::raiseMouse(QObject *watched, QMouseEvent &event)
     const double x = at.x() * 1440.0 / logicalDpiX(), y = at.y() * 1440.0 / logicalDpiY();
     const qint16 button = buttonsOf(event.button()), shift = shiftOf(event.modifiers());
     switch (event.type()) {
-    case QEvent::MouseButtonPress: return emit MouseDown(button, shift, x, y);
+    case QEvent::MouseButtonPress: m_pressed = true; return emit MouseDown(button, shift, x, y);
     case QEvent::MouseMove: return emit MouseMove(buttonsOf(event.buttons()), shift, x, y);
     case QEvent::MouseButtonDblClick: return emit DblClick();
     default: break;
     }
-    emit MouseUp(button, shift, x, y);
     const bool inside = static_cast<QWidget *>(watched)->rect().contains(event.position().toPoint());
-    if (button == 1 && inside) emit Click();
+    const bool clicked =
+        std::exchange(m_pressed, false) && button == 1 && inside; // no second time after DblClick
+    const Alive alive(this);
+    emit MouseUp(button, shift, x, y);
+    if (alive && clicked) emit Click();
 }
 
 void usInputBox::entered()
 {
-    m_waiting = false;
     if (m_autoSelect) box().lineEdit()->selectAll();
     else box().lineEdit()->end(false);
-}
-
-/// Going to another window, to a menu or to a button that rejects is not leaving the box.
-void usInputBox::left(Qt::FocusReason reason)
-{
-    const bool away = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason
-        || reason == Qt::MenuBarFocusReason || !isVisible();
-    m_waiting = !away && rejects(QApplication::focusWidget());
-    if (!away && !m_waiting) leaveTyped();
-}
-
-/// The user who went to such a button and on to another field has left the box after all.
-void usInputBox::focusWent(QWidget *to)
-{
-    if (!m_waiting || !to || to == txtCombo || to->window() != window() || rejects(to)) return;
-    m_waiting = false;
-    ErrorRelay::reporting().guard([this] { leaveTyped(); });
 }
 
 void usInputBox::startSteps(bool up)
 {
     if (!enterTyped() || m_input->isText()) return;
+    if (!static_cast<StepArrows *>(UpDown1)->isDown()) return; // let go while a handler of Change was busy
     m_step = up ? std::abs(m_step) : -std::abs(m_step);
     if (m_timerInterval > 0) Timer1->start(kFirstDelay);
     step();
@@ -200,18 +183,20 @@ void usInputBox::step()
         m_value = up ? m_input->max : m_input->min;
         return showValue();
     }
+    const Alive alive(this);
     m_value = next;
     showValue();
     raiseChange();
-    showValue();
+    if (alive) showValue();
 }
 
 void usInputBox::stepOnce(bool up)
 {
     if (!enterTyped() || m_input->isText()) return;
+    const Alive alive(this);
     m_step = up ? std::abs(m_step) : -std::abs(m_step);
     step();
-    m_step = std::abs(m_step);
+    if (alive) m_step = std::abs(m_step);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -160,7 +160,8 @@ double usInputBox::UpDownInc() const { return QString::number(std::abs(m_step), 
 void usInputBox::setUpDownInc(double step)
 {
     constexpr double most = std::numeric_limits<float>::max();
-    m_step = std::isnan(step) ? 0 : float(std::clamp(step, -most, most));
+    const float magnitude = std::isnan(step) ? 0 : float(std::min(std::abs(step), most));
+    m_step = std::copysign(magnitude, m_step);  // an arrow that is held goes on its way
 }
 
 void usInputBox::setTimerInterval(int ms) { m_timerInterval = shortOf(ms); }

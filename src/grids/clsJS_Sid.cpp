@@ -8,6 +8,7 @@ clsJS_Sid::clsJS_Sid() : GroupedManager("clsJS_Sid")
 {
     groupRows().setDrags(groupDrags());
     groupRows().setRenaming([this](qint16 group, const QString &name) { return renameInPlace(group, name); });
+    groupRows().setRemoval([this] { deleteGroup(); });
 }
 
 clsJS_Sid::~clsJS_Sid() { TearDown(); }
@@ -80,7 +81,7 @@ GroupDrags clsJS_Sid::groupDrags()
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
     bool renamed = false;
-    command([&] { renamed = m_groups.renameInPlace(group, name); });
+    guarded([&] { renamed = m_groups.renameInPlace(group, name); });
     return renamed;
 }
 

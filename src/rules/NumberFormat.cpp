@@ -243,6 +243,7 @@ bool NumberFormat::scientific() const
 {
     return std::ranges::any_of(m_sections, [](const Section &s) { return s.scientific || s.pieces.empty(); });
 }
+bool NumberFormat::grouped() const { return std::ranges::any_of(m_sections, &Section::grouped); }
 
 QString formatted(double value, QStringView pattern, const QLocale &locale)
 {

@@ -34,6 +34,7 @@ public:
     std::vector<Outside> outsides() const;      ///< of the sections that have digits
     int shift() const;                          ///< decimal places by which more is shown than the value
     bool scientific() const;                    ///< some section shows an exponent
+    bool grouped() const;                       ///< some section groups thousands
 
 private:
     enum class Kind { Literal, Digit, Point, Exponent };

@@ -119,11 +119,17 @@ QStringView inside(QStringView text, const NumberFormat::Outside &outside)
     return text;
 }
 
-QByteArray numberMeantBy(QStringView text, const QLocale &locale, bool exponent)
+/// Where digits are shown in groups, the user who puts one in or takes one out leaves the marks where they
+/// are.
+QByteArray numberMeantBy(QStringView text, const QLocale &locale, bool exponent, bool regrouped)
 {
     Marks marks = marksOf(locale, true);
     marks.exponent = exponent;
-    const QByteArray number = numberIn(text, marks);
+    QByteArray number = numberIn(text, marks);
+    if (number.isEmpty() && regrouped) {
+        QString digits = text.toString();
+        number = numberIn(digits.removeIf([&](QChar c) { return marks.isGroup(c); }), marks);
+    }
     if (!number.isEmpty()) return number;
     return numberIn(text, {.point = marks.point == u',' ? u'.' : u',', .exponent = exponent});
 }
@@ -147,7 +153,7 @@ std::optional<double> numberMeant(QStringView text, QStringView pattern, const Q
     std::vector<NumberFormat::Outside> forms = format.outsides();
     forms.insert(forms.begin(), NumberFormat::Outside{});
     for (const NumberFormat::Outside &form : forms) {
-        QByteArray number = numberMeantBy(inside(text, form), locale, format.scientific());
+        QByteArray number = numberMeantBy(inside(text, form), locale, format.scientific(), format.grouped());
         if (number.isEmpty()) continue;
         if (form.negative && !number.startsWith('-')) number.prepend('-');
         return valueOf(number, format.shift());
@@ -157,7 +163,7 @@ std::optional<double> numberMeant(QStringView text, QStringView pattern, const Q
 
 QString typedNumber(const QString &text, const QLocale &locale)
 {
-    const QByteArray number = numberMeantBy(text, locale, true);
+    const QByteArray number = numberMeantBy(text, locale, true, false);
     if (number.isEmpty()) return text;
     return QString::fromLatin1(number).replace(u'.', decimalSeparator(locale));
 }

@@ -17,8 +17,9 @@ double leadingNumber(QStringView text);
 
 /// What a person of that locale means by the text of a number shown in that pattern. The locale's decimal
 /// separator counts, and the other one of point and comma wherever it cannot set off a group; groups have
-/// three digits. The pattern's own text may stand around, per cent is per cent where the pattern shows it,
-/// and an exponent counts where it shows one. Nothing when the text says no number.
+/// three digits, or any number where the pattern groups. The pattern's own text may stand around, per cent is
+/// per cent where the pattern shows it, and an exponent counts where it shows one. Nothing when the text says
+/// no number.
 std::optional<double> numberMeant(QStringView text, QStringView pattern, const QLocale &locale);
 
 /// The plain digits of a text that the locale reads as one number, with its decimal separator and without

@@ -31,36 +31,25 @@ private slots:
     void init() { begin(); }
     void cleanup() { end(); }
 
-    void bagsKeepEveryProperty_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QTest::newRow("colour of the desktop") << QStringLiteral("BackColor") << QVariant(0x80000018u);
-        QTest::newRow("colour") << QStringLiteral("BackColor") << QVariant(0xffeedeu);
-        QTest::newRow("layout") << QStringLiteral("SingleLine") << QVariant(true);
-        QTest::newRow("split") << QStringLiteral("WidthDiferent") << QVariant(-312.5);
-        QTest::newRow("text") << QStringLiteral("sLays") << QVariant(QStringLiteral("1-3"));
-        QTest::newRow("entry") << QStringLiteral("sLayGroup") << QVariant(QStringLiteral("Utak"));
-        LayerSet set;
-        set.add({.LayId = 5, .gNr = 4});
-        QTest::newRow("set") << QStringLiteral("CollectionLays") << QVariant::fromValue(set);
-        QTest::newRow("font") << QStringLiteral("Font")
-                              << QVariant(QFont(QStringLiteral("DejaVu Serif"), 21));
-    }
     void bagsKeepEveryProperty()
     {
-        QFETCH(QString, key);
-        QFETCH(QVariant, value);
-        const QVariantMap bag{{key, value}};
-        DocForm doc;
-        ArrayForm array;
-        for (LayerSetControl *c : std::initializer_list<LayerSetControl *>{doc.control, array.control}) {
-            QCOMPARE(c->propertyBag(), QVariantMap());
-            c->setPropertyBag(bag);
-            QCOMPARE(c->propertyBag(), bag);
-            QCOMPARE(doc.raised, QStringList()); // nothing but kept
-            c->setPropertyBag({});
-            QCOMPARE(c->propertyBag(), QVariantMap());
+        LayerSet set;
+        set.add({.LayId = 5, .gNr = 4});
+        for (const QVariantMap &bag :
+             {QVariantMap{{"BackColor", 0x80000018u}}, {{"BackColor", 0xffeedeu}}, {{"SingleLine", true}},
+              {{"WidthDiferent", -312.5}}, {{"sLays", "1-3"}}, {{"sLayGroup", "Utak"}},
+              {{"CollectionLays", QVariant::fromValue(set)}},
+              {{"Font", QFont(QStringLiteral("DejaVu Serif"), 21)}}}) {
+            DocForm doc;
+            ArrayForm array;
+            for (LayerSetControl *c : std::initializer_list<LayerSetControl *>{doc.control, array.control}) {
+                QCOMPARE(c->propertyBag(), QVariantMap());
+                c->setPropertyBag(bag);
+                QCOMPARE(c->propertyBag(), bag);
+                QCOMPARE(doc.raised, QStringList()); // nothing but kept
+                c->setPropertyBag({});
+                QCOMPARE(c->propertyBag(), QVariantMap());
+            }
         }
     }
 
@@ -75,36 +64,27 @@ private slots:
         QCOMPARE(f.control->WidthDiferent(), 0.0);
     }
 
-    void whatWasKeptTakesEffectWhenTheDocumentArrives_data()
-    {
-        QTest::addColumn<QVariantMap>("kept");
-        QTest::addColumn<QString>("numbers");
-        QTest::addColumn<QString>("entry");
-        const QString enumerated = QStringLiteral("(Felsorolt rétegek)");
-        QTest::newRow("nothing") << QVariantMap() << "3" << QStringLiteral("(Aktuális réteg)");
-        QTest::newRow("a text") << QVariantMap{{"sLays", "4,,2-3"}, {"sLayGroup", enumerated}} << "2-4"
-                                << enumerated;
-        QTest::newRow("a group") << QVariantMap{{"sLays", "1"}, {"sLayGroup", "Utak"}} << "2,4"
-                                 << QStringLiteral("Utak");
-        QTest::newRow("an entry that is not there")
-            << QVariantMap{{"sLayGroup", "Vízfolyások"}} << "3" << QStringLiteral("(Aktuális réteg)");
-        LayerSet set;
-        set.add({.LayId = 5, .gNr = 4});
-        QTest::newRow("a set") << QVariantMap{{"sLays", "1"}, {"CollectionLays", QVariant::fromValue(set)}}
-                               << "4" << enumerated;
-    }
     void whatWasKeptTakesEffectWhenTheDocumentArrives()
     {
-        QFETCH(QVariantMap, kept);
-        QFETCH(QString, numbers);
-        QFETCH(QString, entry);
-        DocForm f;
-        f.control->setPropertyBag(kept);
-        f.control->setZOLW_Doc(m_doc.get());
-        QCOMPARE(f.raised, QStringList{numbers});
-        QCOMPARE(f.box().text(), numbers);
-        QCOMPARE(f.list().currentText(), entry);
-        QCOMPARE(f.control->sLayGroup(), entry);
+        const QString enumerated = QStringLiteral("(Felsorolt rétegek)"),
+                      current = QStringLiteral("(Aktuális réteg)"), roads = QStringLiteral("Utak");
+        LayerSet set;
+        set.add({.LayId = 5, .gNr = 4});
+        for (const auto &[kept, numbers, entry] :
+             {std::tuple(QVariantMap(), "3", current),
+              {{{"sLays", "4,,2-3"}, {"sLayGroup", enumerated}}, "2-4", enumerated},
+              {{{"sLays", "1"}, {"sLayGroup", roads}}, "2,4", roads},
+              {{{"sLayGroup", "Vízfolyások"}}, "3", current},  // there is no such entry
+              {{{"sLays", "1"}, {"CollectionLays", QVariant::fromValue(set)}}, "4", enumerated}}) {
+            DocForm f;
+            f.control->setPropertyBag(kept);
+            f.leave();                          // passing through changes nothing
+            f.control->setZOLW_Doc(m_doc.get());
+            QCOMPARE(f.raised, QStringList{numbers});
+            QCOMPARE(f.box().text(), QLatin1String(numbers));
+            QCOMPARE(f.list().currentText(), entry);
+            QCOMPARE(f.control->sLayGroup(), entry);
+        }
     }
 
     /// As the loader of a form does it: through the property system, in any order.

@@ -82,7 +82,7 @@ struct Session {
     }
     void addNew()
     {
-        model.addNew(1);
+        model.addNew(0); // like the current layer, wherever the user stands
         select({1});
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
@@ -100,6 +100,12 @@ struct Session {
         model.renumber(rows, 20000, -10);
         user.answers << QStringLiteral("20000\t-10\r");
         user.press(Qt::Key_R, Qt::ControlModifier);
+    }
+    /// With the keyboard only, right after a command.
+    void editOn()
+    {
+        model.rows[last()].nr = 21000;
+        user.type(QStringLiteral("21000"));
     }
     void rename()
     {
@@ -173,7 +179,7 @@ struct Session {
     {
         select({1});
         model.firstGroups.insert(QStringLiteral("Új_csoport"));
-        model.addNew(1);
+        model.addNew(0);
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
     void renameGroup()
@@ -246,6 +252,7 @@ constexpr std::pair<const char *, Act> kActs[] = {
     {"new", &Session::addNew},
     {"copy", &Session::copy},
     {"renumber", &Session::renumber},
+    {"number in its cell", &Session::editOn},
     {"rename", &Session::rename},
     {"rename, taken", &Session::renameTaken},
     {"number", &Session::number},

@@ -18,7 +18,8 @@ void Sheet::take(QDialog &dialog)
 
 bool Sheet::save(const QString &path) const
 {
-    const QSize one = pictures.front().deviceIndependentSize().toSize();
+    QSize one;                                  // a place that the largest fits in
+    for (const QPixmap &p : pictures) one = one.expandedTo(p.deviceIndependentSize().toSize());
     const int rows = (int(pictures.size()) + kAcross - 1) / kAcross;
     QPixmap sheet(QSize(one.width() * kAcross, one.height() * rows) * pictures.front().devicePixelRatio());
     sheet.setDevicePixelRatio(pictures.front().devicePixelRatio());

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
@@ -29,8 +30,8 @@ InputCombo::InputCombo(const NumberInput &input, QWidget *parent)
     m_mark = line.addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
     m_mark->setVisible(false);
     line.installEventFilter(this);
-    connect(&line, &QLineEdit::textEdited, this, [this] {
-        m_touched = true;
+    connect(&line, &QLineEdit::textEdited, this, [this, &line] {
+        m_touched = line.isUndoAvailable() || line.text() != m_filter->shown(); // all undone: as it was
         if (m_filter->takeDropped()) prompts().alert();
     });
     connect(&line, &QLineEdit::textChanged, this, [this] { if (!m_showing) emit edited(); });
@@ -58,12 +59,12 @@ void InputCombo::showText(const QString &text)
 
 void InputCombo::forgetTyping()
 {
-    m_shown = currentText();
+    m_filter->setShown(currentText());
     m_touched = false;
     setMarked({});
 }
 
-bool InputCombo::touched() const { return m_touched || currentText() != m_shown; }
+bool InputCombo::touched() const { return m_touched || currentText() != m_filter->shown(); }
 
 TypingPlace InputCombo::place() const
 {
@@ -109,13 +110,8 @@ void InputCombo::focusInEvent(QFocusEvent *event)
     emit entered();
 }
 
-void InputCombo::focusOutEvent(QFocusEvent *event)
-{
-    QComboBox::focusOutEvent(event);
-    emit left(event->reason());
-}
-
-/// Only the box that the user works in takes the wheel.
+/// Only the box that the user works in takes the wheel. A wheel that turns finely steps when it has turned
+/// far.
 void InputCombo::wheelEvent(QWheelEvent *event)
 {
     const int turned = event->angleDelta().y();
@@ -123,7 +119,11 @@ void InputCombo::wheelEvent(QWheelEvent *event)
     if (!hasFocus() || turned == 0 || (!steps && count() == 0)) return event->ignore();
     if (!steps) return QComboBox::wheelEvent(event);
     event->accept();
-    emit wheelStepped(turned > 0);
+    const QPointer<InputCombo> alive(this);
+    m_turned += turned;
+    int n = m_turned / QWheelEvent::DefaultDeltasPerStep;
+    m_turned %= QWheelEvent::DefaultDeltasPerStep;
+    for (; alive && n != 0; n += n > 0 ? -1 : 1) emit wheelStepped(n > 0);
 }
 
 /// A click that brings the focus would put the cursor where it hits; what was selected on entry stays so
@@ -133,6 +133,8 @@ bool InputCombo::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_enteredByMouse, false)
         && !lineEdit()->hasSelectedText())
         emit entered();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+        arrangeLine(); // the base class lays it out anew after many an event
     return QComboBox::eventFilter(watched, event);
 }
 

@@ -31,11 +31,9 @@ signals:
     void edited();                              ///< the text is another, whoever changed it but showText()
     void chosen(const QVariant &value);         ///< from the list
     void entered();
-    void left(Qt::FocusReason reason);
     void wheelStepped(bool up);
 protected:
     void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -47,7 +45,7 @@ private:
     const NumberInput &m_input;
     TypingFilter *m_filter;
     QAction *m_mark;
-    QString m_shown;
+    int m_turned = 0;                           ///< of the wheel, in eighths of a degree, short of a step
     bool m_touched = false, m_showing = false, m_enteredByMouse = false;
 };
 

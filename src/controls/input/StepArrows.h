@@ -10,6 +10,7 @@ class StepArrows final : public QWidget {
 public:
     explicit StepArrows(QWidget *parent);
     QSize sizeHint() const override;
+    bool isDown() const { return m_down != Down::None; }
 signals:
     void pressed(bool up);
     void released();

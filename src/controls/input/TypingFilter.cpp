@@ -7,7 +7,7 @@ namespace QV_DOC_CONTROLS {
 /// What came in stands before the cursor; it is what differs from the text before.
 QValidator::State TypingFilter::validate(QString &text, int &cursor) const
 {
-    if (m_passing || text == m_before) return m_before = text, Acceptable;
+    if (m_passing || text == m_before || text == m_shown) return m_before = text, Acceptable;
     const auto end = std::clamp<qsizetype>(cursor, 0, text.size());
     const QString behind = text.mid(end);
     const qsizetype kept = m_before.endsWith(behind) ? m_before.size() - behind.size() : 0;

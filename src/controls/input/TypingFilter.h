@@ -20,9 +20,12 @@ public:
         change();
         m_passing = false;
     }
+    const QString &shown() const { return m_shown; }
+    void setShown(const QString &text) { m_shown = text; } ///< let in as it stands: undoing leads back to it
     bool takeDropped() { return std::exchange(m_dropped, false); } ///< whether something was not let in
 private:
     const NumberInput &m_input;
+    QString m_shown;
     mutable QString m_before;                   ///< the text that was let in last
     mutable bool m_dropped = false;
     bool m_passing = false;

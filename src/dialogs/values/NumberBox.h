@@ -16,7 +16,6 @@ public:
     void accept() override;
 
 private:
-    NumberEntry *refused() const;               ///< the first that cannot be taken; null = none
     std::vector<NumberEntry *> m_entries;
 };
 

@@ -43,6 +43,14 @@ bool GroupRows::edit(int row, int, const QVariant &value)
     return true;
 }
 
+/// The delete key: the list selects one group, the chosen one.
+bool GroupRows::removeRows(std::span<const int> rows)
+{
+    if (!m_remove || rows.size() != 1 || !isGroup(groupAt(rows.front()))) return false;
+    m_remove();
+    return true;
+}
+
 QMimeData *GroupRows::dragData(std::span<const int> rows) const
 {
     std::vector<qint16> groups;

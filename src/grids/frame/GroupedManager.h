@@ -50,7 +50,9 @@ public:
     void setbShowGroups(bool on) override
     {
         Base::setbShowGroups(on);
-        if (m_groupGrid) m_groupGrid->setVisible(on);
+        if (!m_groupGrid) return;
+        if (!on) showGroup(GroupRows::kAll); // nothing is left out by a list that nobody sees
+        m_groupGrid->setVisible(on);
     }
     void setAllowEdit(bool on) override
     {
@@ -73,6 +75,11 @@ protected:
     qint16 chosenGroup() const override { return m_group; }
     Grid *groupGrid() const { return m_groupGrid; }
     GroupRows &groupRows() { return m_groupRows; }
+    void endEditing() override
+    {
+        Base::endEditing();
+        if (m_groupGrid) m_groupGrid->endEditing();
+    }
     void showGroup(qint16 group)
     {
         if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));

@@ -30,7 +30,6 @@ public:
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         Rows::setRecords({}, {});
-        m_leftOut.reset();
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
@@ -48,6 +47,7 @@ public:
     {
         if (!m_doc) return;
         const auto before = selectedIds();
+        m_selectionTold = false;
         std::vector<Record> all;
         typename Table::Names names;
         const auto show = [&] {
@@ -60,7 +60,7 @@ public:
                                       [&] { readBeside(*m_doc, all); },
                                       [&] { m_grid->refill(show); }};
         if (!refillBy(steps, m_grid)) return;
-        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
         raiseCurrentRow();
     }
     /// Makes the record with this identifier the grid's current row; false when it is not shown.
@@ -115,7 +115,7 @@ protected:
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
-        connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        connect(&grid, &Grid::selectionMoved, this, [this] { tellSelection(); });
     }
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
@@ -131,33 +131,40 @@ protected:
     void refillAfter(const std::function<void()> &body) override { runAndFill(body); }
     void write(const QString &name, const std::function<void()> &body) override
     {
-        runAndFill([&] { ZolWDoc::inCommand(this->doc(), name, body); });
+        writeAndFill(this->doc(), name, body);
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
 
     Grid *grid() const { return m_grid; }
-    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
-    /// it is current again when it is listed again and no other one was chosen meanwhile.
+    void endEditing() override { if (m_grid) m_grid->endEditing(); }
+    /// fits() answers otherwise now. What is not listed any more stays selected, and current, until the user
+    /// chooses anew.
     void showAgain()
     {
         if (!m_grid) return;
         const auto before = selectedIds();
-        if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
-        m_grid->refill([this] { Rows::showWhatFits(); }, Grid::Gone::Nothing);
-        const bool isBack =
-            !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
-        if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        m_selectionTold = false;
+        const auto current = currentRecord();
+        m_grid->refill([this] { Rows::showWhatFits(); });
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
+        if (const auto now = currentRecord(); now && (!current || Table::id(*current) != Table::id(*now)))
+            raiseCurrent(*now);
     }
 
     bool edit(int row, int c, const QVariant &value) override
     {
         bool stored = false;
-        command([&] { stored = tryEdit(row, c, value); });
+        guarded([&] { stored = tryEdit(row, c, value); });
         return stored;
     }
 
 private:
+    void tellSelection()
+    {
+        m_selectionTold = true;
+        raiseSelection(m_grid->selectedCount());
+    }
     std::vector<qint16> selectedIds() const
     {
         std::vector<qint16> ids;
@@ -193,7 +200,7 @@ private:
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
     Grid *m_grid = nullptr;                             ///< the form's, until TearDown()
-    std::optional<qint16> m_leftOut;                    ///< the record last current that fits() left out
+    bool m_selectionTold = false;                       ///< since a refill began
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -62,6 +62,9 @@ constexpr IconRow kIcons[] = {
     {"layerSet", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM1.5 8l6.5 3.5l6.5 -3.5M6 13l2 1.5l2 -1.5"},
     {"layerSetOfGiven", "M8 1.5l5 2.7l-5 2.8l-5 -2.8zM3 7.5l5 2.8l5 -2.8M4 10.5h-2.5v4h13v-4h-2.5"},
     {"layerInfo", "M5.5 1.5l4 2.2l-4 2.3l-4 -2.3zM12 2h2.5M12 4.5h2.5M1.5 9.5h13v5h-13zM4 12h5"},
+    {"symbolPreview", "M1.5 1.5h13v9h-13zM8 3.5l3.2 5h-6.4zM2.5 13.2h3M10.5 13.2h3M12 11.7v3"},
+    {"symbolPreviewOfForm", "M1.5 1.5h13v13h-13zM1.5 4.5h13M8 6.5l3.5 6h-7z", "M1.5 1.5h13v3h-13z"},
+    {"textAlign", "M3.5 3.5h9v9h-9zM3.5 10h9", "M2 2h3v3h-3zM11 2h3v3h-3zM2 11h3v3h-3zM11 11h3v3h-3z"},
     // layers
     {"makeCurrent", "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5zM3.5 11.5l3 3l6 -4.5",
      "M8 1.5l6.5 3.5l-6.5 3.5l-6.5 -3.5z"},

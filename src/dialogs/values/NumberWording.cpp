@@ -1,4 +1,4 @@
-#include "dialogs/values/NumberText.h"
+#include "dialogs/values/NumberWording.h"
 
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Text.h"

@@ -1,4 +1,4 @@
-#include "dialogs/values/NumberText.h"
+#include "dialogs/values/NumberWording.h"
 
 #include "facade/services/InterfaceLocale.h"
 #include "rules/NumberText.h"
@@ -10,7 +10,7 @@
 
 using namespace QV_DOC_CONTROLS;
 
-class tst_NumberText : public QObject {
+class tst_NumberWording : public QObject {
     Q_OBJECT
 private slots:
     void cleanup() { setLanguage(Hungarian, {}); }
@@ -66,5 +66,5 @@ private slots:
         QCOMPARE(refusal, why.isEmpty() ? QString() : why + QStringLiteral("\nMegengedett: ") + bounds);
     }
 };
-QVDC_TEST(tst_NumberText)
-#include "tst_NumberText.moc"
+QVDC_TEST(tst_NumberWording)
+#include "tst_NumberWording.moc"
