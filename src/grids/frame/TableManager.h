@@ -131,7 +131,7 @@ protected:
     void refillAfter(const std::function<void()> &body) override { runAndFill(body); }
     void write(const QString &name, const std::function<void()> &body) override
     {
-        writeAndFill(this->doc(), name, body);
+        runAndFill([&] { ZolWDoc::inCommand(this->doc(), name, body); });
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
