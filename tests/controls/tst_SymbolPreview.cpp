@@ -22,7 +22,7 @@ namespace {
 
 struct SymbolDoc : tests::FaultyDoc {
     using FaultyDoc::FaultyDoc;
-    ZolWDoc::SymbolRole &symbols() override { return log.on("symbols"), FaultyDoc::symbols(); }
+    tests::FaultySymbols &symbols() override { return log.on("symbols"), FaultyDoc::symbols(); }
 };
 
 /// Both twins on a host's form, with a document that holds a symbol.
