@@ -150,7 +150,8 @@ CaptionedField::Widths CaptionedField::widths(bool least) const
             caption(*m_lblAfter, m_after, m_widthAfter)};
 }
 
-/// Where room is short the captions give way first, a unit after the other one; room to spare is the value's, if the control expands.
+/// Where room is short the captions give way first, a unit after the other one; room to spare is the value's,
+/// if the control expands.
 CaptionedField::Widths CaptionedField::widthsIn(int room) const
 {
     Widths parts = widths(false);
