@@ -87,6 +87,7 @@ struct SheetRow {
 };
 constexpr SheetRow kSheets[] = {
     {"controls", tests::takeControls},
+    {"editors", tests::takeEditors},
     {"fonts", takeScenes<tests::fontScenes>},
     {"select", tests::takeSelection},
     {"values", takeScenes<tests::valueScenes>}};
