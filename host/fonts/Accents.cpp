@@ -11,7 +11,7 @@ using ZolWDoc::PointMm;
 using Stroke = std::vector<PointMm>;
 
 constexpr double kUnit = 1.0 / 21;              // letter heights; what the plain letters are drawn in
-constexpr double kGap = 2 * kUnit, kGapBetween = 1 * kUnit;
+constexpr double kGap = 2 * kUnit, kGapBetween = 2 * kUnit;
 
 enum class Where { Above, Below, Shoulder };
 
@@ -90,7 +90,7 @@ struct Draft {
             break;
         case Where::Below: {
             const bool touches = size.top > 0;
-            const double at = touches ? bottom - size.top * kUnit + kGapBetween : bottom - kGap;
+            const double at = touches ? bottom - (size.top - 1) * kUnit : bottom - kGap;
             put(glyph, mark, {letter.centre(), at});
             bottom = at + size.bottom * kUnit;
             break;

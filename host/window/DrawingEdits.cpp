@@ -75,7 +75,25 @@ void DrawingEdits::place(Element e)
 void DrawingEdits::placeAt(QPointF world)
 {
     if (m_view.tool() == DrawingView::Tool::Text) return askForText(world);
+    if (m_view.tool() == DrawingView::Tool::Symbol) return placeSymbol(world);
     place({.kind = ElementKind::Point, .vertices = {{world.x(), world.y()}}});
+}
+
+std::optional<ZolWDoc::tSid> DrawingEdits::symbol() const
+{
+    if (!m_drawing) return {};
+    const ZolWDoc::SymbolRole &symbols = m_drawing->doc().symbols();
+    if (auto chosen = symbols.find(m_symbol)) return chosen;
+    const auto all = symbols.readAll();
+    return all.empty() ? std::nullopt : std::optional(all.front());
+}
+
+void DrawingEdits::placeSymbol(QPointF world)
+{
+    guarded([&] {
+        if (const auto s = symbol())
+            place({.kind = ElementKind::Symbol, .sidId = s->SidId, .vertices = {{world.x(), world.y()}}});
+    });
 }
 
 void DrawingEdits::placeLine(const QList<QPointF> &world)

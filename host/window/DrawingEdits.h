@@ -18,6 +18,8 @@ public:
     explicit DrawingEdits(DrawingView &);
     void setDrawing(OpenDrawing *drawing);          ///< the window's; null while there is none
     void setNewElement(const NewElement &attributes) { m_new = attributes; } ///< of what is placed
+    void setSymbol(qint16 sidId) { m_symbol = sidId; }       ///< that the symbol tool places; -1 = the first
+    std::optional<ZolWDoc::tSid> symbol() const;    ///< the one that is placed; empty = there is none
     void deleteSelected();                          ///< asks with the count
     void selectAll();                               ///< of what is shown
     ZolWDoc::tLayArr layersOfSelection() const;     ///< by number; the current one when nothing is selected
@@ -28,6 +30,7 @@ signals:
 private:
     void place(Element);
     void placeAt(QPointF world);
+    void placeSymbol(QPointF world);
     void placeLine(const QList<QPointF> &world);
     void askForText(QPointF world);
     template <class Act> void guarded(Act);
@@ -35,6 +38,7 @@ private:
     DrawingView &m_view;
     OpenDrawing *m_drawing = nullptr;
     NewElement m_new;
+    qint16 m_symbol = -1;
     QPointer<QLineEdit> m_entry;                    ///< open while a text is typed
 };
 

@@ -208,6 +208,7 @@ void DrawingView::begin(QPoint at)
     case Tool::ZoomWindow: m_rubberFrom = at; return;
     case Tool::Line: m_line.append(toWorld(at)); return update();
     case Tool::Point:
+    case Tool::Symbol:
     case Tool::Text: emit pointGiven(toWorld(at)); return;
     }
 }

@@ -12,7 +12,7 @@ namespace refhost {
 class DrawingView : public QWidget {
     Q_OBJECT
 public:
-    enum class Tool { Select, Point, Line, Text, ZoomWindow };
+    enum class Tool { Select, Point, Line, Text, ZoomWindow, Symbol };
     explicit DrawingView(QWidget *parent = nullptr);
 
     /// The first one is shown whole; later ones keep the place that is seen, and the selection where it is

@@ -25,7 +25,10 @@ enum class Sign {
     SeveralLayers,
     EditLayers,
     Setup,
-    NewElement
+    NewElement,
+    Symbol,
+    SelectSymbol,
+    EditSymbols
 };
 
 /// Drawn from paths in the palette's text colour, sharp at any size, and anew when the palette changes.

@@ -1,8 +1,9 @@
 #include "window/Lettering.h"
 
+#include "rules/CharacterSet.h"
+
 #include <QFont>
 #include <QFontMetricsF>
-#include <QStringDecoder>
 
 #include <cmath>
 
@@ -14,18 +15,6 @@ constexpr double kRowDistance = 1.6;   // letter heights, for text types that na
 constexpr int kHorizontal = 6, kCentre = 6, kRight = 2, kVertical = 24, kBottom = 8, kBaseline = 24;
 
 double orOne(double factor) { return factor == 0 ? 1 : factor; }
-
-QString characterOf(const ZolWDoc::tSid &s)
-{
-    constexpr qint32 centralEuropean = 238, symbolSet = 2;
-    if (s.Code >= 256) return QString(QChar(char16_t(s.Code)));
-    if (s.CharSet == symbolSet) return QString(QChar(char16_t(0xF000 + s.Code)));
-    if (s.CharSet == centralEuropean && s.Code >= 128) {
-        QStringDecoder decoder("windows-1250");
-        if (decoder.isValid()) return decoder(QByteArray(1, char(s.Code)));
-    }
-    return QString(QChar(char16_t(s.Code)));
-}
 
 QFont fontOf(const QString &face, int weight, bool italic)
 {
@@ -90,7 +79,9 @@ SymbolShape shapeOf(const ZolWDoc::tSid &s, const ZolWDoc::Glyph &vectorGlyph)
     font.setUnderline(s.Underline);
     font.setStrikeOut(s.StrikeThrough);
     const QFontMetricsF metrics(font);
-    const QString character = characterOf(s);
+    const QChar shown = QV_DOC_CONTROLS::characterOf(s.Code, s.CharSet);
+    if (shown.isNull()) return shape;
+    const QString character(shown);
     QPainterPath glyph;
     glyph.addText(leftOf(s.Align, metrics.horizontalAdvance(character)), baselineOf(s.Align, metrics), font,
                   character);

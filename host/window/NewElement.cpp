@@ -43,6 +43,15 @@ qint16 lineTypeOf(SqliteDoc &doc, double width)
     return doc.lineTypes().add(added);
 }
 
+/// Where a symbol goes by itself: its target layer, if there is one.
+std::optional<qint16> ownLayerOf(SqliteDoc &doc, const Element &element)
+{
+    if (element.kind != ElementKind::Symbol) return {};
+    const auto symbol = doc.symbols().find(element.sidId);
+    const auto layer = symbol ? doc.layers().find(symbol->LayId) : std::nullopt;
+    return layer ? std::optional(layer->LayId) : std::nullopt;
+}
+
 } // namespace
 
 void addNew(SqliteDoc &doc, Element element, const NewElement &attributes)
@@ -55,7 +64,7 @@ void addNew(SqliteDoc &doc, Element element, const NewElement &attributes)
             element.size = attributes.textHeight * doc.info().scale / 1000;
         }
         std::vector<qint16> layers = attributes.layers;
-        if (layers.empty()) layers.push_back(doc.layers().currentId());
+        if (layers.empty()) layers.push_back(ownLayerOf(doc, element).value_or(doc.layers().currentId()));
         std::vector<Element> copies;
         for (const qint16 layer : layers) {
             copies.push_back(element);

@@ -6,7 +6,8 @@ namespace refhost {
 
 /// What an element gets when the user places it.
 struct NewElement {
-    std::vector<qint16> layers;  ///< it is placed on each of them; empty = on the current layer
+    /// It is placed on each of them; none = on the current layer, a symbol on its own.
+    std::vector<qint16> layers;
     double width = 0;            ///< of a line: millimetres on paper, 0 = the layer's line type
     double rotation = 0;         ///< of a text: degrees anticlockwise
     double textHeight = 0;       ///< of a text: millimetres on paper, 0 = its text type's

@@ -25,6 +25,7 @@ constexpr Text kHints[] = {
     {30502, u"Kattints a töréspontokra; Enter vagy dupla kattintás fejezi be, Backspace visszalép."},
     {30503, u"Kattints oda, ahol a felirat kezdődik, írd be a szöveget, és nyomj Entert!"},
     {30504, u"Húzz ablakot a nagyítandó rész köré."},
+    {30900, u"Kattints oda, ahová a jelkulcs kerül."},
 };
 
 // name, menu, text, sign, keys, act or tool
@@ -106,6 +107,7 @@ const A::Row kRows[] = {
     {"select", A::Draw, {30430, u"&Kijelölés"}, Sign::Select, "", Tool::Select},
     {"point", A::Draw, {30431, u"&Pont"}, Sign::Point, "", Tool::Point},
     {"line", A::Draw, {30432, u"&Vonal"}, Sign::Line, "", Tool::Line},
+    {"symbol", A::Draw, {30901, u"&Jelkulcs"}, Sign::Symbol, "", Tool::Symbol},
     {"text", A::Draw, {30433, u"&Felirat"}, Sign::Lettering, "", Tool::Text},
     {"selectAll",
      A::Draw,

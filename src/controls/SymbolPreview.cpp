@@ -76,7 +76,7 @@ void SymbolPreview::setSidId(qint16 id)
     m_record.reset();                           // not that of another number, whatever happens now
     m_surface->drawing.record.reset();
     m_surface->update();
-    if (m_doc) take(id == -1 ? std::nullopt : m_doc->symbols().find(id));
+    if (m_doc) take(id == -1 ? tSid() : m_doc->symbols().find(id));
 }
 
 void SymbolPreview::loadSidId(int id)
@@ -105,11 +105,12 @@ void SymbolPreview::take(std::optional<tSid> record)
 void SymbolPreview::describe()
 {
     const auto &shown = m_surface->drawing.record;
-    QString text = txt(Text{22400, u"Nincs jelkulcs"});
+    QString text;
     if (shown) {
         const QString name = shown->FullName.isEmpty() ? shown->ShortName : shown->FullName;
         text = shown->SidId == -1 ? name : join(shown->SidId, QStringLiteral(" "), name).trimmed();
     }
+    if (text.isEmpty()) text = txt(Text{22400, u"Nincs jelkulcs"});
     m_surface->setAccessibleName(text);
     setAccessibleDescription(text);
 }
@@ -127,7 +128,7 @@ void SymbolPreview::reloadCaptions()
 
 QPixmap SymbolPreview::GetSiPicture() const
 {
-    const_cast<SymbolPreview *>(this)->arrange(); // before it is first shown, too
+    arrange();                                  // as it will be when it is first shown
     return m_surface->picture();
 }
 
@@ -214,7 +215,7 @@ void SymbolPreview::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) colorSurface(), m_surface->update();
-    if (event->type() == QEvent::StyleChange) arrange();
+    if (event->type() == QEvent::StyleChange) arrange(), updateGeometry();
 }
 
 void SymbolPreview::resizeEvent(QResizeEvent *event)

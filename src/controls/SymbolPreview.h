@@ -42,7 +42,7 @@ public:
     void TearDown();                            ///< drops the document; may be repeated
     void ShowSid();                             ///< draws again, with the font that the host has now
     qint16 SidId() const { return m_sidId; }    ///< of the symbol shown; -1 = none
-    void setSidId(qint16 id);                   ///< when there is no such symbol, nothing is drawn
+    void setSidId(qint16 id);                   ///< nothing is drawn of a number that no symbol has
     ZolWDoc::tSid GetSidRec() const { return m_record.value_or(ZolWDoc::tSid()); } ///< a copy
     void LetSidRec(const ZolWDoc::tSid &tNew_SidRec); ///< shows a copy, whether or not it is stored
     QPixmap GetSiPicture() const;               ///< what is drawn, in the size of the surface
@@ -91,7 +91,7 @@ protected:
     SymbolPreview(const char *type, QWidget *parent);
     SymbolSurface &surface() const { return *m_surface; }
     void redraw();                              ///< at once
-    void arrange();
+    void arrange() const;                       ///< the children, in the size it has
     void reloadCaptions();
 
     bool event(QEvent *event) override;
@@ -120,7 +120,7 @@ private:
     bool m_let = false;                         ///< the record was given, not read
     qint16 m_sidId = -1;
     float m_zoom = 3, m_step = 0;               ///< the step is that of the button held
-    bool m_stepped = false;                     ///< while it was held; its release is no click then
+    bool m_stepped = false;                     ///< while it was held; letting it go is no click then
     SystemColor m_backColor{0}, m_siColor{0xffffff};
     int m_borderStyle = 0, m_appearance = 0;
     bool m_visibleZoom = true;

@@ -84,6 +84,7 @@ void SymbolPreview::setVisibleZoom(bool on)
 {
     m_visibleZoom = on;
     arrange();
+    updateGeometry();
     redraw();
 }
 
@@ -122,7 +123,7 @@ QSize SymbolPreview::minimumSizeHint() const
 }
 
 /// The buttons stand one above the other beside the surface, the one that enlarges on top.
-void SymbolPreview::arrange()
+void SymbolPreview::arrange() const
 {
     const int icon = fontMetrics().height();
     for (QToolButton *button : {cmdZoomIn, cmdZoomOut}) {
@@ -135,7 +136,6 @@ void SymbolPreview::arrange()
     m_surface->setGeometry(0, 0, left, height());
     cmdZoomOut->setGeometry(left, height() - 2 * high, beside, high);
     cmdZoomIn->setGeometry(left, height() - high, beside, high);
-    updateGeometry();
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -15,6 +15,7 @@ ZOL3_SiInfo::ZOL3_SiInfo(QWidget *parent) : SymbolPreview("ZOL3_SiInfo", parent)
 void ZOL3_SiInfo::mFont_FontChanged()
 {
     arrange();
+    updateGeometry();
     redraw();
 }
 

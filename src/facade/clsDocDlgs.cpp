@@ -51,6 +51,24 @@ bool clsDocDlgs::bEdit_Layers(ZolWDoc::ZOLW_Doc &oDoc)
     return confirmed;
 }
 
+bool clsDocDlgs::bSelect_Sid(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tSid &symbol)
+{
+    Trace trace("clsDocDlgs", "bSelect_Sid");
+    trace.step(1);
+    const bool confirmed = selectSymbol(oDoc, symbol);
+    trace.step(2);
+    return confirmed;
+}
+
+bool clsDocDlgs::bEdit_Sids(ZolWDoc::ZOLW_Doc &oDoc)
+{
+    Trace trace("clsDocDlgs", "bEdit_Sids");
+    trace.step(1);
+    const bool confirmed = editTable(oDoc, ZolWDoc::TableKind::Symbols);
+    trace.step(2);
+    return confirmed;
+}
+
 bool clsDocDlgs::bSetupEx(ZolWDoc::ZOLW_Doc &oDoc, qint16 iType, bool AutomaticItemSelection)
 {
     Trace trace("clsDocDlgs", "bSetupEx");

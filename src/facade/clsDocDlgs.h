@@ -39,6 +39,9 @@ public:
     /// The setup dialog on its page of layers. Edits are written at once and stay, whatever is returned.
     bool bEdit_Layers(ZolWDoc::ZOLW_Doc &oDoc);
 
+    bool bSelect_Sid(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tSid &symbol);
+    bool bEdit_Sids(ZolWDoc::ZOLW_Doc &oDoc); ///< as bEdit_Layers(), on the page of symbols
+
     bool AutomaticItemSelection() const { return m_automatic; }
     void setAutomaticItemSelection(bool on) { m_automatic = on; } ///< see frmSetup; for bSetup()
     /// The setup dialog with this object's properties, on page `iType`: 0 layers, 1 text types, 2 line types,

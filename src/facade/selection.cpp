@@ -2,6 +2,7 @@
 
 #include "dialogs/select/frmSelect.h"
 #include "facade/contract/ResourcePicker.h"
+#include "facade/managers.h"
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -16,18 +17,40 @@ bool selectWith(frmSelect &dialog, bool (frmSelect::*entry)(ZolWDoc::ZOLW_Doc &,
     return confirmed;
 }
 
+template <class Rec>
+std::optional<Rec> pickIn(bool (frmSelect::*entry)(ZolWDoc::ZOLW_Doc &, Rec &, QWidget *),
+                             ZolWDoc::ZOLW_Doc &doc, std::type_identity_t<Rec> first,
+                          QObject *owner)
+{
+    frmSelect dialog;
+    if (!selectWith(dialog, entry, doc, first, qobject_cast<QWidget *>(owner))) return std::nullopt;
+    return first;
+}
+
+/// In the dialog that the user's setting asks for.
+bool pickSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, QWidget *owner)
+{
+    if (usesManagers()) return selectInManager(doc, symbol, owner);
+    frmSelect dialog;
+    return selectWith(dialog, &frmSelect::bDoSelect_Sid, doc, symbol, owner);
+}
+
 /// The selection dialogs that there are, for those who pick from below the roof.
 struct Picker final : ResourcePicker {
-    bool canPick(ZolWDoc::TableKind kind) const override { return kind == ZolWDoc::TableKind::Layers; }
-    std::optional<qint16> pick(ZolWDoc::TableKind kind, ZolWDoc::ZOLW_Doc &doc, qint16 first,
-                               QObject *owner) override
+    using Kind = ZolWDoc::TableKind;
+    bool canPick(Kind kind) const override { return kind == Kind::Layers || kind == Kind::Symbols; }
+    std::optional<qint16> pick(Kind kind, ZolWDoc::ZOLW_Doc &doc, qint16 first, QObject *owner) override
     {
-        if (!canPick(kind)) return std::nullopt;
-        frmSelect dialog;
-        ZolWDoc::tLay lay{.LayId = first};
-        if (!selectWith(dialog, &frmSelect::bDoSelect_Lay, doc, lay, qobject_cast<QWidget *>(owner)))
-            return std::nullopt;
-        return lay.LayId;
+        if (kind == Kind::Layers) {
+            const auto lay = pickIn(&frmSelect::bDoSelect_Lay, doc, {.LayId = first}, owner);
+            return lay ? std::optional(lay->LayId) : std::nullopt;
+        }
+        if (kind == Kind::Symbols) {
+            ZolWDoc::tSid symbol{.SidId = first};
+            return pickSymbol(doc, symbol, qobject_cast<QWidget *>(owner)) ? std::optional(symbol.SidId)
+                                                                           : std::nullopt;
+        }
+        return std::nullopt;
     }
 };
 [[maybe_unused]] const bool s_entered = [] {
@@ -49,6 +72,11 @@ bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers)
 {
     frmSelect dialog;
     return selectWith(dialog, &frmSelect::bDoSelect_LayArr, doc, layers);
+}
+
+bool selectSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol)
+{
+    return pickSymbol(doc, symbol, nullptr);
 }
 
 } // namespace QV_DOC_CONTROLS

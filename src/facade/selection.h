@@ -8,5 +8,7 @@ namespace QV_DOC_CONTROLS {
 bool selectLayer(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLay &lay, bool warnInvisible);
 /// Picks several layers; true = confirmed, `layers` are the chosen ones.
 bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers);
+/// Picks a symbol; true = confirmed, `symbol` is the chosen one.
+bool selectSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol);
 
 } // namespace QV_DOC_CONTROLS

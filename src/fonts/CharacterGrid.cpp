@@ -22,6 +22,7 @@ namespace {
 constexpr int kPerLine = CharacterModel::kPerLine;
 constexpr int kLeastZoom = -2, kMostZoom = 6;
 constexpr double kZoomStep = 1.25;
+constexpr int kUsualLines = 10;
 constexpr int kTipLetters = 8;                  // height of the large character, in lines of text
 
 QColor between(const QColor &a, const QColor &b)
@@ -51,7 +52,9 @@ struct CharacterDelegate final : QStyledItemDelegate {
         const QColor ink =
             chosen ? look.color(group, QPalette::HighlightedText) : look.color(QPalette::Text);
         if (isThere) source->draw(*painter, code, QRectF(cell).adjusted(1, 1, -1, -1), ink);
-        else sayCode(*painter, code, cell, chosen ? ink : look.color(QPalette::Disabled, QPalette::Text));
+        else
+            sayCode(*painter, code, cell,
+                    chosen ? ink : between(look.color(QPalette::Text), look.color(QPalette::Window)));
     }
 
 private:
@@ -120,6 +123,7 @@ void CharacterGrid::setOnlyPresent(bool on)
 {
     if (on == onlyPresent()) return;
     m_model.setOnlyPresent(on);
+    horizontalHeader()->setVisible(!on);        // the last digit of a code says nothing then
     refill();
 }
 
@@ -151,10 +155,23 @@ void CharacterGrid::zoom(int steps)
     prepareSeen();
 }
 
+int CharacterGrid::sideOf(int zoom) const
+{
+    return int(fontMetrics().height() * 2 * std::pow(kZoomStep, zoom));
+}
+
+QSize CharacterGrid::sizeHint() const
+{
+    const int side = sideOf(0);
+    const QSize around(verticalHeader()->width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+                       horizontalHeader()->sizeHint().height());
+    return QSize(kPerLine * side, kUsualLines * side) + around + QSize(2, 2) * (frameWidth() + 1);
+}
+
 /// As high as the zoom says; across they share the room, but are never narrower than they are high.
 void CharacterGrid::fitCells()
 {
-    const int side = int(fontMetrics().height() * 2 * std::pow(kZoomStep, m_zoom));
+    const int side = sideOf(m_zoom);
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(side);
     horizontalHeader()->setMinimumSectionSize(side);

@@ -23,6 +23,7 @@ public:
     void zoom(int steps);                       ///< up makes the cells larger, within bounds
     void retranslate();
 
+    QSize sizeHint() const override;            ///< lines of the usual size are seen whole
     void keyboardSearch(const QString &typed) override; ///< digits are handed on, a character is gone to
 
 signals:
@@ -38,6 +39,7 @@ protected:
     bool viewportEvent(QEvent *event) override; ///< the tool tip shows the character large
 
 private:
+    int sideOf(int zoom) const;
     void fitCells();
     void refill();
     void prepareSeen();

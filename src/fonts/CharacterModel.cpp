@@ -66,12 +66,11 @@ QVariant CharacterModel::data(const QModelIndex &index, int role) const
     return spoken(code);
 }
 
-/// Lines begin with the code of their first cell; columns have a meaning while no code is left out.
+/// Lines begin with the code of their first cell; columns are its last digit while no code is left out.
 QVariant CharacterModel::headerData(int section, Qt::Orientation turned, int role) const
 {
     if (role != Qt::DisplayRole) return {};
-    if (turned == Qt::Horizontal)
-        return m_onlyPresent ? QString() : QString::number(section, 16).toUpper();
+    if (turned == Qt::Horizontal) return QString::number(section, 16).toUpper();
     return codeText(codeAt(section * kPerLine));
 }
 

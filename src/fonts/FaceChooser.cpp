@@ -45,7 +45,7 @@ FaceChooser::FaceChooser(const char *form, QWidget *owner)
     all->addWidget(buttons());
     connect(txtSearch, &QLineEdit::textChanged, this, &FaceChooser::search);
     connect(lstFaces, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
-    connect(lstFaces, &QListWidget::currentRowChanged, this, [this] { faceChosen(); });
+    connect(lstFaces, &QListWidget::itemSelectionChanged, this, [this] { faceChosen(); });
 }
 
 bool FaceChooser::choose(const QStringList &faces, const QString &first)
@@ -58,16 +58,18 @@ bool FaceChooser::choose(const QStringList &faces, const QString &first)
         lstFaces->setCurrentRow(at);
     }
     faceChosen();
-    lstFaces->setFocus();
+    if (at < 0) txtSearch->setFocus();
+    else lstFaces->setFocus();
     const bool confirmed = run(&m_host);
     TearDown();
     return confirmed;
 }
 
+/// The selected one: a list that gets the focus has a current one all the same.
 QString FaceChooser::face() const
 {
-    const QListWidgetItem *const item = lstFaces->currentItem();
-    return item && !item->isHidden() ? item->text() : QString();
+    const QList<QListWidgetItem *> chosen = lstFaces->selectedItems();
+    return chosen.isEmpty() || chosen[0]->isHidden() ? QString() : chosen[0]->text();
 }
 
 void FaceChooser::faceChosen()
@@ -99,8 +101,11 @@ void FaceChooser::search(const QString &text)
         item.setHidden(!item.text().contains(text.trimmed(), Qt::CaseInsensitive));
         if (first < 0 && !item.isHidden()) first = row;
     }
-    if (face().isEmpty()) lstFaces->setCurrentRow(first);
-    if (QListWidgetItem *const now = lstFaces->currentItem()) lstFaces->scrollToItem(now);
+    if (face().isEmpty()) {
+        if (first < 0) lstFaces->clearSelection();
+        else lstFaces->setCurrentRow(first, QItemSelectionModel::ClearAndSelect);
+    }
+    if (!face().isEmpty()) lstFaces->scrollToItem(lstFaces->selectedItems()[0]);
     faceChosen();
 }
 

@@ -14,6 +14,7 @@ namespace QV_DOC_CONTROLS {
 /// A list of faces that is searched by typing, and letters of the chosen one. OK needs a chosen face.
 class FaceChooser : public ModalForm {
     Q_OBJECT
+    ErrorRelay m_host;                          ///< before those who run inside it
 public:
     void TearDown() override { sample->showLetters(nullptr); }
 
@@ -37,7 +38,6 @@ protected:
 
 private:
     void search(const QString &text);
-    ErrorRelay m_host;
     QVBoxLayout *m_column;
     QLabel *m_lblSearch;
     QString m_unknown;                          ///< what was asked for and is not there

@@ -33,7 +33,11 @@ constexpr Script kScripts[] = {
     {{22483, u"Kínai (egyszerűsített)"}, 134, System::SimplifiedChinese, u"简体汉字"},
     {{22484, u"Kínai (hagyományos)"}, 136, System::TraditionalChinese, u"繁體漢字"},
 };
-constexpr Script kMachinesOwn{{22485, u"Alapértelmezett"}, 1, System::Any, u""};
+/// Numbers that say nothing of a script: the machine's own sets. Not offered, but drawings hold them.
+constexpr Script kMachinesOwn[] = {
+    {{22485, u"Alapértelmezett"}, 1, System::Any, u""},
+    {{22486, u"OEM/DOS"}, kOemCharSet, System::Any, u""},
+};
 constexpr int kFewSymbols = 16;
 
 /// Names that the font configuration answers with a face of its choice: no face of a drawing that travels.
@@ -128,14 +132,14 @@ const std::vector<const Script *> &scriptsOf(const QString &face)
 const Script *scriptOf(qint32 charSet)
 {
     const auto at = std::ranges::find(kScripts, charSet, &Script::charSet);
-    if (at != std::end(kScripts)) return at;
-    return charSet == kMachinesOwn.charSet ? &kMachinesOwn : nullptr;
+    return at == std::end(kScripts) ? nullptr : at;
 }
 
 QString scriptNameOf(qint32 charSet)
 {
-    const Script *const script = scriptOf(charSet);
-    return script ? txt(script->name) : QString::number(charSet);
+    if (const Script *const script = scriptOf(charSet)) return txt(script->name);
+    const auto at = std::ranges::find(kMachinesOwn, charSet, &Script::charSet);
+    return at == std::end(kMachinesOwn) ? QString::number(charSet) : txt(at->name);
 }
 
 QFont plainFont(const QString &face)

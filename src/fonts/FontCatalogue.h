@@ -24,7 +24,8 @@ int indexOfFace(const QStringList &faces, const QString &face);         ///< in 
 
 /// The scripts that the face really has letters for; at least one. Reads the font's file when first asked.
 const std::vector<const Script *> &scriptsOf(const QString &face);
-/// The script that a drawing means by the number, whether or not there are faces for it; null = unknown.
+/// The script that a drawing means by the number, whether or not there are faces for it; null = it means
+/// none, or the machine's own.
 const Script *scriptOf(qint32 charSet);
 QString scriptNameOf(qint32 charSet);           ///< the number itself when it is unknown
 

@@ -15,7 +15,7 @@ FontSample::FontSample(ErrorRelay &host, QWidget *parent) : QFrame(parent), m_ho
     setAutoFillBackground(true);
 }
 
-QSize FontSample::sizeHint() const { return sizeOfLetters(*this, 40, 5); }
+QSize FontSample::sizeHint() const { return sizeOfLetters(*this, 54, 5); }
 
 void FontSample::showLetters(std::shared_ptr<CharacterSource> source)
 {

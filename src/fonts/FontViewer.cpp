@@ -73,17 +73,17 @@ void FontViewer::build()
     left->addLayout(shown);
     left->addWidget(grdCharacters, 1);
     left->addLayout(code);
-    sample->setMinimumSize(sizeOfLetters(*this, 24, 12));
+    sample->setFixedWidth(sizeOfLetters(*this, 26, 0).width()); // what is more goes to the cells
+    sample->setMinimumHeight(sizeOfLetters(*this, 0, 12).height());
     auto *const right = new QVBoxLayout;
     right->addWidget(sample, 1);
     right->addStretch(1);
     auto *const both = new QHBoxLayout;
-    both->addLayout(left, 3);
-    both->addLayout(right, 1);
+    both->addLayout(left, 1);
+    both->addLayout(right);
     auto *const all = new QVBoxLayout(this);
     all->addLayout(both, 1);
     all->addWidget(buttons());
-    grdCharacters->setMinimumHeight(sizeOfLetters(*this, 0, 20).height());
 }
 
 void FontViewer::buildZoom()
@@ -103,6 +103,8 @@ void FontViewer::buildZoom()
         row.button->setFocusPolicy(Qt::TabFocus);
         connect(action, &QAction::triggered, this, [this, row] { grdCharacters->zoom(row.steps); });
     }
+    setTabOrder(chkPresent, cmdZoomOut);
+    setTabOrder(cmdZoomOut, cmdZoomIn);
 }
 
 void FontViewer::connectParts()

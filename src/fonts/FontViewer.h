@@ -18,6 +18,7 @@ class CharacterGrid;
 /// differ in where the faces come from, and in that vector fonts have no scripts.
 class FontViewer final : public ModalForm {
     Q_OBJECT
+    ErrorRelay m_host;                          ///< before those who run inside it
 public:
     FontViewer(FontKind kind, const ZolWDoc::ZOLW_Doc *doc, QWidget *owner = nullptr);
     ~FontViewer() override { TearDown(); }
@@ -47,7 +48,6 @@ private:
     void readCaptions() override;
     QString face() const { return m_faces.value(m_face); }
 
-    ErrorRelay m_host;
     FontKind m_kind;
     const ZolWDoc::ZOLW_Doc *m_doc;
     QStringList m_faces;

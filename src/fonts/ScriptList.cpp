@@ -13,6 +13,7 @@ bool fillScripts(QComboBox &list, const QString &face, qint32 wanted)
     list.clear();
     if (!face.isEmpty())
         for (const Script *script : scriptsOf(face)) list.addItem(txt(script->name), script->charSet);
+    if (list.count() > 0 && !scriptOf(wanted)) list.addItem(scriptNameOf(wanted), wanted);
     const int at = list.findData(wanted);
     list.setCurrentIndex(std::max(0, at));
     list.setEnabled(list.count() > 0);

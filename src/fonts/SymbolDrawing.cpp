@@ -1,8 +1,8 @@
 #include "fonts/SymbolDrawing.h"
 
-#include "facade/services/Services.h"
 #include "fonts/GlyphPainter.h"
 #include "fonts/TrueTypeGlyph.h"
+#include "fonts/VectorFonts.h"
 #include "kit/forms/Contrast.h"
 
 #include <QPainter>
@@ -57,7 +57,7 @@ void SymbolDrawing::paint(QPainter &painter, QSize surface) const
     }
     if (frame) {
         const OnPixels lines(painter);
-        painter.setPen(QPen(blackOrWhiteOn(background), 1));
+        painter.setPen(QPen(blackOrWhiteOn(background), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(0, 0, surface.width() - 1, surface.height() - 1);
     }
     painter.restore();
@@ -118,7 +118,8 @@ void SymbolDrawing::paintMarker(QPainter &painter, QSize surface) const
 {
     const OnPixels lines(painter);
     const QPointF middle = middlePixel(surface);
-    painter.setPen(QPen(QColor(255, 0, 0), 1));
+    const double pen = record->ProtType == kRectangle ? 1 : 1.5; // a curve of one pixel would fade
+    painter.setPen(QPen(QColor(255, 0, 0), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     const double x = record->ProtXmm * scale(), y = record->ProtYmm * scale();
     switch (record->ProtType) {
     case kCircle: return painter.drawEllipse(middle, rounded(x), rounded(x));
@@ -136,8 +137,7 @@ void SymbolDrawing::paintMarker(QPainter &painter, QSize surface) const
 ZolWDoc::Glyph vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc)
 {
     if (symbol.Type != kVector) return {};
-    const ZolWDoc::VectorFontProvider *const fonts = vectorFonts(doc);
-    const ZolWDoc::VectorFont *const font = fonts ? fonts->find(symbol.Facename) : nullptr;
+    const ZolWDoc::VectorFont *const font = vectorFont(doc, symbol.Facename);
     return font ? font->glyph(symbol.Code) : ZolWDoc::Glyph();
 }
 

@@ -11,8 +11,9 @@ namespace {
 
 constexpr char16_t kSample[] = u"AaBb12";
 constexpr int kSampleSigns = 6;                 // of a font without these letters
-constexpr double kHeightInCell = 0.46, kBaseLine = 0.7;     // in heights of the cell
+constexpr double kHeightInCell = 0.5, kBaseLine = 0.7;     // in heights of the cell
 constexpr double kPen = 0.07;                   // in letter heights
+constexpr double kLeastPen = 1.3;               // what is seen well, in units of the painter
 constexpr double kLeast = 0.2;                  // distance to the next one, in letter heights
 
 class VectorCharacters final : public CharacterSource {
@@ -52,9 +53,10 @@ void VectorCharacters::draw(QPainter &painter, int code, const QRectF &cell, con
     const auto glyph = m_glyphs.constFind(quint16(code));
     if (glyph == m_glyphs.constEnd()) return;
     const double height = cell.height() * kHeightInCell;
-    const QRectF shape = boundsOf(*glyph, {.height = height, .penWidth = height * kPen});
+    const double pen = std::max(kLeastPen, height * kPen);
+    const QRectF shape = boundsOf(*glyph, {.height = height, .penWidth = pen});
     const CellPlace place = placeInCell(shape, cell.top() + cell.height() * kBaseLine, cell);
-    drawGlyph(painter, *glyph, {place.origin, height * place.scale, height * kPen, color});
+    drawGlyph(painter, *glyph, {place.origin, height * place.scale, pen, color});
 }
 
 std::vector<quint16> VectorCharacters::sampleCodes() const

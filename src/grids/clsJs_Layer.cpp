@@ -4,7 +4,16 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-clsJs_Layer::clsJs_Layer() : GroupedManager("clsJs_Layer") { groupRows().setDrags(groupDrags()); }
+clsJs_Layer::clsJs_Layer() : GroupedManager("clsJs_Layer")
+{
+    groupRows().setDrags(groupDrags());
+    groupRows().setRenaming([this](qint16 group, const QString &name) {
+        bool renamed = false;
+        guarded([&] { renamed = m_groups.renameInPlace(group, name); });
+        return renamed;
+    });
+    groupRows().setRemoval([this] { deleteGroup(); });
+}
 clsJs_Layer::~clsJs_Layer() { TearDown(); }
 
 void clsJs_Layer::TearDown()
@@ -14,10 +23,10 @@ void clsJs_Layer::TearDown()
     GroupedManager::TearDown();
 }
 
-void clsJs_Layer::readBeside()
+void clsJs_Layer::readBeside(ZOLW_Doc &doc, tLayArr &all)
 {
-    GroupedManager::readBeside();
-    if (groupGrid()) m_readMembers = document()->layers().members();
+    GroupedManager::readBeside(doc, all);
+    if (groupGrid()) m_readMembers = doc.layers().members();
 }
 
 void clsJs_Layer::showBeside()
@@ -112,6 +121,15 @@ bool clsJs_Layer::edit(int row, int column, const QVariant &value)
     const bool stored = GroupedManager::edit(row, column, value);
     if (stored && rowId(row) == m_current) emit currentLayerMoved();
     return stored;
+}
+
+/// The new layer is current and seen; it may be invisible in the drawing as its model is.
+void clsJs_Layer::addLayer()
+{
+    const auto id = m_edits.addNew(m_current);
+    if (!id || selectById(*id) || !m_onlyVisible) return;
+    setbShowVisibleItems(false);
+    selectById(*id);
 }
 
 void clsJs_Layer::setbShowVisibleItems(bool on)

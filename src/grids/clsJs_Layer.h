@@ -38,7 +38,7 @@ public:
     ZolWDoc::tLayArr selectedLayers() const { return selected(); } ///< in grid order
 
     // --- commands, for the table kLayerCommands; an error goes to the relay
-    void newLayer() { command([this] { m_edits.addNew(); }); }
+    void newLayer() { command([this] { addLayer(); }); }
     void copyLayers() { command([this] { m_edits.copy(); }); }
     void renumberLayers() { command([this] { m_edits.renumber(); }); }
     void deleteLayers() { command([this] { m_edits.remove(false); }); }
@@ -92,6 +92,7 @@ signals:
     void GridView(qint16 &js_View);
 
 private:
+    void addLayer();
     void raiseView(qint16 view) override { emit GridView(view); }
     void raiseGrouped(bool grouped) override { emit GroupChanged(grouped); }
     void raiseCurrent(ZolWDoc::tLay lay) override { emit CurrentChanced(lay); }
@@ -100,7 +101,7 @@ private:
     RowStyles styles(int row) const override;
     bool edit(int row, int column, const QVariant &value) override;
     bool removeRows(std::span<const int> rows) override;
-    void readBeside() override;
+    void readBeside(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &all) override;
     void showBeside() override;
     void groupChosen() override;
     QMimeData *dragData(std::span<const int> rows) const override;

@@ -1,20 +1,14 @@
 #pragma once
 
-#include "facade/contract/Records.h"
+#include "rules/GroupNames.h"
 
 #include <optional>
-#include <span>
 
 namespace QV_DOC_CONTROLS {
 
 /// The group that the host made and owns, wherever the document was made: the first one with the system
 /// group's name in any language. Empty = there is none.
 std::optional<qint16> systemGroupIn(std::span<const ZolWDoc::tGroup> groups);
-
-/// Whether a group beside `except` has the name, or the pseudo-group of all layers has it.
-bool isGroupNameTaken(const QString &name, qint16 except, std::span<const ZolWDoc::tGroup> groups);
-/// `wanted`, or with "_2", "_3" ... behind it.
-QString freeGroupName(const QString &wanted, std::span<const ZolWDoc::tGroup> groups);
 
 /// True when every layer of the group is in another group too, so that none is left without one.
 bool canDeleteGroup(qint16 group, std::span<const ZolWDoc::tLayMember> members);

@@ -102,15 +102,21 @@ ShorterNames withoutPrefixes(std::span<const tLay> layers, bool onlyNumbers, Tak
     return out;
 }
 
-tLayArr withVisibilityOf(std::span<const tLay> saved, tLayArr all, LayerMatch match)
+MatchedLayers withVisibilityOf(std::span<const tLay> saved, tLayArr all, LayerMatch match)
 {
     QHash<QString, bool> visible;
     const auto key = [match](const tLay &l) {
         return match == LayerMatch::ByName ? l.Name : QString::number(l.gNr);
     };
     for (const tLay &l : saved) visible.insert(key(l), l.Visible);
-    for (tLay &l : all) l.Visible = visible.value(key(l), l.Visible);
-    return all;
+    MatchedLayers out{std::move(all)};
+    for (tLay &l : out.layers) {
+        const auto found = visible.constFind(key(l));
+        if (found == visible.constEnd()) continue;
+        l.Visible = *found;
+        ++out.found;
+    }
+    return out;
 }
 
 } // namespace QV_DOC_CONTROLS

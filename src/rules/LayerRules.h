@@ -57,9 +57,13 @@ struct ShorterNames {
 ShorterNames withoutPrefixes(std::span<const ZolWDoc::tLay> layers, bool onlyNumbers, TakenLayers taken);
 
 enum class LayerMatch { ByNumber, ByName };
+struct MatchedLayers {
+    ZolWDoc::tLayArr layers;
+    int found = 0;                  ///< layers with a saved one
+};
 /// `all` with the visibility of the saved layers of the same number or name; saved layers without a match
 /// play no part.
-ZolWDoc::tLayArr withVisibilityOf(std::span<const ZolWDoc::tLay> saved, ZolWDoc::tLayArr all,
-                                  LayerMatch match);
+MatchedLayers withVisibilityOf(std::span<const ZolWDoc::tLay> saved, ZolWDoc::tLayArr all,
+                               LayerMatch match);
 
 } // namespace QV_DOC_CONTROLS

@@ -46,6 +46,23 @@ struct Control {
 
 const QVariant kFont = QFont(QStringLiteral("DejaVu Serif"), 17);
 
+Values previewValues(Values own)
+{
+    const Values shared{{"BackColor", QColor::fromRgba(0x80000005)},
+                        {"BorderStyle", 1},
+                        {"Zoom", 12.5},
+                        {"SidId", 32000},
+                        {"SiColor", QColor(0x11, 0x22, 0x33)},
+                        {"VisibleGrid", true},
+                        {"VisibleZoom", false},
+                        {"Appearance", 1},
+                        {"VisibleProt", true},
+                        {"VisibleFrame", true},
+                        {"ToolTipSid", QStringLiteral("ő & <=>")}};
+    own.insert(own.end(), shared.begin(), shared.end());
+    return own;
+}
+
 const std::vector<Control> &controls()
 {
     static const Values layerSet{{"Backcolor", QColor(0x11, 0x22, 0x33)},
@@ -84,6 +101,9 @@ const std::vector<Control> &controls()
         {"ZOL3_LayGroup", layerSet, kept},
         {"usLays", layerSet, kept},
         {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
+        {"usSiInfo", previewValues({{"ShowEnabled", false}})},
+        {"ZOL3_SiInfo", previewValues({})},
+        {"usTxAlign", {{"Align", 8}}},
     };
     return all;
 }

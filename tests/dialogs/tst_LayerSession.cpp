@@ -82,7 +82,7 @@ struct Session {
     }
     void addNew()
     {
-        model.addNew(1);
+        model.addNew(0); // like the current layer, wherever the user stands
         select({1});
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
@@ -100,6 +100,22 @@ struct Session {
         model.renumber(rows, 20000, -10);
         user.answers << QStringLiteral("20000\t-10\r");
         user.press(Qt::Key_R, Qt::ControlModifier);
+    }
+    /// With the keyboard only, right after a command.
+    void editOn()
+    {
+        model.rows[last()].nr = 21000;
+        user.type(QStringLiteral("21000"));
+    }
+    /// What is still being typed when a command comes is written first.
+    void hideWhileTyping()
+    {
+        user.click(user.lineOf(model.rows[2].nr), 1);
+        model.rows[2].name = QStringLiteral("Félkész");
+        model.rows[2].visible = false;
+        user.press(Qt::Key_F2);
+        user.keys(model.rows[2].name);
+        user.menu("cmdLays_SetVisibleOff");
     }
     void rename()
     {
@@ -173,7 +189,7 @@ struct Session {
     {
         select({1});
         model.firstGroups.insert(QStringLiteral("Új_csoport"));
-        model.addNew(1);
+        model.addNew(0);
         user.press(Qt::Key_N, Qt::ControlModifier);
     }
     void renameGroup()
@@ -246,6 +262,8 @@ constexpr std::pair<const char *, Act> kActs[] = {
     {"new", &Session::addNew},
     {"copy", &Session::copy},
     {"renumber", &Session::renumber},
+    {"number in its cell", &Session::editOn},
+    {"off while typing", &Session::hideWhileTyping},
     {"rename", &Session::rename},
     {"rename, taken", &Session::renameTaken},
     {"number", &Session::number},

@@ -107,7 +107,7 @@ private slots:
     {
         using ZolWDoc::TableKind;
         ResourcePicker *const picker = resourcePicker();
-        QVERIFY(picker && picker->canPick(TableKind::Layers) && !picker->canPick(TableKind::TextTypes));
+        QVERIFY(picker && picker->canPick(TableKind::Symbols) && !picker->canPick(TableKind::TextTypes));
         const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
                                           {.gNr = 2, .Name = QStringLiteral("B")}});
         const qint16 second = doc->layers().findByNumber(2)->LayId;

@@ -244,7 +244,7 @@ private slots:
             QCOMPARE(currentLine(d), QStringLiteral("Aktuális réteg: 21 Ház"));
             ScriptedPrompts user({{"yesNo", QStringLiteral("Érintett pontok törlése"),
                                    QStringLiteral("Kéred a keletkezett önálló pontok törlését is?"), true,
-                                   Icon::Question}});
+                                   Icon::Exclamation}});
             tool(d, "miRemove").trigger();
             const auto current = d.jsLayer->currentLayerAsRead();
             QVERIFY(current && current->gNr != 21);

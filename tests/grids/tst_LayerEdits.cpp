@@ -45,7 +45,7 @@ Step notEmpty(const char *name, const QVariant &answer)
 Step orphans(bool go)
 {
     return {"yesNo", QStringLiteral("Érintett pontok törlése"),
-            QStringLiteral("Kéred a keletkezett önálló pontok törlését is?"), go, Icon::Question};
+            QStringLiteral("Kéred a keletkezett önálló pontok törlését is?"), go, Icon::Exclamation};
 }
 Step lastOne() { return told("Réteg törlés", "Az utolsó réteget nem lehet törölni!"); }
 Step prefixAsked(const QVariant &answer)

@@ -270,14 +270,22 @@ private slots:
         m_doc->layers().writeAll(all);
         tests::LayerForm form(*m_doc);
         form.select({2, 33});
-        const auto load = [&](const QVariant &match) {
-            ScriptedPrompts user({loadAsked(path), matchAsked(match)});
+        const auto load = [&](const QVariant &match, std::vector<Step> told = {}) {
+            std::vector<Step> steps{loadAsked(path), matchAsked(match)};
+            steps.insert(steps.end(), told.begin(), told.end());
+            ScriptedPrompts user(steps);
             form.run("cmdLays_VisibleUseFile");
             return visible();
         };
         QCOMPARE(load({}), QStringLiteral("Erdő Árok")); // cancelled
         setLayerFileCodePage(QStringLiteral("windows-1251"));
-        QCOMPARE(load(1), QStringLiteral("Erdő Árok"));  // no name reads right, nothing matches
+        const Step none{"tell",
+                        kLoad,
+                        QStringLiteral(
+                            "A fájl egyik rétege sem található a rajzban, ezért semmi nem változott."),
+                        {},
+                        Icon::Information};
+        QCOMPARE(load(1, {none}), QStringLiteral("Erdő Árok")); // no name reads right
         QCOMPARE(load(0), QStringLiteral("Út Árok"));    // the third number is another one
         setLayerFileCodePage(QStringLiteral("windows-1250"));
         all[1].Visible = true;

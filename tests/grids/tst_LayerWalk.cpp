@@ -2,8 +2,8 @@
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
 #include "support/LayerModel.h"
+#include "support/NotingPrompts.h"
 #include "support/Registry.h"
-#include "support/WillingPrompts.h"
 
 #include <QRandomGenerator>
 
@@ -13,11 +13,8 @@ using Model = tests::LayerModel;
 
 namespace {
 
-/// What is told goes into a list.
-struct NotingPrompts final : tests::WillingPrompts {
-    QStringList told;
+struct Prompted final : tests::NotingPrompts {
     bool onlyNumbers = false;
-    void tell(const Message &m, QObject *) override { told << m.text; }
     std::optional<bool> yesNoCancel(const Message &, QObject *) override { return onlyNumbers; }
 };
 
@@ -81,7 +78,7 @@ private:
     Model m_model;
     Model::Places m_chosen;
     tests::LayerForm form{*m_doc};
-    NotingPrompts user;
+    Prompted user;
 };
 
 } // namespace

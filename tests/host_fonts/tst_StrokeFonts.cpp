@@ -87,7 +87,7 @@ private slots:
         row(u"ị", u'i', 2, -4, -2);             // with the dot, which stays
         row(u"ș", u's', 1, -6, -2);             // apart from the letter
         row(u"ţ", u't', 2, -5, 1);              // hanging on it
-        row(u"ế", u'e', 1, 16, 25);             // one over the other
+        row(u"ế", u'e', 1, 16, 26);             // one over the other
         row(u"ặ", u'a', 2, -4, 20);             // above and below
         row(u"ơ", u'o', 1, 12, 17);             // at the shoulder
         row(u"đ", u'd', 2, 17, 17);             // across the stem

@@ -2,12 +2,18 @@
 
 #include "controls/ZOL3_LayGroup.h"
 #include "controls/ZOL3_LayInfo.h"
+#include "controls/ZOL3_SiInfo.h"
 #include "controls/usInputBox.h"
 #include "controls/usLays.h"
+#include "controls/usSiInfo.h"
+#include "controls/usTxAlign.h"
+#include "support/StrokeFont.h"
 #include "facade/services/InterfaceLocale.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -83,6 +89,70 @@ void addNumbers(QDialog &form)
     shown.setInfoMode(true);
 }
 
+struct Preview {
+    SymbolPreview *control;
+    ZolWDoc::tSid symbol;
+};
+
+void addPreviews(QGridLayout &grid, ZolWDoc::ZOLW_Doc &doc)
+{
+    const ZolWDoc::tSid letter{.Code = 0xd5, .FullName = QStringLiteral("Ő"), .Align = 30, .Size_mm = 6,
+                               .YwFact = 1, .Facename = QStringLiteral("DejaVu Sans"), .CharSet = 238,
+                               .ProtXmm = 4, .ProtYmm = 0.5, .ProtType = 1};
+    ZolWDoc::tSid strokes = letter, box = letter;
+    strokes.Type = 1, strokes.Code = 'N', strokes.Facename = QStringLiteral("Strokes"), strokes.Weight = 60;
+    strokes.ProtType = 3;
+    box.ProtType = 2, box.Align = 0;
+    auto *const dimmed = new usSiInfo;
+    dimmed->setShowEnabled(false);
+    auto *const desktop = new ZOL3_SiInfo;
+    desktop->setBackColor(propertyColor(kWindowBackground));
+    desktop->setSiColor(propertyColor(kWindowText));
+    desktop->setVisibleFrame(true);
+    const Preview all[] = {
+        {new usSiInfo, letter}, {new ZOL3_SiInfo, strokes}, {desktop, box}, {dimmed, letter}};
+    int place = 0;
+    for (const auto &[control, symbol] : all) {
+        control->setBorderStyle(1);
+        control->setAppearance(place % 2);
+        control->setVisibleGrid(place < 2);
+        control->setVisibleProt(true);
+        control->SetDoc(&doc);
+        control->LetSidRec(symbol);
+        grid.addWidget(control, place / 2, place % 2);
+        ++place;
+    }
+}
+
+void takePreviews(ZolWDoc::ZOLW_Doc &doc, tests::Sheet &sheet)
+{
+    const tests::StrokeFontHost fonts;
+    QDialog form;
+    auto *const grid = new QGridLayout(&form);
+    addPreviews(*grid, doc);
+    form.resize(sheet.pictures.front().deviceIndependentSize().toSize());
+    form.show();
+    sheet.take(form);
+}
+
+void takeAlignments(tests::Sheet &sheet)
+{
+    QDialog form;
+    auto *const grid = new QGridLayout(&form);
+    constexpr int numbers[] = {24, 2, 14, 255}; // the last is none
+    for (int i = 0; i < 4; ++i) {
+        auto *const picker = new usTxAlign(&form);
+        picker->setAlign(numbers[i]);
+        picker->setEnabled(i != 1);
+        grid->addWidget(picker, i / 2, i % 2);
+        if (i == 0) picker->setFocus();
+    }
+    form.resize(sheet.pictures.front().deviceIndependentSize().toSize());
+    form.show();
+    QApplication::setActiveWindow(&form);
+    sheet.take(form);
+}
+
 } // namespace
 
 void tests::takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
@@ -95,4 +165,6 @@ void tests::takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
     form.resize(460, form.sizeHint().height());
     form.show();
     sheet.take(form);
+    takePreviews(doc, sheet);
+    takeAlignments(sheet);
 }

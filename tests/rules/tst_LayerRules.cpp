@@ -151,8 +151,8 @@ private slots:
                 if (!l.Visible) out += l.Name;
             return out;
         };
-        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByNumber)), QStringLiteral("AB"));
-        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByName)), QStringLiteral("B"));
+        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByNumber).layers), QStringLiteral("AB"));
+        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByName).layers), QStringLiteral("B"));
     }
 };
 

@@ -29,11 +29,19 @@ public:
         LayerModel now;
         std::map<int, size_t> place;
         QSqlQuery q = ask("SELECT id, nr, name, visible, lines_by_layer, texts_by_layer, "
-                          "(SELECT count(*) FROM elements e WHERE e.layer=l.id) FROM layers l ORDER BY id");
+                          "(SELECT count(*) FROM elements e WHERE e.layer=l.id), "
+                          "line_type||' '||screen_color||' '||print_color||' '||pen||' '||text_type "
+                          "FROM layers l ORDER BY id");
         while (q.next()) {
             place[q.value(0).toInt()] = now.rows.size();
-            now.rows.push_back({q.value(1).toInt(), q.value(2).toString(), q.value(3).toBool(),
-                                q.value(4).toBool(), q.value(5).toBool(), {}, q.value(6).toInt()});
+            now.rows.push_back({q.value(1).toInt(),
+                                q.value(2).toString(),
+                                q.value(3).toBool(),
+                                q.value(4).toBool(),
+                                q.value(5).toBool(),
+                                {},
+                                q.value(6).toInt(),
+                                q.value(7).toString()});
         }
         q = ask("SELECT m.layer, g.name FROM layer_members m JOIN layer_groups g ON g.id=m.group_id");
         while (q.next()) now.rows[place.at(q.value(0).toInt())].groups.insert(q.value(1).toString());

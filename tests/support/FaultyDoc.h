@@ -18,6 +18,7 @@ struct HostError : std::runtime_error {
 /// Counts and fails the calls of a document.
 struct CallLog {
     QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
+    int bulkUpdates = 0;            ///< of layers, each with its single updates
     int failAt = -1;                ///< the call with this index throws HostError
     QString failNext;               ///< the next call of this name throws HostError
     std::function<void(const QString &)> meanwhile; ///< happens during every call
@@ -49,6 +50,11 @@ struct FaultyLayers final : ZolWDoc::LayerRole {
     qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
     void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
     int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
+    void updateAll(std::span<const Rec> all, int &written) override
+    {
+        ++log.bulkUpdates;                      ///< row by row below, so that each can fail
+        LayerRole::updateAll(all, written);
+    }
     std::optional<Rec> findByNumber(qint16 n) const override
     {
         return log.on("layers.findByNumber"), real.findByNumber(n);
@@ -109,6 +115,32 @@ struct FaultyTextTypes final : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd>
 struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> {
     using FaultyTable::FaultyTable;
 };
+struct FaultyGroups final : ZolWDoc::GroupRole {
+    FaultyGroups(ZolWDoc::GroupRole &of, CallLog &to) : real(of), log(to) {}
+    ZolWDoc::GroupRole &real;
+    CallLog &log;
+    qint16 hidden = -1;             ///< a group that its records name and the table does not list
+    std::vector<ZolWDoc::tGroup> readAll() const override
+    {
+        log.on("groups.readAll");
+        auto all = real.readAll();
+        std::erase_if(all, [this](const ZolWDoc::tGroup &g) { return g.GroupId == hidden; });
+        return all;
+    }
+    qint16 add(const QString &name) override { return log.on("groups.add"), real.add(name); }
+    void rename(qint16 id, const QString &name) override { log.on("groups.rename"), real.rename(id, name); }
+    bool remove(qint16 id) override { return log.on("groups.remove"), real.remove(id); }
+};
+struct FaultySymbols final : FaultyTable<ZolWDoc::SymbolRole, ZolWDoc::tSid>, ZolWDoc::SymbolRenumberRole {
+    FaultySymbols(ZolWDoc::ZOLW_Doc &of, CallLog &to)
+        : FaultyTable(of.symbols(), to, "symbols"), renumberer(of.symbolRenumber()),
+          ownGroups(of.symbols().groups(), to)
+    {}
+    ZolWDoc::SymbolRenumberRole *renumberer;
+    FaultyGroups ownGroups;
+    ZolWDoc::GroupRole &groups() override { return ownGroups; }
+    void renumber(qint16 from, qint16 to) override { on("renumber"), renumberer->renumber(from, to); }
+};
 struct FaultyPens final : ZolWDoc::PenColorRole {
     FaultyPens(ZolWDoc::PenColorRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::PenColorRole &real;
@@ -152,7 +184,11 @@ public:
     ZolWDoc::TextTypeRole &textTypes() override { return m_textTypes; }
     ZolWDoc::LineTypeRole &lineTypes() override { return m_lineTypes; }
     ZolWDoc::PenColorRole &penColors() override { return m_pens; }
-    ZolWDoc::SymbolRole &symbols() override { return m_real.symbols(); }
+    FaultySymbols &symbols() override { return m_symbols; }
+    ZolWDoc::SymbolRenumberRole *symbolRenumber() override
+    {
+        return m_symbols.renumberer ? &m_symbols : nullptr;
+    }
     ZolWDoc::SymbolizationRole &lineSymbolizations() override { return m_real.lineSymbolizations(); }
     ZolWDoc::PointRole &points() override { return m_real.points(); }
     ZolWDoc::KhRole &khItems() override { return m_real.khItems(); }
@@ -166,6 +202,7 @@ private:
     FaultyLayers m_layers{m_real.layers(), log};
     FaultyTextTypes m_textTypes{m_real.textTypes(), log, "textTypes"};
     FaultyLineTypes m_lineTypes{m_real.lineTypes(), log, "lineTypes"};
+    FaultySymbols m_symbols{m_real, log};
     FaultyPens m_pens{m_real.penColors(), log};
     FaultyExtras m_extras{m_real, log};
     FaultyScopes m_scopes{m_real.commandScopes(), log};

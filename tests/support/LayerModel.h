@@ -16,12 +16,13 @@ struct LayerModel {
         bool visible = true, lines = false, texts = false;
         std::set<QString> groups{};
         int elements = 0;                       ///< that stand on it
+        QString values{};                       ///< all others, as the file has them
         QString line() const
         {
             const QStringList in(groups.begin(), groups.end());
-            return QStringLiteral("%1 %2 %3%4%5 %6 [%7]")
+            return QStringLiteral("%1 %2 %3%4%5 %6 [%7] %8")
                 .arg(nr).arg(name).arg(int(visible)).arg(int(lines)).arg(int(texts)).arg(elements)
-                .arg(in.join(u','));
+                .arg(in.join(u','), values);
         }
     };
     using Places = std::vector<size_t>;

@@ -51,8 +51,9 @@ public:
     {
         m_dialog.activateWindow();              // as the desktop does when a box has closed
         QTRY_VERIFY(m_dialog.isActiveWindow());
-        QTest::keyClick(m_grid.table(), key, held);
+        QTest::keyClick(m_dialog.focusWidget() ? m_dialog.focusWidget() : &m_dialog, key, held);
     }
+    void keys(const QString &text) { tests::type(m_dialog, text); }
     /// Into the current cell.
     void type(const QString &text)
     {

@@ -133,6 +133,8 @@ bool InputCombo::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(m_enteredByMouse, false)
         && !lineEdit()->hasSelectedText())
         emit entered();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+        arrangeLine(); // the base class lays it out anew after many an event
     return QComboBox::eventFilter(watched, event);
 }
 

@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -62,7 +63,7 @@ ToolSet::Tables tablesOf(const KindTools &kind, GridPage::In dialog)
 GridPage::GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidget *parent)
     : QWidget(parent), imgSplitter(new QSplitter(Qt::Horizontal, this)), gridGroups(new Grid(imgSplitter)),
       gridItems(new Grid(imgSplitter)), ab1(new ToolSet(tablesOf(kind.tools, dialog), relay, this)),
-      m_kind(kind), m_relay(relay), m_view(*gridItems, this)
+      m_kind(kind), m_relay(relay), m_view(*gridItems, this), m_row(new QHBoxLayout)
 {
     imgSplitter->setObjectName(QStringLiteral("imgSplitter"));
     gridGroups->setObjectName(QStringLiteral("gridGroups"));
@@ -78,7 +79,8 @@ GridPage::GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidg
         column->addWidget(bar);
     }
     column->addWidget(ab1->toolBar("mnuBar", {21801, u"Eszköztár"}));
-    column->addWidget(imgSplitter, 1);
+    column->addLayout(m_row, 1);
+    m_row->addWidget(imgSplitter, 1);
     setFocusProxy(gridItems);
     arrange(dialog);
     connectTools();
@@ -94,6 +96,12 @@ void GridPage::TearDown()
     m_manager->TearDown();
     m_manager.reset();
     ab1->refresh();
+}
+
+void GridPage::addBeside(QWidget *side)
+{
+    m_row->addWidget(side);
+    if (testAttribute(Qt::WA_Resized)) setPaneWidth(m_paneTwips);
 }
 
 void GridPage::connectTools()
@@ -213,7 +221,9 @@ void GridPage::setPaneWidth(int twips)
 {
     m_paneTwips = twips;
     const int pane = pixelsOf(twips, *this);
-    imgSplitter->setSizes({pane, std::max(width() - pane, 1)});
+    int rest = width() - pane;
+    for (int i = 1; i < m_row->count(); ++i) rest -= m_row->itemAt(i)->sizeHint().width() + m_row->spacing();
+    imgSplitter->setSizes({pane, std::max(rest, 1)});
 }
 
 void GridPage::resizeEvent(QResizeEvent *event)

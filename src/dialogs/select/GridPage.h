@@ -8,6 +8,8 @@
 
 #include <QSplitter>
 
+class QHBoxLayout;
+
 namespace QV_DOC_CONTROLS {
 
 /// One table as the user works with it: its tools, its grid, the group list left of it, and the manager that
@@ -21,19 +23,31 @@ public:
     GridPage(const ResourceKind &kind, In dialog, ErrorRelay &relay, QWidget *parent);
     ~GridPage() override;
 
-    /// Makes the manager of the page and hands it the tools of its table. To be followed by its init() and
-    /// by follow().
-    template <class Manager>
-    Manager &open(std::span<const std::type_identity_t<ToolCommand<Manager>>> commands)
+    /// The published handlers that a dialog has for the events of a table's manager.
+    template <class Form, class Manager> struct Handlers {
+        void (Form::*current)(typename Manager::Record &);
+        void (Form::*grouped)(bool &);
+        void (Form::*view)(qint16 &);
+    };
+    /// Makes the manager of the page, hands it the tools of its table and its events to the form. To be
+    /// followed by its init() and by follow().
+    template <class Manager, class Form>
+    Manager &open(std::span<const std::type_identity_t<ToolCommand<Manager>>> commands, Form &form,
+                  const std::type_identity_t<Handlers<Form, Manager>> &handlers)
     {
         TearDown();
         auto manager = std::make_unique<Manager>();
-        manager->setRelay(m_relay);
         Manager &made = *manager;
         m_manager = std::move(manager);
+        made.setRelay(m_relay);
+        made.setAllowEdit(true);
         ab1->connectTools(made, commands);
+        connect(&made, &Manager::CurrentChanced, &form, handlers.current);
+        connect(&made, &Manager::GroupChanged, &form, handlers.grouped);
+        connect(&made, &Manager::GridView, &form, handlers.view);
         return made;
     }
+    void addBeside(QWidget *side);              ///< right of the grid; the page's from then on
     void follow();                              ///< once the manager has its grids: the tools follow them
     GridManager *manager() const { return m_manager.get(); } ///< null before open() and after TearDown()
     void TearDown();                            ///< tears the manager down and drops it
@@ -60,6 +74,7 @@ private:
     const ResourceKind &m_kind;                 ///< a row of the table of kinds
     ErrorRelay &m_relay;
     ViewCommands m_view;
+    QHBoxLayout *m_row;                         ///< the splitter, and what stands beside it
     std::unique_ptr<GridManager> m_manager;
     int m_column = -1; ///< under the mouse when the menu came; -1 = the current cell's
     int m_paneTwips = 0;                        ///< wanted until the splitter has a size of its own

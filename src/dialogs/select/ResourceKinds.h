@@ -1,7 +1,9 @@
 #pragma once
 
 #include "dialogs/select/LayerTools.h"
+#include "dialogs/select/SymbolTools.h"
 
+#include <span>
 #include <stdexcept>
 
 namespace QV_DOC_CONTROLS {
@@ -44,7 +46,9 @@ inline constexpr ResourceKind kResourceKinds[] = { // index = mode = page
      {20025, u" Jelkulcstípusok"},
      "miSid",
      "symbol",
-     {20028, u"Jelkulcs csoportok"}},
+     {20028, u"Jelkulcs csoportok"},
+     {kSymbolTools, kSymbolSelectTools, kSymbolSetupTools, "bndPopUp_SidsSelected", "bndPopUp_Table",
+      "bndGroups"}},
     {{3148, u"Színtollválasztó"}, {20026, u" Tollszínek"}, "miPenColor", "penColor", {}},
     {{3149, u"Vonaltípus jelkulcsozások"},
      {20027, u" Vonaltípusok jelkulcsozása"},

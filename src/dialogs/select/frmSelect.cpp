@@ -1,9 +1,11 @@
 #include "dialogs/select/frmSelect.h"
 
 #include "dialogs/select/InvisibleLayer.h"
+#include "dialogs/select/SymbolSide.h"
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/layer/LayerCommands.h"
+#include "grids/symbol/SymbolCommands.h"
 #include "kit/forms/Buttons.h"
 #include "kit/forms/WindowSize.h"
 
@@ -29,7 +31,8 @@ frmSelect::~frmSelect() { TearDown(); }
 void frmSelect::TearDown()
 {
     if (m_page) m_page->TearDown();
-    jsLayer = nullptr;
+    if (m_side) m_side->TearDown();
+    jsLayer = nullptr, jsSid = nullptr;
 }
 
 void frmSelect::ml_RuntimeSupport_LanguageChanged()
@@ -44,6 +47,7 @@ void frmSelect::buildFrame(int mode, QWidget *owner)
     const ResourceKind &kind = resourceKind(mode);
     TearDown();
     delete m_page;
+    m_side = nullptr;
     m_page = new GridPage(kind, GridPage::In::Selection, m_relay, this);
     static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_page, 1);
     m_page->gridItems->setEditStart(Grid::EditStart::KeyOnly);  // a double click picks
@@ -58,14 +62,25 @@ void frmSelect::buildFrame(int mode, QWidget *owner)
 
 void frmSelect::openLayers(ZOLW_Doc &doc, bool single)
 {
-    m_many = !single;
-    jsLayer = &m_page->open<clsJs_Layer>(kLayerCommands);
-    connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSelect::jsLayer_CurrentChanced);
+    m_confirm = single ? &frmSelect::confirmLayer : &frmSelect::confirmLayers;
+    jsLayer = &m_page->open<clsJs_Layer>(
+        kLayerCommands, *this,
+        {&frmSelect::jsLayer_CurrentChanced, &frmSelect::jsLayer_GroupChanged, &frmSelect::jsLayer_GridView});
     connect(jsLayer, &clsJs_Layer::SelectedChanched, this, &frmSelect::jsLayer_SelectedChanched);
-    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSelect::jsLayer_GroupChanged);
-    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSelect::jsLayer_GridView);
-    jsLayer->setAllowEdit(true);
     jsLayer->init(doc, *m_page->gridItems, m_page->gridGroups, single);
+    m_page->follow();
+}
+
+void frmSelect::openSymbols(ZOLW_Doc &doc)
+{
+    m_confirm = &frmSelect::confirmSymbol;
+    jsSid = &m_page->open<clsJS_Sid>(
+        kSymbolCommands, *this,
+        {&frmSelect::jsSid_CurrentChanced, &frmSelect::jsSid_GroupChanged, &frmSelect::jsSid_GridView});
+    connect(jsSid, &clsJS_Sid::FillSample, this, &frmSelect::jsSid_FillSample);
+    connect(jsSid, &clsJS_Sid::RefreshSample, this, &frmSelect::jsSid_RefreshSample);
+    m_side = new SymbolSide(*m_page, *jsSid, doc, m_relay);
+    jsSid->init(doc, *m_page->gridItems, m_page->gridGroups, true);
     m_page->follow();
 }
 
@@ -98,6 +113,18 @@ bool frmSelect::bDoSelect_LayArr(ZOLW_Doc &oDoc, tLayArr &layers, QWidget *owner
     return ok;
 }
 
+bool frmSelect::bDoSelect_Sid(ZOLW_Doc &oDoc, tSid &symbol, QWidget *owner)
+{
+    m_symbol = symbol;
+    buildFrame(3, owner);
+    openSymbols(oDoc);
+    jsSid->selectById(symbol.SidId);
+    const bool ok = run();
+    TearDown();
+    if (ok) symbol = m_symbol;
+    return ok;
+}
+
 bool frmSelect::run()
 {
     m_page->setFocus();
@@ -116,14 +143,25 @@ void frmSelect::jsLayer_SelectedChanched(qint32 &, const tLay &) { m_page->ab1->
 void frmSelect::jsLayer_GroupChanged(bool &) { m_page->ab1->refresh(); }
 void frmSelect::jsLayer_GridView(qint16 &js_View) { m_page->showView(js_View); }
 
+void frmSelect::jsSid_CurrentChanced(tSid &symbol)
+{
+    m_symbol = symbol;
+    m_side->show(symbol);
+    m_page->ab1->refresh();
+}
+
+void frmSelect::jsSid_GroupChanged(bool &) { m_page->ab1->refresh(); }
+void frmSelect::jsSid_GridView(qint16 &js_View) { m_page->showView(js_View); }
+void frmSelect::jsSid_FillSample(qint32 &, std::vector<tSid> &symbols) { m_side->fill(symbols); }
+void frmSelect::jsSid_RefreshSample(const tSid &symbol) { m_side->refresh(symbol); }
+
 bool frmSelect::isBusy() const { return m_page && m_page->manager() && m_page->manager()->refusesNow(); }
 
 void frmSelect::accept()
 {
     m_relay.guard([this] {
         if (isBusy()) return;
-        if (m_many) confirmLayers();
-        else confirmLayer();
+        (this->*m_confirm)();
     });
 }
 
@@ -157,6 +195,16 @@ void frmSelect::confirmLayers()
     if (m_layers.empty()) return reject();
     m_ok = true;
     jsLayer->setCurrentLayer(m_layers.front().LayId);
+    QDialog::accept();
+}
+
+/// The grid's current one.
+void frmSelect::confirmSymbol()
+{
+    const auto chosen = jsSid->currentRecord();
+    if (!chosen) return reject();
+    m_symbol = *chosen;
+    m_ok = true;
     QDialog::accept();
 }
 

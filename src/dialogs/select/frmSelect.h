@@ -10,6 +10,8 @@ class QDialogButtonBox;
 namespace QV_DOC_CONTROLS {
 
 class clsJs_Layer;
+class clsJS_Sid;
+class SymbolSide;
 
 /// The modal dialog in which the user picks one resource of a document, or several layers. Made anew for
 /// every call; the caller's record is written only when the user confirmed, but what was edited on the way is
@@ -27,6 +29,10 @@ public:
     /// layers are selected at first, the first of them being current. The document's current layer stays.
     bool bDoSelect_LayArr(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tLayArr &layers, QWidget *owner);
 
+    /// True when the user confirmed: `symbol` then is the chosen one. It also says which one is current at
+    /// first.
+    bool bDoSelect_Sid(ZolWDoc::ZOLW_Doc &oDoc, ZolWDoc::tSid &symbol, QWidget *owner);
+
     bool WarnInvisibleCurrentLayer() const { return m_warnInvisible; }
     void setWarnInvisibleCurrentLayer(bool on) { m_warnInvisible = on; } ///< only for a single layer
     qint32 lDebugId() const { return m_identity; }
@@ -39,7 +45,14 @@ public:
     void jsLayer_GroupChanged(bool &bIsGrouped);
     void jsLayer_GridView(qint16 &js_View);
 
+    void jsSid_CurrentChanced(ZolWDoc::tSid &symbol);   // published spelling
+    void jsSid_GroupChanged(bool &bIsGrouped);
+    void jsSid_GridView(qint16 &js_View);
+    void jsSid_FillSample(qint32 &count, std::vector<ZolWDoc::tSid> &symbols);
+    void jsSid_RefreshSample(const ZolWDoc::tSid &symbol);
+
     clsJs_Layer *jsLayer = nullptr;                     ///< the page's, while the dialog selects layers
+    clsJS_Sid *jsSid = nullptr;                         ///< the page's, while the dialog selects a symbol
 
     void accept() override;
     void reject() override;
@@ -47,8 +60,10 @@ public:
 private:
     void buildFrame(int mode, QWidget *owner);
     void openLayers(ZolWDoc::ZOLW_Doc &doc, bool single);
+    void openSymbols(ZolWDoc::ZOLW_Doc &doc);
     void confirmLayer();
     void confirmLayers();
+    void confirmSymbol();
     bool run();                                         ///< modal; true = confirmed; throws the host's error
     bool isBusy() const;                                ///< tells the user to wait
 
@@ -57,11 +72,13 @@ private:
     GridPage *m_page = nullptr;                         ///< of the mode
     QDialogButtonBox *m_buttons;
     int m_mode = 0;
-    bool m_many = false;                                ///< several layers are picked
+    void (frmSelect::*m_confirm)() = nullptr;           ///< what OK does in the mode
     bool m_warnInvisible = false;
     bool m_ok = false;                                  ///< set by a confirmation that succeeded
     ZolWDoc::tLay m_lay;                                ///< working record
     ZolWDoc::tLayArr m_layers;                          ///< working array
+    ZolWDoc::tSid m_symbol;                             ///< working record
+    SymbolSide *m_side = nullptr;                       ///< the page's, while the dialog selects a symbol
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -2,9 +2,11 @@
 
 #include "dialogs/select/AllDocuments.h"
 #include "dialogs/select/InvisibleLayer.h"
+#include "dialogs/select/SymbolSide.h"
 #include "facade/services/Language.h"
 #include "facade/services/Prompts.h"
 #include "grids/layer/LayerCommands.h"
+#include "grids/symbol/SymbolCommands.h"
 #include "kit/forms/Buttons.h"
 
 #include <QAction>
@@ -25,7 +27,7 @@ using namespace ZolWDoc;
 namespace {
 
 constexpr const char *kPageKeys[kKinds] = {"Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "Ctrl+5", "Ctrl+6"};
-constexpr int kLayers = 0;                      ///< page
+constexpr int kLayers = 0, kSymbols = 3;        ///< pages
 constexpr QSize kUsualLetters(160, 36);
 
 QLabel *labelIn(QWidget *owner, const char *name)
@@ -38,7 +40,7 @@ QLabel *labelIn(QWidget *owner, const char *name)
 } // namespace
 
 const frmSetup::Opener frmSetup::kOpeners[kKinds] = {
-    &frmSetup::openLayers}; // null = there is no such page yet
+    &frmSetup::openLayers, nullptr, nullptr, &frmSetup::openSymbols}; // null = there is no such page yet
 
 frmSetup::frmSetup()
     : cmdOkAllDocument(new QPushButton(this)), m_tools(new ToolSet(tools(), m_relay, this)),
@@ -110,7 +112,8 @@ void frmSetup::TearDown()
 {
     for (GridPage *page : m_pages)
         if (page) page->TearDown();
-    jsLayer = nullptr;
+    if (m_side) m_side->TearDown();
+    jsLayer = nullptr, jsSid = nullptr;
     m_doc = nullptr;
     m_docList = nullptr;
 }
@@ -173,23 +176,44 @@ void frmSetup::showPage(int page)
 
 void frmSetup::openLayers(GridPage &page)
 {
-    jsLayer = &page.open<clsJs_Layer>(kLayerCommands);
-    connect(jsLayer, &clsJs_Layer::CurrentChanced, this, &frmSetup::jsLayer_CurrentChanced);
-    connect(jsLayer, &clsJs_Layer::GroupChanged, this, &frmSetup::jsLayer_GroupChanged);
-    connect(jsLayer, &clsJs_Layer::GridView, this, &frmSetup::jsLayer_GridView);
+    jsLayer = &page.open<clsJs_Layer>(
+        kLayerCommands, *this,
+        {&frmSetup::jsLayer_CurrentChanced, &frmSetup::jsLayer_GroupChanged, &frmSetup::jsLayer_GridView});
     connect(jsLayer, &clsJs_Layer::currentLayerMoved, this, &frmSetup::showCurrentLayer);
     connect(jsLayer, &clsJs_Layer::currentLayerMoved, page.ab1, &ToolSet::refresh);
-    connect(jsLayer, &clsJs_Layer::SelectedChanched, page.ab1, &ToolSet::refresh);
     const auto makes = [this] { makeCurrent(); };
     page.ab1->on("cmdLays_MakeCurrent", {makes, [this] { return canMakeCurrent(); }, {}, jsLayer});
     page.gridItems->setEditStart(Grid::EditStart::SecondClick); // a double click makes current
     connect(page.gridItems, &Grid::rowActivated, jsLayer, [this, makes] { m_relay.guard(makes); });
     jsLayer->setAutomaticItemSelection(m_automatic);
-    jsLayer->setAllowEdit(true);
     jsLayer->init(*m_doc, *page.gridItems, page.gridGroups, false);
     page.follow();
     jsLayer->setCurrentLayer(m_doc->layers().currentId());
 }
+
+void frmSetup::openSymbols(GridPage &page)
+{
+    jsSid = &page.open<clsJS_Sid>(
+        kSymbolCommands, *this,
+        {&frmSetup::jsSid_CurrentChanced, &frmSetup::jsSid_GroupChanged, &frmSetup::jsSid_GridView});
+    connect(jsSid, &clsJS_Sid::FillSample, this, &frmSetup::jsSid_FillSample);
+    connect(jsSid, &clsJS_Sid::RefreshSample, this, &frmSetup::jsSid_RefreshSample);
+    connect(page.gridItems, &Grid::rowActivated, jsSid, &clsJS_Sid::editSymbol);
+    m_side = new SymbolSide(page, *jsSid, *m_doc, m_relay);
+    jsSid->init(*m_doc, *page.gridItems, page.gridGroups, false);
+    page.follow();
+}
+
+void frmSetup::jsSid_CurrentChanced(tSid &symbol)
+{
+    m_side->show(symbol);
+    m_pages[kSymbols]->ab1->refresh();
+}
+
+void frmSetup::jsSid_GroupChanged(bool &) { m_pages[kSymbols]->ab1->refresh(); }
+void frmSetup::jsSid_GridView(qint16 &js_View) { m_pages[kSymbols]->showView(js_View); }
+void frmSetup::jsSid_FillSample(qint32 &, std::vector<tSid> &symbols) { m_side->fill(symbols); }
+void frmSetup::jsSid_RefreshSample(const tSid &symbol) { m_side->refresh(symbol); }
 
 void frmSetup::jsLayer_CurrentChanced(tLay &) { m_pages[kLayers]->ab1->refresh(); }
 void frmSetup::jsLayer_GroupChanged(bool &) { m_pages[kLayers]->ab1->refresh(); }

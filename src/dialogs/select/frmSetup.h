@@ -16,6 +16,8 @@ class QStackedWidget;
 namespace QV_DOC_CONTROLS {
 
 class clsJs_Layer;
+class clsJS_Sid;
+class SymbolSide;
 
 /// The modal dialog in which the user edits the resources of a document, a page for each table. Made anew for
 /// every call. Every edit is written at once and stays, also when the user cancels. An error of the host
@@ -47,6 +49,13 @@ public:
     bool bDoShow(ZolWDoc::ZOLW_Doc &oDoc, qint16 iType, bool edit = false);
     void ml_RuntimeSupport_LanguageChanged();           // published spelling
 
+    void jsSid_CurrentChanced(ZolWDoc::tSid &symbol);   // published spelling
+    void jsSid_GroupChanged(bool &bIsGrouped);
+    void jsSid_GridView(qint16 &js_View);
+    void jsSid_FillSample(qint32 &count, std::vector<ZolWDoc::tSid> &symbols);
+    void jsSid_RefreshSample(const ZolWDoc::tSid &symbol);
+
+    clsJS_Sid *jsSid = nullptr;                         ///< its page's, once that was shown
     clsJs_Layer *jsLayer = nullptr;                     ///< its page's, once that was shown
     QPushButton *const cmdOkAllDocument;                ///< published name
 
@@ -62,6 +71,7 @@ private:
     void selectPage(int page);
     void showPage(int page);
     void openLayers(GridPage &page);
+    void openSymbols(GridPage &page);
     void offerAllDocuments();
     void confirmInAllDocuments();
     void makeCurrent();
@@ -78,6 +88,7 @@ private:
     ToolSet *m_tools;                                   ///< of the dialog; the pages have their own
     QStackedWidget *m_stack;
     std::array<GridPage *, kKinds> m_pages{};           ///< null until first shown
+    SymbolSide *m_side = nullptr;                       ///< the page's of the symbols
     QLabel *m_hint, *m_current;
     QPushButton *m_parts;                               ///< what goes to all documents
     QDialogButtonBox *m_buttons;

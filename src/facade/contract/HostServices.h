@@ -76,17 +76,17 @@ struct ColorService {
 /// A font whose characters are strokes.
 struct VectorFont {
     struct Entry {
-        qint32 code = 0;
+        qint32 code = 0;                                ///< 0..65535; of letters, Unicode
         QString name;                                   ///< as offered in lists
     };
     virtual ~VectorFont() = default;
     virtual QString name() const = 0;
-    virtual std::vector<Entry> entries() const = 0;
+    virtual std::vector<Entry> entries() const = 0;     ///< of all its characters
     virtual Glyph glyph(qint32 code) const = 0;         ///< without strokes when there is none
 };
 struct VectorFontProvider {
     virtual ~VectorFontProvider() = default;
-    virtual QStringList names() const = 0;
+    virtual QStringList names() const = 0;              ///< in the order of lists
     virtual const VectorFont *find(const QString &name) const = 0;  ///< null = unknown; stays the provider's
 };
 

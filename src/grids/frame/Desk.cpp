@@ -4,6 +4,12 @@
 
 namespace QV_DOC_CONTROLS {
 
+ZolWDoc::ZOLW_Doc &Desk::doc()
+{
+    if (!document()) ErrorRelay::stop();
+    return *document();
+}
+
 void Desk::tell(const Message &message)
 {
     prompts().tell(message, asker());

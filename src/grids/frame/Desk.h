@@ -16,13 +16,14 @@ class ErrorRelay;
 /// A command asks first and calls `relay().checkpoint()` after every prompt; then it reads the table once,
 /// and then writes with one bulk call inside write().
 struct Desk {
-    virtual bool isOpen() const = 0;                    ///< there is a document
-    virtual ZolWDoc::ZOLW_Doc &doc() = 0;               ///< ends the command when it was torn down meanwhile
+    virtual ZolWDoc::ZOLW_Doc *document() const = 0;    ///< null = torn down
+    ZolWDoc::ZOLW_Doc &doc();                           ///< ends the command when it was torn down meanwhile
     virtual int selectedCount() const = 0;
     virtual qint16 chosenGroup() const { return GroupRows::kAll; } ///< of a table with groups; kAll = "MIND"
     /// Runs `body` as one command of the document, then refills; after an error too, so that the grid agrees
     /// with what had been written by then. Current item and selection come back by identifier.
     virtual void write(const QString &command, const std::function<void()> &body) = 0;
+    virtual void refillAfter(const std::function<void()> &body) = 0; ///< the same, of what writes by itself
     virtual bool selectById(qint16 id) = 0;             ///< makes it the current row; false = it is not shown
     virtual ErrorRelay &relay() const = 0;
     virtual QObject *asker() const = 0;                 ///< what the prompts belong to

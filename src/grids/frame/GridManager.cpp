@@ -19,11 +19,10 @@ bool GridManager::refusesNow() const
     return m_busy;
 }
 
-void GridManager::writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name,
-                               const std::function<void()> &body)
+void GridManager::runAndFill(const std::function<void()> &body)
 {
     try {
-        ZolWDoc::inCommand(doc, name, body);
+        body();
         fill();
     } catch (...) {
         ErrorRelay::tryQuietly([this] { fill(); });

@@ -50,20 +50,30 @@ public:
 
 protected:
     /// Runs a command: refused while a refill runs; an error goes to the relay. Nothing without a document.
+    /// What is being typed into a cell is written first.
     template <class Body> void command(Body &&body)
+    {
+        guarded([&] {
+            endEditing();
+            relay().checkpoint();
+            if (isOpen()) body();
+        });
+    }
+    template <class Body> void guarded(Body &&body)     ///< as a command, but for what is being typed
     {
         if (!isOpen()) return;
         relay().guard([&] {
             if (!refusesNow()) body();
         });
     }
-    /// Runs `body` as one command of the document, then fills; after an error too, so that the grid agrees
-    /// with what had been written by then.
-    void writeAndFill(ZolWDoc::ZOLW_Doc &doc, const QString &name, const std::function<void()> &body);
+    /// Runs `body`, which writes, then fills; after an error too, so that the grid agrees with what had been
+    /// written by then.
+    void runAndFill(const std::function<void()> &body);
     /// Runs the steps of a refill, the last of which shows what the others read. A refill that takes long
     /// shows its progress; one that is asked for meanwhile begins when this one ends. False = given up:
     /// the form closes, or has torn the manager down. Throws what a step throws.
     bool refillBy(const StepRun::Steps &steps, QWidget *grid);
+    virtual void endEditing() = 0;                      ///< writes what an open cell editor holds
     virtual void raiseView(qint16 view) = 0;                 ///< emits the table's own GridView
     /// Emits the table's own GroupChanged: the user's grouping, not that of a layout file.
     virtual void raiseGrouped(bool grouped) { Q_UNUSED(grouped) }

@@ -38,7 +38,17 @@ bool GroupRows::edit(int row, int, const QVariant &value)
 {
     const QString name = value.toString().trimmed();
     if (!m_rename || !isGroup(groupAt(row)) || name.isEmpty() || name == text(row, 0)) return false;
-    return m_rename(groupAt(row), name);
+    if (!m_rename(groupAt(row), name)) return false;
+    m_groups[size_t(row - 1)].GroupName = name;
+    return true;
+}
+
+/// The delete key: the list selects one group, the chosen one.
+bool GroupRows::removeRows(std::span<const int> rows)
+{
+    if (!m_remove || rows.size() != 1 || !isGroup(groupAt(rows.front()))) return false;
+    m_remove();
+    return true;
 }
 
 QMimeData *GroupRows::dragData(std::span<const int> rows) const

@@ -35,6 +35,7 @@ public:
     qint16 groupAt(int row) const;
     void setDrags(GroupDrags drags) { m_drags = std::move(drags); }
     void setRenaming(GroupRenaming rename); ///< names can be edited in place; none = they cannot
+    void setRemoval(std::function<void()> remove) { m_remove = std::move(remove); } ///< of the chosen group
     void readCaptions();
 
     const std::vector<GridColumn> &columns() const override { return m_columns; }
@@ -43,6 +44,7 @@ public:
     QVariant value(int row, int column) const override { return text(row, column); }
     QString text(int row, int column) const override;
     bool edit(int row, int column, const QVariant &value) override;
+    bool removeRows(std::span<const int> rows) override;
     Qt::DropAction dragAction() const override { return Qt::CopyAction; }
     QMimeData *dragData(std::span<const int> rows) const override;
     bool canDrop(const QMimeData &mime, const DropTarget &target) const override;
@@ -52,6 +54,7 @@ private:
     Text m_caption;
     GroupDrags m_drags;
     GroupRenaming m_rename;
+    std::function<void()> m_remove;
     std::vector<ZolWDoc::tGroup> m_groups;
     std::vector<qint16> m_strays;
     std::vector<GridColumn> m_columns;

@@ -17,12 +17,11 @@ public:
     void init(ZolWDoc::ZOLW_Doc &doc, Grid &itemGrid, Grid *groupGrid, bool singleSelection)
     {
         TearDown();
+        m_groupGrid = groupGrid;
         this->attach(doc, itemGrid);
         itemGrid.setMultiSelection(!singleSelection);
-        m_groupGrid = groupGrid;
         armGrids();
         if (!groupGrid) return;
-        readBeside();
         groupGrid->setSource(&m_groupRows);
         showBeside();
         this->readTooltips(*groupGrid);
@@ -51,7 +50,9 @@ public:
     void setbShowGroups(bool on) override
     {
         Base::setbShowGroups(on);
-        if (m_groupGrid) m_groupGrid->setVisible(on);
+        if (!m_groupGrid) return;
+        if (!on) showGroup(GroupRows::kAll); // nothing is left out by a list that nobody sees
+        m_groupGrid->setVisible(on);
     }
     void setAllowEdit(bool on) override
     {
@@ -74,13 +75,18 @@ protected:
     qint16 chosenGroup() const override { return m_group; }
     Grid *groupGrid() const { return m_groupGrid; }
     GroupRows &groupRows() { return m_groupRows; }
+    void endEditing() override
+    {
+        Base::endEditing();
+        if (m_groupGrid) m_groupGrid->endEditing();
+    }
     void showGroup(qint16 group)
     {
         if (m_groupGrid) m_groupGrid->setCurrentRow(m_groupGrid->rowWithId(group));
     }
-    void readBeside() override
+    void readBeside(ZolWDoc::ZOLW_Doc &doc, std::vector<typename Table::Record> &) override
     {
-        if (m_groupGrid) m_readGroups = Table::groupsOf(*this->document());
+        if (m_groupGrid) m_readGroups = Table::groupsOf(doc);
     }
     /// The chosen group stays with its identifier; when it is gone, the one in its place is chosen.
     void showBeside() override

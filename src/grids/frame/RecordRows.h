@@ -2,6 +2,8 @@
 
 #include "grids/frame/Column.h"
 
+#include <QSet>
+
 namespace QV_DOC_CONTROLS {
 
 /// The records of a table as last read, seen by a grid: those that fit are its rows.
@@ -32,6 +34,13 @@ protected:
     const std::vector<GridColumn> &columns() const override { return m_columns; }
     int rowCount() const override { return int(m_shown.size()); }
     qint64 rowId(int row) const override { return Table::id(recordAt(row)); }
+    std::vector<qint64> existing(std::vector<qint64> ids) const override
+    {
+        QSet<qint64> known;
+        for (const Record &r : m_all) known.insert(Table::id(r));
+        std::erase_if(ids, [&](qint64 id) { return !known.contains(id); });
+        return ids;
+    }
     QVariant value(int row, int c) const override { return Table::columns[c].get(recordAt(row)); }
     QString text(int row, int c) const override { return Table::columns[c].shown(recordAt(row), m_names); }
     RowStyles styles(int row) const override { return Table::styles(recordAt(row)); }

@@ -30,7 +30,6 @@ public:
         m_grid->setSource(nullptr);
         m_grid = nullptr, m_doc = nullptr;
         Rows::setRecords({}, {});
-        m_leftOut.reset();
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
@@ -48,6 +47,7 @@ public:
     {
         if (!m_doc) return;
         const auto before = selectedIds();
+        m_selectionTold = false;
         std::vector<Record> all;
         typename Table::Names names;
         const auto show = [&] {
@@ -56,10 +56,11 @@ public:
             Rows::showWhatFits();
         };
         const StepRun::Steps steps = {[&] { all = Table::role(*m_doc).readAll(); },
-                                      [&] { names = Table::namesOf(*m_doc); }, [&] { readBeside(); },
+                                      [&] { names = Table::namesOf(*m_doc); },
+                                      [&] { readBeside(*m_doc, all); },
                                       [&] { m_grid->refill(show); }};
         if (!refillBy(steps, m_grid)) return;
-        if (selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
         raiseCurrentRow();
     }
     /// Makes the record with this identifier the grid's current row; false when it is not shown.
@@ -102,7 +103,8 @@ protected:
     {
         buildColorStyles(grid, doc);
         auto all = Table::role(doc).readAll();
-        auto names = Table::namesOf(doc); // an error leaves nothing attached, and no layout to save
+        auto names = Table::namesOf(doc);
+        readBeside(doc, all); // an error leaves nothing attached, and no layout to save
         m_doc = &doc, m_grid = &grid;
         Rows::setRecords(std::move(all), std::move(names));
         grid.setAllowEdit(AllowEdit());
@@ -113,52 +115,56 @@ protected:
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
-        connect(&grid, &Grid::selectionMoved, this, [this] { raiseSelection(m_grid->selectedCount()); });
+        connect(&grid, &Grid::selectionMoved, this, [this] { tellSelection(); });
     }
     virtual void raiseCurrent(Record) = 0;              ///< emits the table's own CurrentChanced
     virtual void raiseSelection(int count) { Q_UNUSED(count) }
-    virtual void readBeside() {}                        ///< what a refill reads beside the table; may throw
-    virtual void showBeside() {}                        ///< shows it, before the rows that fit are listed
+    /// What a fill reads beside the table, of which all records are read; may throw.
+    virtual void readBeside(ZolWDoc::ZOLW_Doc &, std::vector<Record> &) {}
+    virtual void showBeside() {} ///< shows what was read, before the rows that fit are listed
     /// Writes what a cell edit made of a record; there may be more to it.
     virtual void storeEdit(const Record &, const Record &edited) { Table::role(*m_doc).update(edited); }
 
     // --- the desk of the commands
-    ZolWDoc::ZOLW_Doc &doc() override
-    {
-        if (!isOpen()) ErrorRelay::stop();
-        return *m_doc;
-    }
+    ZolWDoc::ZOLW_Doc *document() const override { return m_doc; }
     int selectedCount() const override { return m_grid ? m_grid->selectedCount() : 0; }
-    void write(const QString &command, const std::function<void()> &body) override
+    void refillAfter(const std::function<void()> &body) override { runAndFill(body); }
+    void write(const QString &name, const std::function<void()> &body) override
     {
-        writeAndFill(doc(), command, body);
+        runAndFill([&] { ZolWDoc::inCommand(this->doc(), name, body); });
     }
     ErrorRelay &relay() const override { return GridManager::relay(); }
     QObject *asker() const override { return m_grid; }
 
-    ZolWDoc::ZOLW_Doc *document() const { return m_doc; }
     Grid *grid() const { return m_grid; }
-    /// fits() answers otherwise now. Nothing takes the place of a current record that is not listed any more;
-    /// it is current again when it is listed again and no other one was chosen meanwhile.
+    void endEditing() override { if (m_grid) m_grid->endEditing(); }
+    /// fits() answers otherwise now. What is not listed any more stays selected, and current, until the user
+    /// chooses anew.
     void showAgain()
     {
         if (!m_grid) return;
         const auto before = selectedIds();
-        if (const auto current = currentRecord()) m_leftOut = Table::id(*current);
-        m_grid->refill([this] { Rows::showWhatFits(); }, Grid::Gone::Nothing);
-        const bool isBack =
-            !currentRecord() && m_leftOut && selectById(*m_leftOut); // which raises what changes
-        if (!isBack && selectedIds() != before) raiseSelection(m_grid->selectedCount());
+        m_selectionTold = false;
+        const auto current = currentRecord();
+        m_grid->refill([this] { Rows::showWhatFits(); });
+        if (!m_selectionTold && selectedIds() != before) tellSelection();
+        if (const auto now = currentRecord(); now && (!current || Table::id(*current) != Table::id(*now)))
+            raiseCurrent(*now);
     }
 
     bool edit(int row, int c, const QVariant &value) override
     {
         bool stored = false;
-        command([&] { stored = tryEdit(row, c, value); });
+        guarded([&] { stored = tryEdit(row, c, value); });
         return stored;
     }
 
 private:
+    void tellSelection()
+    {
+        m_selectionTold = true;
+        raiseSelection(m_grid->selectedCount());
+    }
     std::vector<qint16> selectedIds() const
     {
         std::vector<qint16> ids;
@@ -178,7 +184,7 @@ private:
             ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
                                [&] { storeEdit(shown, *edited); });
         } catch (...) { // what the document has now, an error of its own apart
-            relay().tryQuietly([&] { shown = asStored(shown, *edited); });
+            relay().tryQuietly([&] { shown = asStored<Table>(*m_doc, shown, *edited); });
             throw;
         }
         shown = *edited;
@@ -186,15 +192,9 @@ private:
         return true;
     }
 
-    Record asStored(const Record &now, const Record &edited) const
-    {
-        const auto found = Table::role(*m_doc).find(Table::id(now));
-        return found ? *found : Table::role(*m_doc).find(Table::id(edited)).value_or(now);
-    }
-
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
     Grid *m_grid = nullptr;                             ///< the form's, until TearDown()
-    std::optional<qint16> m_leftOut;                    ///< the record last current that fits() left out
+    bool m_selectionTold = false;                       ///< since a refill began
 };
 
 } // namespace QV_DOC_CONTROLS

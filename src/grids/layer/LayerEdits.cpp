@@ -15,12 +15,13 @@ using namespace ZolWDoc;
 
 namespace {
 
-/// Whose attributes a new layer takes: the layer of the current row, or else the document's current one.
-tLay modelIn(const tLayArr &all, LayerDesk &desk)
+/// Whose attributes a new layer takes: the current layer, or else that of the current row.
+tLay modelIn(const tLayArr &all, qint16 currentLayer, LayerDesk &desk)
 {
     const auto row = desk.currentRecord();
-    auto found = std::ranges::find(all, row ? row->LayId : desk.doc().layers().currentId(), &tLay::LayId);
-    return found == all.end() ? all.front() : *found;
+    for (const qint16 id : {currentLayer, row ? row->LayId : desk.doc().layers().currentId()})
+        if (const auto found = std::ranges::find(all, id, &tLay::LayId); found != all.end()) return *found;
+    return all.front();
 }
 
 /// What the first layer of a document is like: it refers to what there is.
@@ -69,17 +70,20 @@ std::vector<tLayMember> membersLike(const std::vector<qint16> &models, const std
 
 } // namespace
 
-void LayerEdits::addNew()
+std::optional<qint16> LayerEdits::addNew(qint16 currentLayer)
 {
     const QString title = txt(Text{21700, u"Új réteg"});
     const tLayArr all = m_desk.doc().layers().readAll();
     if (all.empty()) m_desk.tell({Icon::Information, productName(), txt(Text{3298, u"Ez az első réteg!"})});
-    const auto lay = newLayer(all, all.empty() ? firstLayer(m_desk.doc()) : modelIn(all, m_desk));
-    if (!lay)
-        return m_desk.tell(
+    const auto lay =
+        newLayer(all, all.empty() ? firstLayer(m_desk.doc()) : modelIn(all, currentLayer, m_desk));
+    if (!lay) {
+        m_desk.tell(
             {Icon::Exclamation, title,
              txt(Text{21702, u"A legnagyobb rétegsorszám már 32767, ezért nem készíthető új réteg. "
                              u"Számozza át a rétegeket!"})});
+        return {};
+    }
     qint16 id = -1;
     m_desk.write(title, [&] {
         LayerRole &layers = m_desk.doc().layers();
@@ -87,7 +91,7 @@ void LayerEdits::addNew()
         if (m_desk.chosenGroup() != GroupRows::kAll)
             layers.writeMembers(joined(layers.members(), {&id, 1}, m_desk.chosenGroup()));
     });
-    m_desk.selectById(id);
+    return id;
 }
 
 void LayerEdits::copy()
@@ -163,7 +167,7 @@ void LayerEdits::remove(bool asksForEach)
     const std::vector<qint16> going = questions.ask(doomed, m_desk.relay(), m_desk.asker());
     if (going.empty()) return;
     const bool alsoOrphans =
-        m_desk.yesNo({Icon::Question, txt(Text{21703, u"Érintett pontok törlése"}),
+        m_desk.yesNo({Icon::Exclamation, txt(Text{21703, u"Érintett pontok törlése"}),
                       txt(Text{21704, u"Kéred a keletkezett önálló pontok törlését is?"})});
     m_desk.write(txt(LayerTable::deletion.title), [&] {
         int done = 0;

@@ -8,7 +8,8 @@ namespace QV_DOC_CONTROLS {
 class LayerEdits {
 public:
     explicit LayerEdits(LayerDesk &desk) : m_desk(desk) {}
-    void addNew();                      ///< like the current layer; joins the chosen group, becomes current
+    /// Like the current layer; joins the chosen group. Its identifier; empty = none was made.
+    std::optional<qint16> addNew(qint16 currentLayer);
     void copy();                        ///< the selected layers; copies join the groups of their models
     void renumber();                    ///< the selected layers, in grid order
     void remove(bool asksForEach);      ///< the selected layers; the delete key asks for each

@@ -86,9 +86,13 @@ void LayerFiles::loadVisibilities()
         m_desk.asker());
     m_desk.relay().checkpoint();
     if (!match) return;
-    const tLayArr after = withVisibilityOf(saved->layers, m_desk.doc().layers().readAll(),
-                                           *match == 0 ? LayerMatch::ByNumber : LayerMatch::ByName);
-    m_desk.write(txt(kLoad), [&] { m_desk.doc().layers().writeAll(after); });
+    const auto after = withVisibilityOf(saved->layers, m_desk.doc().layers().readAll(),
+                                        *match == 0 ? LayerMatch::ByNumber : LayerMatch::ByName);
+    m_desk.write(txt(kLoad), [&] { m_desk.doc().layers().writeAll(after.layers); });
+    if (after.found == 0)
+        m_desk.tell(
+            {Icon::Information, txt(kLoad),
+             txt(Text{21790, u"A fájl egyik rétege sem található a rajzban, ezért semmi nem változott."})});
 }
 
 void LayerFiles::fromTextFile(const Text &title, const Apply &apply)

@@ -37,24 +37,43 @@ void LayerGroups::addNew()
     m_desk.write(name, [&] { m_desk.doc().layers().writeGroups(all); });
 }
 
+/// Why the group does not take the name.
+std::optional<Message> LayerGroups::refusalOf(const QString &name, const tGroup &group,
+                                              const std::vector<tGroup> &all)
+{
+    if (group.GroupId == systemGroupIn(all))
+        return told(txt(kRename), txt(Text{3290, u"A rendszer rétegcsoport neve nem módosítható!"}));
+    if (isGroupNameTaken(name, group.GroupId, all))
+        return told(txt(Text{3426, u"Csoport átnevezés"}), txt(Text{3089, u"Létező csoportnév !"}));
+    return {};
+}
+
+void LayerGroups::store(std::vector<tGroup> all, qint16 group, const QString &name)
+{
+    std::ranges::find(all, group, &tGroup::GroupId)->GroupName = name;
+    m_desk.write(txt(kRename), [&] { m_desk.doc().layers().writeGroups(all); });
+}
+
 void LayerGroups::rename()
 {
-    std::vector<tGroup> all = groups();
+    const std::vector<tGroup> all = groups();
     const auto group = chosen(all);
     if (!group) return;
-    const QString title = txt(kRename);
-    if (group->GroupId == systemGroupIn(all))
-        return m_desk.tell(told(title, txt(Text{3290, u"A rendszer rétegcsoport neve nem módosítható!"})));
-    const auto refusalFor = [&](const QString &name) -> std::optional<Message> {
-        if (!isGroupNameTaken(name, group->GroupId, all)) return {};
-        return told(txt(Text{3426, u"Csoport átnevezés"}), txt(Text{3089, u"Létező csoportnév !"}));
-    };
+    if (const auto why = refusalOf(group->GroupName, *group, all)) return m_desk.tell(*why);
     const auto name = uniqueText(
-        m_desk.relay(), {title, txt(Text{21750, u"A csoport új neve:"}), group->GroupName, {}}, refusalFor,
-        m_desk.asker());
-    if (!name || *name == group->GroupName) return;
-    std::ranges::find(all, group->GroupId, &tGroup::GroupId)->GroupName = *name;
-    m_desk.write(title, [&] { m_desk.doc().layers().writeGroups(all); });
+        m_desk.relay(), {txt(kRename), txt(Text{21750, u"A csoport új neve:"}), group->GroupName, {}},
+        [&](const QString &typed) { return refusalOf(typed, *group, all); }, m_desk.asker());
+    if (name && *name != group->GroupName) store(all, group->GroupId, *name);
+}
+
+bool LayerGroups::renameInPlace(qint16 id, const QString &name)
+{
+    const std::vector<tGroup> all = groups();
+    const auto group = std::ranges::find(all, id, &tGroup::GroupId);
+    if (group == all.end()) return false;
+    if (const auto why = refusalOf(name, *group, all)) return m_desk.tell(*why), false;
+    store(all, id, name);
+    return true;
 }
 
 void LayerGroups::remove()

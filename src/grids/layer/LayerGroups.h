@@ -12,6 +12,7 @@ public:
     explicit LayerGroups(LayerDesk &desk) : m_desk(desk) {}
     void addNew();                      ///< the chosen group stays: its layers may be what is to join
     void rename();                      ///< the chosen group; asks again after a refusal
+    bool renameInPlace(qint16 group, const QString &name); ///< false = refused, the user was told
     void remove();                      ///< the chosen group, if no layer is left without one
     void moveSelected();                ///< to a group that the user picks, and out of all others
     void copySelected();                ///< to a group that the user picks
@@ -21,6 +22,9 @@ public:
 private:
     std::vector<ZolWDoc::tGroup> groups() { return m_desk.doc().layers().groups(); }
     std::optional<ZolWDoc::tGroup> chosen(const std::vector<ZolWDoc::tGroup> &all) const;
+    static std::optional<Message> refusalOf(const QString &name, const ZolWDoc::tGroup &group,
+                                            const std::vector<ZolWDoc::tGroup> &all);
+    void store(std::vector<ZolWDoc::tGroup> all, qint16 group, const QString &name);
     std::optional<qint16> askForGroup(const QString &title, const Text &question);
     std::vector<qint16> selectedNow();
     void store(const QString &command, const std::vector<ZolWDoc::tLayMember> &before,

@@ -27,10 +27,18 @@ void ModalForm::ml_RuntimeSupport_LanguageChanged()
     readCaptions();
 }
 
+/// In the order of Tab: they are made before what the form adds.
+void ModalForm::putButtonsLast()
+{
+    QWidget *const last = previousInFocusChain();
+    if (last != m_buttons && !m_buttons->isAncestorOf(last)) setTabOrder(last, m_buttons);
+}
+
 bool ModalForm::run(ErrorRelay *relay)
 {
     readCaptions();
     ensurePolished();
+    putButtonsLast();
     restoreSize(*this, objectName(), sizeHint());
     const bool confirmed = (relay ? relay->exec(*this) : exec()) == Accepted;
     keepSizeOf(*this, objectName());

@@ -28,6 +28,7 @@ protected:
     QDialogButtonBox *buttons() const { return m_buttons; }
 
 private:
+    void putButtonsLast();
     DebugIdentity m_identity;
     QDialogButtonBox *m_buttons;
 

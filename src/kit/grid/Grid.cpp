@@ -100,11 +100,7 @@ void Grid::connectTools()
 {
     connect(m_filter, &FilterLine::changed, this, &Grid::applyFilter);
     connect(m_filter, &FilterLine::focused, this, [this] { m_idle.start(0, this); });
-    connect(m_filter, &FilterLine::gridAsked, this, [this] {
-        if (currentRow() < 0 && m_model->engine().shownCount() > 0)
-            makeCurrent(m_model->engine().shownRows().front());
-        activeView()->setFocus(Qt::TabFocusReason);
-    });
+    connect(m_filter, &FilterLine::gridAsked, this, &Grid::goToFound);
     connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) {
         const bool focused = m_box->isAncestorOf(QApplication::focusWidget());
         setGroupLevels(levels);
@@ -134,6 +130,7 @@ void Grid::setSource(GridSource *source)
     m_model->setWritable(m_allowEdit);
     m_model->setSource(source);
     m_selection->setRows({});
+    m_currentAway.reset();
     const QSignalBlocker noFilter(m_filter);
     m_filter->clear();
     resetColumns();
@@ -179,6 +176,12 @@ void Grid::setEditStart(EditStart how)
 void Grid::stylesChanged()
 {
     m_model->forgetStyles();
+    activeView()->viewport()->update();
+}
+
+void Grid::picturesChanged()
+{
+    m_model->dropPictures();
     activeView()->viewport()->update();
 }
 

@@ -6,7 +6,7 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
-#include <QModelIndex>
+#include <QItemSelectionModel>
 #include <QWidget>
 
 #include <functional>
@@ -45,10 +45,10 @@ public:
 
     void setSource(GridSource *source);             ///< not owned; null = empty, and inert
     /// Runs `change`, which gives the source other rows; then current row, selection and place are as they
-    /// were, by identifier. What a current record that is gone leaves behind is said by `gone`. Raises
-    /// nothing.
-    enum class Gone { NextRow, Nothing };           ///< the row that moved to its place is current; none is
-    void refill(const std::function<void()> &change, Gone gone = Gone::NextRow);
+    /// were, by identifier. Records that exist and are no rows any more come back with their rows; in the
+    /// place of a current record that is gone the next row is current. Raises nothing.
+    void refill(const std::function<void()> &change);
+    void endEditing();                              ///< writes what an open editor holds and closes it
     void rowEdited(int row);                        ///< one row's values changed; it moves to its place
     void captionsChanged();                         ///< columns carry new captions, maybe of another language
 
@@ -78,6 +78,7 @@ public:
     void setTooltips(bool on);
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
+    void picturesChanged();                         ///< the source has other pictures now; same values
     void setPictureSize(QSize size);                ///< of pictures in cells, device-independent pixels
     int columnWidth(int column) const;              ///< pixels; of a hidden column the one it had
     GridStyles &formatStyles();
@@ -129,6 +130,7 @@ private:
     GridCards &cards();
     void relist(const std::function<void()> &change);
     void restoreRows(std::span<const qint64> selected, std::optional<qint64> current, int heirPlace);
+    int heirOf(std::optional<qint64> current, int place);
     void showCurrent(int column);
     void currentChanged(const QModelIndex &now);
     void toggleBand(int band);
@@ -145,10 +147,11 @@ private:
     void sortBy(int column, bool adding);
     void seek(const QString &letter);
     void makeCurrent(int row);
+    void makeCurrent(int row, QItemSelectionModel::SelectionFlags selecting);
+    void goToFound();
     void dragOut();
     void arm();
     bool isEditing() const;
-    void endEditing();
     void prepareNext();
     GridSource *m_source = nullptr;
     GridModel *m_model;
@@ -162,6 +165,7 @@ private:
     GridCards *m_cards = nullptr;                   ///< made when first asked for
     GridView m_view = GridView::Table;
     int m_current = -1;                             ///< the record last made current, even when not shown
+    std::optional<qint64> m_currentAway;            ///< identifier, while the current record is no row
     std::vector<int> m_pending;                     ///< rows edited while an editor is open
     int m_hidden = 0;                               ///< selected rows that the filter hides
     EditStart m_editStart = EditStart::DoubleClick;

@@ -22,8 +22,9 @@ void Grid::relist(const std::function<void()> &change)
     QScopedValueRollback quiet(m_quiet, true);
     const std::vector<int> selected = m_selection->allRows();
     const int column = m_selection->currentIndex().column();
+    const std::vector<qint64> away = m_selection->awayIds();
     change();
-    m_selection->setRows(selected);
+    m_selection->setRows(selected, away);
     showCurrent(column);
     updateCounts();
 }
@@ -39,15 +40,15 @@ void Grid::showCurrent(int column)
     if (at.isValid()) activeView()->scrollTo(at);
 }
 
-void Grid::refill(const std::function<void()> &change, Gone gone)
+void Grid::refill(const std::function<void()> &change)
 {
     if (!m_source) return change();
     for (LineView *view : views()) view->dropEditor();
-    std::vector<qint64> selected;
+    std::vector<qint64> selected = m_selection->awayIds();
     for (int r : m_selection->allRows()) selected.push_back(m_source->rowId(r));
     const auto &shown = m_model->engine().shownRows();
     const int place = int(std::ranges::find(shown, m_current) - shown.begin());
-    const auto current = m_current < 0 ? std::nullopt : std::optional(m_source->rowId(m_current));
+    const auto current = m_current < 0 ? m_currentAway : std::optional(m_source->rowId(m_current));
     const int scrolled = activeView()->verticalScrollBar()->value(),
               column = m_selection->currentIndex().column();
 
@@ -56,7 +57,7 @@ void Grid::refill(const std::function<void()> &change, Gone gone)
     const int columnsBefore = m_header->count();
     m_model->refill(change);
     if (m_header->count() != columnsBefore) columnsCame(columnsBefore);
-    restoreRows(selected, current, gone == Gone::NextRow ? place : -1);
+    restoreRows(selected, current, place);
     showCurrent(column);
     activeView()->verticalScrollBar()->setValue(scrolled);
     updateCounts();
@@ -69,14 +70,30 @@ void Grid::restoreRows(std::span<const qint64> selected, std::optional<qint64> c
     rowOf.reserve(m_source->rowCount());
     for (int r = 0, n = m_source->rowCount(); r < n; ++r) rowOf.insert(m_source->rowId(r), r);
     std::vector<int> rows;
+    std::vector<qint64> missing;
     for (qint64 id : selected)
         if (const auto found = rowOf.constFind(id); found != rowOf.constEnd()) rows.push_back(*found);
+        else missing.push_back(id);
+    m_current = current ? rowOf.value(*current, -1) : -1;
+    if (m_current >= 0) m_currentAway.reset();
+    else m_current = heirOf(current, heirPlace);
+    missing = m_source->existing(std::move(missing));
+    if (rows.empty() && missing.empty() && !selected.empty() && m_current >= 0) rows.push_back(m_current);
+    m_selection->setRows(rows, std::move(missing));
+}
+
+/// What is current when the current record has no row: the row in its place, or, while the record exists,
+/// none.
+int Grid::heirOf(std::optional<qint64> current, int place)
+{
+    m_currentAway.reset();
+    if (!current) return -1;
+    if (!m_source->existing({*current}).empty()) {
+        m_currentAway = current;
+        return -1;
+    }
     const auto &shown = m_model->engine().shownRows();
-    const int heir =
-        shown.empty() || heirPlace < 0 ? -1 : shown[std::min(size_t(heirPlace), shown.size() - 1)];
-    m_current = current ? rowOf.value(*current, heir) : -1;
-    if (rows.empty() && !selected.empty() && m_current >= 0) rows.push_back(m_current);
-    m_selection->setRows(rows);
+    return shown.empty() ? -1 : shown[std::min(size_t(place), shown.size() - 1)];
 }
 
 void Grid::currentChanged(const QModelIndex &now)
@@ -85,6 +102,7 @@ void Grid::currentChanged(const QModelIndex &now)
     if (m_quiet || row == m_current || (row < 0 && now.isValid()))
         return; // on a band the record stays current
     m_current = row;
+    m_currentAway.reset();
     emit currentRowMoved(row);
 }
 
@@ -165,14 +183,26 @@ void Grid::setCurrentRow(int row)
     makeCurrent(row);
 }
 
-void Grid::makeCurrent(int row)
+void Grid::makeCurrent(int row) { makeCurrent(row, QItemSelectionModel::ClearAndSelect); }
+
+void Grid::makeCurrent(int row, QItemSelectionModel::SelectionFlags selecting)
 {
     for (int band : m_model->engine().closedBandsOver(row)) toggleBand(band);
     const int column = std::max(0, m_selection->currentIndex().column());
     const QModelIndex at = m_model->indexOf(row, column);
-    m_selection->setCurrentIndex(at, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_selection->setCurrentIndex(at, selecting | QItemSelectionModel::Rows);
     if (isVisible()) activeView()->scrollTo(at);
     else activeView()->scrollTo(at, QAbstractItemView::PositionAtCenter);
+}
+
+/// From the filter line to the rows. Several selected rows that it hides stay selected.
+void Grid::goToFound()
+{
+    if (currentRow() < 0 && m_model->engine().shownCount() > 0)
+        makeCurrent(m_model->engine().shownRows().front(),
+                    m_selection->hiddenCount() > 1 ? QItemSelectionModel::NoUpdate
+                                                   : QItemSelectionModel::ClearAndSelect);
+    activeView()->setFocus(Qt::TabFocusReason);
 }
 
 std::vector<int> Grid::selectedRows() const { return m_selection->shownRows(); }

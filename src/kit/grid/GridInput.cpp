@@ -59,7 +59,7 @@ bool GridInput::isKeyTaken(LineView &view, const QKeyEvent &event)
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
     if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down) return isListOpened(view);
     if (modifiers == Qt::ShiftModifier && event.key() == Qt::Key_F10) // not every desktop makes a menu of it
-        return askForMenu(view, {QContextMenuEvent::Keyboard, {}});
+        return askForMenu(view, {QContextMenuEvent::Keyboard, QPoint(), QPoint()});
     if (modifiers != Qt::NoModifier) return false;
     if (event.key() == Qt::Key_Delete) return emit deleteAsked(), true;
     if (event.key() == Qt::Key_Escape) {

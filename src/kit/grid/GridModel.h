@@ -52,6 +52,7 @@ public:
     GridStyle styleOf(int sourceRow, int column) const; ///< the cell's own over the row's
     void forgetStyles() { m_styledRow = -1; }   ///< the source answers otherwise now
     QPixmap picture(int sourceRow, int column) const;
+    void dropPictures() { m_pictures.clear(); }
     const GridColumn *column(int c) const;      ///< null beyond the last
     std::vector<GridChoice> choices(int c) const
     {

@@ -78,7 +78,7 @@ bool GridSelection::isAnyShown() const
 
 int GridSelection::hiddenCount() const
 {
-    int count = 0;
+    int count = int(m_awayIds.size());
     for (size_t r = 0; r < m_away.size(); ++r) count += m_away[r] && !m_model.engine().isShown(int(r));
     return count;
 }
@@ -89,7 +89,7 @@ void GridSelection::setAway(int row, bool on)
     m_away[size_t(row)] = on;
 }
 
-void GridSelection::setRows(std::span<const int> rows)
+void GridSelection::setRows(std::span<const int> rows, std::vector<qint64> awayIds)
 {
     std::vector<int> lines, away;
     for (int row : rows) {
@@ -99,13 +99,14 @@ void GridSelection::setRows(std::span<const int> rows)
     }
     std::ranges::sort(lines);
     m_away.clear(), m_spanned.clear();
+    m_awayIds = std::move(awayIds);
     for (int row : away) setAway(row, true);
     QItemSelectionModel::select(rangesOf(lines, m_model), ClearAndSelect);
 }
 
 void GridSelection::select(const QItemSelection &selection, SelectionFlags command)
 {
-    if (command & Clear) m_away.clear();
+    if (command & Clear) m_away.clear(), m_awayIds.clear();
     if (command & (Clear | Current))
         for (int row : std::exchange(m_spanned, {}))
             if (size_t(row) < m_away.size()) m_away[size_t(row)] = false;

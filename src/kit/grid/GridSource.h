@@ -62,6 +62,8 @@ public:
     virtual const std::vector<GridColumn> &columns() const = 0;
     virtual int rowCount() const = 0;
     virtual qint64 rowId(int row) const = 0;                    ///< stays with the record; unique
+    /// Those of these records that there are, though they are not rows just now.
+    virtual std::vector<qint64> existing(std::vector<qint64>) const { return {}; }
     virtual QVariant value(int row, int column) const = 0;      ///< for editing and sorting
     virtual QString text(int row, int column) const = 0;        ///< as shown
     virtual QPixmap picture(int, int) const

@@ -122,8 +122,38 @@ void ToolSet::on(const char *name, Behaviour behaviour)
     m_bound.push_back({action, std::move(behaviour), user});
 }
 
+void ToolSet::list(const char *band, std::function<std::vector<Entry>()> entries,
+                   std::function<void(int)> run)
+{
+    m_lists.push_back({popUp(band), std::move(entries), std::move(run), {}});
+    fillList(m_lists.back());
+}
+
+/// The actions stay where their entries do: a menu may be open.
+void ToolSet::fillList(Listed &list)
+{
+    const std::vector<Entry> entries = list.entries();
+    while (list.actions.size() > qsizetype(entries.size())) delete list.actions.takeLast();
+    while (list.actions.size() < qsizetype(entries.size())) {
+        const int place = int(list.actions.size());
+        QAction *const action = list.menu->addAction(QString());
+        connect(action, &QAction::triggered, this, [this, run = list.run, place] {
+            m_relay.guard([&] { run(place); });
+            refresh();
+        });
+        list.actions << action;
+    }
+    for (qsizetype i = 0; i < list.actions.size(); ++i) {
+        const Entry &e = entries[size_t(i)];
+        list.actions[i]->setObjectName(e.name);
+        list.actions[i]->setData(e.id);
+        list.actions[i]->setText(QString(e.caption).replace(u'&', QStringLiteral("&&")));
+    }
+}
+
 void ToolSet::refresh()
 {
+    for (Listed &list : m_lists) fillList(list);
     for (const Bound &b : m_bound)
         if (!b.user) b.tool->setEnabled(false);
     std::erase_if(m_bound, [](const Bound &b) { return !b.user; });

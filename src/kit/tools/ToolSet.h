@@ -44,6 +44,14 @@ public:
         QObject *user = nullptr;                ///< the tool is disabled once it is gone; null = never
     };
     void on(const char *name, Behaviour behaviour);     ///< the name must have a row
+    /// An entry of a list that a pop-up shows; `name` is the action's, `id` its data.
+    struct Entry {
+        QString name, caption;
+        int id = 0;
+    };
+    /// The entries of a band that are not known before; asked for whenever the tools are asked. `run` gets
+    /// the place of the one that was chosen.
+    void list(const char *band, std::function<std::vector<Entry>()> entries, std::function<void(int)> run);
     template <class Owner>                      ///< commands whose tools have no row here are passed over
     void connectTools(Owner &to, std::span<const std::type_identity_t<ToolCommand<Owner>>> table)
     {
@@ -66,6 +74,13 @@ private:
         Behaviour behaviour;
         QPointer<QObject> user;
     };
+    struct Listed {
+        QMenu *menu;
+        std::function<std::vector<Entry>()> entries;
+        std::function<void(int)> run;
+        QList<QAction *> actions;
+    };
+    void fillList(Listed &list);
     void makeTool(const Tool &row);
     QMenu *menuOf(const char *band);            ///< perhaps not filled yet
     template <class Band> void addTo(Band &band, const char *name);
@@ -80,6 +95,7 @@ private:
     QSet<QByteArray> m_keyed;                   ///< bands whose tools have access keys
     std::vector<std::pair<QWidget *, Text>> m_bars;     ///< and what a screen reader calls them
     std::vector<Bound> m_bound;
+    std::vector<Listed> m_lists;
 };
 
 } // namespace QV_DOC_CONTROLS

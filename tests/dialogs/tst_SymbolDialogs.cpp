@@ -1,0 +1,191 @@
+#include "controls/usSiInfo.h"
+#include "dialogs/select/frmSelect.h"
+#include "dialogs/select/frmSetup.h"
+#include "facade/clsDocDlgs.h"
+#include "facade/services/Language.h"
+#include "facade/services/Trace.h"
+#include "support/FaultyDoc.h"
+#include "support/Modal.h"
+#include "support/OwnStore.h"
+#include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
+#include "support/SymbolForm.h"
+
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+using tests::child;
+using tests::symbol;
+using tests::whileModal;
+
+Q_DECLARE_METATYPE(std::function<void(QV_DOC_CONTROLS::frmSelect &)>)
+using Act = std::function<void(frmSelect &)>;
+
+namespace {
+
+constexpr int kSampleColumn = 1;
+QAction &tool(QWidget &of, const char *name) { return child<QAction>(of, name); }
+Grid &items(QWidget &of) { return child<Grid>(of, "gridItems"); }
+void chooseRow(QWidget &of, qint16 number) { items(of).setCurrentRow(items(of).rowWithId(number)); }
+/// What a sample shows: the pixels that are not its ground.
+int inkOf(clsJS_Sid &js, qint16 number, Grid &grid)
+{
+    const QImage sample = js.source().picture(grid.rowWithId(number), kSampleColumn).toImage();
+    int ink = 0;
+    for (int y = 0; y < sample.height(); ++y)
+        for (int x = 0; x < sample.width(); ++x) ink += sample.pixel(x, y) != sample.pixel(0, 0);
+    return ink;
+}
+
+} // namespace
+
+class tst_SymbolDialogs : public QObject {
+    Q_OBJECT
+private:
+    std::unique_ptr<refhost::SqliteDoc> m_doc;
+    std::unique_ptr<tests::OwnStore> m_store;
+    clsDocDlgs m_dialogs;
+
+private slots:
+    void init()
+    {
+        setLanguage(Hungarian, {});
+        m_store = std::make_unique<tests::OwnStore>();
+        m_doc = tests::symbolDoc({symbol(1, "A"), symbol(2, "B"), symbol(3, "C", "Kettő")});
+        for (tSid s : m_doc->symbols().readAll()) {
+            s.Facename = QStringLiteral("DejaVu Sans"), s.Code = 'M', s.Align = 0;
+            m_doc->symbols().update(s);
+        }
+    }
+    void cleanup()
+    {
+        m_store.reset();
+        QVERIFY2(traceObjects().entries().empty(), "a form or manager was not released");
+    }
+
+    void okHandsOverTheCurrentSymbol()
+    {
+        tSid chosen{.SidId = 2};
+        const auto watch = whileModal<frmSelect>([](frmSelect &d) {
+            QCOMPARE(d.windowTitle(), QStringLiteral("Jelkulcstípus-választó"));
+            auto &preview = child<usSiInfo>(d, "usSiInfo1");
+            QCOMPARE(preview.GetSidRec().SidId, qint16(2));
+            chooseRow(d, 3);
+            QCOMPARE(preview.GetSidRec().SidId, qint16(3));
+            child<QPushButton>(d, "cmdOk").click();
+        });
+        QVERIFY(m_dialogs.bSelect_Sid(*m_doc, chosen));
+        QVERIFY(chosen == m_doc->symbols().find(3));
+    }
+
+    void whateverIsNoOkLeavesTheRecord_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::newRow("cancel") << Act([](frmSelect &d) {
+            chooseRow(d, 3);
+            child<QPushButton>(d, "cmdCancel").click();
+        });
+        QTest::newRow("close box") << Act([](frmSelect &d) { d.close(); });
+        QTest::newRow("ok, nothing is listed") << Act([](frmSelect &d) {
+            items(d).setFilterText(QStringLiteral("nincs ilyen"));
+            child<QPushButton>(d, "cmdOk").click();
+        });
+    }
+    void whateverIsNoOkLeavesTheRecord()
+    {
+        QFETCH(Act, act);
+        tSid chosen{.SidId = 2, .ShortName = QStringLiteral("mine")};
+        const tSid before = chosen;
+        const auto watch = whileModal<frmSelect>(act);
+        QVERIFY(!m_dialogs.bSelect_Sid(*m_doc, chosen));
+        QVERIFY(chosen == before);
+    }
+
+    void samplesAndPreviewAreZoomedByTheirTools()
+    {
+        tSid chosen{.SidId = 1};
+        const auto watch = whileModal<frmSelect>([](frmSelect &d) {
+            const int before = inkOf(*d.jsSid, 1, items(d));
+            QVERIFY(before > 0);
+            tool(d, "cmdSid_ViewZoomOut").trigger();
+            QVERIFY(inkOf(*d.jsSid, 1, items(d)) < before);
+            tool(d, "cmdSid_ViewZoomIn").trigger();
+            QCOMPARE(inkOf(*d.jsSid, 1, items(d)), before);
+            auto &preview = child<usSiInfo>(d, "usSiInfo1");
+            tool(d, "cmdSid_ZoomIn").trigger();         // makes it smaller, as published
+            QCOMPARE(preview.Zoom(), 2.5);
+            tool(d, "cmdSid_ZoomOut").trigger();
+            QCOMPARE(preview.Zoom(), 3.0);
+            tool(d, "miSiInfo").trigger();
+            QVERIFY(!preview.isVisible());
+            d.reject();
+        });
+        m_dialogs.bSelect_Sid(*m_doc, chosen);
+    }
+
+    void aSampleFollowsAnEdit()
+    {
+        const auto watch = whileModal<frmSetup>([](frmSetup &d) {
+            const int before = inkOf(*d.jsSid, 1, items(d));
+            QAbstractItemModel &cells = *items(d).table()->model();
+            QVERIFY(cells.setData(cells.index(0, 3), QStringLiteral("2,5")));
+            QVERIFY(inkOf(*d.jsSid, 1, items(d)) < before);
+            d.reject();
+        });
+        QVERIFY(!m_dialogs.bEdit_Sids(*m_doc));
+        QCOMPARE(m_doc->symbols().find(1)->Size_mm, 2.5f);      // edits stay
+    }
+
+    void selectedSymbolsMoveByTheGroupMenu()
+    {
+        const auto watch = whileModal<frmSetup>([](frmSetup &d) {
+            QMenu &menu = child<QMenu>(d, "bndGroups2");
+            items(d).selectRows({});
+            QVERIFY(!tool(d, "cmdSid_GroupMove").isEnabled());
+            items(d).selectAll();
+            QVERIFY(tool(d, "cmdSid_GroupMove").isEnabled());
+            QStringList entries;
+            for (const QAction *a : menu.actions())
+                entries << a->objectName() + u' ' + a->text() + u' ' + a->data().toString();
+            QCOMPARE(entries, (QStringList{"1cmdSid_GroupMove Egy 1001", "2cmdSid_GroupMove Kettő 1002"}));
+            menu.actions().at(1)->trigger();
+            child<QPushButton>(d, "cmdOk").click();
+        });
+        QVERIFY(m_dialogs.bEdit_Sids(*m_doc));
+        for (const tSid &s : m_doc->symbols().readAll()) QCOMPARE(s.GroupName, QStringLiteral("Kettő"));
+    }
+
+    void anErrorOfTheDocumentReachesTheCaller()
+    {
+        tests::FaultyDoc faulty(*m_doc);
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            items(d).selectAll();
+            tests::ScriptedPrompts user({{"numbers", QStringLiteral("Vastagság"),
+                                          QStringLiteral("A jelkulcstípus vonalvastagsága (csak az ZOL-2.5 "
+                                                         "jelkulcsokra érvényes)|Vastagság=|0.16"),
+                                          QVariantList{0.2}}});
+            faulty.log.failNext = QStringLiteral("symbols.update");
+            tool(d, "cmdSid_Width").trigger();
+        });
+        QVERIFY_THROWS_EXCEPTION(tests::HostError, m_dialogs.bEdit_Sids(faulty));
+    }
+
+    void whatNobodyOffersIsDisabled()
+    {
+        const auto watch = whileModal<frmSetup>([](frmSetup &d) {
+            items(d).selectAll();
+            QVERIFY(!tool(d, "cmdSid_Edit").isEnabled());
+            for (const char *name : {"cmdSid_Size", "cmdSid_Layer", "cmdSid_TrueType", "miLoadFont25",
+                                     "miSave2XML", "moLoadXML"})
+                QVERIFY2(tool(d, name).isEnabled(), name);
+            d.reject();
+        });
+        m_dialogs.bEdit_Sids(*m_doc);
+    }
+};
+
+QVDC_TEST(tst_SymbolDialogs)
+#include "tst_SymbolDialogs.moc"
