@@ -150,8 +150,15 @@ void NewElementForm::retranslate()
 
 void NewElementForm::keyPressEvent(QKeyEvent *e)
 {
-    if (e->key() == Qt::Key_Escape) emit done();
-    else QWidget::keyPressEvent(e);
+    if (e->key() != Qt::Key_Escape) return QWidget::keyPressEvent(e);
+    dropTyped();
+    emit done();
+}
+
+void NewElementForm::dropTyped()
+{
+    for (usInputBox *box : {m_width, m_rotation, m_textHeight}) box->LetValue(box->Value());
+    if (m_layer->LayId() != -1) guarded([this] { m_layer->LetLayId(m_layer->LayId(), kFollows); });
 }
 
 } // namespace refhost

@@ -111,8 +111,10 @@ private slots:
     {
         typeNumber("widthOfNew", "1");
         QVERIFY(child<usInputBox>("rotationOfNew").txtCombo->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_9);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(m_window->view().hasFocus());
+        QCOMPARE(child<usInputBox>("rotationOfNew").Value().toDouble(), 0.0);
         QAction &shown = child<QAction>("newElement");
         if (shown.isChecked()) shown.trigger();
         shown.trigger();
