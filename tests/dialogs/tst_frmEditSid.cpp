@@ -58,7 +58,8 @@ struct ChosenCharacter final : FontPicker {
     ~ChosenCharacter() override { setFontPicker(before); }
     std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override { return {}; }
     std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override { return {}; }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first, QObject *) override
+    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
+                                               QObject *) override
     {
         asked = first;
         return answer;
@@ -96,11 +97,13 @@ private slots:
     {
         setLanguage(Hungarian, {});
         m_host.emplace();
-        m_doc = tests::layerDoc({{.gNr = 11, .Name = QStringLiteral("Épület")}, {.gNr = 12, .Name = QStringLiteral("Út")}});
+        m_doc = tests::layerDoc(
+            {{.gNr = 11, .Name = QStringLiteral("Épület")}, {.gNr = 12, .Name = QStringLiteral("Út")}});
         s_road = m_doc->layers().findByNumber(12)->LayId;
         m_doc->layers().makeCurrent(*m_doc->layers().findByNumber(11));
         tSid s;
-        s.SidId = 7, s.ShortName = QStringLiteral("Kút"), s.GroupId = m_doc->symbols().groups().readAll()[0].GroupId;
+        s.SidId = 7, s.ShortName = QStringLiteral("Kút"),
+        s.GroupId = m_doc->symbols().groups().readAll()[0].GroupId;
         s.Facename = trueTypeFaces().front(), s.Code = 33, s.Size_mm = 5, s.Align = 24, s.DspZoom = 3;
         s.ProtType = 1, s.ProtXmm = 4.125, s.YwFact = s.XwFact = 1, s.Weight = 16, s.CharSet = 238;
         s.LayId = m_doc->layers().findByNumber(11)->LayId;
@@ -114,7 +117,9 @@ private slots:
     {
         QTest::addColumn<Act>("act");
         QTest::addColumn<Edit>("expected");
-        const auto row = [](const char *name, Act act, Edit expected) { QTest::newRow(name) << act << expected; };
+        const auto row = [](const char *name, Act act, Edit expected) {
+            QTest::newRow(name) << act << expected;
+        };
         row("name", typed("txtShortName", "Szőlő"), [](tSid &s) { s.ShortName = QStringLiteral("Szőlő"); });
         row("description", typed("txtFullName", "ű"), [](tSid &s) { s.FullName = QStringLiteral("ű"); });
         row("code", typed("usNumAscIICode", "337"), [](tSid &s) { s.Code = 337; });
@@ -126,7 +131,9 @@ private slots:
         row("layer left", typed("txtLayNr", "12\t"), [](tSid &s) { s.LayId = s_road; });
         row("face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
             [](tSid &s) { s.Facename = trueTypeFaces()[1]; });
-        row("alignment", [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },
+        row(
+            "alignment",
+            [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },
             [](tSid &s) { s.Align = 0; });
         row("a bound that the arrows reach",
             [](frmEditSid &f) {
@@ -178,7 +185,8 @@ private slots:
             odd.Type = type;
             const tSid after = edited(odd, [&](frmEditSid &f) {
                 QCOMPARE(f.usSiInfo1->GetSidRec() == odd, true);
-                QCOMPARE(f.cboFonts->placeholderText(), QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
+                QCOMPARE(f.cboFonts->placeholderText(),
+                         QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
                 QWidget *const first = f.focusWidget();
                 do QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
                 while (f.focusWidget() != first);
@@ -219,7 +227,8 @@ private slots:
                               << QStringLiteral("0,10 és 1000,00 közé eső értéket kell megadni!");
         QTest::newRow("code") << typed("usNumAscIICode", "65536") << range
                               << QStringLiteral("0 és 65535 közé eső értéket kell megadni!");
-        QTest::newRow("taken") << typed("txtShortName", "Fa") << name << QStringLiteral("Létező jelkulcs név!");
+        QTest::newRow("taken") << typed("txtShortName", "Fa") << name
+                               << QStringLiteral("Létező jelkulcs név!");
         QTest::newRow("none") << typed("txtShortName", " ") << name << QStringLiteral("Hiányzik a név!");
         QTest::newRow("layer") << typed("usLayInfo1", "77") << QStringLiteral("Hibás rétegszám")
                                << QStringLiteral("Nincs ilyen számú réteg!");
@@ -286,7 +295,8 @@ private slots:
             }
             QTimer user;
             user.callOnTimeout([&] {
-                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget())) confirm(*f);
+                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget()))
+                    confirm(*f);
             });
             user.start(0);
             QVERIFY_THROWS_EXCEPTION(tests::HostError, edit());

@@ -233,7 +233,8 @@ bool ItemList::eventFilter(QObject *watched, QEvent *event)
     if (watched == header.viewport()) {
         if (event->type() == QEvent::Leave) emit headerHovered(-1);
         if (event->type() == QEvent::MouseMove)
-            emit headerHovered(header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+            emit headerHovered(
+                header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
     } else if (event->type() == QEvent::ContextMenu) {
         const auto &menu = static_cast<QContextMenuEvent &>(*event);
         const QRect current = shown()->visualRect(m_report->currentIndex());

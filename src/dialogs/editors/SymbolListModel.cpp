@@ -114,7 +114,10 @@ void SymbolListModel::sort()
 }
 
 int SymbolListModel::rowOf(qint16 id) const { return m_rowOf.value(id, -1); }
-int SymbolListModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : kColumnCount; }
+int SymbolListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : kColumnCount;
+}
 
 void SymbolListModel::retranslate() { emit headerDataChanged(Qt::Horizontal, 0, kColumnCount - 1); }
 

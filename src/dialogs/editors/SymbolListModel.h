@@ -20,7 +20,10 @@ public:
     void setSymbols(std::vector<ZolWDoc::tSid> all, SymbolNames names, std::optional<qint16> group);
     void showGroup(std::optional<qint16> group);
     void setMarked(qint16 id) { m_marked = id; } ///< the symbol that the manager was opened with; -1 = none
-    void setDragged(std::function<QMimeData *(const std::vector<qint16> &)> data) { m_drag = std::move(data); }
+    void setDragged(std::function<QMimeData *(const std::vector<qint16> &)> data)
+    {
+        m_drag = std::move(data);
+    }
     void retranslate();
     static QString hintOf(int column);          ///< for the hint line; empty = none
 

@@ -36,7 +36,8 @@ public:
     /// Modal. `SidId`: the symbol that is current at first; on true the one that the user chose. In edit mode
     /// true = the changes were kept. Throws the host's error.
     bool bDoModal(ZolWDoc::ZOLW_Doc &oDoc, enumSetupMode mode, qint16 &SidId);
-    /// Asks for a symbol number that is free; false = cancelled. `SidId` is proposed. Throws the host's error.
+    /// Asks for a symbol number that is free; false = cancelled. `SidId` is proposed. Throws the host's
+    /// error.
     bool bGetSidId(qint16 &SidId);
     void TearDown();                                    ///< lets go of the document; may be repeated
     qint32 lDebugId() const { return m_identity; }
