@@ -92,9 +92,9 @@ void takeManager(tests::Sheet &sheet)
             for (const char *tool : kManagerStates) {
                 if (mode == MODE_EDIT && qstrcmp(tool, "miView_Icons") != 0) continue;
                 form.findChild<QAction *>(QLatin1String(tool))->trigger();
-                QApplication::processEvents();  // pictures are drawn once they were asked for
+                QCoreApplication::sendPostedEvents(); // pictures are drawn once they were asked for
                 form.grab();
-                QApplication::processEvents();
+                QCoreApplication::sendPostedEvents();
                 sheet.take(form);
             }
             form.reject();

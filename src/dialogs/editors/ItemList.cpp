@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -13,6 +14,8 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 constexpr int kIconLetters = 12, kListLetters = 24;     // room for a name under or beside its picture
+
+bool isEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
 
 /// Items that fill the cells of a flow.
 class CellDelegate final : public QStyledItemDelegate {
@@ -51,8 +54,20 @@ protected:
     }
 };
 
+/// The table. What becomes current moves it up and down only: the pictures stand in its first column.
+class ItemList::ReportView final : public QTreeView {
+public:
+    using QTreeView::QTreeView;
+    void scrollTo(const QModelIndex &index, ScrollHint hint) override
+    {
+        const int across = horizontalScrollBar()->value();
+        QTreeView::scrollTo(index, hint);
+        horizontalScrollBar()->setValue(across);
+    }
+};
+
 ItemList::ItemList(ErrorRelay &relay, QWidget *parent)
-    : QStackedWidget(parent), m_relay(relay), m_report(new QTreeView(this)), m_icons(new IconView(this))
+    : QStackedWidget(parent), m_relay(relay), m_report(new ReportView(this)), m_icons(new IconView(this))
 {
     m_report->setRootIsDecorated(false);
     m_report->setUniformRowHeights(true);
@@ -235,6 +250,9 @@ bool ItemList::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::MouseMove)
             emit headerHovered(
                 header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+    } else if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event))) {
+        emit chosen();
+        return true;                            // or the form's default button would be pressed, too
     } else if (event->type() == QEvent::ContextMenu) {
         const auto &menu = static_cast<QContextMenuEvent &>(*event);
         const QRect current = shown()->visualRect(m_report->currentIndex());

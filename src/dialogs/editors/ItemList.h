@@ -63,6 +63,7 @@ protected:
 
 private:
     class IconView;
+    class ReportView;
     void connectView(QAbstractItemView &view);
     void placeIcons();
     void sortBy(int column);

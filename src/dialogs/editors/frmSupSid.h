@@ -72,13 +72,13 @@ public:
     void removeGroups();
 
     // --- and when they can be used
-    bool isEditMode() const { return m_edit; }
+    bool isEditMode() const { return m_edit && m_doc; }
     bool isByGroups() const { return m_byGroups; }
     template <ItemList::View V> bool isView() const { return lvSids->view() == V; }
     template <int step> bool canResizeCells() const { return hasCell(step); }
     bool hasSelected() const { return lvSids->hasSelection(); }
-    bool canEditSelected() const { return m_edit && hasSelected(); }
-    bool canEditCurrent() const { return m_edit && lvSids->currentRow() >= 0; }
+    bool canEditSelected() const { return isEditMode() && hasSelected(); }
+    bool canEditCurrent() const { return isEditMode() && lvSids->currentRow() >= 0; }
     bool canEditSymbol() const { return canEditCurrent() && SymbolEdits::canEdit(); }
     bool canRenumber() const;
     bool canPickFont() const;

@@ -33,9 +33,9 @@ struct FontEntries final : EntrySource {
 } // namespace
 
 bool frmSupSid::canRenumber() const { return canEditCurrent() && m_doc->symbolRenumber(); }
-bool frmSupSid::canPickFont() const { return m_edit && fontPicker(); }
+bool frmSupSid::canPickFont() const { return isEditMode() && fontPicker(); }
 bool frmSupSid::canPickLayer() const { return canEditSelected() && canPickResource(TableKind::Layers); }
-bool frmSupSid::canEditGroup() const { return m_edit && m_byGroups && m_groups->rowOf(m_group) >= 0; }
+bool frmSupSid::canEditGroup() const { return isEditMode() && m_byGroups && m_groups->rowOf(m_group) >= 0; }
 
 void frmSupSid::zoomIn() { m_pictures->zoomBy(kZoomStep); }
 void frmSupSid::zoomOut() { m_pictures->zoomBy(-kZoomStep); }
@@ -105,7 +105,9 @@ void frmSupSid::renumber()
 std::vector<qint16> frmSupSid::removableGroups(const std::vector<tSid> &symbols)
 {
     std::vector<qint16> empty;
-    for (const QModelIndex &index : lvGroups->selectionModel()->selectedRows()) {
+    QModelIndexList chosen = lvGroups->selectionModel()->selectedRows();
+    std::sort(chosen.begin(), chosen.end());
+    for (const QModelIndex &index : chosen) {
         const auto &group = m_groups->groups()[size_t(index.row())];
         if (std::ranges::count(symbols, group.id, &tSid::GroupId) == 0) {
             empty.push_back(group.id);
