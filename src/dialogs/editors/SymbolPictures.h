@@ -39,7 +39,7 @@ private:
     QHash<qint16, Picture> m_pictures;
     QHash<qint16, ZolWDoc::tSid> m_wanted;
     QPixmap m_blank;                            ///< as large as the pictures
-    QTimer m_timer;                             ///< of zero length
+    QTimer m_timer{this};                       ///< of zero length
     int m_look = 1;                             ///< counts the changes of it
 };
 
