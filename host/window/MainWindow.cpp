@@ -128,7 +128,7 @@ void MainWindow::buildNewElement()
 void MainWindow::showNewElement(bool shown)
 {
     m_newElementPage->setVisible(shown);
-    if (shown) m_newElement->setFocus();
+    if (shown) m_newElement->setFocus(Qt::TabFocusReason);
 }
 
 void MainWindow::connectParts()

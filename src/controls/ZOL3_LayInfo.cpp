@@ -27,6 +27,7 @@ using ZolWDoc::tLay;
 namespace {
 
 constexpr quint8 kByUser = 0;                   ///< the change mode of what the user types or picks
+constexpr int kLetters = 20;                    ///< of the name that there is room for
 
 constexpr BagRow kBag[] = {
     {"Enabled", "Enabled", true},
@@ -216,6 +217,14 @@ void ZOL3_LayInfo::setVisibleIcon(bool on)
     m_visibleIcon = on;
     cmdModLay->setIcon(on ? toolIcon("layer") : QIcon());
     RefreshControls();
+}
+
+/// A form does not jump when another layer has a longer name.
+QSize ZOL3_LayInfo::sizeHint() const
+{
+    const int name = fontMetrics().averageCharWidth() * kLetters;
+    const QSize shown = lblLayId->sizeHint().expandedTo(lblLayId->minimumSizeHint());
+    return QWidget::sizeHint() + QSize(name - shown.width(), 0);
 }
 
 void ZOL3_LayInfo::RefreshControls()

@@ -68,6 +68,7 @@ public:
     QVariantMap propertyBag() const;                    ///< by published key, what differs from its default
     void setPropertyBag(const QVariantMap &bag);        ///< what it lacks gets its default
     qint32 lDebugId() const { return m_identity; }
+    QSize sizeHint() const override;                    ///< whatever the layer's name
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QLabel *const lblLay;

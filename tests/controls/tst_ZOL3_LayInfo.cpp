@@ -339,6 +339,7 @@ private slots:
         Form f(m_doc.get());
         f.control->LetLayNr(12, 0);
         const int before = f.control->lblLayId->width();
+        QCOMPARE(f.control->sizeHint(), Form(m_doc.get()).control->sizeHint()); // that shows no name
         f.control->setInfoMode(true);
         QVERIFY(!f.control->fraModLay->isVisible());
         f.type("21");

@@ -298,8 +298,11 @@ private slots:
         InputForm f(kComma);
         f.decimals(0, 10).box->LetValue(1);
         f.raised.clear();
-        f.shown();
+        f.shown().box->LetValue(1.5);
+        f.box->LetValue(1);
+        f.raised.clear();
         const int alone = f.line().width();
+        QCOMPARE(alone, f.box->txtCombo->width()); // nothing to open, whatever was shown meanwhile
         f.box->ComboValue(2.5), f.box->ComboValue(QStringLiteral("7"));
         QVERIFY(f.line().width() < alone);      // the arrow that opens the list needs its room
         QCOMPARE(f.text(), QStringLiteral("1,00"));

@@ -10,6 +10,7 @@
 
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
@@ -64,6 +65,11 @@ Values previewValues(Values own)
 
 const std::vector<Control> &controls()
 {
+    static const Values layerSet{{"Backcolor", QColor(0x11, 0x22, 0x33)},
+                                 {"Font", kFont},
+                                 {"SingleLine", true},
+                                 {"WidthDiferent", -12.5}};
+    static const QStringList kept{"sLays", "sLayGroup"};
     static const std::vector<Control> all{
         {"usInputBox",
          {{"Backcolor", QColor(0x11, 0x22, 0x33)},
@@ -92,18 +98,8 @@ const std::vector<Control> &controls()
           {"LenMax", 9},
           {"ReadsLocale", true},
           {"ErrorsInPlace", true}}},
-        {"ZOL3_LayGroup",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"Font", kFont},
-          {"SingleLine", true},
-          {"WidthDiferent", 12.5}},
-         {"sLays", "sLayGroup"}},
-        {"usLays",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"Font", kFont},
-          {"SingleLine", true},
-          {"WidthDiferent", -12.5}},
-         {"sLays", "sLayGroup"}},
+        {"ZOL3_LayGroup", layerSet, kept},
+        {"usLays", layerSet, kept},
         {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
         {"usSiInfo", previewValues({{"ShowEnabled", false}})},
         {"ZOL3_SiInfo", previewValues({})},
@@ -177,42 +173,25 @@ void holdsValues(QWidget *form, const Control &control)
                                      said(found->property(name)), said(value))));
 }
 
-void addNumber(QDomElement &to, const char *name, int number)
-{
-    QDomDocument dom = to.ownerDocument();
-    QDomElement element = dom.createElement(QLatin1String(name));
-    element.appendChild(dom.createTextNode(QString::number(number)));
-    to.appendChild(element);
-}
-
 /// A value as forms write it.
-QDomElement element(QDomDocument &dom, const QVariant &value)
+QString element(const QVariant &value)
 {
     const auto simple = [&](const char *name) {
-        QDomElement e = dom.createElement(QLatin1String(name));
-        e.appendChild(dom.createTextNode(value.toString()));
-        return e;
+        return QStringLiteral("<%1>%2</%1>").arg(QLatin1String(name), value.toString().toHtmlEscaped());
     };
     switch (value.typeId()) {
     case QMetaType::Bool: return simple("bool");
     case QMetaType::Int: return simple("number");
     case QMetaType::Double: return simple("double");
     case QMetaType::QColor: {
-        const auto color = value.value<QColor>();
-        QDomElement e = dom.createElement(QStringLiteral("color"));
-        e.setAttribute(QStringLiteral("alpha"), color.alpha());
-        addNumber(e, "red", color.red()), addNumber(e, "green", color.green()),
-            addNumber(e, "blue", color.blue());
-        return e;
+        const auto c = value.value<QColor>();
+        return QStringLiteral("<color alpha='%1'><red>%2</red><green>%3</green><blue>%4</blue></color>")
+            .arg(c.alpha()).arg(c.red()).arg(c.green()).arg(c.blue());
     }
     case QMetaType::QFont: {
         const auto font = value.value<QFont>();
-        QDomElement e = dom.createElement(QStringLiteral("font"));
-        QDomElement family = dom.createElement(QStringLiteral("family"));
-        family.appendChild(dom.createTextNode(font.family()));
-        e.appendChild(family);
-        addNumber(e, "pointsize", font.pointSize());
-        return e;
+        return QStringLiteral("<font><family>%1</family><pointsize>%2</pointsize></font>")
+            .arg(font.family()).arg(font.pointSize());
     }
     default: return simple("string");
     }
@@ -221,28 +200,22 @@ QDomElement element(QDomDocument &dom, const QVariant &value)
 /// A form with that control and its values, as a designer would type it.
 QString formWith(const Control &control)
 {
-    QDomDocument dom;
-    dom.setContent(QStringLiteral("<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'>"
-                                  "<widget name='control' class='%1'/></widget></ui>")
-                       .arg(className(control)));
-    QDomElement widget = dom.documentElement().lastChildElement().firstChildElement();
-    for (const auto &[name, value] : control.values) {
-        QDomElement property = dom.createElement(QStringLiteral("property"));
-        property.setAttribute(QStringLiteral("name"), QLatin1String(name));
-        property.appendChild(element(dom, value));
-        widget.appendChild(property);
-    }
-    return dom.toString();
+    QString properties;
+    for (const auto &[name, value] : control.values)
+        properties += QStringLiteral("<property name='%1'>").arg(QLatin1String(name)) + element(value) +
+                      QStringLiteral("</property>");
+    return QStringLiteral("<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'>"
+                          "<widget name='control' class='") +
+           className(control) + QStringLiteral("'>") + properties +
+           QStringLiteral("</widget></widget></ui>");
 }
 
-/// The designer's engine with one form open, without its windows.
-struct Designer {
+/// The designer's engine, without its windows. One for the process: a second one may end it.
+struct Engine {
     std::unique_ptr<QDesignerFormEditorInterface> core;
     QWidget desk;                               ///< goes before the core
-    QDesignerFormWindowInterface *form = nullptr; ///< the core's
-    QWidget *control = nullptr;
 
-    explicit Designer(const Control &c)
+    Engine()
     {
         QDesignerComponents::initializeResources();
         tests::expectWarning(QStringLiteral("QOpenGLWidget is not supported on this platform"));
@@ -250,7 +223,17 @@ struct Designer {
         core->setPropertyEditor(QDesignerComponents::createPropertyEditor(core.get(), &desk));
         new QDesignerIntegration(core.get(), core.get());
         QDesignerComponents::initializePlugins(core.get());
-        form = core->formWindowManager()->createFormWindow(&desk);
+    }
+};
+
+/// One form open in it.
+struct Designer {
+    QDesignerFormWindowInterface *const form;
+    QWidget *control = nullptr;
+
+    Designer(Engine &engine, const Control &c)
+        : form(engine.core->formWindowManager()->createFormWindow(&engine.desk))
+    {
         if (form->setContents(formWith(c))) control = form->findChild<QWidget *>(QStringLiteral("control"));
     }
     ~Designer() { delete form; }
@@ -261,8 +244,15 @@ struct Designer {
 
 class tst_Forms : public QObject {
     Q_OBJECT
+private:
+    std::unique_ptr<Engine> m_engine;
 private slots:
-    void initTestCase() { QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS)); }
+    void initTestCase()
+    {
+        QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS));
+        m_engine = std::make_unique<Engine>();
+    }
+    void cleanupTestCase() { m_engine.reset(); }
 
     void thePluginOffersEveryControl()
     {
@@ -300,7 +290,7 @@ private slots:
     {
         QFETCH(int, control);
         const Control &c = controls()[size_t(control)];
-        const QByteArray form = Designer(c).saved();
+        const QByteArray form = Designer(*m_engine, c).saved();
         std::mt19937 random(7);
         for (int turn = 0; turn < 12; ++turn) holdsValues(loaded(shuffled(form, random), turn % 2).get(), c);
     }
@@ -310,11 +300,11 @@ private slots:
     {
         QFETCH(int, control);
         const Control &c = controls()[size_t(control)];
-        const Designer designer(c);
+        const Designer designer(*m_engine, c);
         QWidget *const made = designer.control;
         QVERIFY(made && isDesigned(*made));
         auto *const sheet = qt_extension<QDesignerPropertySheetExtension *>(
-            designer.core->extensionManager(), made);
+            m_engine->core->extensionManager(), made);
         for (const auto &[name, value] : c.values) {
             const int index = sheet->indexOf(QLatin1String(name));
             QVERIFY2(index >= 0 && sheet->isVisible(index), name);
@@ -326,6 +316,22 @@ private slots:
             QCOMPARE(made->property(name.toLatin1()), before);
         }
         holdsValues(loaded(designer.saved(), true).get(), c);
+    }
+
+    void thePropertyEditorMaySetThemInAnyOrder_data() { aSavedFormLoadsBackInEveryOrder_data(); }
+    void thePropertyEditorMaySetThemInAnyOrder()
+    {
+        QFETCH(int, control);
+        Control c = controls()[size_t(control)];
+        std::erase_if(c.values, [](const auto &v) { return v.second.typeId() == QMetaType::QString; });
+        std::mt19937 random(11);
+        for (int turn = 0; turn < 5; ++turn) {
+            std::ranges::shuffle(c.values, random);
+            const Designer designer(*m_engine, {c.name, {}});
+            for (const auto &[name, value] : c.values)
+                designer.form->cursor()->setWidgetProperty(designer.control, QLatin1String(name), value);
+            holdsValues(loaded(designer.saved(), turn % 2).get(), c);
+        }
     }
 
     void aCompiledFormHoldsItsValues()

@@ -111,8 +111,15 @@ private slots:
     {
         typeNumber("widthOfNew", "1");
         QVERIFY(child<usInputBox>("rotationOfNew").txtCombo->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_9);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(m_window->view().hasFocus());
+        QCOMPARE(child<usInputBox>("rotationOfNew").Value().toDouble(), 0.0);
+        QAction &shown = child<QAction>("newElement");
+        if (shown.isChecked()) shown.trigger();
+        shown.trigger();
+        QCOMPARE(layer().txtLayNr->selectedText(), QStringLiteral("1")); // it is shown to be worked in
+        QVERIFY(layer().txtLayNr->hasFocus());
     }
 
     void theElementGoesOntoEveryLayerOfTheSet()
@@ -152,6 +159,9 @@ private slots:
         QCOMPARE(doc().layers().find(doc().layers().currentId())->gNr, qint16(1));
         m_window->page().refresh();
         QCOMPARE(layers().sLays(), QStringLiteral("1"));
+        QTest::keyClick(layer().txtLayNr, Qt::Key_7);
+        m_window->page().refresh();
+        QCOMPARE(layer().txtLayNr->text(), QStringLiteral("17")); // what is being typed stays
     }
     void theFormBelongsToTheDrawingInFront()
     {

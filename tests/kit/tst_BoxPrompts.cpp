@@ -3,6 +3,7 @@
 #include "facade/services/Language.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
+#include "support/Same.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -10,25 +11,23 @@
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
-using Act = std::function<void(QMessageBox &)>;
-Q_DECLARE_METATYPE(Act)
-
 namespace {
 
-Message asking(Icon icon) { return {icon, QStringLiteral("Réteg törlés"), QStringLiteral("Törlöd?")}; }
+using Act = std::function<void(QMessageBox &)>;
+enum Kind { YesNo, All, Cancel };
 
-QString answered(const QByteArray &kind, Icon icon)
+QString answered(Kind kind, Icon icon)
 {
+    const Message question{icon, QStringLiteral("Réteg törlés"), QStringLiteral("Törlöd?")};
     const auto said = [](bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no"); };
-    if (kind == "yesNo") return said(prompts().yesNo(asking(icon)));
-    if (kind == "yesNoCancel") {
-        const auto answer = prompts().yesNoCancel(asking(icon));
+    if (kind == YesNo) return said(prompts().yesNo(question));
+    if (kind == Cancel) {
+        const auto answer = prompts().yesNoCancel(question);
         return answer ? said(*answer) : QStringLiteral("cancelled");
     }
-    const AllYesNo answer = prompts().allYesNo(asking(icon));
+    const AllYesNo answer = prompts().allYesNo(question);
     return answer == AllYesNo::All ? QStringLiteral("all") : said(answer == AllYesNo::Yes);
 }
-
 Act press(Qt::Key key)
 {
     return [=](QMessageBox &box) { QTest::keyClick(box.focusWidget(), key); };
@@ -43,67 +42,45 @@ Act click(const char *name)
 class tst_BoxPrompts : public QObject {
     Q_OBJECT
 private slots:
-    void cleanup() { setLanguage(Hungarian, {}); }
-    void aQuestionIsAnswered_data()
-    {
-        QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<int>("icon");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<QString>("answer");
-        const auto row = [](const char *kind, const char *how, const Act &act, const char *answer,
-                            Icon icon = Icon::Question) {
-            QTest::addRow("%s: %s", kind, how)
-                << QByteArray(kind) << int(icon) << act << QString::fromLatin1(answer);
-        };
-        const Act closed = [](QMessageBox &box) { box.close(); };
-        const Act enter = press(Qt::Key_Return), escape = press(Qt::Key_Escape);
-        row("yesNo", "Enter", enter, "yes");
-        row("yesNo", "Enter, at a warning", enter, "no", Icon::Exclamation);
-        row("yesNo", "Escape", escape, "no");
-        row("yesNo", "closed", closed, "no");
-        row("yesNo", "Igen", click("cmdYes"), "yes");
-        row("yesNo", "Nem", click("cmdNo"), "no");
-        row("allYesNo", "Enter", enter, "no");
-        row("allYesNo", "Escape", escape, "no");
-        row("allYesNo", "closed", closed, "no");
-        row("allYesNo", "Mind", click("cmdAll"), "all");
-        row("allYesNo", "Igen", click("cmdYes"), "yes");
-        row("yesNoCancel", "Enter", enter, "yes");
-        row("yesNoCancel", "Enter, at a warning", enter, "cancelled", Icon::Exclamation);
-        row("yesNoCancel", "Escape", escape, "cancelled");
-        row("yesNoCancel", "closed", closed, "cancelled");
-        row("yesNoCancel", "Nem", click("cmdNo"), "no");
-        row("yesNoCancel", "Mégse", click("cmdCancel"), "cancelled");
-    }
     void aQuestionIsAnswered()
     {
-        QFETCH(QByteArray, kind);
-        QFETCH(int, icon);
-        QFETCH(Act, act);
-        const auto watch = whileModal<QMessageBox>(act);
-        QTEST(answered(kind, Icon(icon)), "answer");
-    }
-    void theAnswersAreInTheUsersLanguage_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QStringList>("captions");
-        QTest::newRow("hu") << int(Hungarian) << QStringList{"&Mind", "&Igen", "&Nem"};
-        QTest::newRow("ro") << int(Romanian) << QStringList{"&Toate", "&Da", "&Nu"};
-        QTest::newRow("vi") << int(Vietnamese) << QStringList{"&Tất cả", "&Có", "&Không"};
-        QTest::newRow("en") << int(English) << QStringList{"&All", "&Yes", "&No"};
+        const Act closed = [](QMessageBox &box) { box.close(); };
+        const Act enter = press(Qt::Key_Return), escape = press(Qt::Key_Escape);
+        const std::tuple<const char *, Kind, Act, const char *, Icon> rows[] = {
+            {"Enter", YesNo, enter, "yes", Icon::Question},
+            {"Enter at a warning", YesNo, enter, "no", Icon::Exclamation},
+            {"Escape", YesNo, escape, "no", Icon::Question},
+            {"closed", YesNo, closed, "no", Icon::Question},
+            {"Yes", YesNo, click("cmdYes"), "yes", Icon::Exclamation},
+            {"No", YesNo, click("cmdNo"), "no", Icon::Question},
+            {"all: Enter", All, enter, "no", Icon::Question},
+            {"all: Escape", All, escape, "no", Icon::Question},
+            {"all: closed", All, closed, "no", Icon::Question},
+            {"all: All", All, click("cmdAll"), "all", Icon::Question},
+            {"all: Yes", All, click("cmdYes"), "yes", Icon::Question},
+            {"cancel: Enter", Cancel, enter, "yes", Icon::Question},
+            {"cancel: Enter at a warning", Cancel, enter, "cancelled", Icon::Exclamation},
+            {"cancel: Escape", Cancel, escape, "cancelled", Icon::Question},
+            {"cancel: closed", Cancel, closed, "cancelled", Icon::Question},
+            {"cancel: No", Cancel, click("cmdNo"), "no", Icon::Question},
+            {"cancel: Cancel", Cancel, click("cmdCancel"), "cancelled", Icon::Question}};
+        for (const auto &[name, kind, act, answer, icon] : rows) {
+            const auto watch = whileModal<QMessageBox>(act);
+            same(name, answered(kind, icon), answer);
+        }
     }
     void theAnswersAreInTheUsersLanguage()
     {
-        QFETCH(int, language);
-        setLanguage(language, {});
+        setLanguage(Vietnamese, {});
         const auto watch = whileModal<QMessageBox>([](QMessageBox &box) {
             QStringList captions;
             for (const char *name : {"cmdAll", "cmdYes", "cmdNo"})
                 captions << child<QPushButton>(box, name).text();
-            QTEST(captions, "captions");
+            QCOMPARE(captions, QStringList({"&Tất cả", "&Có", "&Không"}));
             box.close();
         });
-        prompts().allYesNo(asking(Icon::Question));
+        answered(All, Icon::Question);
+        setLanguage(Hungarian, {});
     }
 };
 QVDC_TEST(tst_BoxPrompts)

@@ -1,8 +1,6 @@
-#include "facade/contract/HostServices.h"
-#include "facade/services/Services.h"
 #include "kit/forms/HeaderColumns.h"
 #include "kit/forms/Twips.h"
-#include "support/MemoryStore.h"
+#include "support/OwnStore.h"
 #include "support/Registry.h"
 
 #include <QHeaderView>
@@ -13,32 +11,24 @@ using namespace QV_DOC_CONTROLS;
 
 class tst_HeaderColumns : public QObject {
     Q_OBJECT
-    struct Services final : ZolWDoc::HostServices {
-        tests::MemoryStore memory;
-        ZolWDoc::SettingsStore *store() override { return &memory; }
-    };
 private slots:
     void widthsComeBackInTwipsUnderTheirCaptions()
     {
-        Services services;
-        setHostServices(&services);
-        QTreeWidget list;
-        list.setHeaderLabels({QStringLiteral("Szám"), QStringLiteral("Név"), QStringLiteral("Szín")});
+        tests::OwnStore store;
+        QTreeWidget list, later;
+        list.setHeaderLabels({"Szám", "Név", "Szín"});
         const int wide = pixelsOf(2400, list);
         list.header()->resizeSection(1, wide);
         list.header()->hideSection(2);
-        saveListViewColumns(*list.header(), QStringLiteral("Pens"), QStringLiteral("ZolWOp"), 3);
-        QCOMPARE(services.memory.values[QStringLiteral("ZolWOp/Settings/Pens2")],
-                 QString::number(twipsOf(wide, list)));
+        saveListViewColumns(*list.header(), "Pens", "ZolWOp", 3);
+        QCOMPARE(store.kept.values["ZolWOp/Settings/Pens2"], QString::number(twipsOf(wide, list)));
 
-        QTreeWidget later;
-        later.setHeaderLabels({QStringLiteral("Number"), QStringLiteral("Név"), QStringLiteral("Szín")});
+        later.setHeaderLabels({"Number", "Név", "Szín"});
         const int number = later.header()->sectionSize(0), color = later.header()->sectionSize(2);
-        loadListViewColumns(*later.header(), QStringLiteral("Pens"), QStringLiteral("ZolWOp"));
+        loadListViewColumns(*later.header(), "Pens", "ZolWOp");
         QCOMPARE(later.header()->sectionSize(0), number); // renamed
         QCOMPARE(later.header()->sectionSize(1), wide);
         QCOMPARE(later.header()->sectionSize(2), color); // it was hidden: no width
-        setHostServices(nullptr);
     }
 };
 QVDC_TEST(tst_HeaderColumns)

@@ -7,10 +7,11 @@
 #include <stdexcept>
 
 using namespace QV_DOC_CONTROLS;
+using std::chrono::milliseconds;
 
 namespace {
 
-constexpr std::chrono::milliseconds kAtOnce{0};
+constexpr milliseconds kAtOnce{0}, kNever{3600000};
 
 /// Three steps that write down when they run and whether the window was there.
 struct ThreeSteps {
@@ -32,9 +33,9 @@ private slots:
     void shortRunsShowNothing()
     {
         ThreeSteps three;
-        StepRun run(QStringLiteral("wait"), std::chrono::hours(1));
+        StepRun run("wait", kNever);
         QVERIFY(run.run(three.steps, nullptr) && !run.tookLong());
-        QCOMPARE(three.log.join(u' '), QStringLiteral("1- 2- 3-"));
+        QCOMPARE(three.log.join(u' '), "1- 2- 3-");
     }
     void longRunsShowHowFarTheyAre()
     {
@@ -42,29 +43,24 @@ private slots:
         three.steps[1] = [&] {
             three.step(2);
             auto *const window = QApplication::activeModalWidget();
-            QVERIFY(window && window->windowTitle() == QStringLiteral("wait"));
+            QVERIFY(window && window->windowTitle() == "wait");
             const auto &bar = tests::child<QProgressBar>(*window, "");
             QCOMPARE(bar.value() * 10 + bar.maximum(), 13); // one of three
             QTest::keyClick(window, Qt::Key_Escape); // what is half shown must be finished
         };
-        QVERIFY(StepRun(QStringLiteral("wait"), kAtOnce).run(three.steps, nullptr));
-        QCOMPARE(three.log.join(u' '), QStringLiteral("1+ 2+ 3+"));
-    }
-    void anErrorEndsTheRun_data()
-    {
-        QTest::addColumn<int>("silent");
-        QTest::newRow("behind the window") << 0;
-        QTest::newRow("without it") << 3600000;
+        QVERIFY(StepRun("wait", kAtOnce).run(three.steps, nullptr));
+        QCOMPARE(three.log.join(u' '), "1+ 2+ 3+");
     }
     void anErrorEndsTheRun()
     {
-        QFETCH(int, silent);
-        ThreeSteps three;
-        three.failing = 2;
-        StepRun run(QStringLiteral("wait"), std::chrono::milliseconds(silent));
-        QVERIFY_EXCEPTION_THROWN(run.run(three.steps, nullptr), std::runtime_error);
-        QCOMPARE(three.log.size(), 2);
-        QVERIFY(!QApplication::activeModalWidget());
+        for (const milliseconds silent : {kAtOnce, kNever}) { // behind the window, and without it
+            ThreeSteps three;
+            three.failing = 2;
+            StepRun run("wait", silent);
+            QVERIFY_EXCEPTION_THROWN(run.run(three.steps, nullptr), std::runtime_error);
+            QCOMPARE(three.log.size(), 2);
+            QVERIFY(!QApplication::activeModalWidget());
+        }
     }
     void closedFromOutsideTheRestIsNotRun()
     {
@@ -73,7 +69,7 @@ private slots:
             three.step(1);
             qobject_cast<QDialog *>(QApplication::activeModalWidget())->QDialog::done(QDialog::Rejected);
         };
-        QVERIFY(!StepRun(QStringLiteral("wait"), kAtOnce).run(three.steps, nullptr));
+        QVERIFY(!StepRun("wait", kAtOnce).run(three.steps, nullptr));
         QCOMPARE(three.log.size(), 1);
     }
 };

@@ -14,24 +14,20 @@ using Step = tests::ScriptedPrompts::Step;
 
 namespace {
 
-const Message kTaken{Icon::Information, QStringLiteral("Egyedi sorszám"), QStringLiteral("Létező sorszám !")};
-
-NumberQuestion question()
-{
-    return {QStringLiteral("Sorszám"), QStringLiteral("Új sorszám"),
-            {{.label = QStringLiteral("Száma"), .preset = 3, .min = 1, .max = 32767}}};
-}
+const Message kTaken{Icon::Information, "Egyedi sorszám", "Létező sorszám !"};
+const Step kTells{"tell", kTaken.title, kTaken.text, {}, kTaken.icon};
 
 Step asks(const char *preset, QVariant answer)
 {
-    return {"numbers", QStringLiteral("Sorszám"), QStringLiteral("Új sorszám|Száma|") + QLatin1String(preset),
-            std::move(answer)};
+    return {"numbers", "Sorszám", QString("Új sorszám|Száma|") + preset, std::move(answer)};
 }
-Step tells() { return {"tell", kTaken.title, kTaken.text, {}, kTaken.icon}; }
-
-std::optional<Message> takenBelowFive(double number)
+/// Numbers below five are taken.
+int numberBy(ErrorRelay &relay)
 {
-    return number < 5 ? std::optional(kTaken) : std::nullopt;
+    const NumberQuestion question{
+        "Sorszám", "Új sorszám", {{.label = "Száma", .preset = 3, .min = 1, .max = 32767}}};
+    const auto refusal = [](double n) { return n < 5 ? std::optional(kTaken) : std::nullopt; };
+    return int(uniqueNumber(relay, question, refusal).value_or(-1));
 }
 
 } // namespace
@@ -41,39 +37,27 @@ class tst_UniqueNumber : public QObject {
 private slots:
     void whatIsTakenIsAskedAgainWithWhatWasTyped()
     {
-        tests::ScriptedPrompts user({asks("3", QVariantList{3}), tells(), asks("3", QVariantList{4}), tells(),
-                                     asks("4", QVariantList{5})});
         ErrorRelay relay;
-        QCOMPARE(uniqueNumber(relay, question(), takenBelowFive).value_or(-1), 5);
-    }
-    void theUserMayGiveUpAfterARefusal()
-    {
-        tests::ScriptedPrompts user({asks("3", QVariantList{3}), tells(), asks("3", {})});
-        ErrorRelay relay;
-        QVERIFY(!uniqueNumber(relay, question(), takenBelowFive));
-    }
-    void anErrorThatCameInMeanwhileEndsTheAsking_data()
-    {
-        QTest::addColumn<bool>("whileTold");
-        QTest::newRow("while the number was asked") << false;
-        QTest::newRow("while the refusal was told") << true;
+        tests::ScriptedPrompts user({asks("3", QVariantList{3}), kTells, asks("3", QVariantList{4}), kTells,
+                                     asks("4", QVariantList{5}), asks("3", QVariantList{3}), kTells,
+                                     asks("3", {})});
+        QCOMPARE(numberBy(relay), 5);
+        QCOMPARE(numberBy(relay), -1); // given up after a refusal
     }
     void anErrorThatCameInMeanwhileEndsTheAsking()
     {
-        QFETCH(bool, whileTold);
-        ErrorRelay relay;
-        std::vector<Step> steps{asks("3", QVariantList{3})};
-        if (whileTold) steps.push_back(tells());
-        steps.back().meanwhile = [&] { relay.guard([] { throw std::runtime_error("lost"); }); };
-        tests::ScriptedPrompts user(steps);
-        bool asked = false;
-        QVERIFY(!relay.guard([&] {
-            uniqueNumber(relay, question(), takenBelowFive);
-            asked = true;
-        }));
-        QVERIFY(!asked);
-        QDialog dialog;
-        QVERIFY_EXCEPTION_THROWN(relay.exec(dialog), std::runtime_error);
+        for (const bool whileTold : {false, true}) {
+            ErrorRelay relay;
+            std::vector<Step> steps{asks("3", QVariantList{3})};
+            if (whileTold) steps.push_back(kTells);
+            steps.back().meanwhile = [&] { relay.guard([] { throw std::runtime_error("lost"); }); };
+            tests::ScriptedPrompts user(steps);
+            bool asked = false;
+            QVERIFY(!relay.guard([&] { asked = numberBy(relay); }));
+            QVERIFY(!asked);
+            QDialog dialog;
+            QVERIFY_EXCEPTION_THROWN(relay.exec(dialog), std::runtime_error);
+        }
     }
 };
 QVDC_TEST(tst_UniqueNumber)

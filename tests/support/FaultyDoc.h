@@ -18,6 +18,7 @@ struct HostError : std::runtime_error {
 /// Counts and fails the calls of a document.
 struct CallLog {
     QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
+    int bulkUpdates = 0;            ///< of layers, each with its single updates
     int failAt = -1;                ///< the call with this index throws HostError
     QString failNext;               ///< the next call of this name throws HostError
     std::function<void(const QString &)> meanwhile; ///< happens during every call
@@ -37,7 +38,7 @@ struct CallLog {
 };
 
 /// Layers through the log.
-struct FaultyLayers final : ZolWDoc::LayerRole {
+struct FaultyLayers : ZolWDoc::LayerRole {
     FaultyLayers(ZolWDoc::LayerRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::LayerRole &real;
     CallLog &log;
@@ -49,6 +50,11 @@ struct FaultyLayers final : ZolWDoc::LayerRole {
     qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
     void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
     int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
+    void updateAll(std::span<const Rec> all, int &written) override
+    {
+        ++log.bulkUpdates;                      ///< row by row below, so that each can fail
+        LayerRole::updateAll(all, written);
+    }
     std::optional<Rec> findByNumber(qint16 n) const override
     {
         return log.on("layers.findByNumber"), real.findByNumber(n);
@@ -100,16 +106,16 @@ template <class Role, class Rec> struct FaultyTable : Role {
     bool remove(qint16 id) override { return on("remove"), real.remove(id); }
     int uses(qint16 id) const override { return on("uses"), real.uses(id); }
 };
-struct FaultyTextTypes final : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd> {
+struct FaultyTextTypes : FaultyTable<ZolWDoc::TextTypeRole, ZolWDoc::tTxd> {
     using FaultyTable::FaultyTable;
     ZolWDoc::GroupRole &groups() override { return on("groups"), real.groups(); }
     void renumber(qint16 from, qint16 to) override { on("renumber"), real.renumber(from, to); }
     qint16 takeOver(const ZolWDoc::tTxd &t) override { return on("takeOver"), real.takeOver(t); }
 };
-struct FaultyLineTypes final : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> {
+struct FaultyLineTypes : FaultyTable<ZolWDoc::LineTypeRole, ZolWDoc::tPenStyle> {
     using FaultyTable::FaultyTable;
 };
-struct FaultyGroups final : ZolWDoc::GroupRole {
+struct FaultyGroups : ZolWDoc::GroupRole {
     FaultyGroups(ZolWDoc::GroupRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::GroupRole &real;
     CallLog &log;
@@ -125,7 +131,7 @@ struct FaultyGroups final : ZolWDoc::GroupRole {
     void rename(qint16 id, const QString &name) override { log.on("groups.rename"), real.rename(id, name); }
     bool remove(qint16 id) override { return log.on("groups.remove"), real.remove(id); }
 };
-struct FaultySymbols final : FaultyTable<ZolWDoc::SymbolRole, ZolWDoc::tSid>, ZolWDoc::SymbolRenumberRole {
+struct FaultySymbols : FaultyTable<ZolWDoc::SymbolRole, ZolWDoc::tSid>, ZolWDoc::SymbolRenumberRole {
     FaultySymbols(ZolWDoc::ZOLW_Doc &of, CallLog &to)
         : FaultyTable(of.symbols(), to, "symbols"), renumberer(of.symbolRenumber()),
           ownGroups(of.symbols().groups(), to)
@@ -135,7 +141,7 @@ struct FaultySymbols final : FaultyTable<ZolWDoc::SymbolRole, ZolWDoc::tSid>, Zo
     ZolWDoc::GroupRole &groups() override { return ownGroups; }
     void renumber(qint16 from, qint16 to) override { on("renumber"), renumberer->renumber(from, to); }
 };
-struct FaultyPens final : ZolWDoc::PenColorRole {
+struct FaultyPens : ZolWDoc::PenColorRole {
     FaultyPens(ZolWDoc::PenColorRole &of, CallLog &to) : real(of), log(to) {}
     ZolWDoc::PenColorRole &real;
     CallLog &log;

@@ -5,6 +5,7 @@
 #include "controls/usTxAlign.h"
 #include "dialogs/editors/OptionBox.h"
 #include "fonts/FontCatalogue.h"
+#include "facade/services/InterfaceLocale.h"
 #include "kit/forms/QuietWheel.h"
 
 #include <QComboBox>
@@ -46,6 +47,7 @@ void followLine(QWidget &w, const Changed &changed)
 QWidget *makeNumber(QWidget *form, ErrorRelay &)
 {
     auto *const box = new usInputBox(form);
+    box->setLocale(interfaceLocale());
     box->setReadsLocale(true);
     box->setUpDownVisible(true);
     return box;
