@@ -222,12 +222,10 @@ private slots:
     {
         using Act = std::function<void(InputForm &)>;
         const std::pair<const char *, Act> acts[] = {
-            {"Enter", [](auto &f) { f.press(Qt::Key_Return); }},
-            {"leaving", [](auto &f) { f.leave(); }},
+            {"Enter", [](auto &f) { f.press(Qt::Key_Return); }}, {"leaving", [](auto &f) { f.leave(); }},
             {"Down", [](auto &f) { f.press(Qt::Key_Down, Qt::ControlModifier); }},
             {"arrow", [](auto &f) { f.hold(InputForm::Upper); }},
-            {"program", [](auto &f) { f.box->LetValue(8); }},
-            {"key", [](auto &f) { f.key(u'1'); }},
+            {"program", [](auto &f) { f.box->LetValue(8); }}, {"key", [](auto &f) { f.key(u'1'); }},
             {"click", [](auto &f) { QTest::mouseClick(&f.line(), Qt::LeftButton); }}};
         for (const auto &[name, act] : acts) {
             InputForm f;
