@@ -79,10 +79,13 @@ private slots:
     {
         InputForm f;
         f.whole(5, 0, 10).shown();
-        ScriptedPrompts user({refusal("Hibás minimum!", "Hiba")});
+        ScriptedPrompts user({refusal("Hibás minimum!", "Hiba"), refusal("Hibás maximum!", "Hiba")});
         f.box->setProperty("Min", 6.0);
+        f.box->setProperty("Max", 4.0);
+        QCOMPARE(f.box->txtCombo->toolTip(), QStringLiteral("0 és 10 közé eső érték!"));
+        f.box->setProperty("Min", 5.0);
         f.box->setProperty("Value", QStringLiteral("7"));
-        QCOMPARE(f.box->Min(), 0.0);
+        QCOMPARE(f.box->txtCombo->toolTip(), QStringLiteral("5 és 10 közé eső érték!"));
         QCOMPARE(f.raised, QStringList{"Change 7"});
     }
 
