@@ -47,9 +47,7 @@ void typeInto(QWidget &field, const QString &text)
 }
 Act typed(const char *control, const char *text)
 {
-    return [=](frmEditSid &f) {
-        typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text));
-    };
+    return [=](frmEditSid &f) { typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text)); };
 }
 
 struct ChosenCharacter final : FontPicker {
@@ -73,7 +71,7 @@ class tst_frmEditSid : public QObject {
 private:
     std::unique_ptr<refhost::SqliteDoc> m_doc;
     std::optional<tests::StrokeFontHost> m_host;
-    static inline qint16 s_road;                        // a layer
+    static inline qint16 s_road; // a layer
 
     tSid symbol() const { return *m_doc->symbols().find(7); }
     /// What comes of `act` and a click on OK, or on Cancel.
@@ -129,33 +127,38 @@ private slots:
         row("radius", typed("usNumProtParam1", "1000"), [](tSid &s) { s.ProtXmm = 1000; });
         row("layer", typed("usLayInfo1", "12"), [](tSid &s) { s.LayId = s_road; });
         row("layer left", typed("txtLayNr", "12\t"), [](tSid &s) { s.LayId = s_road; });
-        row("face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
+        row(
+            "face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
             [](tSid &s) { s.Facename = trueTypeFaces()[1]; });
         row(
             "alignment",
             [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },
             [](tSid &s) { s.Align = 0; });
-        row("a bound that the arrows reach",
+        row(
+            "a bound that the arrows reach",
             [](frmEditSid &f) {
                 f.usNumXMove->setValue(999.95);
                 f.usNumXMove->txtCombo->setFocus();
                 QTest::keyClick(f.usNumXMove->txtCombo, Qt::Key_Up);
             },
             [](tSid &s) { s.MoveXmm = 1000; });
-        row("vector font, its thickness in hundredths",
+        row(
+            "vector font, its thickness in hundredths",
             [](frmEditSid &f) {
                 f.optFontType->findChildren<QAbstractButton *>()[1]->click();
                 f.cboFonts->setCurrentIndex(0);
                 typeInto(*f.usNumWidth, QStringLiteral("0,35"));
             },
             [](tSid &s) { s.Type = 1, s.Weight = 35, s.Facename = QStringLiteral("Strokes"); });
-        row("another marker starts without sizes",
+        row(
+            "another marker starts without sizes",
             [](frmEditSid &f) {
                 f.cboProtType->setCurrentIndex(3);
                 typeInto(*f.usNumProtParam2, QStringLiteral("0,5"));
             },
             [](tSid &s) { s.ProtType = 3, s.ProtXmm = 0, s.ProtYmm = 0.5; });
-        row("the grid is of the preview", [](frmEditSid &f) { f.chkGrid->click(); }, [](tSid &) {});
+        row(
+            "the grid is of the preview", [](frmEditSid &f) { f.chkGrid->click(); }, [](tSid &) {});
     }
     void eachFieldChangesItsOwnValue()
     {
@@ -164,12 +167,15 @@ private slots:
         tSid wanted = symbol();
         expected(wanted);
         tSid previewed;
-        QCOMPARE(edited(symbol(), [&](frmEditSid &f) {
-                     act(f);
-                     QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
-                     QCoreApplication::sendPostedEvents(); // a layer is looked for once its field was left
-                     previewed = f.usSiInfo1->GetSidRec();
-                 }) == wanted, true);
+        QCOMPARE(
+            edited(symbol(),
+                   [&](frmEditSid &f) {
+                       act(f);
+                       QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
+                       QCoreApplication::sendPostedEvents(); // a layer is looked for once its field was left
+                       previewed = f.usSiInfo1->GetSidRec();
+                   }) == wanted,
+            true);
         QVERIFY(previewed == wanted);
         QVERIFY(edited(symbol(), act, "cmdNok") == symbol());
         QCOMPARE(m_doc->layers().currentId(), m_doc->layers().findByNumber(11)->LayId);
@@ -239,12 +245,15 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, text);
         ScriptedPrompts user{{{"tell", title, text, {}, Icon::Exclamation}}};
-        const tSid after = edited(symbol(), [&](frmEditSid &f) {
-            act(f);
-            QWidget *const field = f.focusWidget();
-            QTest::mouseClick(f.cmdOk, Qt::LeftButton);
-            QVERIFY(f.isVisible() && f.focusWidget() == field);
-        }, "cmdNok");
+        const tSid after = edited(
+            symbol(),
+            [&](frmEditSid &f) {
+                act(f);
+                QWidget *const field = f.focusWidget();
+                QTest::mouseClick(f.cmdOk, Qt::LeftButton);
+                QVERIFY(f.isVisible() && f.focusWidget() == field);
+            },
+            "cmdNok");
         QVERIFY(after == symbol());
         QCOMPARE(user.asked(), 1);
     }
@@ -261,8 +270,11 @@ private slots:
 
     void missingVectorFontsAreTold()
     {
-        m_host.reset();                                 // a host without any
-        ScriptedPrompts user{{{"tell", {}, QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"), {},
+        m_host.reset(); // a host without any
+        ScriptedPrompts user{{{"tell",
+                               {},
+                               QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"),
+                               {},
                                Icon::Information}}};
         tSid wanted = symbol();
         wanted.Type = 1;
@@ -283,9 +295,7 @@ private slots:
                 typeInto(*f.txtShortName, QStringLiteral("Akna"));
                 if (f.isVisible()) f.cmdOk->click();
             };
-            const auto edit = [&] {
-                return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr);
-            };
+            const auto edit = [&] { return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr); };
             if (failAt < 0) {
                 const auto user = whileModal<frmEditSid>(confirm);
                 QVERIFY(edit());

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QTimer>
-#include <QTimerEvent>
 
 using namespace QV_DOC_CONTROLS;
 using ZolWDoc::tSid;
@@ -81,16 +80,8 @@ std::unique_ptr<refhost::SqliteDoc> drawing()
     return doc;
 }
 
-const char *const kManagerStates[] = {"miView_Report", "miView_Icons", "miView_Size+", "miView_SmallIcon",
-                                      "miView_List", "cmdByGroups"};
-
-void stepTimers(const QWidget &of)
-{
-    for (QTimer *const t : of.findChildren<QTimer *>()) {
-        QTimerEvent tick(t->timerId());
-        if (t->isActive()) QCoreApplication::sendEvent(t, &tick);
-    }
-}
+const char *const kManagerStates[] = {"miView_Report",    "miView_Icons", "miView_Size+",
+                                      "miView_SmallIcon", "miView_List",  "cmdByGroups"};
 
 void takeManager(tests::Sheet &sheet)
 {
@@ -101,8 +92,8 @@ void takeManager(tests::Sheet &sheet)
             for (const char *tool : kManagerStates) {
                 if (mode == MODE_EDIT && qstrcmp(tool, "miView_Icons") != 0) continue;
                 form.findChild<QAction *>(QLatin1String(tool))->trigger();
-                form.grab();                    // asks for the pictures that are seen
-                stepTimers(form);               // which are drawn a little later
+                form.grab();
+                QCoreApplication::sendPostedEvents(); // pictures are drawn once they were asked for
                 sheet.take(form);
             }
             form.reject();

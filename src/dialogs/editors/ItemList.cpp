@@ -13,7 +13,7 @@ namespace QV_DOC_CONTROLS {
 
 namespace {
 
-constexpr int kIconLetters = 12, kListLetters = 24;     // room for a name under or beside its picture
+constexpr int kIconLetters = 12, kListLetters = 24; // room for a name under or beside its picture
 
 bool isEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
 
@@ -43,7 +43,7 @@ public:
         setWordWrap(false);
         setItemDelegate(new CellDelegate(this));
     }
-    bool isUnder = false;                       ///< the name stands under its picture
+    bool isUnder = false; ///< the name stands under its picture
 protected:
     void initViewItemOption(QStyleOptionViewItem *option) const override
     {
@@ -80,8 +80,8 @@ ItemList::ItemList(ErrorRelay &relay, QWidget *parent)
     header.viewport()->setMouseTracking(true);
     header.viewport()->installEventFilter(this);
     connect(&header, &QHeaderView::sectionClicked, this, &ItemList::sortBy);
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_report),
-                                    static_cast<QAbstractItemView *>(m_icons)}) {
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_report), static_cast<QAbstractItemView *>(m_icons)}) {
         addWidget(view);
         connectView(*view);
     }
@@ -143,17 +143,16 @@ void ItemList::setCell(int side)
 
 void ItemList::placeIcons()
 {
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_report),
-                                    static_cast<QAbstractItemView *>(m_icons)})
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_report), static_cast<QAbstractItemView *>(m_icons)})
         view->setIconSize({m_cell, m_cell});
     const QFontMetrics letters(font());
     const int gap = letters.height() / 2;
     const int letter = letters.averageCharWidth();
-    m_icons->setGridSize(m_icons->isUnder
-                             ? QSize(std::max(m_cell, kIconLetters * letter) + 2 * gap,
-                                     m_cell + letters.height() + 2 * gap)
-                             : QSize(m_cell + kListLetters * letter + gap,
-                                     std::max(m_cell, letters.height()) + gap / 2));
+    m_icons->setGridSize(
+        m_icons->isUnder
+            ? QSize(std::max(m_cell, kIconLetters * letter) + 2 * gap, m_cell + letters.height() + 2 * gap)
+            : QSize(m_cell + kListLetters * letter + gap, std::max(m_cell, letters.height()) + gap / 2));
     m_report->doItemsLayout();
 }
 
@@ -252,7 +251,7 @@ bool ItemList::eventFilter(QObject *watched, QEvent *event)
                 header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
     } else if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event))) {
         emit chosen();
-        return true;                            // or the form's default button would be pressed, too
+        return true; // or the form's default button would be pressed, too
     } else if (event->type() == QEvent::ContextMenu) {
         const auto &menu = static_cast<QContextMenuEvent &>(*event);
         const QRect current = shown()->visualRect(m_report->currentIndex());

@@ -67,7 +67,8 @@ std::optional<qint16> frmSupSid::askForNumber(NumberQuestion question, qint16 ow
 
 bool frmSupSid::bGetSidId(qint16 &SidId)
 {
-    const auto number = askForNumber({txt(Text{20035, u"Sorszám"}), txt(Text{20036, u"Egyedi sorszám"}),
+    const auto number = askForNumber({txt(Text{20035, u"Sorszám"}),
+                                      txt(Text{20036, u"Egyedi sorszám"}),
                                       {{.label = txt(Text{20037, u"Jelkulcstípus száma"}),
                                         .preset = double(SidId),
                                         .min = 1,
@@ -87,7 +88,8 @@ void frmSupSid::renumber()
     const QString text =
         join(Text{20073, u"A művelet rögzíti az eddigi változtatásokat is."}, QStringLiteral("\n"),
              Text{20071, u"A(z) '"}, current->ShortName, Text{20072, u"' jelkulcs új sorszáma"});
-    const auto number = askForNumber({txt(Text{20069, u"Sorszám módosítás"}), text,
+    const auto number = askForNumber({txt(Text{20069, u"Sorszám módosítás"}),
+                                      text,
                                       {{.label = txt(Text{20070, u"Új sorszám:"}),
                                         .preset = double(current->SidId),
                                         .min = 1,
@@ -113,11 +115,10 @@ std::vector<qint16> frmSupSid::removableGroups(const std::vector<tSid> &symbols)
             empty.push_back(group.id);
             continue;
         }
-        const Message question{
-            Icon::Critical, txt(Text{22304, u"Csoport törlése"}),
-            join(Text{20079, u"A(z) "}, group.name,
-                 Text{20080, u" csoport használatban van, ezért nem törölhető!"}, QStringLiteral(" "),
-                 Text{20081, u"Folytatja?"})};
+        const Message question{Icon::Critical, txt(Text{22304, u"Csoport törlése"}),
+                               join(Text{20079, u"A(z) "}, group.name,
+                                    Text{20080, u" csoport használatban van, ezért nem törölhető!"},
+                                    QStringLiteral(" "), Text{20081, u"Folytatja?"})};
         if (!yesNo(question)) return {};
     }
     return empty;
@@ -130,8 +131,8 @@ void frmSupSid::removeGroups()
     try {
         symbols = doc().symbols().readAll();
     } catch (...) { // told instead of ending the form, on purpose
-        return tell({Icon::Critical, title,
-                     txt(Text{20078, u"Nem  sikerült lekérdezni a jelkulcs típusokat!"})});
+        return tell(
+            {Icon::Critical, title, txt(Text{20078, u"Nem  sikerült lekérdezni a jelkulcs típusokat!"})});
     }
     auto victims = removableGroups(symbols);
     if (victims.empty()) return;
