@@ -13,6 +13,6 @@ bool usesManagers();
 /// Picks a symbol in a new manager; true = confirmed, `symbol` is the chosen one. `owner` null = the active
 /// window.
 bool selectInManager(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, QWidget *owner = nullptr);
-bool editSymbols(ZolWDoc::ZOLW_Doc &doc);       ///< in a new manager; true = changes were kept
+bool editSymbols(ZolWDoc::ZOLW_Doc &doc); ///< in a new manager; true = changes were kept
 
 } // namespace QV_DOC_CONTROLS

@@ -181,14 +181,12 @@ QString formWith(const Control &control)
            QStringLiteral("</widget></widget></ui>");
 }
 
-/// The designer's engine with one form open, without its windows.
-struct Designer {
+/// The designer's engine, without its windows. One for the process: a second one may end it.
+struct Engine {
     std::unique_ptr<QDesignerFormEditorInterface> core;
     QWidget desk;                               ///< goes before the core
-    QDesignerFormWindowInterface *form = nullptr; ///< the core's
-    QWidget *control = nullptr;
 
-    explicit Designer(const Control &c)
+    Engine()
     {
         QDesignerComponents::initializeResources();
         tests::expectWarning(QStringLiteral("QOpenGLWidget is not supported on this platform"));
@@ -196,7 +194,17 @@ struct Designer {
         core->setPropertyEditor(QDesignerComponents::createPropertyEditor(core.get(), &desk));
         new QDesignerIntegration(core.get(), core.get());
         QDesignerComponents::initializePlugins(core.get());
-        form = core->formWindowManager()->createFormWindow(&desk);
+    }
+};
+
+/// One form open in it.
+struct Designer {
+    QDesignerFormWindowInterface *const form;
+    QWidget *control = nullptr;
+
+    Designer(Engine &engine, const Control &c)
+        : form(engine.core->formWindowManager()->createFormWindow(&engine.desk))
+    {
         if (form->setContents(formWith(c))) control = form->findChild<QWidget *>(QStringLiteral("control"));
     }
     ~Designer() { delete form; }
@@ -207,8 +215,15 @@ struct Designer {
 
 class tst_Forms : public QObject {
     Q_OBJECT
+private:
+    std::unique_ptr<Engine> m_engine;
 private slots:
-    void initTestCase() { QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS)); }
+    void initTestCase()
+    {
+        QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS));
+        m_engine = std::make_unique<Engine>();
+    }
+    void cleanupTestCase() { m_engine.reset(); }
 
     void thePluginOffersEveryControl()
     {
@@ -246,7 +261,7 @@ private slots:
     {
         QFETCH(int, control);
         const Control &c = kControls[size_t(control)];
-        const QByteArray form = Designer(c).saved();
+        const QByteArray form = Designer(*m_engine, c).saved();
         std::mt19937 random(7);
         for (int turn = 0; turn < 12; ++turn) holdsValues(loaded(shuffled(form, random), turn % 2).get(), c);
     }
@@ -256,11 +271,11 @@ private slots:
     {
         QFETCH(int, control);
         const Control &c = kControls[size_t(control)];
-        const Designer designer(c);
+        const Designer designer(*m_engine, c);
         QWidget *const made = designer.control;
         QVERIFY(made && isDesigned(*made));
         auto *const sheet = qt_extension<QDesignerPropertySheetExtension *>(
-            designer.core->extensionManager(), made);
+            m_engine->core->extensionManager(), made);
         for (const auto &[name, value] : c.values) {
             const int index = sheet->indexOf(QLatin1String(name));
             QVERIFY2(index >= 0 && sheet->isVisible(index), name);
@@ -283,7 +298,7 @@ private slots:
         std::mt19937 random(11);
         for (int turn = 0; turn < 5; ++turn) {
             std::ranges::shuffle(c.values, random);
-            const Designer designer({c.name, {}});
+            const Designer designer(*m_engine, {c.name, {}});
             for (const auto &[name, value] : c.values)
                 designer.form->cursor()->setWidgetProperty(designer.control, QLatin1String(name), value);
             holdsValues(loaded(designer.saved(), turn % 2).get(), c);

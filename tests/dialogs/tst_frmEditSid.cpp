@@ -47,9 +47,7 @@ void typeInto(QWidget &field, const QString &text)
 }
 Act typed(const char *control, const char *text)
 {
-    return [=](frmEditSid &f) {
-        typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text));
-    };
+    return [=](frmEditSid &f) { typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text)); };
 }
 
 struct ChosenCharacter final : FontPicker {
@@ -58,7 +56,8 @@ struct ChosenCharacter final : FontPicker {
     ~ChosenCharacter() override { setFontPicker(before); }
     std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override { return {}; }
     std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override { return {}; }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first, QObject *) override
+    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
+                                               QObject *) override
     {
         asked = first;
         return answer;
@@ -72,7 +71,7 @@ class tst_frmEditSid : public QObject {
 private:
     std::unique_ptr<refhost::SqliteDoc> m_doc;
     std::optional<tests::StrokeFontHost> m_host;
-    static inline qint16 s_road;                        // a layer
+    static inline qint16 s_road; // a layer
 
     tSid symbol() const { return *m_doc->symbols().find(7); }
     /// What comes of `act` and a click on OK, or on Cancel.
@@ -96,11 +95,13 @@ private slots:
     {
         setLanguage(Hungarian, {});
         m_host.emplace();
-        m_doc = tests::layerDoc({{.gNr = 11, .Name = QStringLiteral("Épület")}, {.gNr = 12, .Name = QStringLiteral("Út")}});
+        m_doc = tests::layerDoc(
+            {{.gNr = 11, .Name = QStringLiteral("Épület")}, {.gNr = 12, .Name = QStringLiteral("Út")}});
         s_road = m_doc->layers().findByNumber(12)->LayId;
         m_doc->layers().makeCurrent(*m_doc->layers().findByNumber(11));
         tSid s;
-        s.SidId = 7, s.ShortName = QStringLiteral("Kút"), s.GroupId = m_doc->symbols().groups().readAll()[0].GroupId;
+        s.SidId = 7, s.ShortName = QStringLiteral("Kút"),
+        s.GroupId = m_doc->symbols().groups().readAll()[0].GroupId;
         s.Facename = trueTypeFaces().front(), s.Code = 33, s.Size_mm = 5, s.Align = 24, s.DspZoom = 3;
         s.ProtType = 1, s.ProtXmm = 4.125, s.YwFact = s.XwFact = 1, s.Weight = 16, s.CharSet = 238;
         s.LayId = m_doc->layers().findByNumber(11)->LayId;
@@ -114,7 +115,9 @@ private slots:
     {
         QTest::addColumn<Act>("act");
         QTest::addColumn<Edit>("expected");
-        const auto row = [](const char *name, Act act, Edit expected) { QTest::newRow(name) << act << expected; };
+        const auto row = [](const char *name, Act act, Edit expected) {
+            QTest::newRow(name) << act << expected;
+        };
         row("name", typed("txtShortName", "Szőlő"), [](tSid &s) { s.ShortName = QStringLiteral("Szőlő"); });
         row("description", typed("txtFullName", "ű"), [](tSid &s) { s.FullName = QStringLiteral("ű"); });
         row("code", typed("usNumAscIICode", "337"), [](tSid &s) { s.Code = 337; });
@@ -124,31 +127,38 @@ private slots:
         row("radius", typed("usNumProtParam1", "1000"), [](tSid &s) { s.ProtXmm = 1000; });
         row("layer", typed("usLayInfo1", "12"), [](tSid &s) { s.LayId = s_road; });
         row("layer left", typed("txtLayNr", "12\t"), [](tSid &s) { s.LayId = s_road; });
-        row("face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
+        row(
+            "face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
             [](tSid &s) { s.Facename = trueTypeFaces()[1]; });
-        row("alignment", [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },
+        row(
+            "alignment",
+            [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },
             [](tSid &s) { s.Align = 0; });
-        row("a bound that the arrows reach",
+        row(
+            "a bound that the arrows reach",
             [](frmEditSid &f) {
                 f.usNumXMove->setValue(999.95);
                 f.usNumXMove->txtCombo->setFocus();
                 QTest::keyClick(f.usNumXMove->txtCombo, Qt::Key_Up);
             },
             [](tSid &s) { s.MoveXmm = 1000; });
-        row("vector font, its thickness in hundredths",
+        row(
+            "vector font, its thickness in hundredths",
             [](frmEditSid &f) {
                 f.optFontType->findChildren<QAbstractButton *>()[1]->click();
                 f.cboFonts->setCurrentIndex(0);
                 typeInto(*f.usNumWidth, QStringLiteral("0,35"));
             },
             [](tSid &s) { s.Type = 1, s.Weight = 35, s.Facename = QStringLiteral("Strokes"); });
-        row("another marker starts without sizes",
+        row(
+            "another marker starts without sizes",
             [](frmEditSid &f) {
                 f.cboProtType->setCurrentIndex(3);
                 typeInto(*f.usNumProtParam2, QStringLiteral("0,5"));
             },
             [](tSid &s) { s.ProtType = 3, s.ProtXmm = 0, s.ProtYmm = 0.5; });
-        row("the grid is of the preview", [](frmEditSid &f) { f.chkGrid->click(); }, [](tSid &) {});
+        row(
+            "the grid is of the preview", [](frmEditSid &f) { f.chkGrid->click(); }, [](tSid &) {});
     }
     void eachFieldChangesItsOwnValue()
     {
@@ -157,12 +167,15 @@ private slots:
         tSid wanted = symbol();
         expected(wanted);
         tSid previewed;
-        QCOMPARE(edited(symbol(), [&](frmEditSid &f) {
-                     act(f);
-                     QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
-                     QCoreApplication::sendPostedEvents(); // a layer is looked for once its field was left
-                     previewed = f.usSiInfo1->GetSidRec();
-                 }) == wanted, true);
+        QCOMPARE(
+            edited(symbol(),
+                   [&](frmEditSid &f) {
+                       act(f);
+                       QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
+                       QCoreApplication::sendPostedEvents(); // a layer is looked for once its field was left
+                       previewed = f.usSiInfo1->GetSidRec();
+                   }) == wanted,
+            true);
         QVERIFY(previewed == wanted);
         QVERIFY(edited(symbol(), act, "cmdNok") == symbol());
         QCOMPARE(m_doc->layers().currentId(), m_doc->layers().findByNumber(11)->LayId);
@@ -178,7 +191,8 @@ private slots:
             odd.Type = type;
             const tSid after = edited(odd, [&](frmEditSid &f) {
                 QCOMPARE(f.usSiInfo1->GetSidRec() == odd, true);
-                QCOMPARE(f.cboFonts->placeholderText(), QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
+                QCOMPARE(f.cboFonts->placeholderText(),
+                         QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
                 QWidget *const first = f.focusWidget();
                 do QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
                 while (f.focusWidget() != first);
@@ -219,7 +233,8 @@ private slots:
                               << QStringLiteral("0,10 és 1000,00 közé eső értéket kell megadni!");
         QTest::newRow("code") << typed("usNumAscIICode", "65536") << range
                               << QStringLiteral("0 és 65535 közé eső értéket kell megadni!");
-        QTest::newRow("taken") << typed("txtShortName", "Fa") << name << QStringLiteral("Létező jelkulcs név!");
+        QTest::newRow("taken") << typed("txtShortName", "Fa") << name
+                               << QStringLiteral("Létező jelkulcs név!");
         QTest::newRow("none") << typed("txtShortName", " ") << name << QStringLiteral("Hiányzik a név!");
         QTest::newRow("layer") << typed("usLayInfo1", "77") << QStringLiteral("Hibás rétegszám")
                                << QStringLiteral("Nincs ilyen számú réteg!");
@@ -230,12 +245,15 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, text);
         ScriptedPrompts user{{{"tell", title, text, {}, Icon::Exclamation}}};
-        const tSid after = edited(symbol(), [&](frmEditSid &f) {
-            act(f);
-            QWidget *const field = f.focusWidget();
-            QTest::mouseClick(f.cmdOk, Qt::LeftButton);
-            QVERIFY(f.isVisible() && f.focusWidget() == field);
-        }, "cmdNok");
+        const tSid after = edited(
+            symbol(),
+            [&](frmEditSid &f) {
+                act(f);
+                QWidget *const field = f.focusWidget();
+                QTest::mouseClick(f.cmdOk, Qt::LeftButton);
+                QVERIFY(f.isVisible() && f.focusWidget() == field);
+            },
+            "cmdNok");
         QVERIFY(after == symbol());
         QCOMPARE(user.asked(), 1);
     }
@@ -252,8 +270,11 @@ private slots:
 
     void missingVectorFontsAreTold()
     {
-        m_host.reset();                                 // a host without any
-        ScriptedPrompts user{{{"tell", {}, QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"), {},
+        m_host.reset(); // a host without any
+        ScriptedPrompts user{{{"tell",
+                               {},
+                               QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"),
+                               {},
                                Icon::Information}}};
         tSid wanted = symbol();
         wanted.Type = 1;
@@ -274,9 +295,7 @@ private slots:
                 typeInto(*f.txtShortName, QStringLiteral("Akna"));
                 if (f.isVisible()) f.cmdOk->click();
             };
-            const auto edit = [&] {
-                return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr);
-            };
+            const auto edit = [&] { return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr); };
             if (failAt < 0) {
                 const auto user = whileModal<frmEditSid>(confirm);
                 QVERIFY(edit());
@@ -286,7 +305,8 @@ private slots:
             }
             QTimer user;
             user.callOnTimeout([&] {
-                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget())) confirm(*f);
+                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget()))
+                    confirm(*f);
             });
             user.start(0);
             QVERIFY_THROWS_EXCEPTION(tests::HostError, edit());

@@ -13,6 +13,8 @@
 #include "support/ScriptedPrompts.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,6 +91,26 @@ private slots:
         for (const Element &e : doc().elements()) QCOMPARE(e.layId, roads);
         QCOMPARE(doc().elementCount(), 3);
         QCOMPARE(status("countStatus"), QStringLiteral("3 elem"));
+    }
+
+    void classicManagersAreASettingThatIsKept()
+    {
+        const auto opens = [this](const char *form) {
+            QString opened;
+            QTimer::singleShot(0, m_window.get(), [&] {
+                auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                opened = dialog->objectName();
+                dialog->reject();
+            });
+            trigger("bEdit_Sids");
+            return opened == QLatin1String(form);
+        };
+        QVERIFY(opens("frmSetup"));
+        trigger("oldStyle");
+        QVERIFY(opens("frmSupSid"));
+        m_window = std::make_unique<MainWindow>(*m_services);
+        QVERIFY(m_window->findChild<QAction *>(QStringLiteral("oldStyle"))->isChecked());
+        trigger("oldStyle");
     }
 
     void aTextThatWasNotTypedIsNotPlaced_data()

@@ -80,8 +80,8 @@ std::unique_ptr<refhost::SqliteDoc> drawing()
     return doc;
 }
 
-const char *const kManagerStates[] = {"miView_Report", "miView_Icons", "miView_Size+", "miView_SmallIcon",
-                                      "miView_List", "cmdByGroups"};
+const char *const kManagerStates[] = {"miView_Report",    "miView_Icons", "miView_Size+",
+                                      "miView_SmallIcon", "miView_List",  "cmdByGroups"};
 
 void takeManager(tests::Sheet &sheet)
 {
@@ -92,9 +92,8 @@ void takeManager(tests::Sheet &sheet)
             for (const char *tool : kManagerStates) {
                 if (mode == MODE_EDIT && qstrcmp(tool, "miView_Icons") != 0) continue;
                 form.findChild<QAction *>(QLatin1String(tool))->trigger();
-                QApplication::processEvents();  // pictures are drawn once they were asked for
                 form.grab();
-                QApplication::processEvents();
+                QCoreApplication::sendPostedEvents(); // pictures are drawn once they were asked for
                 sheet.take(form);
             }
             form.reject();

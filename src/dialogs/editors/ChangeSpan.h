@@ -15,11 +15,11 @@ public:
     ChangeSpan(const ChangeSpan &) = delete;
     ChangeSpan &operator=(const ChangeSpan &) = delete;
 
-    void begin();                               ///< before anything is written; throws the document's error
-    void note() { m_changed = true; }           ///< something was written
+    void begin();                     ///< before anything is written; throws the document's error
+    void note() { m_changed = true; } ///< something was written
     bool isChanged() const { return m_changed; }
     bool canDiscard() const { return m_open; }
-    void commit();                              ///< both throw the document's error
+    void commit(); ///< both throw the document's error
     void discard();
 
 private:

@@ -5,6 +5,7 @@
 #include "controls/usTxAlign.h"
 #include "dialogs/editors/OptionBox.h"
 #include "fonts/FontCatalogue.h"
+#include "facade/services/InterfaceLocale.h"
 #include "kit/forms/QuietWheel.h"
 
 #include <QComboBox>
@@ -16,8 +17,8 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 using Changed = std::function<void()>;
-constexpr int kDecimal = 3;                     // usInputBox::InputType
-constexpr char kWanted[] = "wanted";            // what a list was to show and does not have
+constexpr int kDecimal = 3;          // usInputBox::InputType
+constexpr char kWanted[] = "wanted"; // what a list was to show and does not have
 
 template <class Control> Control &as(QWidget &w) { return static_cast<Control &>(w); }
 template <class Control> const Control &as(const QWidget &w) { return static_cast<const Control &>(w); }
@@ -46,6 +47,7 @@ void followLine(QWidget &w, const Changed &changed)
 QWidget *makeNumber(QWidget *form, ErrorRelay &)
 {
     auto *const box = new usInputBox(form);
+    box->setLocale(interfaceLocale());
     box->setReadsLocale(true);
     box->setUpDownVisible(true);
     return box;
@@ -113,8 +115,10 @@ void fillList(QWidget &w, const FieldSpec &spec)
     auto &list = as<QComboBox>(w);
     const QStringList captions = captionsOf(spec);
     for (int i = 0; i < captions.size(); ++i)
-        if (i < list.count()) list.setItemText(i, captions[i]);
-        else list.addItem(captions[i]);
+        if (i < list.count())
+            list.setItemText(i, captions[i]);
+        else
+            list.addItem(captions[i]);
 }
 void showChoice(QWidget &w, const QVariant &v, const FieldSpec &spec)
 {
@@ -198,14 +202,15 @@ bool settleLayer(QWidget &w)
 } // namespace
 
 const FieldControl kLineField{made<QLineEdit>, showLine, lineOf, followLine, nothingTyped, nameIt};
-const FieldControl kNumberField{makeNumber, showNumber, numberOf, followNumber, settleNumber, captionNumber,
-                                true};
-const FieldControl kOptionField{made<OptionBox>, showOption, optionOf, followOption, nothingTyped,
-                                captionOption, true};
+const FieldControl kNumberField{makeNumber,   showNumber,    numberOf, followNumber,
+                                settleNumber, captionNumber, true};
+const FieldControl kOptionField{made<OptionBox>, showOption,    optionOf, followOption,
+                                nothingTyped,    captionOption, true};
 const FieldControl kListField{makeList, showChoice, choiceOf, followList, nothingTyped, captionList};
 const FieldControl kFaceField{makeList, showFace, faceOf, followList, nothingTyped, captionFace};
 const FieldControl kAlignField{made<usTxAlign>, showAlign, alignOf, followAlign, nothingTyped, nameIt};
-const FieldControl kLayerField{makeLayer, showLayer, layerOf, followLayer, settleLayer,
-                               [](QWidget &, const FieldSpec &, const QString &) {}, true};
+const FieldControl kLayerField{makeLayer,   showLayer,   layerOf,
+                               followLayer, settleLayer, [](QWidget &, const FieldSpec &, const QString &) {},
+                               true};
 
 } // namespace QV_DOC_CONTROLS

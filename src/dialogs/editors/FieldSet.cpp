@@ -20,8 +20,9 @@ void FieldSet::add(const FieldSpec &spec)
 
 size_t FieldSet::indexOf(const char *name) const
 {
-    const auto found = std::ranges::find_if(
-        m_fields, [name](const Field &f) { return std::strcmp(f.spec->control, name) == 0; });
+    const auto found = std::ranges::find_if(m_fields, [name](const Field &f) {
+        return std::strcmp(f.spec->control, name) == 0;
+    });
     Q_ASSERT_X(found != m_fields.end(), "FieldSet", name);
     return size_t(found - m_fields.begin());
 }

@@ -24,13 +24,13 @@ public:
     {
         return static_cast<Control *>(m_fields[indexOf(name)].control);
     }
-    QLabel *label(const char *name);            ///< for the caption of a control that shows none itself
+    QLabel *label(const char *name); ///< for the caption of a control that shows none itself
     /// After the record was changed by one: what its field depends on is the form's.
     void onChange(Changed changed) { m_changed = std::move(changed); }
     /// Takes what is typed and not taken yet. False = a field refused it, said why and has the focus.
     bool settle();
     void retranslate(const QStringList &captions); ///< of the rows, in order; "&" marks an access key
-    QStringList captions() const;               ///< of the rows, in the current language
+    QStringList captions() const;                  ///< of the rows, in the current language
 
 protected:
     FieldSet(QWidget &form, ErrorRelay &relay) : m_form(form), m_relay(relay) {}
@@ -44,7 +44,7 @@ private:
     struct Field {
         const FieldSpec *spec;
         QWidget *control;
-        QVariant shown;                         ///< as the control said it when it was last looked at
+        QVariant shown; ///< as the control said it when it was last looked at
         QLabel *label = nullptr;
     };
     void take(size_t row);

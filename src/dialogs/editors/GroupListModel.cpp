@@ -9,7 +9,7 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 struct ListColumn {
-    const char *key;                            ///< published
+    const char *key; ///< published
     Text caption;
 };
 constexpr ListColumn kColumn{"GroupId", {20028, u"Jelkulcs csoportok"}};
@@ -53,9 +53,9 @@ QVariant GroupListModel::headerData(int, Qt::Orientation turned, int role) const
 
 Qt::ItemFlags GroupListModel::flags(const QModelIndex &index) const
 {
-    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled |
-                                 Qt::ItemNeverHasChildren
-                           : Qt::NoItemFlags;
+    return index.isValid()
+               ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren
+               : Qt::NoItemFlags;
 }
 
 bool GroupListModel::canDropMimeData(const QMimeData *data, Qt::DropAction, int, int,

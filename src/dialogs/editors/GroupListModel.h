@@ -16,7 +16,7 @@ public:
     struct Group {
         qint16 id;
         QString name;
-        int count;                              ///< its records
+        int count; ///< its records
     };
     struct Drops {
         std::function<bool(const QMimeData &)> takes;
@@ -24,7 +24,7 @@ public:
     };
     void setGroups(std::vector<Group> groups);
     const std::vector<Group> &groups() const { return m_groups; }
-    int rowOf(qint16 id) const;                 ///< -1 = not there
+    int rowOf(qint16 id) const; ///< -1 = not there
     void setChosen(qint16 id);
     void setDrops(Drops drops) { m_drops = std::move(drops); }
     void retranslate() { emit headerDataChanged(Qt::Horizontal, 0, 0); }

@@ -2,6 +2,7 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -12,7 +13,9 @@ namespace QV_DOC_CONTROLS {
 
 namespace {
 
-constexpr int kIconLetters = 12, kListLetters = 24;     // room for a name under or beside its picture
+constexpr int kIconLetters = 12, kListLetters = 24; // room for a name under or beside its picture
+
+bool isEnter(const QKeyEvent &key) { return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter; }
 
 /// Items that fill the cells of a flow.
 class CellDelegate final : public QStyledItemDelegate {
@@ -40,7 +43,7 @@ public:
         setWordWrap(false);
         setItemDelegate(new CellDelegate(this));
     }
-    bool isUnder = false;                       ///< the name stands under its picture
+    bool isUnder = false; ///< the name stands under its picture
 protected:
     void initViewItemOption(QStyleOptionViewItem *option) const override
     {
@@ -51,8 +54,20 @@ protected:
     }
 };
 
+/// The table. What becomes current moves it up and down only: the pictures stand in its first column.
+class ItemList::ReportView final : public QTreeView {
+public:
+    using QTreeView::QTreeView;
+    void scrollTo(const QModelIndex &index, ScrollHint hint) override
+    {
+        const int across = horizontalScrollBar()->value();
+        QTreeView::scrollTo(index, hint);
+        horizontalScrollBar()->setValue(across);
+    }
+};
+
 ItemList::ItemList(ErrorRelay &relay, QWidget *parent)
-    : QStackedWidget(parent), m_relay(relay), m_report(new QTreeView(this)), m_icons(new IconView(this))
+    : QStackedWidget(parent), m_relay(relay), m_report(new ReportView(this)), m_icons(new IconView(this))
 {
     m_report->setRootIsDecorated(false);
     m_report->setUniformRowHeights(true);
@@ -65,8 +80,8 @@ ItemList::ItemList(ErrorRelay &relay, QWidget *parent)
     header.viewport()->setMouseTracking(true);
     header.viewport()->installEventFilter(this);
     connect(&header, &QHeaderView::sectionClicked, this, &ItemList::sortBy);
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_report),
-                                    static_cast<QAbstractItemView *>(m_icons)}) {
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_report), static_cast<QAbstractItemView *>(m_icons)}) {
         addWidget(view);
         connectView(*view);
     }
@@ -128,17 +143,16 @@ void ItemList::setCell(int side)
 
 void ItemList::placeIcons()
 {
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(m_report),
-                                    static_cast<QAbstractItemView *>(m_icons)})
+    for (QAbstractItemView *view :
+         {static_cast<QAbstractItemView *>(m_report), static_cast<QAbstractItemView *>(m_icons)})
         view->setIconSize({m_cell, m_cell});
     const QFontMetrics letters(font());
     const int gap = letters.height() / 2;
     const int letter = letters.averageCharWidth();
-    m_icons->setGridSize(m_icons->isUnder
-                             ? QSize(std::max(m_cell, kIconLetters * letter) + 2 * gap,
-                                     m_cell + letters.height() + 2 * gap)
-                             : QSize(m_cell + kListLetters * letter + gap,
-                                     std::max(m_cell, letters.height()) + gap / 2));
+    m_icons->setGridSize(
+        m_icons->isUnder
+            ? QSize(std::max(m_cell, kIconLetters * letter) + 2 * gap, m_cell + letters.height() + 2 * gap)
+            : QSize(m_cell + kListLetters * letter + gap, std::max(m_cell, letters.height()) + gap / 2));
     m_report->doItemsLayout();
 }
 
@@ -233,7 +247,11 @@ bool ItemList::eventFilter(QObject *watched, QEvent *event)
     if (watched == header.viewport()) {
         if (event->type() == QEvent::Leave) emit headerHovered(-1);
         if (event->type() == QEvent::MouseMove)
-            emit headerHovered(header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+            emit headerHovered(
+                header.logicalIndexAt(static_cast<QMouseEvent *>(event)->position().toPoint()));
+    } else if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent *>(event))) {
+        emit chosen();
+        return true; // or the form's default button would be pressed, too
     } else if (event->type() == QEvent::ContextMenu) {
         const auto &menu = static_cast<QContextMenuEvent &>(*event);
         const QRect current = shown()->visualRect(m_report->currentIndex());

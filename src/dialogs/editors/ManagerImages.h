@@ -12,11 +12,11 @@ namespace QV_DOC_CONTROLS {
 
 /// The image list of a manager: what its lists mark their items with, by published key.
 struct ManagerImage {
-    const char *key, *icon;                     ///< the icon is a row of the icon table
+    const char *key, *icon; ///< the icon is a row of the icon table
 };
 inline constexpr ManagerImage kManagerImages[] = {
-    {"Open", "groupOpen"},   {"Empty", "groupEmpty"},  {"Current", "currentItem"}, {"Egyéb", "groupOther"},
-    {"SortAZ", "sortAZ"},    {"SortZA", "sortZA"},     {"Vector", "vectorFont"},   {"TrueType", "trueType"},
+    {"Open", "groupOpen"}, {"Empty", "groupEmpty"}, {"Current", "currentItem"}, {"Egyéb", "groupOther"},
+    {"SortAZ", "sortAZ"},  {"SortZA", "sortZA"},    {"Vector", "vectorFont"},   {"TrueType", "trueType"},
 };
 /// As large as icons are in lists; null = no such key.
 inline QPixmap managerImage(const char *key)

@@ -29,7 +29,7 @@ int OptionBox::value() const { return m_options->checkedId(); }
 void OptionBox::setValue(int value)
 {
     QAbstractButton *const wanted = m_options->button(value);
-    m_options->setExclusive(false);             // or none could be on
+    m_options->setExclusive(false); // or none could be on
     for (QAbstractButton *option : m_options->buttons()) option->setChecked(option == wanted);
     m_options->setExclusive(true);
 }

@@ -13,10 +13,10 @@ class OptionBox final : public QGroupBox {
 public:
     explicit OptionBox(QWidget *parent);
     void setChoices(const QStringList &captions);
-    int value() const;                          ///< of the option that is on; -1 = none
-    void setValue(int value);                   ///< one that there is not = none; raises nothing
+    int value() const;        ///< of the option that is on; -1 = none
+    void setValue(int value); ///< one that there is not = none; raises nothing
 signals:
-    void chosen();                              ///< by the user
+    void chosen(); ///< by the user
 private:
     QButtonGroup *m_options;
     QHBoxLayout *m_row;

@@ -36,7 +36,7 @@ public:
     {
         for (const FieldRow<Rec> &row : rows) add(row);
     }
-    Rec &record() { return m_record; }          ///< show() what was changed past the fields
+    Rec &record() { return m_record; } ///< show() what was changed past the fields
     const Rec &record() const { return m_record; }
     void showAll(const Rec &record)
     {

@@ -18,28 +18,42 @@ namespace {
 QVariant decimal(double value) { return interfaceLocale().toString(value, 'f', 2); }
 
 struct ListColumn {
-    const char *key;                            ///< published
+    const char *key; ///< published
     Text caption, hint;
     QVariant (*text)(const tSid &, const SymbolNames &);
-    double (*number)(const tSid &) = nullptr;   ///< sorted by it; none = by the text
+    double (*number)(const tSid &) = nullptr; ///< sorted by it; none = by the text
 };
 constexpr ListColumn kColumns[] = {
-    {"SidId", {20029, u"Ssz."}, {20090, u" Sorszám "},
+    {"SidId",
+     {20029, u"Ssz."},
+     {20090, u" Sorszám "},
      [](const tSid &s, const SymbolNames &) { return QVariant(QString::number(s.SidId)); },
      [](const tSid &s) { return double(s.SidId); }},
-    {"Name", {20018, u"Név"}, {20091, u" Név "},
+    {"Name",
+     {20018, u"Név"},
+     {20091, u" Név "},
      [](const tSid &s, const SymbolNames &) { return QVariant(s.ShortName); }},
-    {"Size_mm", {20030, u"Méret"}, {20092, u" Nagyság "},
+    {"Size_mm",
+     {20030, u"Méret"},
+     {20092, u" Nagyság "},
      [](const tSid &s, const SymbolNames &) { return decimal(s.Size_mm); },
      [](const tSid &s) { return double(s.Size_mm); }},
-    {"Width", {20031, u"Vast."}, {20093, u" Vonalvastagság "},
+    {"Width",
+     {20031, u"Vast."},
+     {20093, u" Vonalvastagság "},
      [](const tSid &s, const SymbolNames &) { return decimal(s.Weight / 100.0); },
      [](const tSid &s) { return double(s.Weight); }},
-    {"FontType", {20032, u"Típ."}, {20094, u" TrueType/ZOL-2.5 font "},
+    {"FontType",
+     {20032, u"Típ."},
+     {20094, u" TrueType/ZOL-2.5 font "},
      [](const tSid &s, const SymbolNames &n) { return QVariant(fontTypeName(s, n)); }},
-    {"FaceName", {20033, u"Készlet"}, {20095, u" Karakterkészlet "},
+    {"FaceName",
+     {20033, u"Készlet"},
+     {20095, u" Karakterkészlet "},
      [](const tSid &s, const SymbolNames &) { return QVariant(s.Facename); }},
-    {"LayerName", {20034, u"Cél réteg"}, {20096, u" Cél réteg "},
+    {"LayerName",
+     {20034, u"Cél réteg"},
+     {20096, u" Cél réteg "},
      [](const tSid &s, const SymbolNames &n) { return QVariant(layerName(s, n)); }},
 };
 constexpr int kFontType = 4;
@@ -114,7 +128,10 @@ void SymbolListModel::sort()
 }
 
 int SymbolListModel::rowOf(qint16 id) const { return m_rowOf.value(id, -1); }
-int SymbolListModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : kColumnCount; }
+int SymbolListModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : kColumnCount;
+}
 
 void SymbolListModel::retranslate() { emit headerDataChanged(Qt::Horizontal, 0, kColumnCount - 1); }
 
@@ -138,8 +155,8 @@ QVariant SymbolListModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole: return symbol.FullName.isEmpty() ? symbol.ShortName : symbol.FullName;
     case Qt::AccessibleTextRole:
         return index.column() == kNameColumn && m_pictureColumn == kNameColumn
-            ? QStringLiteral("%1, %2").arg(symbol.SidId).arg(symbol.ShortName)
-            : column.text(symbol, m_names);
+                   ? QStringLiteral("%1, %2").arg(symbol.SidId).arg(symbol.ShortName)
+                   : column.text(symbol, m_names);
     case Qt::TextAlignmentRole:
         return column.number ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
     default: return {};
@@ -157,9 +174,9 @@ QVariant SymbolListModel::headerData(int section, Qt::Orientation turned, int ro
 
 Qt::ItemFlags SymbolListModel::flags(const QModelIndex &index) const
 {
-    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
-                                 Qt::ItemNeverHasChildren
-                           : Qt::NoItemFlags;
+    return index.isValid()
+               ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren
+               : Qt::NoItemFlags;
 }
 
 QMimeData *SymbolListModel::mimeData(const QModelIndexList &indexes) const

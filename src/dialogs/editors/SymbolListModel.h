@@ -20,9 +20,10 @@ public:
     void setSymbols(std::vector<ZolWDoc::tSid> all, SymbolNames names, std::optional<qint16> group);
     void showGroup(std::optional<qint16> group);
     void setMarked(qint16 id) { m_marked = id; } ///< the symbol that the manager was opened with; -1 = none
-    void setDragged(std::function<QMimeData *(const std::vector<qint16> &)> data) { m_drag = std::move(data); }
+    using Dragged = std::function<QMimeData *(const std::vector<qint16> &)>;
+    void setDragged(Dragged data) { m_drag = std::move(data); }
     void retranslate();
-    static QString hintOf(int column);          ///< for the hint line; empty = none
+    static QString hintOf(int column); ///< for the hint line; empty = none
 
     qint16 idAt(int row) const override { return at(row).SidId; }
     int rowOf(qint16 id) const override;
@@ -48,10 +49,10 @@ private:
     SymbolPictures &m_pictures;
     std::vector<ZolWDoc::tSid> m_all;
     SymbolNames m_names;
-    std::vector<int> m_rows;                    ///< places in m_all, as listed
+    std::vector<int> m_rows; ///< places in m_all, as listed
     QHash<qint16, int> m_rowOf;
     std::optional<qint16> m_group;
-    std::function<QMimeData *(const std::vector<qint16> &)> m_drag;
+    Dragged m_drag;
     qint16 m_marked = -1;
     int m_sorted = -1, m_pictureColumn = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;

@@ -5,28 +5,26 @@
 
 namespace QV_DOC_CONTROLS {
 
-constexpr qsizetype kMostPictures = 2000;       // some screens full
+constexpr qsizetype kMostPictures = 2000; // some screens full
 
 SymbolPictures::SymbolPictures(usSiInfo &preview, ErrorRelay &relay)
     : QObject(&preview), m_preview(preview), m_relay(relay)
-{
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &SymbolPictures::draw);
-}
+{}
 
 QPixmap SymbolPictures::of(const ZolWDoc::tSid &symbol)
 {
     const auto found = m_pictures.constFind(symbol.SidId);
     const bool isThere = found != m_pictures.constEnd();
     if (!isThere || found->look != m_look || found->symbol != symbol) {
+        if (m_wanted.isEmpty()) QMetaObject::invokeMethod(this, &SymbolPictures::draw, Qt::QueuedConnection);
         m_wanted.insert(symbol.SidId, symbol);
-        m_timer.start(0);
     }
     return isThere ? found->pixmap : m_blank;
 }
 
 void SymbolPictures::draw()
 {
+    if (m_wanted.isEmpty()) return;
     if (m_pictures.size() > kMostPictures) m_pictures.clear();
     m_relay.guard([this] {
         const auto wanted = std::exchange(m_wanted, {});
@@ -42,7 +40,6 @@ void SymbolPictures::outdate() { ++m_look, emit drawn(); }
 
 void SymbolPictures::forget()
 {
-    m_timer.stop();
     m_pictures.clear();
     m_wanted.clear();
 }

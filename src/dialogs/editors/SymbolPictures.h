@@ -5,7 +5,6 @@
 #include <QHash>
 #include <QObject>
 #include <QPixmap>
-#include <QTimer>
 
 namespace QV_DOC_CONTROLS {
 
@@ -19,11 +18,11 @@ class SymbolPictures final : public QObject {
     Q_OBJECT
 public:
     SymbolPictures(usSiInfo &preview, ErrorRelay &relay);
-    QPixmap of(const ZolWDoc::tSid &symbol);    ///< what there is now, perhaps only room for it
+    QPixmap of(const ZolWDoc::tSid &symbol); ///< what there is now, perhaps only room for it
     void setSide(int pixels);
-    void zoomBy(double step);                   ///< within what the preview allows
-    void outdate();                             ///< the look has changed: colours, say
-    void forget();                              ///< all pictures
+    void zoomBy(double step); ///< within what the preview allows
+    void outdate();           ///< the look has changed: colours, say
+    void forget();            ///< all pictures
 signals:
     void drawn();
 
@@ -38,9 +37,8 @@ private:
     ErrorRelay &m_relay;
     QHash<qint16, Picture> m_pictures;
     QHash<qint16, ZolWDoc::tSid> m_wanted;
-    QPixmap m_blank;                            ///< as large as the pictures
-    QTimer m_timer;                             ///< of zero length
-    int m_look = 1;                             ///< counts the changes of it
+    QPixmap m_blank; ///< as large as the pictures
+    int m_look = 1;  ///< counts the changes of it
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -57,10 +57,12 @@ const FieldRow<tSid> kFields[] = {
 /// What the two numbers of a marker mean; a number without a caption is not used.
 struct MarkerParams {
     Text first, second;
-    bool isRatio = false;                       ///< the second one is no length
+    bool isRatio = false; ///< the second one is no length
 };
 constexpr MarkerParams kParams[] = {
-    {}, {{20097, u"Sugár"}, {}}, {{20098, u"Y méret"}, {20099, u"X méret"}},
+    {},
+    {{20097, u"Sugár"}, {}},
+    {{20098, u"Y méret"}, {20099, u"X méret"}},
     {{20097, u"Sugár"}, {20100, u"Y/X arány"}, true},
 };
 MarkerParams paramsOf(const tSid &s)
@@ -161,8 +163,10 @@ void frmEditSid::fillFaces()
 {
     const tSid &s = m_fields.record();
     QStringList faces;
-    if (isVector(s)) faces = vectorFontsOrTold(m_doc, isVisible() ? this : parentWidget());
-    else if (isDrawn(s)) faces = trueTypeFaces();
+    if (isVector(s))
+        faces = vectorFontsOrTold(m_doc, isVisible() ? this : parentWidget());
+    else if (isDrawn(s))
+        faces = trueTypeFaces();
     m_relay.checkpoint();
     const QSignalBlocker quiet(cboFonts);
     cboFonts->clear();
@@ -194,8 +198,10 @@ void frmEditSid::describeMarker()
     const auto describe = [](usInputBox &box, Text caption, bool isRatio) {
         box.setEnabled(caption.id != 0);
         box.setBeforeString(caption.id != 0 ? txt(caption) : QString());
-        if (isRatio) box.setAfterString({});
-        else box.resetAfterString();
+        if (isRatio)
+            box.setAfterString({});
+        else
+            box.resetAfterString();
     };
     describe(*usNumProtParam1, params.first, false);
     describe(*usNumProtParam2, params.second, params.isRatio);
@@ -205,8 +211,8 @@ void frmEditSid::chooseCharacter()
 {
     tSid &s = m_fields.record();
     if (!fontPicker() || !isDrawn(s)) return;
-    const auto chosen = fontPicker()->pickCharacter(
-        m_doc, {FontKind(s.Type), s.Facename, s.CharSet, s.Code}, this);
+    const auto chosen =
+        fontPicker()->pickCharacter(m_doc, {FontKind(s.Type), s.Facename, s.CharSet, s.Code}, this);
     m_relay.checkpoint();
     if (!chosen) return;
     s.Facename = chosen->face, s.Code = chosen->code;

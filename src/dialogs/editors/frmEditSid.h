@@ -26,7 +26,7 @@ class usTxAlign;
 /// Made for one call: Init(), edit(), GetSid().
 class frmEditSid final : public ModalForm {
     Q_OBJECT
-    ErrorRelay m_relay;                         // before the controls, which are made with them
+    ErrorRelay m_relay; // before the controls, which are made with them
     RecordFields<ZolWDoc::tSid> m_fields;
 
 public:
@@ -35,11 +35,11 @@ public:
 
     /// `doc` supplies layers, names and vector fonts until TearDown(). Throws the host's error.
     void Init(ZolWDoc::ZOLW_Doc &doc, const ZolWDoc::tSid &record);
-    bool edit();                                ///< modal; IsOk(). Throws the host's error
-    bool IsOk() const { return m_ok; }          ///< closed with cmdOk
+    bool edit();                       ///< modal; IsOk(). Throws the host's error
+    bool IsOk() const { return m_ok; } ///< closed with cmdOk
     ZolWDoc::tSid GetSid() const { return m_ok ? m_fields.record() : m_before; } ///< the edited record
     void TearDown() override;
-    void accept() override;                     ///< not with a value that is refused, or a name that is taken
+    void accept() override; ///< not with a value that is refused, or a name that is taken
 
     // published names
     QLineEdit *const txtShortName, *const txtFullName;
@@ -57,7 +57,7 @@ public:
     ZOL3_LayInfo *const usLayInfo1;
     QCheckBox *const chkGrid;
     usSiInfo *const usSiInfo1;
-    QPushButton *const cmdNok;                  ///< Cancel
+    QPushButton *const cmdNok; ///< Cancel
 
 private:
     void build();
@@ -77,7 +77,7 @@ private:
     void showSymbol();
     void readCaptions() override;
 
-    ZolWDoc::ZOLW_Doc *m_doc = nullptr;         ///< the host's, until TearDown()
+    ZolWDoc::ZOLW_Doc *m_doc = nullptr; ///< the host's, until TearDown()
     ZolWDoc::tSid m_before;
     QGroupBox *m_marker;
     bool m_ok = false;

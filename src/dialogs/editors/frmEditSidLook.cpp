@@ -38,8 +38,8 @@ void frmEditSid::build()
     usSiInfo1->setVisibleProt(true);
     usSiInfo1->setBorderStyle(1);
     usSiInfo1->setMinimumSize(sizeOfLetters(*this, kPreviewLetters, kPreviewLines));
-    cmdChooseChar->setAutoDefault(false);       // Enter in a field is for OK
-    cmdOk->setFocusPolicy(Qt::TabFocus);        // a click leaves the focus in a field that is refused
+    cmdChooseChar->setAutoDefault(false); // Enter in a field is for OK
+    cmdOk->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus in a field that is refused
     auto *const seen = new QVBoxLayout;
     seen->addWidget(usSiInfo1, 1);
     seen->addWidget(chkGrid);
@@ -122,6 +122,7 @@ void frmEditSid::readCaptions()
     captions << txt(Text{22560, u"Karakter választása..."}) << txt(Text{22561, u"Eltolás"})
              << txt(Text{22562, u"Igazítás"}) << txt(Text{22563, u"Beszúrási pont jele"})
              << txt(Text{22564, u"Háttérrács"});
+    captions = withAccessKeys(captions);
     m_fields.retranslate(captions.first(fields));
     cmdChooseChar->setText(captions[fields]);
     fraMove->setTitle(captions[fields + 1]);

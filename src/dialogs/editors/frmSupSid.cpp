@@ -56,7 +56,7 @@ void frmSupSid::TearDown()
 {
     m_pictures->forget();
     usSiItem->TearDown();
-    m_span.reset();                             // what is open stays
+    m_span.reset(); // what is open stays
     m_doc = nullptr;
 }
 
@@ -215,7 +215,7 @@ void frmSupSid::showMode()
 {
     lvSids->setDragOut(m_edit);
     lvGroups->setAcceptDrops(m_edit);
-    ml_RuntimeSupport_LanguageChanged();        // the title says which it is
+    ml_RuntimeSupport_LanguageChanged(); // the title says which it is
     m_tools->refresh();
     showHint();
 }

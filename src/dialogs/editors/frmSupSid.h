@@ -30,21 +30,22 @@ class usSiInfo;
 class frmSupSid final : public QDialog, private SymbolDesk {
     Q_OBJECT
 public:
-    explicit frmSupSid(QWidget *owner = nullptr);       ///< null = the active window
+    explicit frmSupSid(QWidget *owner = nullptr); ///< null = the active window
     ~frmSupSid() override;
 
     /// Modal. `SidId`: the symbol that is current at first; on true the one that the user chose. In edit mode
     /// true = the changes were kept. Throws the host's error.
     bool bDoModal(ZolWDoc::ZOLW_Doc &oDoc, enumSetupMode mode, qint16 &SidId);
-    /// Asks for a symbol number that is free; false = cancelled. `SidId` is proposed. Throws the host's error.
+    /// Asks for a symbol number that is free; false = cancelled. `SidId` is proposed. Throws the host's
+    /// error.
     bool bGetSidId(qint16 &SidId);
-    void TearDown();                                    ///< lets go of the document; may be repeated
+    void TearDown(); ///< lets go of the document; may be repeated
     qint32 lDebugId() const { return m_identity; }
-    void ml_RuntimeSupport_LanguageChanged();           // published spelling
+    void ml_RuntimeSupport_LanguageChanged(); // published spelling
 
-    QTreeView *const lvGroups;                          // published names
+    QTreeView *const lvGroups; // published names
     ItemList *const lvSids;
-    usSiInfo *const usSiItem;                           ///< hidden; draws the pictures of the list
+    usSiInfo *const usSiItem; ///< hidden; draws the pictures of the list
 
     // --- what the tools do, for the table kSymbolManagerCommands
     void toggleMode();
@@ -71,13 +72,13 @@ public:
     void removeGroups();
 
     // --- and when they can be used
-    bool isEditMode() const { return m_edit; }
+    bool isEditMode() const { return m_edit && m_doc; }
     bool isByGroups() const { return m_byGroups; }
     template <ItemList::View V> bool isView() const { return lvSids->view() == V; }
     template <int step> bool canResizeCells() const { return hasCell(step); }
     bool hasSelected() const { return lvSids->hasSelection(); }
-    bool canEditSelected() const { return m_edit && hasSelected(); }
-    bool canEditCurrent() const { return m_edit && lvSids->currentRow() >= 0; }
+    bool canEditSelected() const { return isEditMode() && hasSelected(); }
+    bool canEditCurrent() const { return isEditMode() && lvSids->currentRow() >= 0; }
     bool canEditSymbol() const { return canEditCurrent() && SymbolEdits::canEdit(); }
     bool canRenumber() const;
     bool canPickFont() const;
@@ -114,7 +115,7 @@ private:
     std::optional<qint16> shownGroup() const;
     void setEditMode(bool on);
     void showMode();
-    void settleChanges();                               ///< asks whether they stay; drops them or commits
+    void settleChanges(); ///< asks whether they stay; drops them or commits
     void changeView(ItemList::View view);
     void changeCell(int step);
     bool hasCell(int step) const;
@@ -130,8 +131,8 @@ private:
 
     DebugIdentity m_identity{"frmSupSid"};
     mutable ErrorRelay m_relay;
-    ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()
-    std::optional<ChangeSpan> m_span;                   ///< while there is a document
+    ZolWDoc::ZOLW_Doc *m_doc = nullptr; ///< the host's, until TearDown()
+    std::optional<ChangeSpan> m_span;   ///< while there is a document
     SymbolPictures *m_pictures;
     SymbolListModel *m_symbols;
     GroupListModel *m_groups;
@@ -144,7 +145,7 @@ private:
     QSplitter *m_splitter;
     QLabel *m_hint;
     QDialogButtonBox *m_buttons;
-    std::array<int, 4> m_cells{1, 0, 0, 0};             ///< by view: index of the size of its cells
+    std::array<int, 4> m_cells{1, 0, 0, 0}; ///< by view: index of the size of its cells
     qint16 m_group = -1;
     qint16 m_chosen = -1;
     bool m_edit = false, m_editForbidden = false, m_byGroups = true, m_ok = false;

@@ -33,9 +33,9 @@ struct FontEntries final : EntrySource {
 } // namespace
 
 bool frmSupSid::canRenumber() const { return canEditCurrent() && m_doc->symbolRenumber(); }
-bool frmSupSid::canPickFont() const { return m_edit && fontPicker(); }
+bool frmSupSid::canPickFont() const { return isEditMode() && fontPicker(); }
 bool frmSupSid::canPickLayer() const { return canEditSelected() && canPickResource(TableKind::Layers); }
-bool frmSupSid::canEditGroup() const { return m_edit && m_byGroups && m_groups->rowOf(m_group) >= 0; }
+bool frmSupSid::canEditGroup() const { return isEditMode() && m_byGroups && m_groups->rowOf(m_group) >= 0; }
 
 void frmSupSid::zoomIn() { m_pictures->zoomBy(kZoomStep); }
 void frmSupSid::zoomOut() { m_pictures->zoomBy(-kZoomStep); }
@@ -67,7 +67,8 @@ std::optional<qint16> frmSupSid::askForNumber(NumberQuestion question, qint16 ow
 
 bool frmSupSid::bGetSidId(qint16 &SidId)
 {
-    const auto number = askForNumber({txt(Text{20035, u"Sorszám"}), txt(Text{20036, u"Egyedi sorszám"}),
+    const auto number = askForNumber({txt(Text{20035, u"Sorszám"}),
+                                      txt(Text{20036, u"Egyedi sorszám"}),
                                       {{.label = txt(Text{20037, u"Jelkulcstípus száma"}),
                                         .preset = double(SidId),
                                         .min = 1,
@@ -87,7 +88,8 @@ void frmSupSid::renumber()
     const QString text =
         join(Text{20073, u"A művelet rögzíti az eddigi változtatásokat is."}, QStringLiteral("\n"),
              Text{20071, u"A(z) '"}, current->ShortName, Text{20072, u"' jelkulcs új sorszáma"});
-    const auto number = askForNumber({txt(Text{20069, u"Sorszám módosítás"}), text,
+    const auto number = askForNumber({txt(Text{20069, u"Sorszám módosítás"}),
+                                      text,
                                       {{.label = txt(Text{20070, u"Új sorszám:"}),
                                         .preset = double(current->SidId),
                                         .min = 1,
@@ -105,17 +107,18 @@ void frmSupSid::renumber()
 std::vector<qint16> frmSupSid::removableGroups(const std::vector<tSid> &symbols)
 {
     std::vector<qint16> empty;
-    for (const QModelIndex &index : lvGroups->selectionModel()->selectedRows()) {
+    QModelIndexList chosen = lvGroups->selectionModel()->selectedRows();
+    std::sort(chosen.begin(), chosen.end());
+    for (const QModelIndex &index : chosen) {
         const auto &group = m_groups->groups()[size_t(index.row())];
         if (std::ranges::count(symbols, group.id, &tSid::GroupId) == 0) {
             empty.push_back(group.id);
             continue;
         }
-        const Message question{
-            Icon::Critical, txt(Text{22304, u"Csoport törlése"}),
-            join(Text{20079, u"A(z) "}, group.name,
-                 Text{20080, u" csoport használatban van, ezért nem törölhető!"}, QStringLiteral(" "),
-                 Text{20081, u"Folytatja?"})};
+        const Message question{Icon::Critical, txt(Text{22304, u"Csoport törlése"}),
+                               join(Text{20079, u"A(z) "}, group.name,
+                                    Text{20080, u" csoport használatban van, ezért nem törölhető!"},
+                                    QStringLiteral(" "), Text{20081, u"Folytatja?"})};
         if (!yesNo(question)) return {};
     }
     return empty;
@@ -128,8 +131,8 @@ void frmSupSid::removeGroups()
     try {
         symbols = doc().symbols().readAll();
     } catch (...) { // told instead of ending the form, on purpose
-        return tell({Icon::Critical, title,
-                     txt(Text{20078, u"Nem  sikerült lekérdezni a jelkulcs típusokat!"})});
+        return tell(
+            {Icon::Critical, title, txt(Text{20078, u"Nem  sikerült lekérdezni a jelkulcs típusokat!"})});
     }
     auto victims = removableGroups(symbols);
     if (victims.empty()) return;

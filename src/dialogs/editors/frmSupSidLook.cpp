@@ -27,8 +27,8 @@ namespace {
 
 const QString kApplication = QStringLiteral("ZolWOp");
 constexpr char kGroupsWidth[] = "-Groups", kSymbolsWidth[] = "-Sids";
-constexpr int kCells[] = {32, 48, 64, 96};      // pixels, room for a picture
-constexpr int kGroupLetters = 28, kSymbolLetters = 90, kLines = 30;
+constexpr int kCells[] = {32, 48, 64, 96}; // pixels, room for a picture
+constexpr int kGroupLetters = 28, kSymbolLetters = 120, kLines = 30;
 
 } // namespace
 
@@ -89,8 +89,10 @@ void frmSupSid::connectParts()
         showHint();
     });
     connect(lvSids, &ItemList::chosen, this, [this] {
-        if (!m_edit) accept();
-        else m_tools->tool("cmdSid_Edit")->trigger();
+        if (!m_edit)
+            accept();
+        else
+            m_tools->tool("cmdSid_Edit")->trigger();
     });
     connect(lvSids, &ItemList::headerHovered, this, &frmSupSid::showHint);
     connect(lvSids, &ItemList::menuWanted, this, [this](QPoint where) { popUp("bndPopup_Sids", where); });
@@ -199,9 +201,9 @@ void frmSupSid::showHint(int column)
     const auto current = currentRecord();
     QString hint = SymbolListModel::hintOf(column);
     if (hint.isEmpty() && current)
-        hint = QStringLiteral(" %1 %2 ").arg(current->SidId).arg(current->FullName.isEmpty()
-                                                                     ? current->ShortName
-                                                                     : current->FullName);
+        hint = QStringLiteral(" %1 %2 ")
+                   .arg(current->SidId)
+                   .arg(current->FullName.isEmpty() ? current->ShortName : current->FullName);
     if (hint.isEmpty() && !m_edit) hint = txt(Text{20089, u" Válassz jelkulcsot! "});
     m_hint->setText(hint);
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(m_edit || current);
