@@ -84,7 +84,7 @@ struct Form {
 };
 
 struct Spent {
-    double library = 0, host = 0;               ///< milliseconds
+    double library = 0, written = 0;            ///< milliseconds; reading is the library's
 };
 
 /// One command, to its picture on the screen.
@@ -94,9 +94,9 @@ Spent spentOn(Form &f, const char *tool)
     const auto start = Clock::now();
     f.form->run(tool);
     f.form->grid.repaint();
-    const double whole = nanosecondsSince(start) / 1e6, host = f.doc->spent() - before;
+    const double whole = nanosecondsSince(start) / 1e6, written = f.doc->spent() - before;
     if (f.form->error) std::rethrow_exception(f.form->error);
-    return {whole - host, host};
+    return {whole - written, written};
 }
 
 /// What the user types where a command asks for numbers: copies that all fit, numbers in reverse, a free
@@ -133,9 +133,10 @@ bool enter(const char *tool, Bound bound)
     const int layers = std::string_view(tool) == "cmdLays_Copy" ? 16000 : 32000;
     const std::string name = "layers." + std::to_string(layers) + '.' + tool;
     figure(name, "ms", bound, [=] { return spentOn(tool, layers).library; });
-    return figure(name + ".host", "ms", unbounded(), [=] { return spentOn(tool, layers).host; });
+    return figure(name + ".written", "ms", unbounded(), [=] { return spentOn(tool, layers).written; });
 }
-/// Recolouring and switching are held to a tenth of a second.
+/// Recolouring and switching are held to a tenth of a second apart from the document's writing, which is
+/// printed beside it.
 const bool s_entered = [] {
     for (const auto &c : kLayerCommands) {
         const std::string tool = c.tool;

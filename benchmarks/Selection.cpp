@@ -1,4 +1,5 @@
 #include "Figures.h"
+#include "FirstPaint.h"
 
 #include "TinyDoc.h"
 #include "dialogs/select/frmSelect.h"
@@ -6,7 +7,6 @@
 #include "facade/clsDocDlgs.h"
 
 #include <QApplication>
-#include <QEvent>
 
 #include <map>
 
@@ -57,22 +57,6 @@ refhost::SqliteDoc &storedDoc(int layers)
     return *doc;
 }
 
-/// Ends a run: the dialog is rejected as soon as its grid has painted for the first time.
-struct FirstPaint final : QObject {
-    Clock::time_point painted;
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::UpdateRequest && qobject_cast<frmSelect *>(object)) {
-            object->removeEventFilter(this);
-            object->event(event); // paints
-            painted = Clock::now();
-            static_cast<frmSelect *>(object)->reject();
-            return true;
-        }
-        return false;
-    }
-};
-
 /// What the reference document takes to answer the calls of one opening.
 double readingTime(ZolWDoc::ZOLW_Doc &doc)
 {
@@ -92,13 +76,10 @@ double readingTime(ZolWDoc::ZOLW_Doc &doc)
 /// Milliseconds from the call to the first picture.
 double openOnce(ZolWDoc::ZOLW_Doc &doc)
 {
-    FirstPaint watch;
-    qApp->installEventFilter(&watch);
-    ZolWDoc::tLay lay;
-    const auto start = Clock::now();
-    clsDocDlgs().bSelect_Lay(doc, lay);
-    qApp->removeEventFilter(&watch);
-    return std::chrono::duration<double, std::milli>(watch.painted - start).count();
+    return untilFirstPaint<frmSelect>([&doc] {
+        ZolWDoc::tLay lay;
+        clsDocDlgs().bSelect_Lay(doc, lay);
+    });
 }
 double openingTime(int layers)
 {

@@ -6,7 +6,7 @@
 
 namespace benchmarks {
 
-/// Adds up what the calls of a role take, so that a figure can tell the document's time from the library's.
+/// Adds up what the writing calls of a role take: reading counts as the library's time.
 struct TimedLayers final : ZolWDoc::LayerRole {
     using Rec = ZolWDoc::tLay;
     explicit TimedLayers(ZolWDoc::LayerRole &of) : real(of) {}
@@ -22,15 +22,15 @@ struct TimedLayers final : ZolWDoc::LayerRole {
         return call();
     }
 
-    std::vector<Rec> readAll() const override { return timed([&] { return real.readAll(); }); }
-    int count() const override { return timed([&] { return real.count(); }); }
-    std::optional<Rec> find(qint16 id) const override { return timed([&] { return real.find(id); }); }
+    std::vector<Rec> readAll() const override { return real.readAll(); }
+    int count() const override { return real.count(); }
+    std::optional<Rec> find(qint16 id) const override { return real.find(id); }
     qint16 add(const Rec &r) override { return timed([&] { return real.add(r); }); }
     void update(const Rec &r) override { timed([&] { real.update(r); }); }
-    int uses(qint16 id) const override { return timed([&] { return real.uses(id); }); }
+    int uses(qint16 id) const override { return real.uses(id); }
     std::vector<int> usesAll(std::span<const qint16> ids) const override
     {
-        return timed([&] { return real.usesAll(ids); });
+        return real.usesAll(ids);
     }
     void addAll(std::span<const Rec> rows, std::vector<qint16> &ids) override
     {
@@ -47,15 +47,15 @@ struct TimedLayers final : ZolWDoc::LayerRole {
     bool remove(qint16 id, bool orphans) override { return timed([&] { return real.remove(id, orphans); }); }
     std::optional<Rec> findByNumber(qint16 n) const override
     {
-        return timed([&] { return real.findByNumber(n); });
+        return real.findByNumber(n);
     }
     void makeCurrent(const Rec &r) override { timed([&] { real.makeCurrent(r); }); }
-    qint16 currentId() const override { return timed([&] { return real.currentId(); }); }
-    std::vector<ZolWDoc::tGroup> groups() const override { return timed([&] { return real.groups(); }); }
+    qint16 currentId() const override { return real.currentId(); }
+    std::vector<ZolWDoc::tGroup> groups() const override { return real.groups(); }
     void writeGroups(std::span<const ZolWDoc::tGroup> g) override { timed([&] { real.writeGroups(g); }); }
     std::vector<ZolWDoc::tLayMember> members() const override
     {
-        return timed([&] { return real.members(); });
+        return real.members();
     }
     void writeMembers(std::span<const ZolWDoc::tLayMember> m) override
     {
@@ -67,15 +67,15 @@ struct TimedLayers final : ZolWDoc::LayerRole {
     void renumberFromFile(const QString &path) override { timed([&] { real.renumberFromFile(path); }); }
 };
 
-/// A document whose layer calls are timed, and its command scopes, which end with the writing. It offers what
-/// the reference document does.
+/// A document whose layer writes are timed, and its command scopes, which end with the writing. It offers
+/// what the reference document does.
 class TimedDoc final : public ZolWDoc::ZOLW_Doc,
                        private ZolWDoc::CommandScopeRole,
                        private ZolWDoc::LayerFileRole,
                        private ZolWDoc::LayerElementsRole {
 public:
     explicit TimedDoc(ZolWDoc::ZOLW_Doc &real) : m_real(real) {}
-    double spent() const { return m_layers.spent; } ///< milliseconds in the document so far
+    double spent() const { return m_layers.spent; } ///< milliseconds of writing so far
 
     ZolWDoc::LayerRole &layers() override { return m_layers; }
     ZolWDoc::TextTypeRole &textTypes() override { return m_real.textTypes(); }

@@ -4,6 +4,7 @@
 #include "window/DrawingFonts.h"
 #include "window/Language.h"
 #include "window/QtTexts.h"
+#include "window/UserSettings.h"
 
 #include <map>
 #include <memory>
@@ -19,10 +20,12 @@ public:
     HostServices &operator=(const HostServices &) = delete;
 
     Language *language() override { return &m_language; }
+    UserSettings *settings() override { return &m_settings; }
     ZolWDoc::VectorFontProvider *vectorFonts(
         const ZolWDoc::ZOLW_Doc *) override; ///< its own characters, and stroke fonts for any drawing
 private:
     Language m_language;
+    UserSettings m_settings;
     StrokeFonts m_strokeFonts;
     std::map<const SqliteDoc *, std::unique_ptr<DrawingFonts>> m_fonts; ///< stay as long as the program
     std::unique_ptr<QtTexts> m_qtTexts;             ///< made when the language is known

@@ -128,7 +128,7 @@ void MainWindow::buildNewElement()
 void MainWindow::showNewElement(bool shown)
 {
     m_newElementPage->setVisible(shown);
-    if (shown) m_newElement->setFocus();
+    if (shown) m_newElement->setFocus(Qt::TabFocusReason);
 }
 
 void MainWindow::connectParts()
@@ -185,6 +185,10 @@ void MainWindow::setColors(Colors colors)
 }
 
 void MainWindow::setWarning(bool on) { m_dialogs->setWarnInvisibleCurrentLayer(on); }
+void MainWindow::setOldStyle(bool on)
+{
+    m_services.settings()->write(QLatin1String(kSetup), QLatin1String(kOldStyle), on);
+}
 
 void MainWindow::showTool()
 {
@@ -271,6 +275,8 @@ void MainWindow::restoreLook()
     setDark(action("dark")->isChecked());
     action("warn")->setChecked(read(kWarn) != u"0");
     setWarning(action("warn")->isChecked());
+    action("oldStyle")->setChecked(
+        m_services.settings()->readBool(QLatin1String(kSetup), QLatin1String(kOldStyle), false));
 }
 
 void MainWindow::rememberLook() const

@@ -34,6 +34,7 @@ public:
     void setDark(bool);                             ///< of all drawings
     void setColors(Colors);                         ///< of all drawings
     void setWarning(bool); ///< asks before an invisible layer becomes current
+    void setOldStyle(bool); ///< the library's managers instead of its selection and setup dialogs
     bool run(const DialogCall &);                   ///< whether the user confirmed; errors are told
 
 protected:

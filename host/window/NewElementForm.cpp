@@ -38,6 +38,7 @@ NewElementForm::NewElementForm(QWidget *parent)
     m_rotation = addBox("rotationOfNew", "0.0###", 360, 5);
     m_textHeight = addBox("heightOfNew", "0.0#", 100, 0.5);
     column->addStretch(1);
+    setFocusProxy(m_layer);
     setMinimumWidth(fontMetrics().averageCharWidth() * kLetters);
     m_width->setSetFocusNextTabIndex(kRotationTab);
     m_rotation->setProperty("TabIndex", kRotationTab);
@@ -98,8 +99,8 @@ void NewElementForm::followDocument()
     guarded([this] {
         SqliteDoc &doc = m_page->doc();
         if (m_layer->oDoc() != &doc) m_layer->setoDoc(&doc);
-        if (const auto current = doc.layers().find(doc.layers().currentId()))
-            m_layer->LetLayId(current->LayId, kFollows);
+        const auto current = doc.layers().find(doc.layers().currentId());
+        if (current && !m_layer->txtLayNr->isModified()) m_layer->LetLayId(current->LayId, kFollows);
         if (m_layers->ZOLW_Doc() != &doc) m_layers->setZOLW_Doc(&doc);
         else if (!m_layers->txtLays->hasFocus()) m_layers->setsLayGroup(m_layers->sLayGroup());
     });
@@ -149,8 +150,15 @@ void NewElementForm::retranslate()
 
 void NewElementForm::keyPressEvent(QKeyEvent *e)
 {
-    if (e->key() == Qt::Key_Escape) emit done();
-    else QWidget::keyPressEvent(e);
+    if (e->key() != Qt::Key_Escape) return QWidget::keyPressEvent(e);
+    dropTyped();
+    emit done();
+}
+
+void NewElementForm::dropTyped()
+{
+    for (usInputBox *box : {m_width, m_rotation, m_textHeight}) box->LetValue(box->Value());
+    if (m_layer->LayId() != -1) guarded([this] { m_layer->LetLayId(m_layer->LayId(), kFollows); });
 }
 
 } // namespace refhost

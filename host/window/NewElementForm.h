@@ -25,7 +25,7 @@ public:
     const NewElement &attributes() const { return m_attributes; }
 signals:
     void failed(const QString &why);
-    void done();                                    ///< Esc: the user goes back to the drawing
+    void done(); ///< Esc: the user goes back to the drawing; what was half typed is dropped
 protected:
     void keyPressEvent(QKeyEvent *) override;
 private:
@@ -36,6 +36,7 @@ private:
     void followDocument();
     void handOver();
     void retranslate();
+    void dropTyped();                               ///< a number that is not taken yet
     template <class Act> void guarded(Act);
 
     QPointer<DrawingPage> m_page;

@@ -131,6 +131,9 @@ const A::Row kRows[] = {
      "",
      [](W &w, bool on) { w.setWarning(on); },
      A::Switch},
+    {"oldStyle", A::Settings, {30950, u"&Régi táblázatkezelő ablakok"}, {}, "",
+     [](W &w, bool on) { w.setOldStyle(on); },
+     A::Switch},
 };
 
 } // namespace

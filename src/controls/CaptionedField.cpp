@@ -129,12 +129,18 @@ void CaptionedField::colorChildren()
 
 int CaptionedField::pixels(int twips) const { return pixelsOf(std::max(0, twips), *this); }
 
+/// What a caption's text cannot use of its width.
+int CaptionedField::around(const QLabel &label)
+{
+    return 2 * label.indent() + label.contentsMargins().right();
+}
+
 /// As wide as published, a caption as wide as its text at least; or as narrow as they may be.
 CaptionedField::Widths CaptionedField::widths(bool least) const
 {
     const auto caption = [&](const QLabel &label, const QString &text, int twips) {
         const int published = pixels(twips);
-        const int wanted = label.fontMetrics().size(Qt::TextShowMnemonic, text).width() + 2 * label.indent();
+        const int wanted = label.fontMetrics().size(Qt::TextShowMnemonic, text).width() + around(label);
         return published == 0 || least ? published : std::max(published, wanted);
     };
     const int value = pixels(m_widthValue);
@@ -144,13 +150,14 @@ CaptionedField::Widths CaptionedField::widths(bool least) const
             caption(*m_lblAfter, m_after, m_widthAfter)};
 }
 
-/// Where room is short the captions give way first; room to spare is the value's, if the control expands.
+/// Where room is short the captions give way first, a unit after the other one; room to spare is the value's,
+/// if the control expands.
 CaptionedField::Widths CaptionedField::widthsIn(int room) const
 {
     Widths parts = widths(false);
     const Widths least = widths(true);
     int lacking = parts[0] + parts[1] + parts[2] + parts[3] - room;
-    for (const size_t part : {3, 0, 1}) {
+    for (const size_t part : {0, 3, 1}) {
         const int given = std::clamp(lacking, 0, parts[part] - least[part]);
         parts[part] -= given, lacking -= given;
     }
@@ -160,7 +167,7 @@ CaptionedField::Widths CaptionedField::widthsIn(int room) const
 
 int CaptionedField::frame() const
 {
-    return m_borderStyle ? style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) : 0;
+    return m_borderStyle ? 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this) : 0;
 }
 
 QSize CaptionedField::sizeOf(const Widths &widths) const
@@ -176,6 +183,7 @@ void CaptionedField::arrange()
 {
     const int gap = fontMetrics().horizontalAdvance(u' ');
     m_lblBefore->setIndent(m_align == 1 ? gap : 0);
+    m_lblBefore->setContentsMargins(0, 0, m_align == 1 ? 0 : gap, 0);
     m_lblAfter->setIndent(gap);
     picValue->setIndent(gap);
     m_lblBefore->setAlignment(alignmentOf(m_align));
@@ -202,7 +210,7 @@ void CaptionedField::arrange()
 
 void CaptionedField::showCaption(QLabel &label, const QString &caption)
 {
-    const int room = label.width() - 2 * label.indent();
+    const int room = label.width() - around(label);
     const QString shown = label.fontMetrics().elidedText(caption, Qt::ElideRight, room, Qt::TextShowMnemonic);
     label.setText(shown);
     label.setToolTip(shown == caption ? QString() : caption);
@@ -228,7 +236,7 @@ void CaptionedField::paintEvent(QPaintEvent *)
     QPainter painter(this);
     QStyleOptionFrame option;
     option.initFrom(this);
-    option.lineWidth = frame();
+    option.lineWidth = frame() / 2;
     option.state |= QStyle::State_Sunken;
     style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, this);
 }

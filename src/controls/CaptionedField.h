@@ -83,7 +83,8 @@ private:
     void colorChildren();
     void showCaption(QLabel &label, const QString &caption);
     int pixels(int twips) const;
-    int frame() const;                                  ///< width of the border
+    int frame() const;                                  ///< width of the border and of the room within it
+    static int around(const QLabel &label);
     Widths widths(bool least) const;
     Widths widthsIn(int room) const;
     QSize sizeOf(const Widths &widths) const;

@@ -27,6 +27,7 @@ using ZolWDoc::tLay;
 namespace {
 
 constexpr quint8 kByUser = 0;                   ///< the change mode of what the user types or picks
+constexpr int kLetters = 20;                    ///< of the name that there is room for
 
 constexpr BagRow kBag[] = {
     {"Enabled", "Enabled", true},
@@ -84,6 +85,8 @@ void ZOL3_LayInfo::setoDoc(ZolWDoc::ZOLW_Doc *doc)
 }
 
 void ZOL3_LayInfo::TearDown() { m_doc = nullptr; }
+
+ErrorRelay &ZOL3_LayInfo::relay() const { return m_relay ? *m_relay : ErrorRelay::reporting(); }
 
 void ZOL3_LayInfo::LetLayId(const QVariant &New_LayId, quint8 ChangeMode)
 {
@@ -151,7 +154,10 @@ LeavingCheck::Tell ZOL3_LayInfo::leave()
     const auto afterwards = qScopeGuard([alive = QPointer(this)] {
         if (alive) alive->showLayer();
     });
-    const Refusal refusal = takeNumber(txtLayNr->text(), kByUser);
+    Refusal refusal;
+    const auto taking = [&] { refusal = takeNumber(txtLayNr->text(), kByUser); };
+    if (m_relay) m_relay->guard(taking);
+    else taking(); // what it throws is told later
     if (!refusal) return {};
     return [this, refusal = *refusal] {
         if (isVisible()) tell(refusal);
@@ -165,7 +171,7 @@ bool ZOL3_LayInfo::eventFilter(QObject *watched, QEvent *event)
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     if (m_infoMode) return false;
     const QPointer<ZOL3_LayInfo> alive(this);
-    ErrorRelay::reporting().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
+    relay().guard([this] { LetLayNr(txtLayNr->text(), kByUser); });
     if (!alive) return true;
     showLayer();
     txtLayNr->selectAll();
@@ -176,7 +182,7 @@ void ZOL3_LayInfo::click()
 {
     Trace trace("ZOL3_LayInfo", "cmdModLay_Click");
     const QPointer<ZOL3_LayInfo> alive(this);
-    ErrorRelay &user = ErrorRelay::reporting();
+    ErrorRelay &user = relay();
     bool cancel = false;
     if (!user.guard([&] { emit LayIdClickBefore(cancel); }) || cancel || !alive) return;
     user.guard([this] { pick(); });
@@ -211,6 +217,14 @@ void ZOL3_LayInfo::setVisibleIcon(bool on)
     m_visibleIcon = on;
     cmdModLay->setIcon(on ? toolIcon("layer") : QIcon());
     RefreshControls();
+}
+
+/// A form does not jump when another layer has a longer name.
+QSize ZOL3_LayInfo::sizeHint() const
+{
+    const int name = fontMetrics().averageCharWidth() * kLetters;
+    const QSize shown = lblLayId->sizeHint().expandedTo(lblLayId->minimumSizeHint());
+    return QWidget::sizeHint() + QSize(name - shown.width(), 0);
 }
 
 void ZOL3_LayInfo::RefreshControls()

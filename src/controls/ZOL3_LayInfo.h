@@ -16,14 +16,15 @@ class QPushButton;
 
 namespace QV_DOC_CONTROLS {
 
-struct Message;
+class ErrorRelay;
 class LeavingCheck;
+struct Message;
 
 /// Shows one layer of a document by number and name, and lets the user choose another: by its number, or from
 /// the layer selection behind the button. Nothing happens until there is a document.
 ///
 /// What the document throws reaches the caller of a member function; what it throws while the user types or
-/// picks is told through prompts().
+/// picks is told through prompts(), on a form of the library it ends the form.
 class ZOL3_LayInfo final : public QWidget {
     Q_OBJECT
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
@@ -61,10 +62,13 @@ public:
     void setVisibleIcon(bool on);                       ///< of the button
     void ml_RuntimeSupport_LanguageChanged();           // published spelling
     void TearDown();                                    ///< drops the document; may be repeated
+    /// Where what the document throws while the user types or picks goes; the relay outlives the control.
+    void setRelay(ErrorRelay &relay) { m_relay = &relay; }
 
     QVariantMap propertyBag() const;                    ///< by published key, what differs from its default
     void setPropertyBag(const QVariantMap &bag);        ///< what it lacks gets its default
     qint32 lDebugId() const { return m_identity; }
+    QSize sizeHint() const override;                    ///< whatever the layer's name
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QLabel *const lblLay;
@@ -91,8 +95,10 @@ private:
     std::function<void()> leave();                      ///< takes it; what is left to tell
     void click();
     void pick();
+    ErrorRelay &relay() const;
 
     DebugIdentity m_identity{"ZOL3_LayInfo"};
+    ErrorRelay *m_relay = nullptr;                      ///< null = errors are told
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;
     ZolWDoc::tLay m_shown;                              ///< -1 = none
     std::unique_ptr<LeavingCheck> m_leaving;

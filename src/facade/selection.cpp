@@ -2,6 +2,7 @@
 
 #include "dialogs/select/frmSelect.h"
 #include "facade/contract/ResourcePicker.h"
+#include "facade/managers.h"
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -26,6 +27,14 @@ std::optional<Rec> pickIn(bool (frmSelect::*entry)(ZolWDoc::ZOLW_Doc &, Rec &, Q
     return first;
 }
 
+/// In the dialog that the user's setting asks for.
+bool pickSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, QWidget *owner)
+{
+    if (usesManagers()) return selectInManager(doc, symbol, owner);
+    frmSelect dialog;
+    return selectWith(dialog, &frmSelect::bDoSelect_Sid, doc, symbol, owner);
+}
+
 /// The selection dialogs that there are, for those who pick from below the roof.
 struct Picker final : ResourcePicker {
     using Kind = ZolWDoc::TableKind;
@@ -37,8 +46,9 @@ struct Picker final : ResourcePicker {
             return lay ? std::optional(lay->LayId) : std::nullopt;
         }
         if (kind == Kind::Symbols) {
-            const auto symbol = pickIn(&frmSelect::bDoSelect_Sid, doc, {.SidId = first}, owner);
-            return symbol ? std::optional(symbol->SidId) : std::nullopt;
+            ZolWDoc::tSid symbol{.SidId = first};
+            return pickSymbol(doc, symbol, qobject_cast<QWidget *>(owner)) ? std::optional(symbol.SidId)
+                                                                           : std::nullopt;
         }
         return std::nullopt;
     }
@@ -66,8 +76,7 @@ bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers)
 
 bool selectSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol)
 {
-    frmSelect dialog;
-    return selectWith(dialog, &frmSelect::bDoSelect_Sid, doc, symbol);
+    return pickSymbol(doc, symbol, nullptr);
 }
 
 } // namespace QV_DOC_CONTROLS

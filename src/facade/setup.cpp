@@ -1,11 +1,13 @@
 #include "facade/setup.h"
 
 #include "dialogs/select/frmSetup.h"
+#include "facade/managers.h"
 
 namespace QV_DOC_CONTROLS {
 
 bool editTable(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::TableKind kind)
 {
+    if (kind == ZolWDoc::TableKind::Symbols && usesManagers()) return editSymbols(doc);
     frmSetup dialog;
     const bool confirmed = dialog.bDoShow(doc, qint16(kind), true);
     dialog.TearDown();

@@ -23,7 +23,8 @@ private slots:
             setLanguage(Romanian, {});
             DocForm with;
             ArrayForm without;
-            QCOMPARE(with.control->sLayGroup(), QStringLiteral("(Aktuális réteg)")); // Hungarian at first, on purpose
+            QCOMPARE(with.control->sLayGroup(),
+                     QStringLiteral("(Aktuális réteg)")); // Hungarian at first, on purpose
             with.control->setZOLW_Doc(m_doc.get());
             without.control->SetLayArr(m_doc->layers().readAll());
             with.pick(kVisible), without.pick(kVisible);

@@ -10,6 +10,7 @@
 
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
@@ -48,69 +49,33 @@ const QVariant kFont = QFont(QStringLiteral("DejaVu Serif"), 17);
 Values previewValues(Values own)
 {
     const Values shared{{"BackColor", QColor::fromRgba(0x80000005)},
-                        {"BorderStyle", 1},
-                        {"Zoom", 12.5},
-                        {"SidId", 32000},
-                        {"SiColor", QColor(0x11, 0x22, 0x33)},
-                        {"VisibleGrid", true},
-                        {"VisibleZoom", false},
-                        {"Appearance", 1},
-                        {"VisibleProt", true},
-                        {"VisibleFrame", true},
+                        {"BorderStyle", 1}, {"Zoom", 12.5}, {"SidId", 32000},
+                        {"SiColor", QColor(0x11, 0x22, 0x33)}, {"VisibleGrid", true}, {"VisibleZoom", false},
+                        {"Appearance", 1}, {"VisibleProt", true}, {"VisibleFrame", true},
                         {"ToolTipSid", QStringLiteral("ő & <=>")}};
     own.insert(own.end(), shared.begin(), shared.end());
     return own;
 }
 
-const std::vector<Control> &controls()
-{
-    static const std::vector<Control> all{
-        {"usInputBox",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"ForeColor", QColor::fromRgba(0x80000012)},
-          {"Enabled", false},
-          {"Font", kFont},
-          {"BorderStyle", 1},
-          {"BeforeString", QStringLiteral("ő & <=>")},
-          {"Value", QStringLiteral("12.25")},
-          {"Min", 11.5},
-          {"Max", 13.125},
-          {"FormatString", QStringLiteral("#,##0.0 \"m\"")},
-          {"WidthBeforeString", 100},
-          {"AfterString", QStringLiteral("cm")},
-          {"InfoMode", true},
-          {"BeforeStringAlign", 2},
-          {"WidthValue", 2345},
-          {"WidthAfterString", 678},
-          {"TimerInterval", 77},
-          {"SetFocusNextTabIndex", 4},
-          {"SetFucusBackTabIndex", 5},
-          {"InputType", 3},
-          {"AutoSelect", false},
-          {"UpDownInc", 0.25},
-          {"UpDownVisible", true},
-          {"LenMax", 9},
-          {"ReadsLocale", true},
-          {"ErrorsInPlace", true}}},
-        {"ZOL3_LayGroup",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"Font", kFont},
-          {"SingleLine", true},
-          {"WidthDiferent", 12.5}},
-         {"sLays", "sLayGroup"}},
-        {"usLays",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"Font", kFont},
-          {"SingleLine", true},
-          {"WidthDiferent", -12.5}},
-         {"sLays", "sLayGroup"}},
-        {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
-        {"usSiInfo", previewValues({{"ShowEnabled", false}})},
-        {"ZOL3_SiInfo", previewValues({})},
-        {"usTxAlign", {{"Align", 8}}},
-    };
-    return all;
-}
+const Values kLayerSet{{"Backcolor", QColor(0x11, 0x22, 0x33)}, {"Font", kFont}, {"SingleLine", true},
+                       {"WidthDiferent", -12.5}};
+const QStringList kKept{"sLays", "sLayGroup"};
+const std::vector<Control> kControls{ // table
+    {"usInputBox",
+     {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+      {"ForeColor", QColor::fromRgba(0x80000012)}, {"Enabled", false}, {"Font", kFont}, {"BorderStyle", 1},
+      {"BeforeString", QStringLiteral("ő & <=>")}, {"Value", QStringLiteral("12.25")}, {"Min", 11.5},
+      {"Max", 13.125}, {"FormatString", QStringLiteral("#,##0.0 \"m\"")}, {"WidthBeforeString", 100},
+      {"AfterString", QStringLiteral("cm")}, {"InfoMode", true}, {"BeforeStringAlign", 2},
+      {"WidthValue", 2345}, {"WidthAfterString", 678}, {"TimerInterval", 77}, {"SetFocusNextTabIndex", 4},
+      {"SetFucusBackTabIndex", 5}, {"InputType", 3}, {"AutoSelect", false}, {"UpDownInc", 0.25},
+      {"UpDownVisible", true}, {"LenMax", 9}, {"ReadsLocale", true},
+      {"ErrorsInPlace", true}}},
+    {"ZOL3_LayGroup", kLayerSet, kKept}, {"usLays", kLayerSet, kKept},
+    {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
+    {"usSiInfo", previewValues({{"ShowEnabled", false}})}, {"ZOL3_SiInfo", previewValues({})},
+    {"usTxAlign", {{"Align", 8}}},
+};
 
 QString className(const Control &control)
 {
@@ -177,42 +142,25 @@ void holdsValues(QWidget *form, const Control &control)
                                      said(found->property(name)), said(value))));
 }
 
-void addNumber(QDomElement &to, const char *name, int number)
-{
-    QDomDocument dom = to.ownerDocument();
-    QDomElement element = dom.createElement(QLatin1String(name));
-    element.appendChild(dom.createTextNode(QString::number(number)));
-    to.appendChild(element);
-}
-
 /// A value as forms write it.
-QDomElement element(QDomDocument &dom, const QVariant &value)
+QString element(const QVariant &value)
 {
     const auto simple = [&](const char *name) {
-        QDomElement e = dom.createElement(QLatin1String(name));
-        e.appendChild(dom.createTextNode(value.toString()));
-        return e;
+        return QStringLiteral("<%1>%2</%1>").arg(QLatin1String(name), value.toString().toHtmlEscaped());
     };
     switch (value.typeId()) {
     case QMetaType::Bool: return simple("bool");
     case QMetaType::Int: return simple("number");
     case QMetaType::Double: return simple("double");
     case QMetaType::QColor: {
-        const auto color = value.value<QColor>();
-        QDomElement e = dom.createElement(QStringLiteral("color"));
-        e.setAttribute(QStringLiteral("alpha"), color.alpha());
-        addNumber(e, "red", color.red()), addNumber(e, "green", color.green()),
-            addNumber(e, "blue", color.blue());
-        return e;
+        const auto c = value.value<QColor>();
+        return QStringLiteral("<color alpha='%1'><red>%2</red><green>%3</green><blue>%4</blue></color>")
+            .arg(c.alpha()).arg(c.red()).arg(c.green()).arg(c.blue());
     }
     case QMetaType::QFont: {
         const auto font = value.value<QFont>();
-        QDomElement e = dom.createElement(QStringLiteral("font"));
-        QDomElement family = dom.createElement(QStringLiteral("family"));
-        family.appendChild(dom.createTextNode(font.family()));
-        e.appendChild(family);
-        addNumber(e, "pointsize", font.pointSize());
-        return e;
+        return QStringLiteral("<font><family>%1</family><pointsize>%2</pointsize></font>")
+            .arg(font.family()).arg(font.pointSize());
     }
     default: return simple("string");
     }
@@ -221,28 +169,22 @@ QDomElement element(QDomDocument &dom, const QVariant &value)
 /// A form with that control and its values, as a designer would type it.
 QString formWith(const Control &control)
 {
-    QDomDocument dom;
-    dom.setContent(QStringLiteral("<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'>"
-                                  "<widget name='control' class='%1'/></widget></ui>")
-                       .arg(className(control)));
-    QDomElement widget = dom.documentElement().lastChildElement().firstChildElement();
-    for (const auto &[name, value] : control.values) {
-        QDomElement property = dom.createElement(QStringLiteral("property"));
-        property.setAttribute(QStringLiteral("name"), QLatin1String(name));
-        property.appendChild(element(dom, value));
-        widget.appendChild(property);
-    }
-    return dom.toString();
+    QString properties;
+    for (const auto &[name, value] : control.values)
+        properties += QStringLiteral("<property name='%1'>").arg(QLatin1String(name)) + element(value) +
+                      QStringLiteral("</property>");
+    return QStringLiteral("<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'>"
+                          "<widget name='control' class='") +
+           className(control) + QStringLiteral("'>") + properties +
+           QStringLiteral("</widget></widget></ui>");
 }
 
-/// The designer's engine with one form open, without its windows.
-struct Designer {
+/// The designer's engine, without its windows. One for the process: a second one may end it.
+struct Engine {
     std::unique_ptr<QDesignerFormEditorInterface> core;
     QWidget desk;                               ///< goes before the core
-    QDesignerFormWindowInterface *form = nullptr; ///< the core's
-    QWidget *control = nullptr;
 
-    explicit Designer(const Control &c)
+    Engine()
     {
         QDesignerComponents::initializeResources();
         tests::expectWarning(QStringLiteral("QOpenGLWidget is not supported on this platform"));
@@ -250,7 +192,17 @@ struct Designer {
         core->setPropertyEditor(QDesignerComponents::createPropertyEditor(core.get(), &desk));
         new QDesignerIntegration(core.get(), core.get());
         QDesignerComponents::initializePlugins(core.get());
-        form = core->formWindowManager()->createFormWindow(&desk);
+    }
+};
+
+/// One form open in it.
+struct Designer {
+    QDesignerFormWindowInterface *const form;
+    QWidget *control = nullptr;
+
+    Designer(Engine &engine, const Control &c)
+        : form(engine.core->formWindowManager()->createFormWindow(&engine.desk))
+    {
         if (form->setContents(formWith(c))) control = form->findChild<QWidget *>(QStringLiteral("control"));
     }
     ~Designer() { delete form; }
@@ -261,17 +213,24 @@ struct Designer {
 
 class tst_Forms : public QObject {
     Q_OBJECT
+private:
+    std::unique_ptr<Engine> m_engine;
 private slots:
-    void initTestCase() { QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS)); }
+    void initTestCase()
+    {
+        QCoreApplication::addLibraryPath(QStringLiteral(PLUGINS));
+        m_engine = std::make_unique<Engine>();
+    }
+    void cleanupTestCase() { m_engine.reset(); }
 
     void thePluginOffersEveryControl()
     {
         const auto all = offered();
-        QCOMPARE(all.size(), qsizetype(controls().size()));
+        QCOMPARE(all.size(), qsizetype(kControls.size()));
         QStringList tips;
-        for (size_t i = 0; i < controls().size(); ++i) {
+        for (size_t i = 0; i < kControls.size(); ++i) {
             const auto &offer = *all[qsizetype(i)];
-            QCOMPARE(offer.name(), className(controls()[i]));
+            QCOMPARE(offer.name(), className(kControls[i]));
             QVERIFY(!offer.icon().pixmap(22, 22).isNull());
             QVERIFY(offer.domXml().contains(offer.name()));
             for (const int language : {Hungarian, English, Romanian, Vietnamese}) {
@@ -285,7 +244,7 @@ private slots:
             const QImage picture = preview->grab().toImage();
             QImage blank(picture.size(), picture.format());
             blank.fill(picture.pixel(0, 0));
-            QVERIFY2(picture != blank, controls()[i].name);
+            QVERIFY2(picture != blank, kControls[i].name);
         }
         QVERIFY(!tips.contains(QString()));
         QCOMPARE(tips.removeDuplicates(), 0);
@@ -294,13 +253,13 @@ private slots:
     void aSavedFormLoadsBackInEveryOrder_data()
     {
         QTest::addColumn<int>("control");
-        for (size_t i = 0; i < controls().size(); ++i) QTest::newRow(controls()[i].name) << int(i);
+        for (size_t i = 0; i < kControls.size(); ++i) QTest::newRow(kControls[i].name) << int(i);
     }
     void aSavedFormLoadsBackInEveryOrder()
     {
         QFETCH(int, control);
-        const Control &c = controls()[size_t(control)];
-        const QByteArray form = Designer(c).saved();
+        const Control &c = kControls[size_t(control)];
+        const QByteArray form = Designer(*m_engine, c).saved();
         std::mt19937 random(7);
         for (int turn = 0; turn < 12; ++turn) holdsValues(loaded(shuffled(form, random), turn % 2).get(), c);
     }
@@ -309,12 +268,12 @@ private slots:
     void theDesignerShowsAndKeepsEveryProperty()
     {
         QFETCH(int, control);
-        const Control &c = controls()[size_t(control)];
-        const Designer designer(c);
+        const Control &c = kControls[size_t(control)];
+        const Designer designer(*m_engine, c);
         QWidget *const made = designer.control;
         QVERIFY(made && isDesigned(*made));
         auto *const sheet = qt_extension<QDesignerPropertySheetExtension *>(
-            designer.core->extensionManager(), made);
+            m_engine->core->extensionManager(), made);
         for (const auto &[name, value] : c.values) {
             const int index = sheet->indexOf(QLatin1String(name));
             QVERIFY2(index >= 0 && sheet->isVisible(index), name);
@@ -326,6 +285,22 @@ private slots:
             QCOMPARE(made->property(name.toLatin1()), before);
         }
         holdsValues(loaded(designer.saved(), true).get(), c);
+    }
+
+    void thePropertyEditorMaySetThemInAnyOrder_data() { aSavedFormLoadsBackInEveryOrder_data(); }
+    void thePropertyEditorMaySetThemInAnyOrder()
+    {
+        QFETCH(int, control);
+        Control c = kControls[size_t(control)];
+        std::erase_if(c.values, [](const auto &v) { return v.second.typeId() == QMetaType::QString; });
+        std::mt19937 random(11);
+        for (int turn = 0; turn < 5; ++turn) {
+            std::ranges::shuffle(c.values, random);
+            const Designer designer(*m_engine, {c.name, {}});
+            for (const auto &[name, value] : c.values)
+                designer.form->cursor()->setWidgetProperty(designer.control, QLatin1String(name), value);
+            holdsValues(loaded(designer.saved(), turn % 2).get(), c);
+        }
     }
 
     void aCompiledFormHoldsItsValues()

@@ -107,6 +107,16 @@ struct Session {
         model.rows[last()].nr = 21000;
         user.type(QStringLiteral("21000"));
     }
+    /// What is still being typed when a command comes is written first.
+    void hideWhileTyping()
+    {
+        user.click(user.lineOf(model.rows[2].nr), 1);
+        model.rows[2].name = QStringLiteral("Félkész");
+        model.rows[2].visible = false;
+        user.press(Qt::Key_F2);
+        user.keys(model.rows[2].name);
+        user.menu("cmdLays_SetVisibleOff");
+    }
     void rename()
     {
         select({0});
@@ -253,6 +263,7 @@ constexpr std::pair<const char *, Act> kActs[] = {
     {"copy", &Session::copy},
     {"renumber", &Session::renumber},
     {"number in its cell", &Session::editOn},
+    {"off while typing", &Session::hideWhileTyping},
     {"rename", &Session::rename},
     {"rename, taken", &Session::renameTaken},
     {"number", &Session::number},

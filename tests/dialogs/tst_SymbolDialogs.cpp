@@ -2,6 +2,9 @@
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
 #include "facade/clsDocDlgs.h"
+#include "facade/contract/FontPicker.h"
+#include "facade/contract/RecordEditors.h"
+#include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
 #include "facade/services/Trace.h"
 #include "support/FaultyDoc.h"
@@ -177,10 +180,22 @@ private slots:
     {
         const auto watch = whileModal<frmSetup>([](frmSetup &d) {
             items(d).selectAll();
-            QVERIFY(!tool(d, "cmdSid_Edit").isEnabled());
-            for (const char *name : {"cmdSid_Size", "cmdSid_Layer", "cmdSid_TrueType", "miLoadFont25",
-                                     "miSave2XML", "moLoadXML"})
-                QVERIFY2(tool(d, name).isEnabled(), name);
+            const auto enabled = [&d] {
+                items(d).setCurrentRow(1);              // the tools are asked again
+                QStringList names;
+                for (const char *name : {"cmdSid_Edit", "cmdSid_TrueType", "miLoadFont25", "cmdSid_Layer",
+                                         "cmdSid_Size", "miSave2XML", "moLoadXML"})
+                    if (tool(d, name).isEnabled()) names << QLatin1String(name);
+                items(d).setCurrentRow(0);
+                return names;
+            };
+            QCOMPARE(enabled().size(), 7);
+            RecordEditors *const editors = setRecordEditors(nullptr);
+            FontPicker *const fonts = setFontPicker(nullptr);
+            ResourcePicker *const resources = setResourcePicker(nullptr);
+            const QStringList left = enabled();
+            setRecordEditors(editors), setFontPicker(fonts), setResourcePicker(resources);
+            QCOMPARE(left, (QStringList{"cmdSid_Size", "miSave2XML", "moLoadXML"}));
             d.reject();
         });
         m_dialogs.bEdit_Sids(*m_doc);

@@ -112,6 +112,25 @@ private slots:
         QCOMPARE(chosen, (tLayArr{layer(10), layer(12)}));
         QCOMPARE(m_doc->layers().currentId(), layer(10).LayId);
     }
+    /// What is chosen in one group stays chosen while another one is looked at, and is said to be hidden.
+    void layersOfTwoGroupsAreSelected()
+    {
+        tLayArr chosen{layer(21)};
+        const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
+            QVERIFY(QTest::qWaitForWindowActive(&d));
+            Grid &items = child<Grid>(d, "gridItems");
+            child<Grid>(d, "gridGroups").setCurrentRow(2);
+            QCOMPARE(items.selectedCount(), 0);
+            QAbstractItemView &table = *items.table();
+            QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              table.visualRect(table.model()->index(0, 1)).center());
+            child<Grid>(d, "gridGroups").setCurrentRow(0);
+            child<QPushButton>(d, "cmdOk").click();
+        });
+        QVERIFY(m_dialogs.bSelect_LayArr(*m_doc, chosen));
+        QCOMPARE(chosen, (tLayArr{layer(10), layer(21)}));
+    }
+
     void severalLayersAreLeftAlone_data()
     {
         QTest::addColumn<Act>("act");

@@ -248,7 +248,8 @@ private slots:
         if (after.isEmpty()) QCOMPARE(stored(), before);
         else QVERIFY2(stored().contains(after), qPrintable(stored()));
         const auto all = m_doc->symbols().readAll();
-        QCOMPARE(std::ranges::count(all, 1.0f, &tSid::XwFact), column == "FontType" && !after.isEmpty() ? 3 : 2);
+        QCOMPARE(std::ranges::count(all, 1.0f, &tSid::XwFact),
+                 column == "FontType" && !after.isEmpty() ? 3 : 2);
         QCOMPARE(form.rows(), all);
     }
 

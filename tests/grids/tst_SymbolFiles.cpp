@@ -103,8 +103,9 @@ private slots:
         write(QByteArray("old"));
         run("miSave2XML", {1, 3},
             {saveAsked(path()),
-             refused(kSave, QStringLiteral("A(z) 'C' jelkulcs nem fér a készletfájlba, ezért semmi sem lett "
-                                           "elmentve. Túl hosszú vagy túl nagy az adata, javítsd ki: Code"))});
+             refused(kSave,
+                     QStringLiteral("A(z) 'C' jelkulcs nem fér a készletfájlba, ezért semmi sem lett "
+                                    "elmentve. Túl hosszú vagy túl nagy az adata, javítsd ki: Code"))});
         QCOMPARE(content(), QByteArray("old"));
     }
 

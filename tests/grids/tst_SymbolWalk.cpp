@@ -52,7 +52,8 @@ struct Beyond final : tests::OwnStore, ResourcePicker, FontPicker, RecordEditors
     {
         return font.name();
     }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first, QObject *) override
+    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
+                                               QObject *) override
     {
         return first;
     }
@@ -185,7 +186,8 @@ private slots:
             std::vector<int> numbers;
             std::vector<Model::Row *> chosen;
             for (Model::Row &r : model.rows)
-                if (random.bounded(2) == 0 || model.rows.size() == 1) chosen.push_back(&r), numbers.push_back(r.nr);
+                if (random.bounded(2) == 0 || model.rows.size() == 1)
+                    chosen.push_back(&r), numbers.push_back(r.nr);
             form.select(numbers);
             const double size = random.bounded(1, 40) / 4.0, width = random.bounded(0, 300) / 100.0;
             switch (chosen.empty() ? 6 : random.bounded(7)) {
@@ -215,7 +217,8 @@ private slots:
             }
             case 5:
                 if (chosen.size() == model.rows.size()) numbers.pop_back();
-                std::erase_if(model.rows, [&](const auto &r) { return std::ranges::count(numbers, r.nr) > 0; });
+                std::erase_if(model.rows,
+                              [&](const auto &r) { return std::ranges::count(numbers, r.nr) > 0; });
                 form.run("miRemove");
                 break;
             default:

@@ -7,10 +7,12 @@
 #include "facade/services/LayerFileCodePage.h"
 #include "kit/forms/AccessKeys.h"
 
+#include <QDialog>
 #include <QDockWidget>
 #include <QFile>
 #include <QMenuBar>
 #include <QTemporaryDir>
+#include <QTimer>
 
 using namespace tests;
 
@@ -80,6 +82,25 @@ private slots:
         p.drawnText("");
         for (const Element &e : p.doc().elements()) QCOMPARE(e.layId, roads);
         QCOMPARE(p.status("countStatus"), "3 elem");
+    }
+    void classicManagersAreASettingThatIsKept()
+    {
+        Program p;
+        const auto opened = [&p] {
+            QString form;
+            QTimer::singleShot(0, p.window.get(), [&] {
+                auto *const dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                form = dialog->objectName();
+                dialog->reject();
+            });
+            p.trigger("bEdit_Sids");
+            return form;
+        };
+        QCOMPARE(opened(), "frmSetup");
+        p.trigger("oldStyle");
+        QCOMPARE(opened(), "frmSupSid");
+        QVERIFY(MainWindow(p.services).findChild<QAction *>("oldStyle")->isChecked());
+        p.trigger("oldStyle");
     }
     void deletingAsksWithTheCount()
     {

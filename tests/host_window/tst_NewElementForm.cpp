@@ -59,12 +59,15 @@ private slots:
         Form f;
         f.typeNumber("widthOfNew", "1");
         QVERIFY(f.child<usInputBox>("rotationOfNew").txtCombo->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_9);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(f.view().hasFocus());
+        QCOMPARE(f.child<usInputBox>("rotationOfNew").Value().toDouble(), 0.0);
         f.trigger("newElement");                        // hides its page, shows it again
         QVERIFY(!f.child<QDockWidget>("newElementPage").isVisible());
         f.trigger("newElement");
-        QVERIFY(f.child<QDockWidget>("newElementPage").isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(f.layer().txtLayNr->hasFocus());        // it is shown to be worked in
+        QCOMPARE(f.layer().txtLayNr->selectedText(), "1");
     }
     void theElementGoesOntoEveryLayerOfTheSet()
     {
@@ -104,6 +107,9 @@ private slots:
         QCOMPARE(f.doc().layers().find(f.doc().layers().currentId())->gNr, qint16(1));
         f.page().refresh();
         QCOMPARE(f.layers().sLays(), "1");
+        QTest::keyClick(f.layer().txtLayNr, Qt::Key_7);
+        f.page().refresh();
+        QCOMPARE(f.layer().txtLayNr->text(), "17");     // what is being typed stays
     }
     void theFormBelongsToTheDrawingInFront()
     {

@@ -8,11 +8,13 @@
 #include "controls/usSiInfo.h"
 #include "controls/usTxAlign.h"
 #include "support/StrokeFont.h"
+#include "facade/services/InterfaceLocale.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace QV_DOC_CONTROLS;
@@ -60,19 +62,31 @@ void addLayerPickers(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
     disabled.LetLayNr(102, 0);
 }
 
+usInputBox &number(QDialog &form, const char *caption)
+{
+    auto &box = on<usInputBox>(form);
+    box.setLocale(interfaceLocale());
+    box.setInputType(3);
+    box.setFormatString(QStringLiteral("#,##0.00"));
+    box.LetValue(0.35, 0, 100);
+    box.setBeforeString(QLatin1String(caption));
+    box.setUpDownVisible(true);
+    return box;
+}
+
 void addNumbers(QDialog &form)
 {
-    for (const bool enabled : {true, false}) {
-        auto &width = on<usInputBox>(form);
-        width.setInputType(3);
-        width.setFormatString(QStringLiteral("0.00"));
-        width.setValue(0.35);
-        width.setUpDownVisible(true);
-        width.setEnabled(enabled);
-    }
-    auto &shown = on<usInputBox>(form);
+    number(form, "Value =");
+    number(form, "Disabled").setEnabled(false);
+    number(form, "Refused").txtCombo->lineEdit()->setText(QStringLiteral("101"));
+    auto &listed = number(form, "Listed, framed");
+    listed.ComboValue(0.5);
+    listed.setBorderStyle(1);
+    auto &narrow = number(form, "A caption that is longer than its room");
+    narrow.setFixedWidth(narrow.fontMetrics().averageCharWidth() * 40);
+    auto &shown = number(form, "Shown only");
+    shown.LetValue(12345.6, 0, 20000);
     shown.setInfoMode(true);
-    shown.setValue(12);
 }
 
 struct Preview {

@@ -17,6 +17,7 @@ struct Scene {
 std::vector<Scene> valueScenes();               ///< the boxes behind prompts()
 std::vector<Scene> fontScenes();                ///< the dialogs behind fontPicker()
 void takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet);  ///< the controls on a form as a host builds it
+void takeEditors(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet);   ///< the editors of records, and their managers
 void takeSelection(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet); ///< the selection dialog in its views, and on paper
 
 } // namespace tests

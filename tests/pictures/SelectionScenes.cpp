@@ -2,6 +2,7 @@
 
 #include "facade/clsDocDlgs.h"
 #include "dialogs/select/frmSelect.h"
+#include "dialogs/select/frmSetup.h"
 #include "dialogs/viewtools/frmPreview.h"
 #include "document/SqliteDoc.h"
 #include "grids/clsJs_Layer.h"
@@ -76,8 +77,24 @@ void takeStates(frmSelect &d, tests::Sheet &sheet)
 
 } // namespace
 
+/// Takes the open dialog and closes it.
+template <class Dialog> void takeOpen(tests::Sheet &sheet)
+{
+    QTimer::singleShot(0, qApp, [&sheet] {
+        auto &d = *qobject_cast<Dialog *>(QApplication::activeModalWidget());
+        d.resize(kDialog);
+        sheet.take(d);
+        d.reject();
+    });
+}
+
 void tests::takeSelection(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
 {
+    takeOpen<frmSelect>(sheet);
+    ZolWDoc::tSid symbol{.SidId = 3};
+    clsDocDlgs().bSelect_Sid(doc, symbol);
+    takeOpen<frmSetup>(sheet);
+    clsDocDlgs().bEdit_Sids(doc);
     QTimer::singleShot(0, qApp, [&] {
         takeStates(*qobject_cast<frmSelect *>(QApplication::activeModalWidget()), sheet);
     });

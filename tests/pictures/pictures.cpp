@@ -39,6 +39,19 @@ std::unique_ptr<refhost::SqliteDoc> sample()
                            .PenColorId = qint16(i * 6),
                            .TxdId = 1,
                            .ElByLayer = i % 2 == 0});
+    for (qint16 i = 0; i < 12; ++i)
+        doc->symbols().add({.Code = 65 + 3 * i,
+                            .ShortName = QString::fromUtf8(names[i % 10]) + QString::number(i),
+                            .Align = 6,
+                            .Size_mm = 2.0f + float(i) / 4,
+                            .YwFact = 1,
+                            .XwFact = 1,
+                            .Facename = QStringLiteral("DejaVu Sans"),
+                            .Weight = 16,
+                            .CharSet = 238,
+                            .ProtXmm = 1,
+                            .ProtType = 1,
+                            .LayId = i});
     return doc;
 }
 
@@ -74,6 +87,7 @@ struct SheetRow {
 };
 constexpr SheetRow kSheets[] = {
     {"controls", tests::takeControls},
+    {"editors", tests::takeEditors},
     {"fonts", takeScenes<tests::fontScenes>},
     {"select", tests::takeSelection},
     {"values", takeScenes<tests::valueScenes>}};

@@ -18,6 +18,7 @@ struct HostError : std::runtime_error {
 /// Counts and fails the calls of a document.
 struct CallLog {
     QStringList calls;              ///< every call, in order, e.g. "layers.readAll"
+    int bulkUpdates = 0;            ///< of layers, each with its single updates
     int failAt = -1;                ///< the call with this index throws HostError
     QString failNext;               ///< the next call of this name throws HostError
     std::function<void(const QString &)> meanwhile; ///< happens during every call
@@ -49,6 +50,11 @@ struct FaultyLayers : ZolWDoc::LayerRole {
     qint16 add(const Rec &r) override { return log.on("layers.add"), real.add(r); }
     void update(const Rec &r) override { log.on("layers.update"), real.update(r); }
     int uses(qint16 id) const override { return log.on("layers.uses"), real.uses(id); }
+    void updateAll(std::span<const Rec> all, int &written) override
+    {
+        ++log.bulkUpdates;                      ///< row by row below, so that each can fail
+        LayerRole::updateAll(all, written);
+    }
     std::optional<Rec> findByNumber(qint16 n) const override
     {
         return log.on("layers.findByNumber"), real.findByNumber(n);
@@ -153,6 +159,20 @@ struct FaultyScopes final : ZolWDoc::CommandScopeRole {
     void endCommand() override { real->endCommand(), log.on("scopes.end"); }
 };
 
+/// Spans of changes through the log. One that fails to close stays open.
+struct FaultyChanges final : ZolWDoc::ChangeScopeRole {
+    FaultyChanges(ZolWDoc::ChangeScopeRole *of, CallLog &to) : real(of), log(to) {}
+    ZolWDoc::ChangeScopeRole *real;
+    CallLog &log;
+    void beginChanges(ZolWDoc::TableKind k) override { log.on("changes.begin"), real->beginChanges(k); }
+    void commitChanges(ZolWDoc::TableKind k) override { log.on("changes.commit"), real->commitChanges(k); }
+    void discardChanges(ZolWDoc::TableKind k) override { log.on("changes.discard"), real->discardChanges(k); }
+    bool changesOpen(ZolWDoc::TableKind k) const override
+    {
+        return log.on("changes.open"), real->changesOpen(k);
+    }
+};
+
 /// What a host may offer for layers, through the log.
 struct FaultyExtras final : ZolWDoc::LayerFileRole, ZolWDoc::LayerElementsRole {
     FaultyExtras(ZolWDoc::ZOLW_Doc &of, CallLog &to)
@@ -190,6 +210,7 @@ public:
     ZolWDoc::LayerFileRole *layerFiles() override { return m_extras.files ? &m_extras : nullptr; }
     ZolWDoc::LayerElementsRole *layerElements() override { return m_extras.elements ? &m_extras : nullptr; }
     ZolWDoc::CommandScopeRole *commandScopes() override { return m_scopes.real ? &m_scopes : nullptr; }
+    ZolWDoc::ChangeScopeRole *changeScopes() override { return m_changes.real ? &m_changes : nullptr; }
 
 private:
     ZolWDoc::ZOLW_Doc &m_real;
@@ -200,6 +221,7 @@ private:
     FaultyPens m_pens{m_real.penColors(), log};
     FaultyExtras m_extras{m_real, log};
     FaultyScopes m_scopes{m_real.commandScopes(), log};
+    FaultyChanges m_changes{m_real.changeScopes(), log};
 };
 
 } // namespace tests

@@ -53,6 +53,7 @@ public:
         QTRY_VERIFY(m_dialog.isActiveWindow());
         QTest::keyClick(m_dialog.focusWidget() ? m_dialog.focusWidget() : &m_dialog, key, held);
     }
+    void keys(const QString &text) { tests::type(m_dialog, text); }
     /// Into the current cell.
     void type(const QString &text)
     {

@@ -2,7 +2,6 @@
 
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Typing.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -11,12 +10,10 @@
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
+namespace {
+
 using Act = std::function<void(ChoiceBox &)>;
 using Answer = std::optional<int>;
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Answer)
-
-namespace {
 
 Choice among(QStringList items, int preset = 1)
 {
@@ -35,95 +32,74 @@ Act pressed(std::initializer_list<Qt::Key> keys)
         for (const Qt::Key key : keys) QTest::keyClick(box.focusWidget(), key);
     };
 }
+Act clicked(const char *option)
+{
+    return [=](ChoiceBox &box) {
+        child<QRadioButton>(box, option).click();
+        child<QPushButton>(box, "cmdOk").click();
+    };
+}
+void doubleClickThird(ChoiceBox &box)
+{
+    auto &list = child<QListWidget>(box, "lstItems");
+    const QPoint at = list.visualItemRect(list.item(2)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
+}
+/// For a box that may have nothing to confirm.
+void confirm(ChoiceBox &box)
+{
+    child<QPushButton>(box, "cmdOk").click();
+    if (box.isVisible()) box.reject();
+}
 
 } // namespace
 
 class tst_ChoiceBox : public QObject {
     Q_OBJECT
 private slots:
-    void oneIsChosenByKeyOrMouse_data()
-    {
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<Answer>("answer");
-        const auto row = [](const char *name, const QStringList &items, const Act &act, Answer answer) {
-            QTest::newRow(name) << items << act << answer;
-        };
-        row("two: as proposed", kTwo, pressed({Qt::Key_Return}), 1);
-        row("two: the other", kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0);
-        row("two: by mouse", kTwo,
-            [](ChoiceBox &box) {
-                child<QRadioButton>(box, "optItem0").click();
-                child<QPushButton>(box, "cmdOk").click();
-            },
-            0);
-        row("two: escape", kTwo, pressed({Qt::Key_Up, Qt::Key_Escape}), {});
-        row("four: as proposed", kFour, pressed({Qt::Key_Return}), 1);
-        row("four: the last", kFour, pressed({Qt::Key_End, Qt::Key_Return}), 3);
-        row("four: by its first letter", kFour, pressed({Qt::Key_S, Qt::Key_Return}), 3);
-        row("four: by double click", kFour,
-            [](ChoiceBox &box) {
-                auto &list = child<QListWidget>(box, "lstItems");
-                const QPoint at = list.visualItemRect(list.item(2)).center();
-                QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
-                QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
-            },
-            2);
-        row("four: cancel", kFour,
-            [](ChoiceBox &box) { child<QPushButton>(box, "cmdCancel").click(); }, {});
-    }
     void oneIsChosenByKeyOrMouse()
     {
-        QFETCH(QStringList, items);
-        QFETCH(Act, act);
-        const auto watch = whileModal<ChoiceBox>(act);
-        QTEST(prompts().choose(among(items)), "answer");
-    }
-    void threeShortItemsAreOptionsMoreAreAList_data()
-    {
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<QStringList>("options");   // as captioned; none = a list
-        QTest::newRow("two") << kTwo << QStringList{"&sorszám alapján", "&név alapján"};
-        QTest::newRow("three, names with signs") << QStringList{"A & B", "A", "<b>C</b>"}
-                                                 << QStringList{"A && &B", "&A", "<b>&C</b>"};
-        QTest::newRow("two, one too long for a button")
-            << QStringList{"A", QString(71, u'x')} << QStringList();
-        QTest::newRow("four") << kFour << QStringList();
+        struct Row {
+            QStringList items;
+            Act act;
+            Answer answer;
+            int preset = 1;
+        };
+        const Row rows[] = {{kTwo, pressed({Qt::Key_Return}), 1},
+                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0}, {kTwo, clicked("optItem0"), 0},
+                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Escape}), {}},
+                            {kFour, pressed({Qt::Key_Return}), 1},
+                            {kFour, pressed({Qt::Key_S, Qt::Key_Return}), 3}, // by its first letter
+                            {kFour, doubleClickThird, 2},
+                            {kTwo, confirm, 0, -1},                           // the nearest to the proposal
+                            {kFour, confirm, 3, 9},
+                            {{}, confirm, {}, 0}};
+        for (const auto &[items, act, answer, preset] : rows) {
+            const auto watch = whileModal<ChoiceBox>(act);
+            QCOMPARE(prompts().choose(among(items, preset)), answer);
+        }
     }
     void threeShortItemsAreOptionsMoreAreAList()
     {
-        QFETCH(QStringList, items);
-        const auto watch = whileModal<ChoiceBox>([&](ChoiceBox &box) {
-            QStringList options, spoken;
-            for (const auto *option : box.findChildren<QRadioButton *>()) {
-                options << option->text();
-                spoken << option->accessibleName();
-            }
-            QTEST(options, "options");
-            if (!options.isEmpty()) QCOMPARE(spoken, items);
-            else QCOMPARE(child<QListWidget>(box, "lstItems").count(), items.size());
-            box.reject();
-        });
-        prompts().choose(among(items));
-    }
-    void aProposalThatIsNoItemIsTheNearestOne_data()
-    {
-        QTest::addColumn<QStringList>("items");
-        QTest::addColumn<int>("preset");
-        QTest::addColumn<Answer>("answer");
-        QTest::newRow("two, below") << kTwo << -1 << Answer(0);
-        QTest::newRow("four, above") << kFour << 9 << Answer(3);
-        QTest::newRow("nothing to choose") << QStringList() << 0 << Answer();
-    }
-    void aProposalThatIsNoItemIsTheNearestOne()
-    {
-        QFETCH(QStringList, items);
-        QFETCH(int, preset);
-        const auto watch = whileModal<ChoiceBox>([](ChoiceBox &box) {
-            child<QPushButton>(box, "cmdOk").click();
-            if (box.isVisible()) box.reject();
-        });
-        QTEST(prompts().choose(among(items, preset)), "answer");
+        using Items = std::pair<QStringList, QStringList>; // and as captioned; none = a list
+        for (const auto &[items, captions] :
+             {Items{kTwo, {"&sorszám alapján", "&név alapján"}},
+              {{"A & B", "A", "<b>C</b>"}, {"A && &B", "&A", "<b>&C</b>"}},
+              {{"A", QString(71, u'x')}, {}}, {kFour, {}}}) {
+            const auto watch = whileModal<ChoiceBox>([&, items = items, captions = captions](ChoiceBox &box) {
+                QStringList options, spoken;
+                for (const auto *option : box.findChildren<QRadioButton *>()) {
+                    options << option->text();
+                    spoken << option->accessibleName();
+                }
+                QCOMPARE(options, captions);
+                if (!options.isEmpty()) QCOMPARE(spoken, items);
+                else QCOMPARE(child<QListWidget>(box, "lstItems").count(), items.size());
+                box.reject();
+            });
+            prompts().choose(among(items));
+        }
     }
 };
 QVDC_TEST(tst_ChoiceBox)

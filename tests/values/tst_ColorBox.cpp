@@ -14,12 +14,10 @@
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
+namespace {
+
 using Act = std::function<void(ColorBox &)>;
 using Answer = std::optional<int>;
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Answer)
-
-namespace {
 
 /// Index i is the colour 0x00ii40, so that no two are the same.
 std::vector<quint32> palette(size_t count)
@@ -51,85 +49,60 @@ ColorGrid &gridOf(ColorBox &box) { return child<ColorGrid>(box, "grdColors"); }
 class tst_ColorBox : public QObject {
     Q_OBJECT
 private slots:
-    void keysWalkThePalette_data()
-    {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("control");
-        QTest::addColumn<int>("to");
-        const auto row = [](const char *name, int from, int count, Qt::Key key, int to, bool ctrl = false) {
-            QTest::newRow(name) << from << count << int(key) << ctrl << to;
-        };
-        row("right", 37, 256, Qt::Key_Right, 38);
-        row("right over the end of the line", 47, 256, Qt::Key_Right, 48);
-        row("right at the end", 255, 256, Qt::Key_Right, 255);
-        row("left over the beginning of the line", 48, 256, Qt::Key_Left, 47);
-        row("left at the beginning", 0, 256, Qt::Key_Left, 0);
-        row("up", 37, 256, Qt::Key_Up, 21);
-        row("up in the first line", 5, 256, Qt::Key_Up, 5);
-        row("down", 37, 256, Qt::Key_Down, 53);
-        row("down where the last line is shorter", 5, 20, Qt::Key_Down, 5);
-        row("home", 37, 256, Qt::Key_Home, 32);
-        row("end", 37, 256, Qt::Key_End, 47);
-        row("end of a shorter line", 17, 20, Qt::Key_End, 19);
-        row("very first", 37, 256, Qt::Key_Home, 0, true);
-        row("very last", 3, 20, Qt::Key_End, 19, true);
-        row("first line", 37, 256, Qt::Key_PageUp, 5);
-        row("last line", 37, 256, Qt::Key_PageDown, 245);
-        row("last line that reaches so far", 5, 20, Qt::Key_PageDown, 5);
-    }
     void keysWalkThePalette()
     {
-        QFETCH(int, from);
-        QFETCH(int, count);
-        QFETCH(int, key);
-        QFETCH(bool, control);
-        QFETCH(int, to);
-        const auto watch = whileModal<ColorBox>([&](ColorBox &box) {
-            QCOMPARE(box.focusWidget(), &gridOf(box));
-            QTest::keyClick(box.focusWidget(), Qt::Key(key), control ? Qt::ControlModifier : Qt::NoModifier);
-            QCOMPARE(child<QComboBox>(box, "txtCombo").currentText(), QString::number(to));
-            QCOMPARE(child<QLabel>(box, "lblRgb").text(), QStringLiteral("RGB 0, %1, 64").arg(to));
-            type(box, QStringLiteral("\r"));
-        });
-        QCOMPARE(prompts().colorIndex(asking(from, size_t(count))).value_or(-1), to);
-    }
-    void anIndexIsPickedOrTyped_data()
-    {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<Answer>("answer");
-        QTest::newRow("as proposed") << typed("\r") << Answer(37);
-        QTest::newRow("typed over the swatches") << typed("104\r") << Answer(104);
-        QTest::newRow("letters are no index") << typed("x\r") << Answer(37);
-        QTest::newRow("typed in its line") << typed("\t5\r") << Answer(5);
-        QTest::newRow("by the label's key") << Act([](ColorBox &box) {
-            QTest::keyClick(&box, Qt::Key_S, Qt::AltModifier);
-            type(box, QStringLiteral("6\r"));
-        }) << Answer(6);
-        QTest::newRow("refused and typed again") << typed("256\r255\r") << Answer(255);
-        QTest::newRow("escape") << typed("5\x1b") << Answer();
-        QTest::newRow("clicked") << Act([](ColorBox &box) {
-            QTest::mouseClick(gridOf(box).viewport(), Qt::LeftButton, {}, centreOf(gridOf(box), 18));
-            child<QPushButton>(box, "cmdOk").click();
-        }) << Answer(18);
-        QTest::newRow("double click") << Act([](ColorBox &box) {
-            QWidget &swatches = *gridOf(box).viewport();
-            QTest::mouseClick(&swatches, Qt::LeftButton, {}, centreOf(gridOf(box), 19));
-            QTest::mouseDClick(&swatches, Qt::LeftButton, {}, centreOf(gridOf(box), 19));
-        }) << Answer(19);
-        QTest::newRow("typed, then walked from there") << Act([](ColorBox &box) {
-            type(box, QStringLiteral("100"));
-            gridOf(box).setFocus();
-            QTest::keyClick(&gridOf(box), Qt::Key_Right);
-            type(box, QStringLiteral("\r"));
-        }) << Answer(101);
+        struct Row {
+            int from;
+            size_t count;
+            Qt::Key key;
+            int to;
+            Qt::KeyboardModifiers with = {};
+        };
+        for (const auto &[from, count, key, to, with] :
+             {Row{47, 256, Qt::Key_Right, 48}, {255, 256, Qt::Key_Right, 255}, {48, 256, Qt::Key_Left, 47},
+              {0, 256, Qt::Key_Left, 0}, {37, 256, Qt::Key_Up, 21}, {5, 256, Qt::Key_Up, 5},
+              {37, 256, Qt::Key_Down, 53}, {5, 20, Qt::Key_Down, 5}, // where the last line is shorter
+              {37, 256, Qt::Key_Home, 32}, {37, 256, Qt::Key_End, 47}, {17, 20, Qt::Key_End, 19},
+              {37, 256, Qt::Key_Home, 0, Qt::ControlModifier}, {3, 20, Qt::Key_End, 19, Qt::ControlModifier},
+              {37, 256, Qt::Key_PageUp, 5}, {37, 256, Qt::Key_PageDown, 245}, {5, 20, Qt::Key_PageDown, 5}}) {
+            const auto watch = whileModal<ColorBox>([key = key, with = with, to = to](ColorBox &box) {
+                QCOMPARE(box.focusWidget(), &gridOf(box));
+                QTest::keyClick(box.focusWidget(), key, with);
+                QCOMPARE(child<QComboBox>(box, "txtCombo").currentText(), QString::number(to));
+                QCOMPARE(child<QLabel>(box, "lblRgb").text(), QStringLiteral("RGB 0, %1, 64").arg(to));
+                type(box, QStringLiteral("\r"));
+            });
+            QCOMPARE(prompts().colorIndex(asking(from, count)).value_or(-1), to);
+        }
     }
     void anIndexIsPickedOrTyped()
     {
-        QFETCH(Act, act);
-        const auto watch = whileModal<ColorBox>(act);
-        QTEST(prompts().colorIndex(asking(37)), "answer");
+        const std::pair<Act, Answer> rows[] = {
+            {typed("\r"), 37}, {typed("104\r"), 104}, {typed("x\r"), 37}, {typed("\t5\r"), 5},
+            {typed("256\r255\r"), 255}, {typed("5\x1b"), {}},
+            {[](ColorBox &box) {
+                 QTest::keyClick(&box, Qt::Key_S, Qt::AltModifier); // the label's key
+                 type(box, QStringLiteral("6\r"));
+             }, 6},
+            {[](ColorBox &box) {
+                 QTest::mouseClick(gridOf(box).viewport(), Qt::LeftButton, {}, centreOf(gridOf(box), 18));
+                 child<QPushButton>(box, "cmdOk").click();
+             }, 18},
+            {[](ColorBox &box) {
+                 QWidget &swatches = *gridOf(box).viewport();
+                 QTest::mouseClick(&swatches, Qt::LeftButton, {}, centreOf(gridOf(box), 19));
+                 QTest::mouseDClick(&swatches, Qt::LeftButton, {}, centreOf(gridOf(box), 19));
+             }, 19},
+            {[](ColorBox &box) {
+                 type(box, QStringLiteral("100"));
+                 gridOf(box).setFocus();
+                 QTest::keyClick(&gridOf(box), Qt::Key_Right); // walks from there
+                 type(box, QStringLiteral("\r"));
+             }, 101}};
+        for (const auto &[act, answer] : rows) {
+            const auto watch = whileModal<ColorBox>(act);
+            QCOMPARE(prompts().colorIndex(asking(37)), answer);
+        }
     }
     void anIndexOutsideThePaletteIsShownAndRefused()
     {
@@ -156,30 +129,24 @@ private slots:
         QCOMPARE(table->cellAt(1, 1)->text(QAccessible::Name), said);
         QVERIFY(!(grid.model()->index(1, 4).flags() & Qt::ItemIsEnabled)); // index 20 is none
     }
-    void theChosenSwatchIsFramedOnAnyPalette_data()
-    {
-        QTest::addColumn<QColor>("ground");
-        QTest::addColumn<QColor>("text");
-        QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
-        QTest::newRow("dark") << QColor(35, 35, 35) << QColor(Qt::white);
-    }
     void theChosenSwatchIsFramedOnAnyPalette()
     {
-        QFETCH(QColor, ground);
-        QFETCH(QColor, text);
         const std::vector<quint32> colors{0x000000, 0xffffff, 0x232323};
-        ColorGrid grid(colors, nullptr);
-        QPalette look = grid.palette();
-        look.setColor(QPalette::Base, ground);
-        look.setColor(QPalette::Text, text);
-        grid.setPalette(look);
-        for (int chosen = 0; chosen < 3; ++chosen) {
-            grid.setCurrent(chosen);
-            const QImage picture = grid.viewport()->grab().toImage();
-            for (int i = 0; i < 3; ++i) {
-                const QRect cell = grid.visualRect(grid.model()->index(0, i));
-                QCOMPARE(picture.pixelColor(cell.topLeft()), i == chosen ? text : ground);
-                QCOMPARE(picture.pixelColor(cell.center()), QColor(QRgb(colors[size_t(i)])));
+        for (const auto &[ground, text] : {std::pair(QColor(Qt::white), QColor(Qt::black)),
+                                           {QColor(35, 35, 35), QColor(Qt::white)}}) {
+            ColorGrid grid(colors, nullptr);
+            QPalette look = grid.palette();
+            look.setColor(QPalette::Base, ground);
+            look.setColor(QPalette::Text, text);
+            grid.setPalette(look);
+            for (int chosen = 0; chosen < 3; ++chosen) {
+                grid.setCurrent(chosen);
+                const QImage picture = grid.viewport()->grab().toImage();
+                for (int i = 0; i < 3; ++i) {
+                    const QRect cell = grid.visualRect(grid.model()->index(0, i));
+                    QCOMPARE(picture.pixelColor(cell.topLeft()), i == chosen ? text : ground);
+                    QCOMPARE(picture.pixelColor(cell.center()), QColor(QRgb(colors[size_t(i)])));
+                }
             }
         }
     }

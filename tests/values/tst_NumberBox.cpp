@@ -1,4 +1,5 @@
 #include "dialogs/values/NumberBox.h"
+#include "dialogs/values/NumberWording.h"
 
 #include "facade/services/Language.h"
 #include "support/Modal.h"
@@ -13,11 +14,10 @@
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
+namespace {
+
 using Act = std::function<void(NumberBox &)>;
 using Answer = QList<double>;              // none = cancelled
-Q_DECLARE_METATYPE(Act)
-
-namespace {
 
 NumberQuestion renumbering()
 {
@@ -58,33 +58,24 @@ class tst_NumberBox : public QObject {
     Q_OBJECT
 private slots:
     void init() { setLanguage(Hungarian, {}); }
-    void twoNumbersAreConfirmedOrNone_data()
-    {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<Answer>("answer");
-        QTest::newRow("as proposed") << typed("\r") << Answer({101, 1});
-        QTest::newRow("typing replaces the proposal") << typed("7\t-3\r") << Answer({7, -3});
-        QTest::newRow("escape") << typed("7\t3\x1b") << Answer();
-        QTest::newRow("cancel") << Act([](NumberBox &box) { child<QPushButton>(box, "cmdCancel").click(); })
-                                << Answer();
-        QTest::newRow("OK") << Act([](NumberBox &box) {
-            type(box, QStringLiteral("32 767"));
-            child<QPushButton>(box, "cmdOk").click();
-        }) << Answer({32767, 1});
-        QTest::newRow("a refused number is typed again") << typed("0\r5\r") << Answer({5, 1});
-        QTest::newRow("nothing is no number") << typed("\b\r5\r") << Answer({5, 1});
-        QTest::newRow("Enter leads to the refused number behind") << typed("7\t99\r9\r") << Answer({7, 9});
-        QTest::newRow("Enter leads back to the refused number") << typed("0\t5\r3\r") << Answer({3, 5});
-        QTest::newRow("the label's key leads to its number") << Act([](NumberBox &box) {
-            QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
-            type(box, QStringLiteral("4\r"));
-        }) << Answer({101, 4});
-    }
     void twoNumbersAreConfirmedOrNone()
     {
-        QFETCH(Act, act);
-        const auto watch = whileModal<NumberBox>(act);
-        QTEST(answered(renumbering()), "answer");
+        const std::pair<Act, Answer> rows[] = {
+            {typed("\r"), {101, 1}}, {typed("7\t-3\r"), {7, -3}}, {typed("7\t3\x1b"), {}},
+            {typed("0\r5\r"), {5, 1}}, {typed("\b\r5\r"), {5, 1}}, // a refused number is typed again
+            {typed("7\t99\r9\r"), {7, 9}}, {typed("0\t5\r3\r"), {3, 5}}, // Enter leads to it
+            {[](NumberBox &box) {
+                 type(box, QStringLiteral("32 767"));
+                 child<QPushButton>(box, "cmdOk").click();
+             }, {32767, 1}},
+            {[](NumberBox &box) {
+                 QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier); // the label's key
+                 type(box, QStringLiteral("4\r"));
+             }, {101, 4}}};
+        for (const auto &[act, answer] : rows) {
+            const auto watch = whileModal<NumberBox>(act);
+            QCOMPARE(answered(renumbering()), answer);
+        }
     }
     void aRefusalStandsBesideItsNumberAndLosesNothing()
     {
@@ -109,36 +100,44 @@ private slots:
         });
         QVERIFY(!prompts().numbers(renumbering()));
     }
-    void presetsAreOfferedBesideTyping_data()
+    void presetsAreOfferedBesideTyping()
     {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<Answer>("answer");
         const auto press = [](Qt::Key key) {
             return Act([=](NumberBox &box) {
                 QTest::keyClick(box.focusWidget(), key);
                 type(box, QStringLiteral("\r"));
             });
         };
-        QTest::newRow("as proposed") << typed("\r") << Answer({2.5});
-        QTest::newRow("the next one") << press(Qt::Key_Down) << Answer({3.5});
-        QTest::newRow("the one before") << press(Qt::Key_Up) << Answer({1.8});
-        QTest::newRow("none of them") << typed("2,75\r") << Answer({2.75});
-        QTest::newRow("with its unit") << typed("2.75 mm\r") << Answer({2.75});
-        QTest::newRow("the beginning of one") << typed("3\r") << Answer({3});
-        QTest::newRow("the wheel over it changes nothing") << Act([](NumberBox &box) {
-            auto &list = child<QComboBox>(box, "txtCombo");
-            child<QPushButton>(box, "cmdOk").setFocus();
-            QWheelEvent wheel(QPointF(3, 3), list.mapToGlobal(QPointF(3, 3)), {}, {0, -120}, {}, {},
-                              Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&list, &wheel);
-            type(box, QStringLiteral("\r"));
-        }) << Answer({2.5});
+        const std::pair<Act, Answer> rows[] = {
+            {typed("\r"), {2.5}}, {press(Qt::Key_Down), {3.5}}, {press(Qt::Key_Up), {1.8}},
+            {typed("2,75\r"), {2.75}}, {typed("2.75 mm\r"), {2.75}}, {typed("3\r"), {3}}};
+        for (const auto &[act, answer] : rows) {
+            const auto watch = whileModal<NumberBox>(act);
+            QCOMPARE(answered(letterSize()), answer);
+        }
     }
-    void presetsAreOfferedBesideTyping()
+    void aRefusalSaysWhyAndNamesTheBounds()
     {
-        QFETCH(Act, act);
-        const auto watch = whileModal<NumberBox>(act);
-        QTEST(answered(letterSize()), "answer");
+        struct Row {
+            const char *typed;
+            int decimals;
+            const char *why = "";               // empty = taken
+        };
+        for (const auto &[typed, decimals, why] : {Row{"-1,5", 2},
+                                                   {"100", 2}, {"-1,51", 2, "A szám túl kicsi."},
+                                                   {"100,01", 2, "A szám túl nagy."},
+                                                   {"0,125", 2, "A tizedesjegyek száma legfeljebb 2."},
+                                                   {"0,12", 2}, {"0,1200", 2},
+                                                   {"1,5", 0, "Egész számot írj be!"}, {"1,0", 0},
+                                                   {"x", 0, "Írj be egy számot!"}}) {
+            const NumberField field{
+                .min = -1.5, .max = 100, .decimals = decimals, .unit = QStringLiteral("mm")};
+            QString refusal = refusalFor(QLatin1String(typed), field);
+            refusal.replace(QChar(0xa0), u' ');
+            const QString bounds = decimals ? QStringLiteral("-1,5 – 100 mm") : QStringLiteral("-2 – 100 mm");
+            QCOMPARE(refusal,
+                     *why ? QString::fromUtf8(why) + QStringLiteral("\nMegengedett: ") + bounds : QString());
+        }
     }
     void aProposalOutOfBoundsIsShownAndRefused()
     {

@@ -1,79 +1,111 @@
-#include "facade/services/Prompts.h"
+#include "dialogs/values/ReportBox.h"
+#include "dialogs/values/TextBox.h"
 
 #include "facade/services/Language.h"
 #include "kit/forms/AccessKeys.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
+#include "support/Typing.h"
 
 #include <QAbstractButton>
-#include <QDialog>
+#include <QClipboard>
 #include <QLabel>
-#include <QVBoxLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 
 using namespace QV_DOC_CONTROLS;
 using namespace tests;
-
-using Ask = std::function<void(const QString &title, const QString &text, QObject *asker)>;
-Q_DECLARE_METATYPE(Ask)
-
-namespace {
-
-NumberQuestion number(const QString &title, const QString &text)
-{
-    return {title, text, {{.label = QStringLiteral("Sorszám"), .preset = 1, .min = 1, .max = 9}}};
-}
-
-} // namespace
 
 class tst_ValuePrompts : public QObject {
     Q_OBJECT
 private slots:
     void cleanup() { setLanguage(Hungarian, {}); }
-    void everyBoxIsTitledAskedPlainlyAndOwned_data()
-    {
-        QTest::addColumn<Ask>("ask");
-        const auto row = [](const char *name, Ask ask) { QTest::newRow(name) << std::move(ask); };
-        row("tell", [](auto &t, auto &q, QObject *o) { prompts().tell({Icon::Information, t, q}, o); });
-        row("show", [](auto &t, auto &q, QObject *o) { prompts().show({t, q, {}}, o); });
-        row("yesNo", [](auto &t, auto &q, QObject *o) { prompts().yesNo({Icon::Question, t, q}, o); });
-        row("allYesNo", [](auto &t, auto &q, QObject *o) { prompts().allYesNo({Icon::Question, t, q}, o); });
-        row("yesNoCancel",
-            [](auto &t, auto &q, QObject *o) { prompts().yesNoCancel({Icon::Question, t, q}, o); });
-        row("choose, two", [](auto &t, auto &q, QObject *o) { prompts().choose({t, q, {"a", "b"}}, o); });
-        row("choose, five",
-            [](auto &t, auto &q, QObject *o) { prompts().choose({t, q, {"a", "b", "c", "d", "e"}}, o); });
-        row("text", [](auto &t, auto &q, QObject *o) { prompts().text({t, q, {}, {}}, o); });
-        row("text, offered", [](auto &t, auto &q, QObject *o) { prompts().text({t, q, {}, {"a"}}, o); });
-        row("numbers", [](auto &t, auto &q, QObject *o) { prompts().numbers(number(t, q), o); });
-        row("colorIndex", [](auto &t, auto &q, QObject *o) { prompts().colorIndex({t, q, 0, {0, 1}}, o); });
-    }
+
     void everyBoxIsTitledAskedPlainlyAndOwned()
     {
-        QFETCH(Ask, ask);
         const QString title = QStringLiteral("Cím"), text = QStringLiteral("<b>Kő & Fa</b>?");
         QWidget window;
         auto *const inside = new QWidget(&window);
-        for (const int language : {Hungarian, Romanian, Vietnamese, English}) {
-            setLanguage(language, {});
-            const auto watch = whileModal<QDialog>([&](QDialog &box) {
-                QCOMPARE(box.windowTitle(), title);
-                QCOMPARE(box.parentWidget(), &window);
-                int asked = 0;
-                QString keys;
-                for (const auto *label : box.findChildren<QLabel *>()) {
-                    if (label->text() == text)
-                        asked += label->textFormat() == Qt::PlainText && !label->buddy();
-                    else keys += accessKeyOf(label->text());
-                }
-                QCOMPARE(asked, 1);
-                for (const auto *button : box.findChildren<QAbstractButton *>())
-                    keys += accessKeyOf(button->text());
-                keys.remove(QChar());
-                for (const QChar key : keys) QVERIFY2(keys.count(key) == 1, qPrintable(keys));
-                box.reject();
-            });
-            ask(title, text, inside);
-        }
+        const NumberField number{.label = QStringLiteral("Sorszám"), .preset = 1, .min = 1, .max = 9};
+        Prompts &p = prompts();
+        const std::function<void()> all[] = {
+            [&] { p.tell({Icon::Information, title, text}, inside); },
+            [&] { p.show({title, text, {}}, inside); },
+            [&] { p.yesNo({Icon::Question, title, text}, inside); },
+            [&] { p.allYesNo({Icon::Question, title, text}, inside); },
+            [&] { p.yesNoCancel({Icon::Question, title, text}, inside); },
+            [&] { p.choose({title, text, {"a", "b"}}, inside); },
+            [&] { p.choose({title, text, {"a", "b", "c", "d", "e"}}, inside); },
+            [&] { p.text({title, text, {}, {}}, inside); },
+            [&] { p.text({title, text, {}, {"a"}}, inside); },
+            [&] { p.numbers({title, text, {number}}, inside); },
+            [&] { p.colorIndex({title, text, 0, {0, 1}}, inside); }};
+        for (const auto &ask : all)
+            for (const int language : {Hungarian, Romanian, Vietnamese, English}) {
+                setLanguage(language, {});
+                const auto watch = whileModal<QDialog>([&](QDialog &box) {
+                    QCOMPARE(box.windowTitle(), title);
+                    QCOMPARE(box.parentWidget(), &window);
+                    int asked = 0;
+                    QString keys;
+                    for (const auto *label : box.findChildren<QLabel *>()) {
+                        if (label->text() == text)
+                            asked += label->textFormat() == Qt::PlainText && !label->buddy();
+                        else keys += accessKeyOf(label->text());
+                    }
+                    QCOMPARE(asked, 1);
+                    for (const auto *button : box.findChildren<QAbstractButton *>())
+                        keys += accessKeyOf(button->text());
+                    keys.remove(QChar());
+                    for (const QChar key : keys) QVERIFY2(keys.count(key) == 1, qPrintable(keys));
+                    box.reject();
+                });
+                ask();
+            }
+    }
+
+    void theAnswerIsWhatStandsInTheLine()
+    {
+        struct Row {
+            const char *typed;
+            QString answer;                     // null = cancelled
+            bool ofLine = true;                 // else of the drop-down only
+            int key = 0;                        // pressed first
+        };
+        const QString asked = QStringLiteral("A keresett érték:"), preset = QStringLiteral("Épület");
+        const QStringList items{"Gáz", "Épület", "Út"};
+        for (const auto &[typed, answer, ofLine, key] : {Row{"\r", preset},
+                                                         {"őrház\r", "őrház"}, {"é\r", "é"}, {"7\x1b", {}},
+                                                         {"\r", "", true, Qt::Key_Delete},
+                                                         {"\r", "Út", false, Qt::Key_Down},
+                                                         {"\r", "Gáz", false, Qt::Key_Up}})
+            for (const QStringList &offered : {QStringList(), items}) {
+                if (offered.isEmpty() && !ofLine) continue;
+                const auto watch = whileModal<TextBox>([&, key = key, typed = typed](TextBox &box) {
+                    QCOMPARE(child<QLineEdit>(box, "txtAnswer").accessibleName(), asked);
+                    if (key) QTest::keyClick(box.focusWidget(), Qt::Key(key));
+                    type(box, QString::fromUtf8(typed));
+                });
+                const auto given = prompts().text({QStringLiteral("Keresés"), asked, preset, offered});
+                QCOMPARE(given.has_value(), !answer.isNull());
+                QCOMPARE(given.value_or(QString()), answer);
+            }
+    }
+
+    void linesOfAReportAreReadAndCopiedButNotWritten()
+    {
+        const auto watch = whileModal<ReportBox>([](ReportBox &box) {
+            auto &lines = child<QPlainTextEdit>(box, "txtLines");
+            QTest::keyClick(&box, Qt::Key_Backtab, Qt::ShiftModifier);
+            QCOMPARE(box.focusWidget(), &lines);
+            QTest::keyClicks(&lines, QStringLiteral("x"));
+            QTest::keySequence(&lines, QKeySequence::SelectAll);
+            QTest::keySequence(&lines, QKeySequence::Copy);
+            QTest::keyClick(&lines, Qt::Key_Backtab, Qt::ShiftModifier);
+            QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+        });
+        prompts().show({QStringLiteral("t"), QStringLiteral("2"), {"'a' ---> 'b'", "'c' ---> 'd'"}}, nullptr);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("'a' ---> 'b'\n'c' ---> 'd'"));
     }
 };
 QVDC_TEST(tst_ValuePrompts)

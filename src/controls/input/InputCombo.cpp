@@ -44,6 +44,7 @@ template <class Change> void InputCombo::showing(Change change)
     const QScopedValueRollback guard(m_showing, true);
     m_filter->passing(change);
     m_filter->takeDropped();
+    arrangeLine();                              // the list gives its line the room beside an arrow each time
 }
 
 void InputCombo::showText(const QString &text)
@@ -90,7 +91,6 @@ void InputCombo::addChoice(const QString &text, const QVariant &value)
         setCurrentIndex(chosen);                // the list only offers
         setEditText(before);
     });
-    arrangeLine();
 }
 
 void InputCombo::setMarked(const QString &refusal)

@@ -3,6 +3,7 @@
 #include "dialogs/select/LayerTools.h"
 #include "dialogs/select/SymbolTools.h"
 
+#include <span>
 #include <stdexcept>
 
 namespace QV_DOC_CONTROLS {

@@ -30,9 +30,10 @@ SymbolSide::SymbolSide(GridPage &page, clsJS_Sid &manager, ZOLW_Doc &doc, ErrorR
     m_preview->setVisibleGrid(true);
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addWidget(m_preview, 1);
+    column->addWidget(m_preview);
+    column->addStretch(1);
     const int width = sizeOfLetters(*this, kPreviewLetters, 0).width();
-    m_preview->setMinimumHeight(width);
+    m_preview->setFixedHeight(width);
     setFixedWidth(width);
     page.addBeside(this);
     page.gridItems->setPictureSize(sizeOfLetters(page, kSampleLetters, kSampleLines));

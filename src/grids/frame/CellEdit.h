@@ -37,6 +37,16 @@ std::optional<typename Table::Record> withValue(const typename Table::Record &no
     return edited;
 }
 
+/// The record as the document has it, after an edit of which nobody knows whether it was written; its
+/// identifier may be the edited one.
+template <class Table>
+typename Table::Record asStored(ZolWDoc::ZOLW_Doc &doc, const typename Table::Record &before,
+                                const typename Table::Record &edited)
+{
+    const auto found = Table::role(doc).find(Table::id(before));
+    return found ? *found : Table::role(doc).find(Table::id(edited)).value_or(before);
+}
+
 inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }
 
 } // namespace QV_DOC_CONTROLS

@@ -184,18 +184,12 @@ private:
             ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
                                [&] { storeEdit(shown, *edited); });
         } catch (...) { // what the document has now, an error of its own apart
-            relay().tryQuietly([&] { shown = asStored(shown, *edited); });
+            relay().tryQuietly([&] { shown = asStored<Table>(*m_doc, shown, *edited); });
             throw;
         }
         shown = *edited;
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
-    }
-
-    Record asStored(const Record &now, const Record &edited) const
-    {
-        const auto found = Table::role(*m_doc).find(Table::id(now));
-        return found ? *found : Table::role(*m_doc).find(Table::id(edited)).value_or(now);
     }
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()

@@ -52,17 +52,24 @@ void SymbolEdits::addNew()
         addAll(title, {newSymbol(*name, m_groups.groupForNew().value_or(tGroup()))});
 }
 
-void SymbolEdits::addFromVectorFont()
+std::vector<VectorFont::Entry> SymbolEdits::allOf(const VectorFont &font)
 {
-    const QString title = txt(kFromFont);
+    auto entries = font.entries();
+    const QString question = join(Text{22307, u"A készlet karaktereiből ennyi jelkulcs készül: "},
+                                  int(entries.size()), QStringLiteral("\n"), Text{20081, u"Folytatja?"});
+    if (!entries.empty() && !m_desk.yesNo({Icon::Question, txt(kFromFont), question})) entries.clear();
+    return entries;
+}
+
+void SymbolEdits::addFromVectorFont(const CharacterChoice &choose)
+{
     const auto face = fontPicker()->pickVector(&m_desk.doc(), {}, m_desk.asker());
     m_desk.relay().checkpoint();
     const VectorFont *const font = face ? vectorFont(&m_desk.doc(), *face) : nullptr;
     if (!font) return;
-    const auto entries = font->entries();
-    const QString question = join(Text{22307, u"A készlet karaktereiből ennyi jelkulcs készül: "},
-                                  int(entries.size()), QStringLiteral("\n"), Text{20081, u"Folytatja?"});
-    if (entries.empty() || !m_desk.yesNo({Icon::Question, title, question})) return;
+    const auto entries = choose ? choose(*font) : allOf(*font);
+    m_desk.relay().checkpoint();
+    if (entries.empty()) return;
     QSet<QString> taken;
     for (const tSid &s : m_desk.doc().symbols().readAll()) taken.insert(s.ShortName);
     const tGroup group = m_groups.groupForNew().value_or(tGroup());
@@ -73,7 +80,7 @@ void SymbolEdits::addFromVectorFont()
         s.Code = e.code, s.Facename = *face, s.Type = kVectorFont;
         symbols.push_back(std::move(s));
     }
-    addAll(title, std::move(symbols));
+    addAll(txt(kFromFont), std::move(symbols));
 }
 
 void SymbolEdits::rename()
@@ -89,7 +96,7 @@ void SymbolEdits::rename()
 
 bool SymbolEdits::canEdit() { return recordEditors() && recordEditors()->canEdit(TableKind::Symbols); }
 
-/// The editor writes by itself, also when it was not confirmed at last.
+/// The editor writes by itself.
 void SymbolEdits::edit()
 {
     const auto row = m_desk.currentRecord();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facade/contract/HostServices.h"
 #include "grids/SymbolTable.h"
 #include "grids/frame/Desk.h"
 #include "grids/grouped/OwnGroups.h"
@@ -9,12 +10,18 @@ namespace QV_DOC_CONTROLS {
 using SymbolDesk = TableDesk<SymbolTable>;
 using SymbolGroups = OwnGroups<SymbolTable>;
 
+/// Which characters of a vector font are to become symbols; none = cancelled. Empty function: all of them,
+/// once the user has been asked.
+using CharacterChoice =
+    std::function<std::vector<ZolWDoc::VectorFont::Entry>(const ZolWDoc::VectorFont &font)>;
+
 /// The commands that make symbols and change their values.
 class SymbolEdits {
 public:
     SymbolEdits(SymbolDesk &desk, SymbolGroups &groups) : m_desk(desk), m_groups(groups) {}
     void addNew();                      ///< asks for its name; goes to the current group, becomes current
-    void addFromVectorFont();           ///< one for every character of a font that the user picks
+    /// One for every chosen character of a font that the user picks.
+    void addFromVectorFont(const CharacterChoice &choose = {});
     void rename();                      ///< the current symbol
     void edit();                        ///< the current symbol, in its editor
 
@@ -28,6 +35,7 @@ public:
     static bool canEdit();              ///< there is an editor
 
 private:
+    std::vector<ZolWDoc::VectorFont::Entry> allOf(const ZolWDoc::VectorFont &font);
     void addAll(const QString &command, std::vector<ZolWDoc::tSid> symbols);
     std::optional<double> askForNumber(const QString &title, const QString &text, const NumberField &field);
     SymbolDesk &m_desk;

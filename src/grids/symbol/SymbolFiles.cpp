@@ -93,15 +93,33 @@ std::optional<std::vector<tSid>> SymbolFiles::read(const QString &path, QString 
     return std::move(content.records);
 }
 
+/// Without an identifier when it is still to be made.
+tGroup SymbolFiles::target()
+{
+    if (!m_ownGroup) return m_groups.groupForNew().value_or(tGroup());
+    const QString name = txt(*m_ownGroup);
+    for (const tGroup &g : m_desk.doc().symbols().groups().readAll())
+        if (g.GroupName.compare(name, Qt::CaseInsensitive) == 0) return g;
+    return {-1, name};
+}
+
+void SymbolFiles::store(std::vector<tSid> symbols, const tGroup &group)
+{
+    m_desk.write(txt(kLoad), [&] {
+        if (m_ownGroup && group.GroupId == -1) {
+            const qint16 made = m_desk.doc().symbols().groups().add(group.GroupName);
+            for (tSid &s : symbols) s.GroupId = made;
+        }
+        std::vector<qint16> ids;
+        m_desk.doc().symbols().addAll(symbols, ids);
+    });
+}
+
 void SymbolFiles::add(const std::vector<tSid> &read)
 {
-    const LoadedSymbols ready =
-        loaded(read, m_groups.groupForNew().value_or(tGroup()), m_desk.doc().symbols().readAll());
-    if (!ready.symbols.empty())
-        m_desk.write(txt(kLoad), [&] {
-            std::vector<qint16> ids;
-            m_desk.doc().symbols().addAll(ready.symbols, ids);
-        });
+    const tGroup group = target();
+    const LoadedSymbols ready = loaded(read, group, m_desk.doc().symbols().readAll());
+    if (!ready.symbols.empty()) store(ready.symbols, group);
     for (const QString &name : ready.known)
         m_desk.tell({Icon::Information, txt(Text{20009, u"Létező jelkulcstípus név"}),
                      join(name, Text{20008, u" nevű jelkulcstípus már van!"})});

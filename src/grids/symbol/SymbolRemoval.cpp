@@ -9,7 +9,7 @@ using namespace ZolWDoc;
 
 namespace {
 
-constexpr Text kCommand{3229, u"Jelkulcs törlése"}, kOne{3231, u"Jelkulcstípus törlés"};
+constexpr Text kOne{3231, u"Jelkulcstípus törlés"};
 
 } // namespace
 
@@ -20,15 +20,15 @@ void SymbolRemoval::tellLast(const Text &title, const Text &text)
 
 void SymbolRemoval::tellRefused(const QString &name)
 {
-    m_desk.tell({Icon::Exclamation, txt(kCommand),
-                 join(Text{3451, u"A(z) '"}, name, Text{3230, u"' nevű jelkulcs nem törölhető!"})});
+    m_desk.tell({Icon::Exclamation, txt(m_texts.title),
+                 join(m_texts.refusedBefore, name, m_texts.refusedAfter)});
 }
 
 /// The identifiers that the document refused.
 std::vector<qint16> SymbolRemoval::removeAll(const std::vector<qint16> &ids)
 {
     std::vector<qint16> refused;
-    m_desk.write(txt(kCommand), [&] {
+    m_desk.write(txt(m_texts.title), [&] {
         int done = 0;
         m_desk.doc().symbols().removeAll(ids, refused, done);
     });
@@ -52,7 +52,7 @@ void SymbolRemoval::removeSelected()
         for (const qint16 id : removeAll({chosen.back().SidId})) refused.push_back(id);
     for (const tSid &s : chosen)
         if (std::ranges::count(refused, s.SidId) > 0) tellRefused(s.ShortName);
-    if (isLast) tellLast(kCommand, {3081, u"Az utolsó jelkulcs nem törölhető!"});
+    if (isLast) tellLast(m_texts.title, m_texts.last);
 }
 
 void SymbolRemoval::askOnly()

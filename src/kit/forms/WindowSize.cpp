@@ -20,6 +20,11 @@ int storedPixels(const QWidget &window, const QString &key, int fallback)
     return isNumber && twips > 0 ? pixelsOf(twips, window) : fallback;
 }
 
+void keepPixels(const QWidget &on, const QString &key, int pixels)
+{
+    settingsStore().write(kApplication, kSection, key, QString::number(twipsOf(pixels, on)));
+}
+
 } // namespace
 
 QSize sizeOfLetters(const QWidget &window, int across, int down)
@@ -39,12 +44,18 @@ void restoreSize(QWidget &window, const QString &form, QSize usual, SizeKeys key
 
 void keepSizeOf(const QWidget &window, const QString &form, SizeKeys keys)
 {
-    const auto keep = [&](const char *suffix, int pixels) {
-        settingsStore().write(kApplication, kSection, keyOf(form, suffix),
-                              QString::number(twipsOf(pixels, window)));
-    };
-    keep(keys.width, window.width());
-    keep(keys.height, window.height());
+    keepPixels(window, keyOf(form, keys.width), window.width());
+    keepPixels(window, keyOf(form, keys.height), window.height());
+}
+
+int storedWidth(const QWidget &part, const QString &form, const char *suffix, int usual)
+{
+    return storedPixels(part, keyOf(form, suffix), usual);
+}
+
+void keepWidthOf(const QWidget &part, const QString &form, const char *suffix)
+{
+    keepPixels(part, keyOf(form, suffix), part.width());
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -19,4 +19,8 @@ QSize sizeOfLetters(const QWidget &window, int across, int down); ///< room for 
 /// Stored in twips; errors are swallowed.
 void keepSizeOf(const QWidget &window, const QString &form, SizeKeys keys = {});
 
+/// The width of one part of a form, in pixels, under `suffix`; `usual` when none is stored.
+int storedWidth(const QWidget &part, const QString &form, const char *suffix, int usual);
+void keepWidthOf(const QWidget &part, const QString &form, const char *suffix);
+
 } // namespace QV_DOC_CONTROLS

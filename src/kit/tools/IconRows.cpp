@@ -109,6 +109,23 @@ constexpr IconRow kIcons[] = {
     {"preview", "M1.5 2.5h13v11h-13zM10 2.5v11M11.5 8h1.5", "M11 6.5h2.5v3h-2.5z"},
     {"samplesLarger", "M1.5 4.5h7v7h-7zM12 5v6M9.5 8h5", "M4 7h2v2h-2z"},
     {"samplesSmaller", "M1.5 4.5h7v7h-7zM9.5 8h5", "M4 7h2v2h-2z"},
+    {"groupList", "M1.5 2.5h3.5v3.5h-3.5zM7.5 4.2h7M1.5 9.5h3.5v3.5h-3.5zM7.5 11.2h7"},
+    {"byGroups", "M1.5 1.5h5v13h-5zM9 3.5h5.5M9 8h5.5M9 12.5h5.5", "M1.5 1.5h5v4h-5z"},
+    // lists of a manager
+    {"groupOther", "M1.5 13.5v-11h4.5l1.5 2h7v9z"},
+    {"groupOpen", "M1.5 13.5v-11h4.5l1.5 2h7v9zM5 9l2 2l3.5 -3.5", "M1.5 4.5v-2h4.5l1.5 2z"},
+    {"groupEmpty", "M1.5 6.5v-4h4.5l1.5 2h2.5M12.5 4.5h2v2.5M14.5 10v3.5h-2.5M9 13.5h-3M3.5 13.5h-2v-3"},
+    {"currentItem", "M2 8.5l4 4.5l8 -10"},
+    {"sortAZ", "M4 2v11.5M1.5 11l2.5 2.5l2.5 -2.5M9.5 6.5l2 -5l2 5M10.2 4.8h2.6M9.5 9.5h4l-4 5h4"},
+    {"sortZA", "M4 2v11.5M1.5 11l2.5 2.5l2.5 -2.5M9.5 1.5h4l-4 5h4M9.5 14.5l2 -5l2 5M10.2 12.8h2.6"},
+    {"editMode", "M1.5 3.5h7M1.5 7h4M1.5 10.5h2.5M6 14l.8 -3l5.7 -5.7l2.2 2.2l-5.7 5.7z"},
+    {"viewIcons", "M1.5 1.5h5.5v5.5h-5.5zM9 1.5h5.5v5.5h-5.5zM1.5 9h5.5v5.5h-5.5zM9 9h5.5v5.5h-5.5z"},
+    {"viewSmallIcons", "M1.5 2h3v3h-3zM6 3.5h2M9.5 2h3v3h-3zM14 3.5h1M1.5 7h3v3h-3zM6 8.5h2M9.5 7h3v3h-3z"
+                       "M14 8.5h1M1.5 12h3v3h-3zM6 13.5h2"},
+    {"viewList", "M1.5 3h1M4 3h3.5M1.5 8h1M4 8h3.5M1.5 13h1M4 13h3.5M9.5 3h1M12 3h3M9.5 8h1M12 8h3"},
+    {"cellsLarger",
+     "M5.5 5.5h5v5h-5zM1.5 4.5v-3h3M14.5 4.5v-3h-3M1.5 11.5v3h3M14.5 11.5v3h-3"},
+    {"cellsSmaller", "M6 6h4v4h-4zM4 1.5v2.5h-2.5M12 1.5v2.5h2.5M4 14.5v-2.5h-2.5M12 14.5v-2.5h2.5"},
     // moving an entry
     {"moveUp", "M8 14v-12M3.5 6.5l4.5 -4.5l4.5 4.5"},
     {"moveDown", "M8 2v12M3.5 9.5l4.5 4.5l4.5 -4.5"},

@@ -1,0 +1,280 @@
+#include "controls/usSiInfo.h"
+#include "facade/clsDocDlgs.h"
+#include "support/ManagerForm.h"
+#include "support/Registry.h"
+#include "support/StrokeFont.h"
+
+#include <QHeaderView>
+#include <QLabel>
+
+using namespace QV_DOC_CONTROLS;
+using namespace ZolWDoc;
+using tests::child;
+using tests::click;
+using tests::kSizeAsked;
+using tests::run;
+using tests::ScriptedPrompts;
+using tests::select;
+using tests::whileModal;
+using Act = tests::ManagerAct;
+using Steps = tests::PromptSteps;
+Q_DECLARE_METATYPE(Act)
+Q_DECLARE_METATYPE(Steps)
+
+namespace {
+
+ScriptedPrompts::Step keep(bool yes)
+{
+    return {"yesNo", QStringLiteral("Változások rögzítése"),
+            QStringLiteral("Akarod rögzíteni a változtatásokat ?"), yes, Icon::Question};
+}
+QString listed(frmSupSid &form, int column = 0)
+{
+    QStringList all;
+    const QAbstractItemModel &rows = *form.lvSids->report()->model();
+    for (int row = 0; row < rows.rowCount(); ++row) all << rows.index(row, column).data().toString();
+    return all.join(u' ');
+}
+
+/// A host whose user prefers the managers.
+struct ManagerHost final : HostServices, SettingsService {
+    ManagerHost() { setHostServices(this); }
+    ~ManagerHost() override { setHostServices(nullptr); }
+    SettingsService *settings() override { return this; }
+    int version() const override { return 4; }
+    bool readBool(const QString &section, const QString &key, bool) const override
+    {
+        return section == QStringLiteral("setup") && key == QStringLiteral("OldStyleSetupForms");
+    }
+};
+
+} // namespace
+
+class tst_frmSupSid : public QObject {
+    Q_OBJECT
+private:
+    std::unique_ptr<tests::ManagerForm> m_form;
+
+private slots:
+    void init() { m_form = std::make_unique<tests::ManagerForm>(); }
+    void cleanup() { m_form.reset(); }
+
+    void changesAreKeptOrDropped_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<Steps>("asked");
+        QTest::addColumn<QString>("result"); // returned, symbol chosen, sizes of all
+        const auto row = [](const char *name, enumSetupMode mode, Act act, Steps asked, const char *result) {
+            QTest::newRow(name) << int(mode) << act << asked << QString::fromUtf8(result);
+        };
+        const Act resize = [](frmSupSid &f) { select(f, 2), run(f, "cmdSid_Size"); };
+        const auto then = [](Act first, const char *what) -> Act {
+            return [=](frmSupSid &f) {
+                first(f);
+                if (qstrncmp(what, "cmdE", 4) == 0)
+                    run(f, what), click(f, "cmdCancel");
+                else
+                    click(f, what);
+            };
+        };
+        const Act two = [](frmSupSid &f) { select(f, 2); };
+        row("picked", MODE_SELECT, then(two, "cmdOk"), {}, "1 2 5 5 5");
+        row("not picked", MODE_SELECT, then(two, "cmdCancel"), {}, "0 30 5 5 5");
+        row(
+            "picked by Enter", MODE_SELECT,
+            [=](frmSupSid &f) {
+                two(f);
+                QTest::keyClick(f.lvSids->report(), Qt::Key_Return);
+            },
+            {}, "1 2 5 5 5");
+        row("edited", MODE_EDIT, then(resize, "cmdOk"), {kSizeAsked}, "1 2 5 7 5");
+        row("closed, kept", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keep(true)}, "1 2 5 7 5");
+        row("closed, dropped", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keep(false)}, "0 30 5 5 5");
+        row("nothing changed", MODE_EDIT, then(two, "cmdCancel"), {}, "0 30 5 5 5");
+        row("mode left, dropped", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(false)},
+            "0 30 5 5 5");
+        row("mode left, kept", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(true)},
+            "0 30 5 7 5");
+        row(
+            "mode entered", MODE_SELECT,
+            [=](frmSupSid &f) {
+                resize(f); // nothing is edited yet
+                run(f, "cmdEditMode");
+                resize(f);
+                click(f, "cmdOk");
+            },
+            {kSizeAsked}, "1 2 5 7 5");
+        row(
+            "mode refused", MODE_SELECT_ONLY,
+            [=](frmSupSid &f) {
+                run(f, "cmdEditMode");
+                resize(f);
+                QVERIFY(!f.isEditMode() && !child<QAction>(f, "cmdEditMode").isChecked());
+                click(f, "cmdCancel");
+            },
+            {{"tell",
+              appTitle(),
+              QStringLiteral("A szerkesztő mód nem választható !"),
+              {},
+              Icon::Exclamation}},
+            "0 30 5 5 5");
+    }
+    void changesAreKeptOrDropped()
+    {
+        QFETCH(int, mode);
+        QFETCH(Act, act);
+        QFETCH(Steps, asked);
+        QFETCH(QString, result);
+        ScriptedPrompts user(asked);
+        qint16 id = 30;
+        const Act all = [&](frmSupSid &f) {
+            QCOMPARE(listed(f), QStringLiteral("30")); // its group
+            run(f, "cmdByGroups");
+            act(f);
+        };
+        QStringList got{QString::number(m_form->open(*m_form->doc, enumSetupMode(mode), all, id)),
+                        QString::number(id)};
+        for (const tSid &s : m_form->doc->symbols().readAll()) got << QString::number(s.Size_mm);
+        QCOMPARE(got.join(u' '), result);
+        QVERIFY(!m_form->isSpanOpen());
+    }
+
+    /// Pictures, looks and words.
+    void theListIsWorkedWith()
+    {
+        m_form->open(
+            MODE_SELECT,
+            [&](frmSupSid &f) {
+                auto &hint = child<QLabel>(f, "lblHint");
+                QVERIFY(hint.text().startsWith(QStringLiteral(" 2 ")));
+                f.lvSids->setCurrentRow(-1);
+                QCOMPARE(hint.text(), QStringLiteral(" Válassz jelkulcsot! "));
+                QVERIFY(!child<QPushButton>(f, "cmdOk").isEnabled());
+                QHeaderView &header = *f.lvSids->report()->header();
+                for (const int section : {1, 2}) // it may stand there from a window before
+                    QTest::mouseMove(header.viewport(), {header.sectionViewportPosition(section) + 4, 4});
+                QCOMPARE(hint.text(), QStringLiteral(" Nagyság "));
+                run(f, "cmdByGroups");
+                select(f, 2);
+                for (const char *order : {"A B C", "C B A"}) {
+                    QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                                      {header.sectionViewportPosition(1) + 4, 4});
+                    QCOMPARE(listed(f, 1), QLatin1String(order));
+                    QCOMPARE(f.lvSids->selectedRows().size(), size_t(1));
+                }
+                const double before = f.usSiItem->Zoom();
+                run(f, "cmdPlus");
+                QCOMPARE(f.usSiItem->Zoom(), before + 0.2);
+                for (int i = 0; i < 10; ++i) run(f, "cmdMinus");
+                QCOMPARE(f.usSiItem->Zoom(), 0.2);
+                for (const auto &[view, sizes] : {std::pair("miView_Icons", QList<int>{64, 96, 96}),
+                                                  std::pair("miView_Report", QList<int>{48, 64, 96})}) {
+                    run(f, view);
+                    for (const int size : sizes) {
+                        run(f, "miView_Size+");
+                        QCOMPARE(f.usSiItem->width(), size);
+                    }
+                }
+                click(f, "cmdCancel");
+            },
+            2);
+    }
+
+    void onlyWhatIsSeenIsDrawn()
+    {
+        const tests::StrokeFontHost host;
+        std::vector<tSid> many;
+        for (int i = 100; i < 3100; ++i) {
+            many.push_back(tests::symbol(qint16(i), QByteArray::number(i).constData()));
+            many.back().Type = 1, many.back().Facename = host.name(), many.back().Code = 'N';
+        }
+        m_form->doc = tests::symbolDoc(many);
+        m_form->open(
+            MODE_SELECT,
+            [&](frmSupSid &f) {
+                QTRY_VERIFY(host.asked > 3);
+                for (const char *view : {"miView_Icons", "miView_SmallIcon", "miView_List"}) {
+                    run(f, view);
+                    f.grab();
+                    QCoreApplication::sendPostedEvents();
+                }
+                QVERIFY(host.asked < 1500);
+                QCOMPARE(f.lvSids->currentRow(), 1900);
+                click(f, "cmdCancel");
+            },
+            2000);
+    }
+
+    void eachModeHasItsWidths()
+    {
+        const Act widths = [](frmSupSid &f) {
+            QHeaderView &header = *f.lvSids->report()->header();
+            for (const int wide : {700, 780}) {
+                f.resize(wide, 500), header.resizeSection(1, wide / 4);
+                run(f, "cmdEditMode");
+            }
+            QCOMPARE(f.width(), 700);
+            QCOMPARE(header.sectionSize(1), 175);
+            run(f, "cmdEditMode");
+            QCOMPARE(f.width(), 780);
+            QCOMPARE(header.sectionSize(1), 195);
+            click(f, "cmdCancel");
+        };
+        m_form->open(MODE_SELECT, widths, 2);
+        const auto &kept = m_form->store.kept.values;
+        for (const char *key :
+             {"ZolWOpfrmSupSid-Groups", "ZolWOpfrmSupSid-Sids", "ZolWOpfrmSupSid-Width4Edit",
+              "ZolWOpfrmSupSid-Width4Select", "ZolWOpfrmSupSid-Height"})
+            QVERIFY2(kept.value(QStringLiteral("ZolWOp/Settings/") + QLatin1String(key)).toInt() > 0, key);
+        QCOMPARE(kept.value(QStringLiteral("ZolWOp/Settings/ViewModelvSidsEditMode")), QStringLiteral("3"));
+    }
+
+    void aFreeNumberIsAskedFor()
+    {
+        const QString title = QStringLiteral("Sorszám");
+        const QString text = QStringLiteral("Egyedi sorszám|Jelkulcstípus száma|%1");
+        ScriptedPrompts user{{{"numbers", title, text.arg(1), QVariantList{2.0}},
+                              {"tell",
+                               QStringLiteral("Egyedi sorszám"),
+                               QStringLiteral("Létező sorszám !"),
+                               {},
+                               Icon::Information},
+                              {"numbers", title, text.arg(2), QVariantList{5.0}},
+                              {"numbers", title, text.arg(5)}}};
+        m_form->open(
+            MODE_SELECT,
+            [](frmSupSid &f) {
+                qint16 number = 1;
+                QVERIFY(f.bGetSidId(number) && number == 5);
+                QVERIFY(!f.bGetSidId(number) && number == 5);
+                click(f, "cmdCancel");
+            },
+            1);
+    }
+
+    void theSettingOpensTheManager()
+    {
+        const ManagerHost host;
+        clsDocDlgs dialogs;
+        tSid picked = *m_form->doc->symbols().find(30);
+        {
+            const auto user = whileModal<frmSupSid>([](frmSupSid &f) {
+                QVERIFY(!f.isEditMode());
+                run(f, "cmdByGroups");
+                select(f, 1);
+                click(f, "cmdOk");
+            });
+            QVERIFY(dialogs.bSelect_Sid(*m_form->doc, picked));
+        }
+        QVERIFY(picked == *m_form->doc->symbols().find(1));
+        const auto user = whileModal<frmSupSid>([](frmSupSid &f) {
+            QVERIFY(f.isEditMode());
+            click(f, "cmdCancel");
+        });
+        QVERIFY(!dialogs.bEdit_Sids(*m_form->doc));
+    }
+};
+
+QVDC_TEST(tst_frmSupSid)
+#include "tst_frmSupSid.moc"

@@ -1,0 +1,122 @@
+#include "pictures/Scene.h"
+
+#include "controls/usInputBox.h"
+#include "dialogs/editors/frmEditSid.h"
+#include "dialogs/editors/frmSupSid.h"
+#include "document/SqliteDoc.h"
+#include "facade/services/Services.h"
+#include "fonts/StrokeFonts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QTimer>
+
+using namespace QV_DOC_CONTROLS;
+using ZolWDoc::tSid;
+
+namespace {
+
+struct Host final : ZolWDoc::HostServices {
+    refhost::StrokeFonts fonts;
+    Host() { setHostServices(this); }
+    ~Host() override { setHostServices(nullptr); }
+    ZolWDoc::VectorFontProvider *vectorFonts(const ZolWDoc::ZOLW_Doc *) override { return &fonts; }
+};
+
+tSid letter(const char *name, const char *face, qint32 code)
+{
+    tSid s;
+    s.ShortName = QString::fromUtf8(name), s.FullName = s.ShortName + QStringLiteral(" – geodézia");
+    s.Facename = QString::fromUtf8(face), s.CharSet = 238, s.Code = code;
+    s.Size_mm = 5, s.YwFact = s.XwFact = 1, s.Align = 24, s.DspZoom = 6, s.LayId = 1, s.GroupId = 1;
+    return s;
+}
+tSid sign(const char *name, qint32 code)
+{
+    tSid s = letter(name, "Hershey Markers", code);
+    s.Type = 1, s.Weight = 25;
+    return s;
+}
+
+struct EditorState {
+    const char *name;
+    tSid symbol;
+    void (*make)(frmEditSid &);
+};
+const EditorState kStates[] = {
+    {"letter", letter("Kút", "DejaVu Sans", 0x151), [](frmEditSid &) {}},
+    {"sign", sign("Fa", 66),
+     [](frmEditSid &f) {
+         f.cboProtType->setCurrentIndex(3);
+         f.usNumProtParam1->setValue(4);
+         f.usNumProtParam2->setValue(0.5);
+         f.chkGrid->setChecked(true);
+     }},
+    {"unknown face", letter("Alappont", "ZolW_DAT1_M2", 33),
+     [](frmEditSid &f) {
+         f.cboProtType->setCurrentIndex(2);
+         f.usNumProtParam1->setValue(12);
+         f.usNumProtParam2->setValue(8.5);
+     }},
+};
+
+/// Three groups, one of them empty, with letters and signs.
+std::unique_ptr<refhost::SqliteDoc> drawing()
+{
+    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    ZolWDoc::SymbolRole &symbols = doc->symbols();
+    const qint16 ground = symbols.groups().readAll()[0].GroupId;
+    const qint16 trees = symbols.groups().add(QStringLiteral("Fák és cserjék"));
+    symbols.groups().add(QStringLiteral("Vasút"));
+    for (int i = 0; i < 46; ++i) {
+        tSid s = i % 3 ? letter("Kút", "DejaVu Sans", 0x2600 + i) : sign("Alappont", 65 + i / 3);
+        s.SidId = qint16(1000 + i), s.GroupId = i < 38 ? ground : trees;
+        s.ShortName += QStringLiteral(" %1").arg(i + 1);
+        s.DspZoom = 3, s.LayId = doc->layers().readAll()[0].LayId;
+        symbols.add(s);
+    }
+    return doc;
+}
+
+const char *const kManagerStates[] = {"miView_Report",    "miView_Icons", "miView_Size+",
+                                      "miView_SmallIcon", "miView_List",  "cmdByGroups"};
+
+void takeManager(tests::Sheet &sheet)
+{
+    const auto doc = drawing();
+    for (const enumSetupMode mode : {MODE_SELECT, MODE_EDIT}) {
+        frmSupSid form;
+        QTimer::singleShot(0, &form, [&] {
+            for (const char *tool : kManagerStates) {
+                if (mode == MODE_EDIT && qstrcmp(tool, "miView_Icons") != 0) continue;
+                form.findChild<QAction *>(QLatin1String(tool))->trigger();
+                form.grab();
+                QCoreApplication::sendPostedEvents(); // pictures are drawn once they were asked for
+                sheet.take(form);
+            }
+            form.reject();
+        });
+        qint16 id = mode == MODE_EDIT ? 1002 : -1;
+        form.bDoModal(*doc, mode, id);
+    }
+}
+
+} // namespace
+
+void tests::takeEditors(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
+{
+    const Host host;
+    for (const EditorState &state : kStates) {
+        frmEditSid form;
+        form.Init(doc, state.symbol);
+        state.make(form);
+        QTimer::singleShot(0, &form, [&] {
+            sheet.take(form);
+            form.reject();
+        });
+        form.edit();
+    }
+    takeManager(sheet);
+}
