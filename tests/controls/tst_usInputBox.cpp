@@ -1,7 +1,7 @@
 #include "controls/InputForm.h"
 
-#include "support/MutePrompts.h"
 #include "support/Registry.h"
+#include "support/WillingPrompts.h"
 
 #include <QClipboard>
 #include <QDropEvent>
@@ -292,7 +292,7 @@ private slots:
     /// Whatever is pressed, pasted or stepped: the value stays in its bounds and the box has a way back.
     void randomKeysNeverLeaveAValueOutsideTheBounds()
     {
-        MutePrompts mute;
+        WillingPrompts mute;
         constexpr int kKeys[] = {Qt::Key_Return, Qt::Key_Up, Qt::Key_Down, Qt::Key_Backspace, Qt::Key_Delete,
                                  Qt::Key_Left, Qt::Key_Home, Qt::Key_End};
         const QString characters = QStringLiteral("0123456789.,-+eE a");
