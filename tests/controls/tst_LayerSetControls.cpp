@@ -135,8 +135,7 @@ private slots:
         const int roads = m_doc->layers().groups().back().GroupId;
         for (const auto &[caption, entry, numbers] :
              {std::tuple("(Látható rétegek)", kVisible, "1,3-4"),
-              {"Utak", roads, "2,4"},
-              {"no such entry", kCurrent, "3"},
+              {"Utak", roads, "2,4"}, {"no such entry", kCurrent, "3"},
               {"(Felsorolt rétegek)", kEnumerated, "7"}}) { // the text is read
             DocForm f;
             f.control->setZOLW_Doc(m_doc.get());

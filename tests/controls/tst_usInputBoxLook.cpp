@@ -12,30 +12,15 @@ namespace {
 using Values = std::vector<std::pair<const char *, QVariant>>;
 /// Every published property, outside its default.
 const Values kValues = {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-                        {"ForeColor", QColor::fromRgba(0x80000012)},
-                        {"Enabled", false},
-                        {"Font", QFont(QStringLiteral("DejaVu Serif"), 17)},
-                        {"BorderStyle", 1},
-                        {"BeforeString", QStringLiteral("ő =")},
-                        {"Value", QStringLiteral("12.25")},
-                        {"Min", 11.5},
-                        {"Max", 13.0},
-                        {"FormatString", QStringLiteral("#,##0.0")},
-                        {"WidthBeforeString", 100},
-                        {"AfterString", QStringLiteral("cm")},
-                        {"InfoMode", true},
-                        {"BeforeStringAlign", 2},
-                        {"WidthValue", 2345},
-                        {"WidthAfterString", 678},
-                        {"TimerInterval", 77},
-                        {"SetFocusNextTabIndex", 4},
-                        {"SetFucusBackTabIndex", 5},
-                        {"InputType", 3},
-                        {"AutoSelect", false},
-                        {"UpDownInc", 0.25},
-                        {"UpDownVisible", true},
-                        {"LenMax", 9},
-                        {"ReadsLocale", true},
+                        {"ForeColor", QColor::fromRgba(0x80000012)}, {"Enabled", false},
+                        {"Font", QFont(QStringLiteral("DejaVu Serif"), 17)}, {"BorderStyle", 1},
+                        {"BeforeString", QStringLiteral("ő =")}, {"Value", QStringLiteral("12.25")},
+                        {"Min", 11.5}, {"Max", 13.0}, {"FormatString", QStringLiteral("#,##0.0")},
+                        {"WidthBeforeString", 100}, {"AfterString", QStringLiteral("cm")},
+                        {"InfoMode", true}, {"BeforeStringAlign", 2}, {"WidthValue", 2345},
+                        {"WidthAfterString", 678}, {"TimerInterval", 77}, {"SetFocusNextTabIndex", 4},
+                        {"SetFucusBackTabIndex", 5}, {"InputType", 3}, {"AutoSelect", false},
+                        {"UpDownInc", 0.25}, {"UpDownVisible", true}, {"LenMax", 9}, {"ReadsLocale", true},
                         {"ErrorsInPlace", true}};
 
 QPalette darkPalette()
@@ -94,10 +79,13 @@ private slots:
     {
         InputForm f;
         f.whole(5, 0, 10).shown();
-        ScriptedPrompts user({refusal("Hibás minimum!", "Hiba")});
+        ScriptedPrompts user({refusal("Hibás minimum!", "Hiba"), refusal("Hibás maximum!", "Hiba")});
         f.box->setProperty("Min", 6.0);
+        f.box->setProperty("Max", 4.0);
+        QCOMPARE(f.box->txtCombo->toolTip(), QStringLiteral("0 és 10 közé eső érték!"));
+        f.box->setProperty("Min", 5.0);
         f.box->setProperty("Value", QStringLiteral("7"));
-        QCOMPARE(f.box->Min(), 0.0);
+        QCOMPARE(f.box->txtCombo->toolTip(), QStringLiteral("5 és 10 közé eső érték!"));
         QCOMPARE(f.raised, QStringList{"Change 7"});
     }
 

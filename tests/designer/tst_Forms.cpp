@@ -5,6 +5,7 @@
 #include "controls/usLays.h"
 #include "facade/services/Language.h"
 #include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
 
 #include "ui_AttributeForm.h"
 
@@ -49,64 +50,33 @@ const QVariant kFont = QFont(QStringLiteral("DejaVu Serif"), 17);
 Values previewValues(Values own)
 {
     const Values shared{{"BackColor", QColor::fromRgba(0x80000005)},
-                        {"BorderStyle", 1},
-                        {"Zoom", 12.5},
-                        {"SidId", 32000},
-                        {"SiColor", QColor(0x11, 0x22, 0x33)},
-                        {"VisibleGrid", true},
-                        {"VisibleZoom", false},
-                        {"Appearance", 1},
-                        {"VisibleProt", true},
-                        {"VisibleFrame", true},
+                        {"BorderStyle", 1}, {"Zoom", 12.5}, {"SidId", 32000},
+                        {"SiColor", QColor(0x11, 0x22, 0x33)}, {"VisibleGrid", true}, {"VisibleZoom", false},
+                        {"Appearance", 1}, {"VisibleProt", true}, {"VisibleFrame", true},
                         {"ToolTipSid", QStringLiteral("ő & <=>")}};
     own.insert(own.end(), shared.begin(), shared.end());
     return own;
 }
 
-const std::vector<Control> &controls()
-{
-    static const Values layerSet{{"Backcolor", QColor(0x11, 0x22, 0x33)},
-                                 {"Font", kFont},
-                                 {"SingleLine", true},
-                                 {"WidthDiferent", -12.5}};
-    static const QStringList kept{"sLays", "sLayGroup"};
-    static const std::vector<Control> all{
-        {"usInputBox",
-         {{"Backcolor", QColor(0x11, 0x22, 0x33)},
-          {"ForeColor", QColor::fromRgba(0x80000012)},
-          {"Enabled", false},
-          {"Font", kFont},
-          {"BorderStyle", 1},
-          {"BeforeString", QStringLiteral("ő & <=>")},
-          {"Value", QStringLiteral("12.25")},
-          {"Min", 11.5},
-          {"Max", 13.125},
-          {"FormatString", QStringLiteral("#,##0.0 \"m\"")},
-          {"WidthBeforeString", 100},
-          {"AfterString", QStringLiteral("cm")},
-          {"InfoMode", true},
-          {"BeforeStringAlign", 2},
-          {"WidthValue", 2345},
-          {"WidthAfterString", 678},
-          {"TimerInterval", 77},
-          {"SetFocusNextTabIndex", 4},
-          {"SetFucusBackTabIndex", 5},
-          {"InputType", 3},
-          {"AutoSelect", false},
-          {"UpDownInc", 0.25},
-          {"UpDownVisible", true},
-          {"LenMax", 9},
-          {"ReadsLocale", true},
-          {"ErrorsInPlace", true}}},
-        {"ZOL3_LayGroup", layerSet, kept},
-        {"usLays", layerSet, kept},
-        {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
-        {"usSiInfo", previewValues({{"ShowEnabled", false}})},
-        {"ZOL3_SiInfo", previewValues({})},
-        {"usTxAlign", {{"Align", 8}}},
-    };
-    return all;
-}
+const Values kLayerSet{{"Backcolor", QColor(0x11, 0x22, 0x33)}, {"Font", kFont}, {"SingleLine", true},
+                       {"WidthDiferent", -12.5}};
+const QStringList kKept{"sLays", "sLayGroup"};
+const std::vector<Control> kControls{ // table
+    {"usInputBox",
+     {{"Backcolor", QColor(0x11, 0x22, 0x33)},
+      {"ForeColor", QColor::fromRgba(0x80000012)}, {"Enabled", false}, {"Font", kFont}, {"BorderStyle", 1},
+      {"BeforeString", QStringLiteral("ő & <=>")}, {"Value", QStringLiteral("12.25")}, {"Min", 11.5},
+      {"Max", 13.125}, {"FormatString", QStringLiteral("#,##0.0 \"m\"")}, {"WidthBeforeString", 100},
+      {"AfterString", QStringLiteral("cm")}, {"InfoMode", true}, {"BeforeStringAlign", 2},
+      {"WidthValue", 2345}, {"WidthAfterString", 678}, {"TimerInterval", 77}, {"SetFocusNextTabIndex", 4},
+      {"SetFucusBackTabIndex", 5}, {"InputType", 3}, {"AutoSelect", false}, {"UpDownInc", 0.25},
+      {"UpDownVisible", true}, {"LenMax", 9}, {"ReadsLocale", true},
+      {"ErrorsInPlace", true}}},
+    {"ZOL3_LayGroup", kLayerSet, kKept}, {"usLays", kLayerSet, kKept},
+    {"ZOL3_LayInfo", {{"Enabled", false}, {"Font", kFont}, {"InfoMode", true}, {"VisibleIcon", true}}},
+    {"usSiInfo", previewValues({{"ShowEnabled", false}})}, {"ZOL3_SiInfo", previewValues({})},
+    {"usTxAlign", {{"Align", 8}}},
+};
 
 QString className(const Control &control)
 {
@@ -162,6 +132,7 @@ QString said(const QVariant &value)
 void holdsValues(QWidget *form, const Control &control)
 {
     QVERIFY(form);
+    tests::ScriptedPrompts silent;
     const QWidget *const found = form->findChild<QWidget *>(QStringLiteral("control"));
     QVERIFY(found);
     QCOMPARE(QLatin1String(found->metaObject()->className()), className(control));
@@ -257,11 +228,11 @@ private slots:
     void thePluginOffersEveryControl()
     {
         const auto all = offered();
-        QCOMPARE(all.size(), qsizetype(controls().size()));
+        QCOMPARE(all.size(), qsizetype(kControls.size()));
         QStringList tips;
-        for (size_t i = 0; i < controls().size(); ++i) {
+        for (size_t i = 0; i < kControls.size(); ++i) {
             const auto &offer = *all[qsizetype(i)];
-            QCOMPARE(offer.name(), className(controls()[i]));
+            QCOMPARE(offer.name(), className(kControls[i]));
             QVERIFY(!offer.icon().pixmap(22, 22).isNull());
             QVERIFY(offer.domXml().contains(offer.name()));
             for (const int language : {Hungarian, English, Romanian, Vietnamese}) {
@@ -275,7 +246,7 @@ private slots:
             const QImage picture = preview->grab().toImage();
             QImage blank(picture.size(), picture.format());
             blank.fill(picture.pixel(0, 0));
-            QVERIFY2(picture != blank, controls()[i].name);
+            QVERIFY2(picture != blank, kControls[i].name);
         }
         QVERIFY(!tips.contains(QString()));
         QCOMPARE(tips.removeDuplicates(), 0);
@@ -284,12 +255,12 @@ private slots:
     void aSavedFormLoadsBackInEveryOrder_data()
     {
         QTest::addColumn<int>("control");
-        for (size_t i = 0; i < controls().size(); ++i) QTest::newRow(controls()[i].name) << int(i);
+        for (size_t i = 0; i < kControls.size(); ++i) QTest::newRow(kControls[i].name) << int(i);
     }
     void aSavedFormLoadsBackInEveryOrder()
     {
         QFETCH(int, control);
-        const Control &c = controls()[size_t(control)];
+        const Control &c = kControls[size_t(control)];
         const QByteArray form = Designer(*m_engine, c).saved();
         std::mt19937 random(7);
         for (int turn = 0; turn < 12; ++turn) holdsValues(loaded(shuffled(form, random), turn % 2).get(), c);
@@ -299,7 +270,7 @@ private slots:
     void theDesignerShowsAndKeepsEveryProperty()
     {
         QFETCH(int, control);
-        const Control &c = controls()[size_t(control)];
+        const Control &c = kControls[size_t(control)];
         const Designer designer(*m_engine, c);
         QWidget *const made = designer.control;
         QVERIFY(made && isDesigned(*made));
@@ -322,7 +293,7 @@ private slots:
     void thePropertyEditorMaySetThemInAnyOrder()
     {
         QFETCH(int, control);
-        Control c = controls()[size_t(control)];
+        Control c = kControls[size_t(control)];
         std::erase_if(c.values, [](const auto &v) { return v.second.typeId() == QMetaType::QString; });
         std::mt19937 random(11);
         for (int turn = 0; turn < 5; ++turn) {

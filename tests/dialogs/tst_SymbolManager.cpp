@@ -208,6 +208,7 @@ private slots:
         m_form->open(
             MODE_EDIT,
             [&](frmSupSid &f) {
+                run(f, "cmdByGroups"); // all are listed
                 for (const int number : {1, 2}) {
                     select(f, number);
                     run(f, "cmdSid_SaveFile");

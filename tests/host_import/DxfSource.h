@@ -11,6 +11,11 @@
 /// Small drawings written as rows, and what an import makes of them as text.
 namespace source {
 
+inline const QByteArray kLayers =
+    "0 TABLE|2 LAYER|0 LAYER|2 0|70 0|62 7|6 CONTINUOUS|0 LAYER|2 A|70 0|62 3|6 CONTINUOUS|0 ENDTAB";
+inline const QByteArray kStyle =
+    "0 TABLE|2 STYLE|0 STYLE|2 STANDARD|70 0|40 0|41 1|50 0|71 0|42 2|3 arial.ttf|4 |0 ENDTAB";
+
 /// "0 LINE|8 0|10 1.5": one group each; a blank parts code and value.
 inline QByteArray groups(const QByteArray &rows)
 {
@@ -72,6 +77,17 @@ inline QString dump(const refhost::Element &e)
     return s.replace(u'\n', u'/');
 }
 
+/// What the act complains about; empty when it does not.
+template <class Act> QString errorOf(Act act)
+{
+    try {
+        act();
+    } catch (const refhost::DocumentError &e) {
+        return e.text();
+    }
+    return {};
+}
+
 /// One imported drawing at 1:1000, a unit being a metre.
 struct Imported {
     std::unique_ptr<refhost::SqliteDoc> doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
@@ -81,11 +97,11 @@ struct Imported {
         const QTemporaryDir folder;
         report = refhost::DxfImport::write(refhost::DxfImport::parse(written(folder, bytes)), *doc, options);
     }
-    QStringList elements() const
+    QString elements() const                    ///< each as a text, " | " between them
     {
         QStringList all;
         for (const refhost::Element &e : doc->elements()) all << dump(e);
-        return all;
+        return all.join(QStringLiteral(" | "));
     }
     refhost::KindTally tally(const char *kind) const
     {

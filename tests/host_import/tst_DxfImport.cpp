@@ -1,21 +1,107 @@
 #include "DxfSource.h"
 
 #include "support/Registry.h"
-
-#include <QtTest/QTest>
+#include "support/Same.h"
 
 #include <numbers>
 
 using namespace refhost;
 using source::Dxf;
 using source::Imported;
+using source::kLayers;
+using source::kStyle;
+using tests::same;
 
 namespace {
 
-const QByteArray kTable =
-    "0 TABLE|2 LAYER|0 LAYER|2 0|70 0|62 7|6 CONTINUOUS|0 LAYER|2 A|70 0|62 3|6 CONTINUOUS|0 ENDTAB";
-const QByteArray kStyle =
-    "0 TABLE|2 STYLE|0 STYLE|2 STANDARD|70 0|40 0|41 1|50 0|71 0|42 2|3 arial.ttf|4 |0 ENDTAB";
+/// An entity, and the elements it becomes.
+struct Row {
+    const char *name, *entity, *elements;
+};
+constexpr Row kShapes[] = {
+    {"line", "0 LINE|8 A|10 1|20 2|30 9|11 3|21 4", "Line l2 p-1 1,2 3,4"},
+    {"point", "0 POINT|8 A|62 1|10 1|20 2", "Point l2 p1 1,2"},
+    {"arc", "0 ARC|8 A|10 0|20 0|40 1|50 0|51 90", "Line l2 p-1 1,0b0.4142 0,1"},
+    {"arc through zero", "0 ARC|8 A|10 0|20 0|40 1|50 270|51 0", "Line l2 p-1 0,-1b0.4142 1,0"},
+    {"long arc", "0 ARC|8 A|10 0|20 0|40 1|50 0|51 270", "Line l2 p-1 1,0b0.6682 -0.7071,0.7071b0.6682 0,-1"},
+    {"arc seen from below", "0 ARC|8 A|10 5|20 0|40 1|50 0|51 90|230 -1", "Line l2 p-1 -6,0b-0.4142 -5,1"},
+    {"circle", "0 CIRCLE|8 A|10 1|20 1|40 2", "Line l2 p-1 -1,1b1 3,1b1 closed"},
+    {"tilted circle", "0 CIRCLE|8 A|10 0|20 0|40 2|210 1|220 0|230 0", "Ellipse l2 p-1 0,0 0,2 r0 0..0"},
+    {"ellipse", "0 ELLIPSE|8 A|10 1|20 1|11 4|21 0|40 0.5|41 0|42 6.283185307179586",
+     "Ellipse l2 p-1 1,1 4,0 r0.5 0..0"},
+    {"part of an ellipse from below", "0 ELLIPSE|8 A|10 0|20 0|11 4|21 0|40 0.5|41 0|42 1|230 -1",
+     "Ellipse l2 p-1 0,0 4,0 r0.5 -1..0"},
+    {"light polyline", "0 LWPOLYLINE|8 A|90 3|70 1|10 0|20 0|42 1|10 2|20 0|10 2|20 2",
+     "Line l2 p-1 0,0b1 2,0 2,2 closed"},
+    {"mirrored light polyline", "0 LWPOLYLINE|8 A|90 2|70 0|10 1|20 0|42 0.5|10 2|20 0|230 -1",
+     "Line l2 p-1 -1,0b-0.5 -2,0"},
+    {"old polyline", "0 POLYLINE|8 A|66 1|70 0|0 VERTEX|8 A|10 0|20 0|42 -1|0 VERTEX|8 A|10 1|20 0|0 SEQEND",
+     "Line l2 p-1 0,0b-1 1,0"},
+    {"smoothed polyline without its frame",
+     "0 POLYLINE|8 A|66 1|70 4|0 VERTEX|10 9|20 9|70 16|0 VERTEX|10 0|20 0|70 8|0 VERTEX|10 1|20 0|70 8|0 "
+     "SEQEND",
+     "Line l2 p-1 0,0 1,0"},
+    {"spatial polyline",
+     "0 POLYLINE|8 A|66 1|70 8|0 VERTEX|10 0|20 0|30 1|70 32|0 VERTEX|10 1|20 0|30 2|70 32|0 SEQEND",
+     "Line l2 p-1 0,0 1,0"},
+    {"mesh of faces",
+     "0 POLYLINE|8 A|66 1|70 64|71 3|72 1|0 VERTEX|10 0|20 0|70 192|0 VERTEX|10 1|20 0|70 192|0 VERTEX|10 "
+     "0|20 1|70 192|0 VERTEX|10 0|20 0|70 128|71 1|72 -2|73 3|0 SEQEND",
+     "Line l2 p-1 0,0 1,0 | Line l2 p-1 0,1 0,0"},
+    {"solid", "0 SOLID|8 A|10 0|20 0|11 1|21 0|12 0|22 1|13 1|23 1", "Fill l2 p-1 0,0 1,0 1,1 0,1"},
+    {"face", "0 3DFACE|8 A|10 0|20 0|11 1|21 0|12 1|22 1|13 1|23 1", "Line l2 p-1 0,0 1,0 1,1 closed"},
+    {"face with hidden edges", "0 3DFACE|8 A|10 0|20 0|11 1|21 0|12 1|22 1|13 0|23 1|70 13",
+     "Line l2 p-1 1,0 1,1"},
+    {"leader", "0 LEADER|8 A|76 2|10 0|20 0|10 1|20 1", "Line l2 p-1 0,0 1,1"},
+    {"straight spline", "0 SPLINE|8 A|70 8|71 1|72 4|73 2|74 0|40 0|40 0|40 1|40 1|10 0|20 0|10 8|20 0",
+     "Line l2 p-1 0,0 1,0 2,0 3,0 4,0 5,0 6,0 7,0 8,0"},
+    {"multiline",
+     "0 MLINE|8 A|2 S|40 1|70 0|71 1|72 2|73 2|10 0|20 0|11 0|21 0|12 1|22 0|13 0|23 1|74 2|41 1|41 0|75 "
+     "0|74 2|41 -1|41 0|75 0|11 5|21 0|12 1|22 0|13 0|23 1|74 2|41 1|41 0|75 0|74 2|41 -1|41 0|75 0",
+     "Line l2 p-1 0,1 5,1 | Line l2 p-1 0,-1 5,-1"},
+    {"byblock outside of blocks", "0 LINE|8 A|62 0|6 BYBLOCK|10 0|20 0|11 1|21 0", "Line l2 p7 t1 0,0 1,0"},
+};
+constexpr Row kTexts[] = {
+    {"left", "0 TEXT|8 A|10 1|20 2|40 3|1 a|50 90", "Text l2 p-1 1,2 h3 a24 90° 'a'"},
+    {"right", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 3|1 a|72 2", "Text l2 p-1 9,2 h3 a26 0° 'a'"},
+    {"top centre", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 3|1 a|72 1|73 3", "Text l2 p-1 9,2 h3 a6 0° 'a'"},
+    {"middle stands on its base line", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 2|1 a|72 4|50 90",
+     "Text l2 p-1 10,2 h2 a30 90° 'a'"},
+    {"fitted between points", "0 TEXT|8 A|10 0|20 0|11 3|21 3|40 2|1 a|72 5",
+     "Text l2 p-1 0,0 h2 a24 45° 'a'"},
+    {"seen from below", "0 TEXT|8 A|10 5|20 0|40 2|1 a|230 -1", "Text l2 p-1 -5,0 h2 a26 0° 'a'"},
+    {"rows, middle", "0 MTEXT|8 A|10 0|20 0|40 3|41 0|71 5|72 1|1 a\\Pb|7 STANDARD|11 0|21 1",
+     "Text l2 p-1 -4,0 h3 a6 90° 'a/b'"},
+    {"rows, bottom right, to the left", "0 MTEXT|8 A|10 0|20 0|40 3|71 9|1 a|11 -1|21 0",
+     "Text l2 p-1 0,-3 h3 a2 180° 'a'"},
+    {"long rows come in pieces", "0 MTEXT|8 A|10 0|20 0|40 1|71 1|3 first |3 second |1 last",
+     "Text l2 p-1 0,0 h1 a0 0° 'first second last'"},
+    {"attribute",
+     "0 INSERT|8 A|66 1|2 nothing|10 0|20 0|0 ATTRIB|8 A|10 1|20 1|40 2|1 12/3|2 NR|70 0|0 SEQEND",
+     "Text l2 p-1 1,1 h2 a24 0° '12/3'"},
+};
+
+const QByteArray kSquare = "91 1|92 2|72 0|73 1|93 4|10 0|20 0|10 4|20 0|10 4|20 4|10 0|20 4|97 0|";
+constexpr char kFrame[] = "Line l1 p-1 0,0 4,0 4,4 0,4 closed";
+const std::tuple<const char *, QByteArray, const char *, int> kHatches[] = {
+    {"polyline, seeds are no boundary",
+     "70 1|" + kSquare + "75 0|76 1|98 4|10 0|20 0|10 1|20 1|10 2|20 2|10 3|20 3",
+     "Fill l1 p-1 0,0 4,0 4,4 0,4", 1},
+    {"island of edges given in any direction",
+     "70 1|91 2|92 2|72 0|73 1|93 3|10 0|20 0|10 9|20 0|10 0|20 9|97 0|92 0|93 3|72 1|10 1|20 1|11 2|21 1|72 "
+     "1|"
+     "10 1|20 2|11 2|21 1|72 1|10 1|20 2|11 1|21 1|97 0|75 0|76 1",
+     "Fill l1 p-1 0,0 9,0 0,9 1,1 2,1 2,1 1,2 1,2 ring0 ring3", 1},
+    {"pattern, cut at the boundary",
+     "70 0|" + kSquare + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0.5|45 0|46 1|79 0|98 0",
+     "Line l1 p-1 0,0.5 4,0.5", 4},
+    {"dashes of a pattern run on from its base",
+     "70 0|" + kSquare + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 1|44 2|45 0|46 100|79 2|49 1|49 -1|98 0",
+     "Line l1 p-1 1,2 2,2", 2},
+    {"pattern that is missing", "70 0|" + kSquare + "75 0|76 1", kFrame, 1},
+    {"pattern too fine to draw",
+     "70 0|" + kSquare + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0|45 0|46 0.0001|79 0|98 0", kFrame, 1},
+};
 
 } // namespace
 
@@ -60,7 +146,7 @@ private slots:
             rows << p.Name + u' ' + lengths.join(u'-');
         }
         QCOMPARE(rows, (QStringList{"Continuous ", "GAS 0.25-0.25", QStringLiteral("GAS ×2 0.5-0.5")}));
-        QCOMPARE(in.elements(), (QStringList{"Line l1 p-1 t3 0,0 0.001,0", "Line l1 p-1 t2 0,0 0.001,0"}));
+        QCOMPARE(in.elements(), "Line l1 p-1 t3 0,0 0.001,0 | Line l1 p-1 t2 0,0 0.001,0");
     }
 
     void layerSwitchesAreOnWhereEverythingFollowsTheLayer()
@@ -77,103 +163,20 @@ private slots:
         QCOMPARE(rows, (QStringList{"plain 1 0", "own 0 1", "0 1 1"}));
     }
 
-    void shapesAreTakenOver_data()
-    {
-        QTest::addColumn<QByteArray>("entity");
-        QTest::addColumn<QStringList>("elements");
-        const auto row = [](const char *name, const char *entity, const QStringList &elements) {
-            QTest::newRow(name) << QByteArray(entity) << elements;
-        };
-        row("line", "0 LINE|8 A|10 1|20 2|30 9|11 3|21 4", {"Line l2 p-1 1,2 3,4"});
-        row("point", "0 POINT|8 A|62 1|10 1|20 2", {"Point l2 p1 1,2"});
-        row("arc", "0 ARC|8 A|10 0|20 0|40 1|50 0|51 90", {"Line l2 p-1 1,0b0.4142 0,1"});
-        row("arc through zero", "0 ARC|8 A|10 0|20 0|40 1|50 270|51 0", {"Line l2 p-1 0,-1b0.4142 1,0"});
-        row("long arc", "0 ARC|8 A|10 0|20 0|40 1|50 0|51 270",
-            {"Line l2 p-1 1,0b0.6682 -0.7071,0.7071b0.6682 0,-1"});
-        row("arc seen from below", "0 ARC|8 A|10 5|20 0|40 1|50 0|51 90|230 -1",
-            {"Line l2 p-1 -6,0b-0.4142 -5,1"});
-        row("circle", "0 CIRCLE|8 A|10 1|20 1|40 2", {"Line l2 p-1 -1,1b1 3,1b1 closed"});
-        row("tilted circle", "0 CIRCLE|8 A|10 0|20 0|40 2|210 1|220 0|230 0",
-            {"Ellipse l2 p-1 0,0 0,2 r0 0..0"});
-        row("ellipse", "0 ELLIPSE|8 A|10 1|20 1|11 4|21 0|40 0.5|41 0|42 6.283185307179586",
-            {"Ellipse l2 p-1 1,1 4,0 r0.5 0..0"});
-        row("part of an ellipse from below", "0 ELLIPSE|8 A|10 0|20 0|11 4|21 0|40 0.5|41 0|42 1|230 -1",
-            {"Ellipse l2 p-1 0,0 4,0 r0.5 -1..0"});
-        row("light polyline", "0 LWPOLYLINE|8 A|90 3|70 1|10 0|20 0|42 1|10 2|20 0|10 2|20 2",
-            {"Line l2 p-1 0,0b1 2,0 2,2 closed"});
-        row("mirrored light polyline", "0 LWPOLYLINE|8 A|90 2|70 0|10 1|20 0|42 0.5|10 2|20 0|230 -1",
-            {"Line l2 p-1 -1,0b-0.5 -2,0"});
-        row("old polyline",
-            "0 POLYLINE|8 A|66 1|70 0|0 VERTEX|8 A|10 0|20 0|42 -1|0 VERTEX|8 A|10 1|20 0|0 SEQEND",
-            {"Line l2 p-1 0,0b-1 1,0"});
-        row("smoothed polyline without its frame",
-            "0 POLYLINE|8 A|66 1|70 4|0 VERTEX|10 9|20 9|70 16|0 VERTEX|10 0|20 0|70 8|0 VERTEX|10 1|20 0|70 "
-            "8|0 SEQEND",
-            {"Line l2 p-1 0,0 1,0"});
-        row("spatial polyline",
-            "0 POLYLINE|8 A|66 1|70 8|0 VERTEX|10 0|20 0|30 1|70 32|0 VERTEX|10 1|20 0|30 2|70 32|0 SEQEND",
-            {"Line l2 p-1 0,0 1,0"});
-        row("mesh of faces",
-            "0 POLYLINE|8 A|66 1|70 64|71 3|72 1|0 VERTEX|10 0|20 0|70 192|0 VERTEX|10 1|20 0|70 192|0 "
-            "VERTEX|10 0|20 1|"
-            "70 192|0 VERTEX|10 0|20 0|70 128|71 1|72 -2|73 3|0 SEQEND",
-            {"Line l2 p-1 0,0 1,0", "Line l2 p-1 0,1 0,0"});
-        row("solid", "0 SOLID|8 A|10 0|20 0|11 1|21 0|12 0|22 1|13 1|23 1", {"Fill l2 p-1 0,0 1,0 1,1 0,1"});
-        row("face", "0 3DFACE|8 A|10 0|20 0|11 1|21 0|12 1|22 1|13 1|23 1",
-            {"Line l2 p-1 0,0 1,0 1,1 closed"});
-        row("face with hidden edges", "0 3DFACE|8 A|10 0|20 0|11 1|21 0|12 1|22 1|13 0|23 1|70 13",
-            {"Line l2 p-1 1,0 1,1"});
-        row("leader", "0 LEADER|8 A|76 2|10 0|20 0|10 1|20 1", {"Line l2 p-1 0,0 1,1"});
-        row("straight spline",
-            "0 SPLINE|8 A|70 8|71 1|72 4|73 2|74 0|40 0|40 0|40 1|40 1|10 0|20 0|10 8|20 0",
-            {"Line l2 p-1 0,0 1,0 2,0 3,0 4,0 5,0 6,0 7,0 8,0"});
-        row("multiline",
-            "0 MLINE|8 A|2 S|40 1|70 0|71 1|72 2|73 2|10 0|20 0|11 0|21 0|12 1|22 0|13 0|23 1|74 2|41 1|41 "
-            "0|75 0|"
-            "74 2|41 -1|41 0|75 0|11 5|21 0|12 1|22 0|13 0|23 1|74 2|41 1|41 0|75 0|74 2|41 -1|41 0|75 0",
-            {"Line l2 p-1 0,1 5,1", "Line l2 p-1 0,-1 5,-1"});
-        row("byblock outside of blocks", "0 LINE|8 A|62 0|6 BYBLOCK|10 0|20 0|11 1|21 0",
-            {"Line l2 p7 t1 0,0 1,0"});
-    }
     void shapesAreTakenOver()
     {
-        QFETCH(QByteArray, entity);
-        QTEST(Imported(Dxf{.tables = kTable, .entities = entity}.bytes()).elements(), "elements");
+        for (const auto &[name, entity, elements] : kShapes)
+            same(name, Imported(Dxf{.tables = kLayers, .entities = entity}.bytes()).elements(), elements);
     }
 
-    void hatchesKeepTheirRings_data()
-    {
-        QTest::addColumn<QByteArray>("rest");
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<int>("count");
-        const QByteArray square = "91 1|92 2|72 0|73 1|93 4|10 0|20 0|10 4|20 0|10 4|20 4|10 0|20 4|97 0|";
-        const QByteArray seeds = "98 4|10 0|20 0|10 1|20 1|10 2|20 2|10 3|20 3";
-        QTest::newRow("polyline, seeds are no boundary") << "70 1|" + square + "75 0|76 1|" + seeds
-                                                         << "Fill l1 p-1 0,0 4,0 4,4 0,4" << 1;
-        QTest::newRow("island of edges given in any direction")
-            << QByteArray("70 1|91 2|92 2|72 0|73 1|93 3|10 0|20 0|10 9|20 0|10 0|20 9|97 0|92 0|93 3|72 "
-                          "1|10 1|20 1|11 2|21 1|72 1|"
-                          "10 1|20 2|11 2|21 1|72 1|10 1|20 2|11 1|21 1|97 0|75 0|76 1")
-            << "Fill l1 p-1 0,0 9,0 0,9 1,1 2,1 2,1 1,2 1,2 ring0 ring3" << 1;
-        QTest::newRow("pattern, cut at the boundary")
-            << "70 0|" + square + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0.5|45 0|46 1|79 0|98 0"
-            << "Line l1 p-1 0,0.5 4,0.5" << 4;
-        QTest::newRow("dashes of a pattern run on from its base")
-            << "70 0|" + square
-                   + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 1|44 2|45 0|46 100|79 2|49 1|49 -1|98 0"
-            << "Line l1 p-1 1,2 2,2" << 2;
-        QTest::newRow("pattern that is missing") << "70 0|" + square + "75 0|76 1"
-                                                 << "Line l1 p-1 0,0 4,0 4,4 0,4 closed" << 1;
-        QTest::newRow("pattern too fine to draw")
-            << "70 0|" + square + "75 0|76 1|52 0|41 1|77 0|78 1|53 0|43 0|44 0|45 0|46 0.0001|79 0|98 0"
-            << "Line l1 p-1 0,0 4,0 4,4 0,4 closed" << 1;
-    }
     void hatchesKeepTheirRings()
     {
-        QFETCH(QByteArray, rest);
-        const Imported in(Dxf{.entities = "0 HATCH|8 0|10 0|20 0|30 0|2 P|" + rest}.bytes());
-        QTEST(int(in.elements().size()), "count");
-        QTEST(in.elements().value(0), "first");
+        for (const auto &[name, rest, first, count] : kHatches) {
+            const Imported in(Dxf{.entities = "0 HATCH|8 0|10 0|20 0|30 0|2 P|" + rest}.bytes());
+            const QStringList elements = in.elements().split(" | ");
+            same(name, int(elements.size()), count);
+            same(name, elements.first(), first);
+        }
     }
 
     void aRoundEdgeOfAHatchStaysWithinItsTolerance()
@@ -193,38 +196,11 @@ private slots:
         QVERIFY(std::abs(area - 4 * std::numbers::pi) < 0.03);
     }
 
-    void textsStandWhereTheyStood_data()
-    {
-        QTest::addColumn<QByteArray>("entity");
-        QTest::addColumn<QString>("element");
-        const auto row = [](const char *name, const char *entity, const char *element) {
-            QTest::newRow(name) << QByteArray(entity) << QString::fromUtf8(element);
-        };
-        row("left", "0 TEXT|8 A|10 1|20 2|40 3|1 a|50 90", "Text l2 p-1 1,2 h3 a24 90° 'a'");
-        row("right", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 3|1 a|72 2", "Text l2 p-1 9,2 h3 a26 0° 'a'");
-        row("top centre", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 3|1 a|72 1|73 3",
-            "Text l2 p-1 9,2 h3 a6 0° 'a'");
-        row("middle stands on its base line", "0 TEXT|8 A|10 1|20 2|11 9|21 2|40 2|1 a|72 4|50 90",
-            "Text l2 p-1 10,2 h2 a30 90° 'a'");
-        row("fitted between points", "0 TEXT|8 A|10 0|20 0|11 3|21 3|40 2|1 a|72 5",
-            "Text l2 p-1 0,0 h2 a24 45° 'a'");
-        row("seen from below", "0 TEXT|8 A|10 5|20 0|40 2|1 a|230 -1", "Text l2 p-1 -5,0 h2 a26 0° 'a'");
-        row("rows, middle", "0 MTEXT|8 A|10 0|20 0|40 3|41 0|71 5|72 1|1 a\\Pb|7 STANDARD|11 0|21 1",
-            "Text l2 p-1 -4,0 h3 a6 90° 'a/b'");
-        row("rows, bottom right, to the left", "0 MTEXT|8 A|10 0|20 0|40 3|71 9|1 a|11 -1|21 0",
-            "Text l2 p-1 0,-3 h3 a2 180° 'a'");
-        row("long rows come in pieces", "0 MTEXT|8 A|10 0|20 0|40 1|71 1|3 first |3 second |1 last",
-            "Text l2 p-1 0,0 h1 a0 0° 'first second last'");
-        row("attribute",
-            "0 INSERT|8 A|66 1|2 nothing|10 0|20 0|0 ATTRIB|8 A|10 1|20 1|40 2|1 12/3|2 NR|70 0|0 SEQEND",
-            "Text l2 p-1 1,1 h2 a24 0° '12/3'");
-    }
     void textsStandWhereTheyStood()
     {
-        QFETCH(QByteArray, entity);
-        const Imported in(Dxf{.tables = kTable + "|" + kStyle, .entities = entity}.bytes());
-        QCOMPARE(in.elements().size(), 1);
-        QTEST(in.elements().first(), "element");
+        for (const auto &[name, entity, element] : kTexts)
+            same(name, Imported(Dxf{.tables = kLayers + "|" + kStyle, .entities = entity}.bytes()).elements(),
+                 element);
     }
 
     void aTextWiderThanItsStyleGetsATypeOfItsOwn()
@@ -257,7 +233,7 @@ private slots:
                 .entities = "0 LINE|8 \xEA\xEE\xEB\xEE\xE4\xE5\xF6|10 0|20 0|11 1|21 0"}
                 .bytes());
         QCOMPARE(in.doc->layers().readAll().front().Name, QStringLiteral("Колодец"));
-        QCOMPARE(in.elements(), QStringList{"Line l1 p-1 0,0 1,0"});   // names are found in any case
+        QCOMPARE(in.elements(), "Line l1 p-1 0,0 1,0");   // names are found in any case
     }
 };
 

@@ -1,7 +1,7 @@
 #include "facade/services/Language.h"
-#include "facade/services/Services.h"
 #include "facade/services/Text.h"
 #include "facade/services/clsDebug.h"
+#include "services/SampleHost.h"
 #include "support/Registry.h"
 
 #include <QCoreApplication>
@@ -9,35 +9,6 @@
 #include <QTest>
 
 using namespace QV_DOC_CONTROLS;
-
-namespace {
-
-struct Settings final : ZolWDoc::SettingsService {
-    mutable int asked = 0, olderReads = 0;
-    int version() const override { return ++asked, 5; }
-    bool readBool(const QString &, const QString &, bool) const override { return ++olderReads, false; }
-    void readBool(const QString &section, const QString &key, bool fallback, bool &result) const override
-    {
-        result =
-            section == QLatin1String("setup") && key == QLatin1String("ShowTooltipsOnGrid") ? true : fallback;
-    }
-};
-struct BrokenStore final : ZolWDoc::SettingsStore {
-    QString read(const QString &, const QString &, const QString &, const QString &) const override
-    {
-        throw 1;
-    }
-    void write(const QString &, const QString &, const QString &, const QString &) override { throw 1; }
-    void remove(const QString &, const QString &, const QString &) override { throw 1; }
-};
-struct Host final : ZolWDoc::HostServices {
-    Settings own;
-    BrokenStore broken;
-    ZolWDoc::SettingsService *settings() override { return &own; }
-    ZolWDoc::SettingsStore *store() override { return &broken; }
-};
-
-} // namespace
 
 /// What is decided at the first use in a process; so these run in a process of their own.
 class tst_FirstUse : public QObject {
@@ -47,42 +18,28 @@ private slots:
     {
         if (currentLanguage() != 0) QSKIP("the texts are loaded already: run this class alone");
     }
-    void cleanup() { setHostServices(nullptr); }
-
     void aDevelopmentFileBesideTheProgramGoesFirst()
     {
-        const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/QV_DOC_CONTROLS.res");
-        QFile file(path);
+        QFile file(QCoreApplication::applicationDirPath() + "/QV_DOC_CONTROLS.res");
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("1038\t3165\tPróba\\nszöveg\r\n2057\t3165\tTrial\r\nx\t1\ty\r\n1038\tnone\ty\r\n");
         file.close();
         qputenv("QV_DOC_CONTROLS_DEVELOPMENT", "1");
         const clsDebug debug;                           // makes sure that the texts are loaded
-        QFile::remove(path);
+        file.remove();
         QCOMPARE(currentLanguage(), int(Hungarian));
-        QCOMPARE(txt(Text{3165, u"Rétegválasztó"}), QStringLiteral("Próba\nszöveg"));
-        QCOMPARE(txt(Text{3299, u"Rétegnév"}), QStringLiteral("Rétegnév"));
+        QCOMPARE(txt(Text{3165, u"Rétegválasztó"}), "Próba\nszöveg");
+        QCOMPARE(txt(Text{3299, u"Rétegnév"}), "Rétegnév");
         setLanguage(English, {});
-        QCOMPARE(txt(Text{3165, u"Rétegválasztó"}), QStringLiteral("Trial"));
-        QCOMPARE(debug.sComponentName(), QStringLiteral("ZolWOp"));
+        QCOMPARE(txt(Text{3165, u"Rétegválasztó"}), "Trial");
+        QCOMPARE(debug.sComponentName(), "ZolWOp");
     }
     void settingsAreReadTheNewWayFromVersionFiveOn()
     {
-        Host host;
-        setHostServices(&host);
-        QVERIFY(readBoolSetting(QStringLiteral("setup"), QStringLiteral("ShowTooltipsOnGrid"), false));
-        QVERIFY(!readBoolSetting(QStringLiteral("setup"), QStringLiteral("OldStyleSetupForms"), false));
-        QCOMPARE(host.own.asked, 1);
-        QCOMPARE(host.own.olderReads, 0);
-    }
-    void aBrokenStoreIsNobodysTrouble()
-    {
-        Host host;
-        setHostServices(&host);
-        const QString a = QStringLiteral("a");
-        settingsStore().write(a, a, a, a);
-        settingsStore().remove(a, a, a);
-        QCOMPARE(settingsStore().read(a, a, a, QStringLiteral("fallback")), QStringLiteral("fallback"));
+        const tests::SampleHost host(5);
+        for (int n = 0; n < 2; ++n) QVERIFY(readBoolSetting("setup", "ShowTooltipsOnGrid", false));
+        QCOMPARE(host.versionsRead, 1);
+        QCOMPARE(host.reads, QStringList(2, "new setup/ShowTooltipsOnGrid"));
     }
 };
 

@@ -67,8 +67,7 @@ private slots:
             int preset = 1;
         };
         const Row rows[] = {{kTwo, pressed({Qt::Key_Return}), 1},
-                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0},
-                            {kTwo, clicked("optItem0"), 0},
+                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0}, {kTwo, clicked("optItem0"), 0},
                             {kTwo, pressed({Qt::Key_Up, Qt::Key_Escape}), {}},
                             {kFour, pressed({Qt::Key_Return}), 1},
                             {kFour, pressed({Qt::Key_S, Qt::Key_Return}), 3}, // by its first letter

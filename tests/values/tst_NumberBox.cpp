@@ -124,14 +124,11 @@ private slots:
             const char *why = "";               // empty = taken
         };
         for (const auto &[typed, decimals, why] : {Row{"-1,5", 2},
-                                                   {"100", 2},
-                                                   {"-1,51", 2, "A szám túl kicsi."},
+                                                   {"100", 2}, {"-1,51", 2, "A szám túl kicsi."},
                                                    {"100,01", 2, "A szám túl nagy."},
                                                    {"0,125", 2, "A tizedesjegyek száma legfeljebb 2."},
-                                                   {"0,12", 2},
-                                                   {"0,1200", 2},
-                                                   {"1,5", 0, "Egész számot írj be!"},
-                                                   {"1,0", 0},
+                                                   {"0,12", 2}, {"0,1200", 2},
+                                                   {"1,5", 0, "Egész számot írj be!"}, {"1,0", 0},
                                                    {"x", 0, "Írj be egy számot!"}}) {
             const NumberField field{
                 .min = -1.5, .max = 100, .decimals = decimals, .unit = QStringLiteral("mm")};

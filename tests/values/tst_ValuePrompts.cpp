@@ -75,9 +75,7 @@ private slots:
         const QString asked = QStringLiteral("A keresett érték:"), preset = QStringLiteral("Épület");
         const QStringList items{"Gáz", "Épület", "Út"};
         for (const auto &[typed, answer, ofLine, key] : {Row{"\r", preset},
-                                                         {"őrház\r", "őrház"},
-                                                         {"é\r", "é"},
-                                                         {"7\x1b", {}},
+                                                         {"őrház\r", "őrház"}, {"é\r", "é"}, {"7\x1b", {}},
                                                          {"\r", "", true, Qt::Key_Delete},
                                                          {"\r", "Út", false, Qt::Key_Down},
                                                          {"\r", "Gáz", false, Qt::Key_Up}})

@@ -1,63 +1,53 @@
 #include "dialogs/viewtools/frmChooseList.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
+#include "support/Same.h"
 
 #include <QListWidget>
 #include <QPushButton>
-#include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
-using tests::whileModal;
 
-using Act = std::function<void(frmChooseList &)>;
-Q_DECLARE_METATYPE(Act)
+namespace {
+struct Names final : EntrySource {
+    QStringList names;
+    explicit Names(QStringList n) : names(std::move(n)) {}
+    QStringList entries() const override { return names; }
+};
+} // namespace
 
 class tst_frmChooseList : public QObject {
     Q_OBJECT
-private:
-    struct Names final : EntrySource {
-        QStringList names;
-        explicit Names(QStringList n) : names(std::move(n)) {}
-        QStringList entries() const override { return names; }
-    };
 private slots:
-    void theIndexIsThatOfTheChosenEntry_data()
+    void theIndexIsThatOfTheChosenEntry()
     {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<int>("index");
-        const QStringList three{QStringLiteral("kereszt"), QStringLiteral("kör"), QStringLiteral("kör")};
-        QTest::newRow("first at once") << three << Act([](frmChooseList &d) { d.cmdOk->click(); }) << 0;
-        QTest::newRow("last, the same text as another") << three << Act([](frmChooseList &d) {
-            d.lstKh->setCurrentRow(2);
-            d.cmdOk->click();
-        }) << 2;
-        QTest::newRow("by keys") << three << Act([](frmChooseList &d) {
+        using Act = std::function<void(frmChooseList &)>;
+        const QStringList three{"kereszt", "kör", "kör"};
+        const Act ok = [](frmChooseList &d) { d.cmdOk->click(); };
+        const Act byKeys = [](frmChooseList &d) {
             QTest::keyClick(d.focusWidget(), Qt::Key_Down);
             QTest::keyClick(d.focusWidget(), Qt::Key_Return);
-        }) << 1;
-        QTest::newRow("double click") << three << Act([](frmChooseList &d) {
+        };
+        const Act byMouse = [](frmChooseList &d) {
             const QPoint at = d.lstKh->visualItemRect(d.lstKh->item(1)).center();
             QTest::mouseClick(d.lstKh->viewport(), Qt::LeftButton, {}, at);
             QTest::mouseDClick(d.lstKh->viewport(), Qt::LeftButton, {}, at);
-        }) << 1;
-        QTest::newRow("cancel") << three << Act([](frmChooseList &d) { d.cmdCancel->click(); }) << -1;
-        QTest::newRow("escape") << three << Act([](frmChooseList &d) { QTest::keyClick(&d, Qt::Key_Escape); })
-                                << -1;
-        QTest::newRow("nothing to choose from") << QStringList() << Act([](frmChooseList &d) {
-            d.cmdOk->click(); // disabled
-            d.reject();
-        }) << -1;
-    }
-    void theIndexIsThatOfTheChosenEntry()
-    {
-        QFETCH(QStringList, names);
-        QFETCH(Act, act);
-        QFETCH(int, index);
-        qint32 chosen = 99;
-        const auto watch = whileModal<frmChooseList>(act);
-        QCOMPARE(frmChooseList().getIndex(Names(names), chosen), index >= 0);
-        QCOMPARE(chosen, index);
+        };
+        const std::tuple<const char *, QStringList, Act, int> rows[] = {
+            {"first at once", three, ok, 0},
+            {"by keys", three, byKeys, 1},
+            {"double click", three, byMouse, 1},
+            {"last, the same text as another", three,
+             [=](frmChooseList &d) { d.lstKh->setCurrentRow(2), ok(d); }, 2},
+            {"cancel", three, [](frmChooseList &d) { d.cmdCancel->click(); }, -1},
+            {"escape", three, [](frmChooseList &d) { QTest::keyClick(&d, Qt::Key_Escape); }, -1},
+            {"nothing to choose from", {}, [=](frmChooseList &d) { ok(d), d.reject(); }, -1}};
+        for (const auto &[name, names, act, index] : rows) {
+            qint32 chosen = 99;
+            const auto watch = tests::whileModal<frmChooseList>(act);
+            tests::same(name, frmChooseList().getIndex(Names(names), chosen), index >= 0);
+            tests::same(name, chosen, index);
+        }
     }
 };
 QVDC_TEST(tst_frmChooseList)

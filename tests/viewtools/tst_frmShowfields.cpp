@@ -1,155 +1,153 @@
 #include "dialogs/viewtools/frmShowfields.h"
 #include "facade/services/Language.h"
+#include "kit/grid/Grid.h"
+#include "kit/grid/SampleRows.h"
 #include "support/Modal.h"
-#include "support/PlainGrid.h"
 #include "support/Registry.h"
+#include "support/Same.h"
 
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
-using tests::PlainGrid;
-using tests::whileModal;
 
-using Act = std::function<void(frmShowfields &)>;
-Q_DECLARE_METATYPE(Act)
+namespace {
+
+using F = frmShowfields;
+using Act = std::function<void(F &)>;
+
+QString dump(const F &d)
+{
+    QString out;
+    for (const QListWidget *list : {d.lstAvail, d.lstVisible}) {
+        if (list == d.lstVisible) out += u'|';
+        for (int row = 0; row < list->count(); ++row)
+            out += (list->item(row) == list->currentItem() ? u'*' : u' ') + list->item(row)->text();
+    }
+    return out;
+}
+Act current(QListWidget *const F::*list, int row)
+{
+    return [=](F &d) { (d.*list)->setCurrentRow(row); };
+}
+Act click(QPushButton *const F::*button)
+{
+    return [=](F &d) { (d.*button)->click(); };
+}
+Act doubleClick(QListWidget *const F::*list, int row)
+{
+    return [=](F &d) {
+        const QPoint at = (d.*list)->visualItemRect((d.*list)->item(row)).center();
+        QTest::mouseClick((d.*list)->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick((d.*list)->viewport(), Qt::LeftButton, {}, at);
+    };
+}
+Act key(Qt::Key k)
+{
+    return [=](F &d) {
+        d.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&d));
+        QTest::keyClick(&d, k, Qt::AltModifier);
+    };
+}
+
+/// A grid of the columns A to F that shows D, A, C.
+struct Columns {
+    tests::SampleRows rows;
+    Grid grid;
+    bool confirmed = false;
+    Columns()
+    {
+        for (size_t c = 0; c < rows.cols.size(); ++c) rows.cols[c].caption = QChar(u'A' + ushort(c));
+        grid.setSource(&rows);
+        grid.showColumns(std::vector{3, 0, 2});
+    }
+    /// What is shown after that work.
+    template <class Work> QString after(const Work &work)
+    {
+        const auto watch = tests::whileModal<F>(work);
+        F().ShowFields(grid, confirmed);
+        QString shown;
+        for (const int c : grid.shownColumns()) shown += rows.cols[size_t(c)].caption;
+        return shown;
+    }
+};
+
+struct Deed {
+    const char *name;
+    std::vector<Act> acts;
+    const char *listed, *shown;
+};
+const Deed kDeeds[] = {
+    {"as it was", {}, "*B E F|*D A C", "DAC"},
+    {"add goes to the end", {click(&F::cmdAdd)}, "*E F| D A C*B", "DACB"},
+    {"add all", std::vector<Act>(4, click(&F::cmdAdd)), "| D A C B E*F", "DACBEF"},
+    {"double click adds", {doubleClick(&F::lstAvail, 1)}, " B*F| D A C*E", "DACE"},
+    {"double click removes", {doubleClick(&F::lstVisible, 0)}, " B E F*D|*A C", "AC"},
+    {"remove", {current(&F::lstVisible, 1), click(&F::cmdRemove)}, " B E F*A| D*C", "DC"},
+    {"remove all", std::vector<Act>(4, click(&F::cmdRemove)), " B E F D A*C|", ""},
+    {"up", {current(&F::lstVisible, 2), click(&F::cmdUp)}, "*B E F| D*C A", "DCA"},
+    {"up at the top", {click(&F::cmdUp)}, "*B E F|*D A C", "DAC"},
+    {"down to the bottom", std::vector<Act>(3, click(&F::cmdDown)), "*B E F| A C*D", "ACD"},
+    {"by keys", {key(Qt::Key_Down), key(Qt::Key_Down), key(Qt::Key_Up)}, "*B E F| A*D C", "ADC"},
+};
+
+} // namespace
 
 class tst_frmShowfields : public QObject {
     Q_OBJECT
-private:
-    static QString dump(const frmShowfields &d)
-    {
-        QStringList out;
-        for (const QListWidget *list : {d.lstAvail, d.lstVisible}) {
-            if (list == d.lstVisible) out << QStringLiteral("|");
-            for (int row = 0; row < list->count(); ++row)
-                out << (list->item(row) == list->currentItem() ? u'*' : u' ') + list->item(row)->text();
-        }
-        return out.join(QString());
-    }
-    static Act current(QListWidget *const frmShowfields::*list, int row)
-    {
-        return [=](frmShowfields &d) { (d.*list)->setCurrentRow(row); };
-    }
-    static Act click(QPushButton *const frmShowfields::*button)
-    {
-        return [=](frmShowfields &d) { (d.*button)->click(); };
-    }
-    static Act doubleClick(QListWidget *const frmShowfields::*list, int row)
-    {
-        return [=](frmShowfields &d) {
-            const QPoint at = (d.*list)->visualItemRect((d.*list)->item(row)).center();
-            QTest::mouseClick((d.*list)->viewport(), Qt::LeftButton, {}, at);
-            QTest::mouseDClick((d.*list)->viewport(), Qt::LeftButton, {}, at);
-        };
-    }
-    static Act key(Qt::Key k, Qt::KeyboardModifiers with = Qt::AltModifier)
-    {
-        return [=](frmShowfields &d) {
-            d.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&d));
-            QTest::keyClick(&d, k, with);
-        };
-    }
-
 private slots:
-    void init() { setLanguage(Hungarian, {}); }
     void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a form was not released"); }
 
-    void listsAreFilledWorkedOnAndWritten_data()
-    {
-        using F = frmShowfields;
-        QTest::addColumn<QList<Act>>("acts");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QString>("written");
-        // of columns A B C D E, the grid shows D, A, C
-        QTest::newRow("as it was") << QList<Act>{} << "*B E|*D A C" << "show 3 0 2";
-        QTest::newRow("add goes to the end") << QList<Act>{click(&F::cmdAdd)} << "*E| D A C*B"
-                                             << "show 3 0 2 1";
-        QTest::newRow("add all") << QList<Act>{click(&F::cmdAdd), click(&F::cmdAdd), click(&F::cmdAdd)}
-                                 << "| D A C B*E" << "show 3 0 2 1 4";
-        QTest::newRow("double click adds") << QList<Act>{doubleClick(&F::lstAvail, 1)} << "*B| D A C*E"
-                                           << "show 3 0 2 4";
-        QTest::newRow("remove") << QList<Act>{current(&F::lstVisible, 1), click(&F::cmdRemove)}
-                                << " B E*A| D*C" << "show 3 2";
-        QTest::newRow("double click removes") << QList<Act>{doubleClick(&F::lstVisible, 0)} << " B E*D|*A C"
-                                              << "show 0 2";
-        QTest::newRow("remove all") << QList<Act>{click(&F::cmdRemove), click(&F::cmdRemove),
-                                                  click(&F::cmdRemove)}
-                                    << " B E D A*C|"
-                                    << "show ";
-        QTest::newRow("up") << QList<Act>{current(&F::lstVisible, 2), click(&F::cmdUp)} << "*B E| D*C A"
-                            << "show 3 2 0";
-        QTest::newRow("up at the top") << QList<Act>{click(&F::cmdUp)} << "*B E|*D A C" << "show 3 0 2";
-        QTest::newRow("down twice") << QList<Act>{click(&F::cmdDown), click(&F::cmdDown)} << "*B E| A C*D"
-                                    << "show 0 2 3";
-        QTest::newRow("down at the bottom") << QList<Act>{current(&F::lstVisible, 2), click(&F::cmdDown)}
-                                            << "*B E| D A*C" << "show 3 0 2";
-        QTest::newRow("by keys") << QList<Act>{key(Qt::Key_Down), key(Qt::Key_Down), key(Qt::Key_Up)}
-                                 << "*B E| A*D C" << "show 0 3 2";
-    }
     void listsAreFilledWorkedOnAndWritten()
     {
-        QFETCH(QList<Act>, acts);
-        QFETCH(QString, shown);
-        QFETCH(QString, written);
-        PlainGrid grid({"A", "B", "C", "D", "E"});
-        grid.shown = {3, 0, 2};
-        bool confirmed = false;
-        const auto watch = whileModal<frmShowfields>([&](frmShowfields &d) {
-            for (const Act &act : acts) act(d);
-            QCOMPARE(dump(d), shown);
-            d.cmdOk->click();
-        });
-        frmShowfields().ShowFields(grid, confirmed);
-        QVERIFY(confirmed);
-        QCOMPARE(grid.written, QStringList{written});
+        for (const Deed &deed : kDeeds) {
+            Columns columns;
+            const QString shown = columns.after([&](F &d) {
+                for (const Act &act : deed.acts) act(d);
+                tests::same(deed.name, dump(d), deed.listed);
+                d.cmdOk->click();
+            });
+            QVERIFY(columns.confirmed);
+            tests::same(deed.name, shown, deed.shown);
+        }
     }
-
     void cancelSaysSoAndLeavesTheGridAlone()
     {
-        PlainGrid grid({"A", "B"});
-        bool confirmed = true;
-        const auto watch = whileModal<frmShowfields>([](frmShowfields &d) {
+        Columns columns;
+        columns.confirmed = true;
+        QCOMPARE(columns.after([](F &d) {
             d.cmdRemove->click();
             QTest::keyClick(d.focusWidget(), Qt::Key_Escape);
-        });
-        frmShowfields().ShowFields(grid, confirmed);
-        QVERIFY(!confirmed);
-        QCOMPARE(grid.written, QStringList());
+        }),
+                 "DAC");
+        QVERIFY(!columns.confirmed);
     }
-
-    void withoutColumnsListsAreEmpty()
+    void withoutColumnsNothingCanBeMoved()
     {
-        PlainGrid grid{QStringList()};
-        bool confirmed = false;
-        const auto watch = whileModal<frmShowfields>([](frmShowfields &d) {
+        Columns none;
+        none.grid.setSource(nullptr);
+        none.after([](F &d) {
             for (const QPushButton *b : {d.cmdAdd, d.cmdRemove, d.cmdUp, d.cmdDown}) QVERIFY(!b->isEnabled());
             d.cmdOk->click();
         });
-        frmShowfields().ShowFields(grid, confirmed);
-        QVERIFY(confirmed);
+        QVERIFY(none.confirmed);
     }
-
     void aLanguageChangeKeepsOrderAndShortcuts()
     {
-        PlainGrid grid({"A", "B", "C"});
-        bool confirmed = false;
-        const auto watch = whileModal<frmShowfields>([&](frmShowfields &d) {
+        Columns columns;
+        const QString shown = columns.after([&](F &d) {
             d.cmdDown->click();
-            for (auto &c : grid.all) c.caption = c.caption.toLower();
+            for (auto &c : columns.rows.cols) c.caption = c.caption.toLower();
             setLanguage(English, {});
             emit LanguageHub::instance().LanguageChanged();
-            QCOMPARE(dump(d), QStringLiteral("| b*a c"));
-            QCOMPARE(d.windowTitle(), QStringLiteral("Display columns"));
+            QCOMPARE(dump(d), "*b e f| a*d c");
             key(Qt::Key_Down)(d);
-            QCOMPARE(dump(d), QStringLiteral("| b c*a"));
             d.cmdOk->click();
         });
-        frmShowfields().ShowFields(grid, confirmed);
-        QCOMPARE(grid.written, QStringList{QStringLiteral("show 1 2 0")});
+        QCOMPARE(shown, "acd");
+        setLanguage(Hungarian, {});
     }
 };
 QVDC_TEST(tst_frmShowfields)
