@@ -201,6 +201,7 @@ void frmSetup::openSymbols(GridPage &page)
     connect(page.gridItems, &Grid::rowActivated, jsSid, &clsJS_Sid::editSymbol);
     m_side = new SymbolSide(page, *jsSid, *m_doc, m_relay);
     jsSid->init(*m_doc, *page.gridItems, page.gridGroups, false);
+    page.gridItems->goToFirst();
     page.follow();
 }
 

@@ -100,7 +100,10 @@ void Grid::connectTools()
 {
     connect(m_filter, &FilterLine::changed, this, &Grid::applyFilter);
     connect(m_filter, &FilterLine::focused, this, [this] { m_idle.start(0, this); });
-    connect(m_filter, &FilterLine::gridAsked, this, &Grid::goToFound);
+    connect(m_filter, &FilterLine::gridAsked, this, [this] {
+        goToFirst();
+        activeView()->setFocus(Qt::TabFocusReason);
+    });
     connect(m_box, &GroupBox::levelsAsked, this, [this](const std::vector<SortKey> &levels) {
         const bool focused = m_box->isAncestorOf(QApplication::focusWidget());
         setGroupLevels(levels);

@@ -88,6 +88,7 @@ public:
     QString filterText() const;
     void setFilterText(const QString &text);
     void focusFilter();
+    void goToFirst(); ///< unless a row is current, makes the first shown one so; many selected hidden rows stay
     void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
     void collapseBandOf(int row); ///< the innermost open band over the row; asked again, the one over that
     bool canCollapseBandOf(int row) const { return openBandOf(row) >= 0; }
@@ -148,7 +149,6 @@ private:
     void seek(const QString &letter);
     void makeCurrent(int row);
     void makeCurrent(int row, QItemSelectionModel::SelectionFlags selecting);
-    void goToFound();
     void dragOut();
     void arm();
     bool isEditing() const;

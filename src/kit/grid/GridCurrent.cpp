@@ -195,14 +195,12 @@ void Grid::makeCurrent(int row, QItemSelectionModel::SelectionFlags selecting)
     else activeView()->scrollTo(at, QAbstractItemView::PositionAtCenter);
 }
 
-/// From the filter line to the rows. Several selected rows that it hides stay selected.
-void Grid::goToFound()
+void Grid::goToFirst()
 {
-    if (currentRow() < 0 && m_model->engine().shownCount() > 0)
-        makeCurrent(m_model->engine().shownRows().front(),
-                    m_selection->hiddenCount() > 1 ? QItemSelectionModel::NoUpdate
-                                                   : QItemSelectionModel::ClearAndSelect);
-    activeView()->setFocus(Qt::TabFocusReason);
+    if (currentRow() >= 0 || m_model->engine().shownCount() == 0) return;
+    makeCurrent(m_model->engine().shownRows().front(), m_selection->hiddenCount() > 1
+                                                           ? QItemSelectionModel::NoUpdate
+                                                           : QItemSelectionModel::ClearAndSelect);
 }
 
 std::vector<int> Grid::selectedRows() const { return m_selection->shownRows(); }
