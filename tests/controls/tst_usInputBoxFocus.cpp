@@ -209,9 +209,9 @@ private slots:
         f.letGo();
         f.steps(0).press(Qt::Key_Up);
         QCOMPARE(f.raised.last(), QStringLiteral("Change 0.4")); // a step of nothing is a step
-        f.box->LetValue(9007199254740989.0, 0, 1e300);
+        f.box->LetValue(9007199254740981.0, 0, 1e300);
         f.steps(1).press(Qt::Key_Up);
-        QCOMPARE(f.value(), 9007199254740990.0); // more digits than one reads
+        QVERIFY(f.value() == 9007199254740982.0); // more digits than one reads
     }
 
     void theWheelChangesOnlyAFocusedBox()

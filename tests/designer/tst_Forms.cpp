@@ -5,6 +5,7 @@
 #include "controls/usLays.h"
 #include "facade/services/Language.h"
 #include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
 
 #include "ui_AttributeForm.h"
 
@@ -131,6 +132,7 @@ QString said(const QVariant &value)
 void holdsValues(QWidget *form, const Control &control)
 {
     QVERIFY(form);
+    tests::ScriptedPrompts silent;
     const QWidget *const found = form->findChild<QWidget *>(QStringLiteral("control"));
     QVERIFY(found);
     QCOMPARE(QLatin1String(found->metaObject()->className()), className(control));

@@ -44,7 +44,6 @@ template <class Change> void InputCombo::showing(Change change)
     const QScopedValueRollback guard(m_showing, true);
     m_filter->passing(change);
     m_filter->takeDropped();
-    arrangeLine();                              // the list gives its line the room beside an arrow each time
 }
 
 void InputCombo::showText(const QString &text)
