@@ -58,31 +58,14 @@ void runOn(const QString &path, const QString &sql)
 std::vector<Element> oneOfEachKind()
 {
     return {{.kind = ElementKind::Point, .layId = 1, .vertices = {{650000.123456789, 240000.987654321}}},
-            {.kind = ElementKind::Line,
-             .layId = 1,
-             .penStyleId = 1,
-             .penColorId = 255,
-             .vertices = {{0, 0, -0.5}, {1, 0}, {1, 1, 1e-9}},
-             .closed = true},
+            {.kind = ElementKind::Line, .layId = 1, .penStyleId = 1, .penColorId = 255,
+             .vertices = {{0, 0, -0.5}, {1, 0}, {1, 1, 1e-9}}, .closed = true},
             {.kind = ElementKind::Ellipse, .vertices = {{5, 5}, {2, 1}}, .ratio = 0.25, .from = 0.1, .to = 3},
-            {.kind = ElementKind::Fill,
-             .layId = 1,
-             .vertices = {{0, 0}, {9, 0}, {9, 9}, {1, 1}, {2, 1}, {2, 2}},
-             .rings = {0, 3},
-             .closed = true},
-            {.kind = ElementKind::Text,
-             .layId = 1,
-             .txdId = 1,
-             .vertices = {{1, 1}},
-             .rotation = 33.3,
-             .size = 1.5,
-             .align = 30,
-             .text = "Árvíztűrő\n1203/2"},
-            {.kind = ElementKind::Symbol,
-             .layId = 1,
-             .sidId = 1,
-             .vertices = {{2, 2}},
-             .rotation = -90,
+            {.kind = ElementKind::Fill, .layId = 1,
+             .vertices = {{0, 0}, {9, 0}, {9, 9}, {1, 1}, {2, 1}, {2, 2}}, .rings = {0, 3}, .closed = true},
+            {.kind = ElementKind::Text, .layId = 1, .txdId = 1, .vertices = {{1, 1}}, .rotation = 33.3,
+             .size = 1.5, .align = 30, .text = "Árvíztűrő\n1203/2"},
+            {.kind = ElementKind::Symbol, .layId = 1, .sidId = 1, .vertices = {{2, 2}}, .rotation = -90,
              .scale = -2}};
 }
 
@@ -153,16 +136,6 @@ private slots:
         for (const QString &name : files()) QFile::remove(m_folder.filePath(name));
     }
 
-    void anEmptyDrawingWorksAtOnce()
-    {
-        const auto doc = inMemory();
-        QCOMPARE(doc->layers().currentId(), qint16(1));
-        QCOMPARE(doc->layers().groups().front().GroupName, "RENDSZER");
-        QCOMPARE(doc->textTypes().readAll().front().LayId, qint16(1));
-        QCOMPARE(doc->symbols().readAll().front().GroupName, "Alapcsoport");
-        QVERIFY(doc->lineTypes().readAll().front().Pattern.empty());
-        QVERIFY(doc->khItems().items(1).size() > doc->khItems().items(2).size());
-    }
     void refusedFilesStayAsTheyAre()
     {
         const QString path = file("drawing #1 50%.qvd");

@@ -14,33 +14,24 @@ private slots:
     void aDrawingsFontsAreItsOwnAndTheProgramsOnes()
     {
         HostServices services;
-        const auto doc = SqliteDoc::create(QStringLiteral(":memory:")),
-                   other = SqliteDoc::create(QStringLiteral(":memory:"));
-        doc->addGlyph(33, QStringLiteral("tree"), {{{{0, 0}, {0, 1}}}, 1});
+        const auto doc = SqliteDoc::create(":memory:"), other = SqliteDoc::create(":memory:");
+        doc->addGlyph(33, "tree", {{{{0, 0}, {0, 1}}}, 1});
+        const QString strokes = "Hershey Roman Simplex", own = doc->ownFontName();
         const ZolWDoc::VectorFontProvider &fonts = *services.vectorFonts(doc.get());
-        const QString strokes = QStringLiteral("Hershey Roman Simplex");
         QCOMPARE(services.vectorFonts(other.get())->names().first(), strokes);
-        QVERIFY(!services.vectorFonts(nullptr)->find(doc->ownFontName()));
-        QCOMPARE(fonts.names().first(), doc->ownFontName()); // whoever was asked in between
-        QVERIFY(fonts.names().contains(strokes));
-        QCOMPARE(fonts.find(doc->ownFontName())->entries().front().name, QStringLiteral("tree"));
-    }
-    void symbolsAreDrawnWithEither()
-    {
-        HostServices services;
-        const auto doc = SqliteDoc::create(QStringLiteral(":memory:"));
-        doc->addGlyph(33, QStringLiteral("tree"), {{{{0, 0}, {0, 1}}}, 1});
+        QVERIFY(!services.vectorFonts(nullptr)->find(own));
+        QCOMPARE(fonts.names().first(), own);          // whoever was asked in between
+        QCOMPARE(fonts.find(own)->entries().front().name, "tree");
         ZolWDoc::tSid symbol = doc->symbols().readAll().front();
         symbol.Type = 1;
-        const std::pair<QString, qint32> rows[] = {
-            {doc->ownFontName(), 33}, {QStringLiteral("Hershey Roman Simplex"), 0x151}};
-        for (const auto &[face, code] : rows) {
+        for (const auto &[face, code] :
+             {std::pair(own, 33), {strokes, 0x151}}) { // symbols are drawn with either
             symbol.Facename = face;
             symbol.Code = code;
             doc->symbols().update(symbol);
-            QCOMPARE(resourcesOf(*doc).glyphs.value(symbol.SidId).strokes,
-                     services.vectorFonts(doc.get())->find(face)->glyph(code).strokes);
-            QVERIFY(!resourcesOf(*doc).glyphs.value(symbol.SidId).strokes.empty());
+            const auto drawn = resourcesOf(*doc).glyphs.value(symbol.SidId).strokes;
+            QVERIFY(!drawn.empty());
+            QCOMPARE(drawn, fonts.find(face)->glyph(code).strokes);
         }
     }
 };

@@ -98,18 +98,6 @@ private slots:
         QCoreApplication::sendPostedEvents();
         QCOMPARE(textsOf(files), english);
     }
-    /// Texts that only come up when something is wrong.
-    void questionsKeepTheirPlaces()
-    {
-        HostServices services;
-        for (const char *source : {"'%1' is write protected.\nDo you want to delete it anyway?",
-                                   "%1\nFile not found.\nPlease verify the correct file name was given."})
-            for (const int id : {Hungarian, Romanian, Vietnamese}) {
-                services.language()->setForThisRun(id);
-                const QString own = QCoreApplication::translate("QFileDialog", source);
-                QVERIFY2(own != source && own.contains("%1"), qPrintable(own));
-            }
-    }
 };
 
 QVDC_TEST(tst_QtTexts)

@@ -3,11 +3,13 @@
 #include "grids/frame/GridLayouts.h"
 #include "kit/ask/ErrorRelay.h"
 #include "kit/grid/Grid.h"
+#include "kit/grid/GridTable.h"
 #include "kit/grid/SampleRows.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QtTest/qtest.h>
+#include <QHeaderView>
+#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -28,6 +30,7 @@ private slots:
 
         grid.setView(GridView::Card);
         grid.showColumns(std::vector{3, 1});
+        grid.findChild<GridTable *>()->header()->resizeSection(1, 123);
         grid.setSortKeys(std::vector{SortKey{1, SortOrder::Descending}});
         grid.setGroupLevels(std::vector{SortKey{0}});
         saveGridLayout(grid, "jsTest");
