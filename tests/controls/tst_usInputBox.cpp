@@ -61,7 +61,7 @@ private slots:
         f.leave();
         QCOMPARE(f.value(), 3.14159);
         f.box->setFocus();
-        f.type(QStringLiteral("3,14\n"));       // the same text, but typed: read as far as it goes, on purpose
+        f.type(QStringLiteral("3,14\n"));       // typed: read as far as it goes, on purpose
         QCOMPARE(f.value(), 3.0);
         f.box->setReadsLocale(true);
         f.type(QStringLiteral("1.5\n"));        // the point types the comma
