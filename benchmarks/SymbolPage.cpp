@@ -1,6 +1,7 @@
 #include "Figures.h"
 #include "FirstPaint.h"
 
+#include "dialogs/editors/frmSupSid.h"
 #include "dialogs/select/frmSetup.h"
 #include "document/SqliteDoc.h"
 #include "facade/clsDocDlgs.h"
@@ -34,6 +35,13 @@ double opening()
 {
     return untilFirstPaint<frmSetup>([] { clsDocDlgs().bEdit_Sids(stored()); });
 }
+double openingManager()
+{
+    return untilFirstPaint<frmSupSid>([] {
+        qint16 id = kSymbols;
+        frmSupSid().bDoModal(stored(), MODE_SELECT, id);
+    });
+}
 /// What the document takes to answer the calls of one opening.
 double reading()
 {
@@ -50,6 +58,7 @@ double reading()
 
 const bool s_entered =
     figure("symbols.page.32000.open", "ms", unbounded(), [] { return medianOf(&opening); }) &&
+    figure("symbols.manager.32000.open", "ms", unbounded(), [] { return medianOf(&openingManager); }) &&
     figure("symbols.page.32000.reading", "ms", unbounded(), [] { return medianOf(&reading); });
 
 } // namespace

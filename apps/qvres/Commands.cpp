@@ -47,12 +47,12 @@ void printTable(const Table &table)
 
 int show(const QStringList &files, const QCommandLineParser &options)
 {
-    const Content content = readBy(files[0], options);
+    const std::vector<Table> tables = tablesOf(readBy(files[0], options));
     if (options.isSet(QStringLiteral("json"))) {
-        QTextStream(stdout) << QString::fromUtf8(jsonOf(content.tables));
+        QTextStream(stdout) << QString::fromUtf8(jsonOf(tables));
         return 0;
     }
-    for (const Table &table : content.tables) printTable(table);
+    for (const Table &table : tables) printTable(table);
     return 0;
 }
 
@@ -74,10 +74,15 @@ void checkSymbols(const QString &path, const Recordset &set)
 int check(const QStringList &files, const QCommandLineParser &options)
 {
     const Content content = readBy(files[0], options);
-    if (content.set) checkSymbols(files[0], *content.set);
-    for (const Table &table : content.tables)
-        print(join(files[0], table.name.isEmpty() ? QString() : u' ' + table.name, QStringLiteral(": "),
-                   Text{31116, u"rendben, sorok száma: "}, int(table.rows.size())));
+    const auto inOrder = [&](const QString &name, int rows) {
+        print(join(files[0], name.isEmpty() ? QString() : u' ' + name, QStringLiteral(": "),
+                   Text{31116, u"rendben, sorok száma: "}, rows));
+    };
+    if (content.set) {
+        checkSymbols(files[0], *content.set);
+        inOrder({}, content.set->rowCount());
+    }
+    for (const Table &table : content.tables) inOrder(table.name, int(table.rows.size()));
     return 0;
 }
 
@@ -90,11 +95,15 @@ QString lineOf(const std::vector<Cell> &row)
     return values.join(QStringLiteral(" | "));
 }
 
-/// Rows by what their first column says; rows that share it go together in their order.
-QHash<QString, std::vector<const std::vector<Cell> *>> rowsByKey(const Table &table)
+/// What the row goes by; rows that share it go together in their order.
+QString keyOf(const std::vector<Cell> &row, size_t column)
+{
+    return column < row.size() ? row[column].text : QString();
+}
+QHash<QString, std::vector<const std::vector<Cell> *>> rowsByKey(const Table &table, size_t column)
 {
     QHash<QString, std::vector<const std::vector<Cell> *>> rows;
-    for (const auto &row : table.rows) rows[row.empty() ? QString() : row.front().text].push_back(&row);
+    for (const auto &row : table.rows) rows[keyOf(row, column)].push_back(&row);
     return rows;
 }
 
@@ -119,10 +128,11 @@ bool differs(const Table &a, const std::vector<Cell> &old, const std::vector<Cel
             changes << a.columns[qsizetype(c)] + QStringLiteral(": ") + old[c].text + QStringLiteral(" -> ") +
                            now[places[c]].text;
     if (!changes.isEmpty())
-        print(QStringLiteral("~ ") + old.front().text + u' ' + changes.join(QStringLiteral(", ")));
+        print(QStringLiteral("~ ") + keyOf(old, 0) + u' ' + changes.join(QStringLiteral(", ")));
     return !changes.isEmpty();
 }
 
+/// Rows go together by the first column of `a`, wherever `b` has it.
 bool differs(const Table &a, const Table &b)
 {
     const std::vector<size_t> places = sameColumns(a, b);
@@ -132,12 +142,11 @@ bool differs(const Table &a, const Table &b)
         return true;
     }
     bool any = false;
-    auto left = rowsByKey(b);
-    if (!places.empty() && places[0] != 0)
-        throw Failure(txt(Text{31117, u"Az első oszlop nem ugyanaz a két fájlban."}));
+    const size_t keyPlace = places.empty() ? 0 : places.front();
+    const auto left = rowsByKey(b, keyPlace);
     QHash<QString, size_t> next;
     for (const auto &row : a.rows) {
-        const QString &key = row.front().text;
+        const QString key = keyOf(row, 0);
         const size_t i = next[key]++;
         const auto others = left.constFind(key);
         const bool there = others != left.cend() && i < others->size();
@@ -145,7 +154,7 @@ bool differs(const Table &a, const Table &b)
         any = !there || differs(a, row, *(*others)[i], places) || any;
     }
     for (const auto &row : b.rows) {
-        const QString &key = row.front().text;
+        const QString key = keyOf(row, keyPlace);
         if (next.value(key, 0) > 0) {
             --next[key];
             continue;
@@ -158,11 +167,11 @@ bool differs(const Table &a, const Table &b)
 
 int diff(const QStringList &files, const QCommandLineParser &options)
 {
-    const Content a = readBy(files[0], options), b = readBy(files[1], options);
-    if (a.tables.size() != b.tables.size())
+    const std::vector<Table> a = tablesOf(readBy(files[0], options)), b = tablesOf(readBy(files[1], options));
+    if (a.size() != b.size())
         throw Failure(txt(Text{31118, u"A két fájl nem ugyanannyi táblázatot tartalmaz."}));
     bool any = false;
-    for (size_t i = 0; i < a.tables.size(); ++i) any = differs(a.tables[i], b.tables[i]) || any;
+    for (size_t i = 0; i < a.size(); ++i) any = differs(a[i], b[i]) || any;
     return any ? 1 : 0;
 }
 

@@ -7,6 +7,7 @@
 #include "rules/recordset/RecordsetValues.h"
 
 #include <cmath>
+#include <tuple>
 
 namespace qvres {
 
@@ -144,6 +145,12 @@ std::vector<tPenColor> pensOf(const PenColorTable &table)
 
 using Columns = std::vector<Recordset::Column>;
 
+bool lacksValues(const Table &table, qsizetype c)
+{
+    return std::ranges::any_of(table.rows,
+                               [c](const auto &row) { return row[size_t(c)].kind == Cell::Kind::Null; });
+}
+
 /// The narrowest column that takes every value of the table's column.
 Recordset::Column columnFor(const Table &table, qsizetype c)
 {
@@ -172,14 +179,22 @@ bool isSymbolSet(const Table &table, const Recordset &symbols)
            std::ranges::all_of(table.columns, [&](const QString &c) { return symbols.fieldNamed(c) >= 0; });
 }
 
+/// A column may be null only where the table is; so a set without nulls gets the columns it always has.
 Recordset columnsFor(const Table &table, const Recordset *like)
 {
     if (like) return like->withoutRows();
-    Recordset symbols = std::get<Recordset>(symbolSetOf({}));
-    if (isSymbolSet(table, symbols)) return symbols;
-    Columns columns;
-    for (qsizetype c = 0; c < table.columns.size(); ++c) columns.push_back(columnFor(table, c));
-    return Recordset::made(columns);
+    Recordset set = std::get<Recordset>(symbolSetOf({}));
+    if (!isSymbolSet(table, set)) {
+        Columns columns;
+        for (qsizetype c = 0; c < table.columns.size(); ++c) columns.push_back(columnFor(table, c));
+        set = Recordset::made(columns);
+    }
+    std::vector<RecordsetField> fields = set.fields();
+    for (qsizetype c = 0; c < table.columns.size(); ++c) {
+        RecordsetField &f = fields[size_t(set.fieldNamed(table.columns[c]))];
+        if (lacksValues(table, c)) f = nullable(f);
+    }
+    return Recordset(std::move(fields));
 }
 
 bool put(Recordset &set, int row, int field, const Cell &value)
@@ -201,6 +216,31 @@ bool put(Recordset &set, int row, int field, const Cell &value)
            set.setInteger(row, field, qint64(*number));
 }
 
+QString shownOf(const Cell &value)
+{
+    return value.kind == Cell::Kind::Null ? txt(Text{31125, u"(üres)"}) : value.text;
+}
+
+/// A number as it stands, unless only set files write it so ("1,000.5", "&H10").
+QString digitsOf(const Recordset &set, int row, int field)
+{
+    const QStringView source = set.text(row, field).trimmed();
+    bool isPlain = false;
+    std::ignore = source.toDouble(&isPlain);
+    const bool isSingle = set.fields()[size_t(field)].type == Type::Single;
+    return isPlain ? source.toString() : realText(set.real(row, field), isSingle);
+}
+
+Cell cellOf(const Recordset &set, int row, int field)
+{
+    const RecordsetField &f = set.fields()[size_t(field)];
+    if (set.isNull(row, field)) return {};
+    if (f.type == Type::Boolean) return Cell::ofBoolean(set.boolean(row, field));
+    if (f.isInteger()) return cell(set.integer(row, field));
+    if (f.isReal()) return Cell::ofNumber(digitsOf(set, row, field));
+    return Cell::ofText(set.text(row, field).toString());
+}
+
 } // namespace
 
 Table tableOf(const Recordset &set)
@@ -209,19 +249,7 @@ Table tableOf(const Recordset &set)
     for (const RecordsetField &f : set.fields()) table.columns << f.name;
     for (int r = 0; r < set.rowCount(); ++r) {
         auto &row = table.rows.emplace_back();
-        for (int f = 0; f < int(set.fields().size()); ++f) {
-            const RecordsetField &field = set.fields()[size_t(f)];
-            if (set.isNull(r, f))
-                row.push_back({});
-            else if (field.type == Type::Boolean)
-                row.push_back(Cell::ofBoolean(set.boolean(r, f)));
-            else if (field.isInteger())
-                row.push_back(cell(set.integer(r, f)));
-            else if (field.isReal())
-                row.push_back(Cell::ofNumber(set.text(r, f).toString()));
-            else
-                row.push_back(Cell::ofText(set.text(r, f).toString()));
-        }
+        for (int f = 0; f < int(set.fields().size()); ++f) row.push_back(cellOf(set, r, f));
     }
     return table;
 }
@@ -261,7 +289,7 @@ Recordset setFor(const Table &table, const Recordset *like)
             if (!put(set, row, places[c], cells[c]))
                 throw Failure(join(Text{31102, u"Az érték nem fér el az oszlopban. Sor: "}, row + 1,
                                    Text{31103, u", oszlop: "}, table.columns[qsizetype(c)],
-                                   Text{31104, u", érték: "}, cells[c].text));
+                                   Text{31104, u", érték: "}, shownOf(cells[c])));
     }
     return set;
 }

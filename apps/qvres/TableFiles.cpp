@@ -48,11 +48,7 @@ Recordset setIn(const QString &path)
     return std::get<Recordset>(std::move(read));
 }
 
-Content readSet(const QString &path, const QString &)
-{
-    Recordset set = setIn(path);
-    return {{tableOf(set)}, std::move(set)};
-}
+Content readSet(const QString &path, const QString &) { return {{}, setIn(path)}; }
 Content readLayers(const QString &path, const QString &codePage)
 {
     const auto read = layerFileOf(bytesIn(path), codePage);
@@ -62,7 +58,7 @@ Content readLayers(const QString &path, const QString &codePage)
 }
 Content readDocument(const QString &path, const QString &)
 {
-    return {tablesOf(*refhost::SqliteDoc::open(path)), {}};
+    return {tablesOf(*refhost::SqliteDoc::openToRead(path)), {}};
 }
 template <Table (*tableOfBytes)(const QByteArray &)> Content readText(const QString &path, const QString &)
 {
@@ -70,11 +66,12 @@ template <Table (*tableOfBytes)(const QByteArray &)> Content readText(const QStr
     return about(path, [&] { return Content{{tableOfBytes(bytes)}, {}}; });
 }
 
-const Table &onlyTable(const Content &content)
+Table onlyTable(const Content &content)
 {
-    if (content.tables.size() != 1)
+    std::vector<Table> tables = tablesOf(content);
+    if (tables.size() != 1)
         throw Failure(txt(Text{31112, u"A forrásban több táblázat van; ezek csak JSON-fájlba írhatók."}));
-    return content.tables.front();
+    return std::move(tables.front());
 }
 
 QByteArray setBytes(const Content &content, const QString &like)
@@ -84,7 +81,7 @@ QByteArray setBytes(const Content &content, const QString &like)
     const Recordset model = setIn(like);
     return bytesOf(setFor(onlyTable(content), &model));
 }
-QByteArray jsonBytes(const Content &content, const QString &) { return jsonOf(content.tables); }
+QByteArray jsonBytes(const Content &content, const QString &) { return jsonOf(tablesOf(content)); }
 QByteArray csvBytes(const Content &content, const QString &) { return csvOf(onlyTable(content)); }
 
 struct FileKind {
@@ -110,6 +107,11 @@ const FileKind &kindOf(const QString &path)
 }
 
 } // namespace
+
+std::vector<Table> tablesOf(Content content)
+{
+    return content.set ? std::vector{tableOf(*content.set)} : std::move(content.tables);
+}
 
 Content read(const QString &path, const QString &codePage) { return kindOf(path).read(path, codePage); }
 

@@ -8,11 +8,12 @@
 
 namespace qvres {
 
-/// A file as tables; of a set file also the set itself, with its columns and its values as they stand.
+/// A file as tables; of a set file the set itself, with its columns and its values as they stand.
 struct Content {
-    std::vector<Table> tables;
+    std::vector<Table> tables; ///< none when there is a set
     std::optional<QV_DOC_CONTROLS::Recordset> set;
 };
+std::vector<Table> tablesOf(Content content); ///< that of the set too, which costs rows by columns
 
 /// By the file's ending: ".rst", ".z3l", ".qvd", ".json", ".csv". `codePage` is that of layer files; empty =
 /// the system's. Throws Failure with the file's name.

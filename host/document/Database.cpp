@@ -1,19 +1,34 @@
 #include "document/Database.h"
 
+#include "document/FileCheck.h"
+
 #include "facade/services/Text.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
 
 using namespace QV_DOC_CONTROLS;
 
 namespace refhost {
+namespace {
 
-Database::Database(const QString &path)
+/// With a log beside the file part of the drawing lies there, and another program may be writing to it.
+void lookOnly(QSqlDatabase &db, const QString &path)
+{
+    const bool hasLog = QFileInfo::exists(path + QStringLiteral("-wal"));
+    db.setDatabaseName(fileUri(path) + (hasLog ? QString() : QStringLiteral("?immutable=1")));
+    db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
+}
+
+} // namespace
+
+Database::Database(const QString &path, Access access)
     : m_path(path), m_name(QUuid::createUuid().toString()),
       m_connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
 {
     m_connection.setDatabaseName(path);
+    if (access == Access::Look) lookOnly(m_connection, path);
     try {
         if (!m_connection.open()) fail(m_connection.lastError());
         run(QStringLiteral("PRAGMA foreign_keys=ON"));

@@ -21,7 +21,9 @@ struct SqlFailure : DocumentError {
 /// One connection with its prepared statements, transactions and revisions.
 class Database {
 public:
-    explicit Database(const QString &path);     ///< opens or creates the file; throws DocumentError
+    enum class Access : quint8 { Write, Look };
+    /// Write opens or creates the file; Look leaves it byte for byte as it is. Throws DocumentError.
+    explicit Database(const QString &path, Access access = Access::Write);
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;

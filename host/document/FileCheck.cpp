@@ -65,8 +65,7 @@ QString verdictOn(const QString &path)
     QString verdict;
     {
         auto db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        db.setDatabaseName(QStringLiteral("file:%1?immutable=1").arg(QString::fromLatin1(
-            QUrl::toPercentEncoding(QFileInfo(path).absoluteFilePath(), "/:"))));
+        db.setDatabaseName(fileUri(path) + QStringLiteral("?immutable=1"));
         db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
         if (db.open()) {
             QSqlQuery q(db);
@@ -85,6 +84,12 @@ QString verdictOn(const QString &path)
 }
 
 } // namespace
+
+QString fileUri(const QString &path)
+{
+    const QByteArray place = QUrl::toPercentEncoding(QFileInfo(path).absoluteFilePath(), "/:");
+    return QStringLiteral("file:") + QString::fromLatin1(place);
+}
 
 QString fileText(const QString &path, const QString &rest)
 {

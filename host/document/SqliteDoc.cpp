@@ -19,7 +19,8 @@ using namespace QV_DOC_CONTROLS;
 namespace refhost {
 
 struct SqliteDoc::Parts {
-    explicit Parts(const QString &path) : db(path) {}
+    explicit Parts(const QString &path, Database::Access access = Database::Access::Write) : db(path, access)
+    {}
     Database db;
     Tables tables{db};
     PenColors penColors{db};
@@ -92,6 +93,13 @@ std::unique_ptr<SqliteDoc> SqliteDoc::open(const QString &path)
     parts->db.run(QStringLiteral("PRAGMA journal_mode=WAL"));
     parts->notes = parts->spans.closeLeftOpen();
     return std::unique_ptr<SqliteDoc>(new SqliteDoc(std::move(parts)));
+}
+
+std::unique_ptr<SqliteDoc> SqliteDoc::openToRead(const QString &path)
+{
+    loadHostTexts();
+    requireSoundDrawing(path);
+    return std::unique_ptr<SqliteDoc>(new SqliteDoc(std::make_unique<Parts>(path, Database::Access::Look)));
 }
 
 QString SqliteDoc::path() const { return m_parts->db.path(); }

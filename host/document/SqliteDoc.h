@@ -34,6 +34,8 @@ public:
     static std::unique_ptr<SqliteDoc> create(const QString &path);
     /// Throws DocumentError for newer, foreign and damaged files; those stay byte for byte as they are.
     static std::unique_ptr<SqliteDoc> open(const QString &path);
+    /// Leaves the drawing byte for byte as it is: spans left open stay open, every write call throws.
+    static std::unique_ptr<SqliteDoc> openToRead(const QString &path);
     ~SqliteDoc() override;
 
     QString path() const;                                ///< ":memory:" for a document without a file

@@ -1,5 +1,7 @@
 #include "rules/SymbolSet.h"
 
+#include "rules/SymbolRules.h"
+
 namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
@@ -36,7 +38,14 @@ constexpr SetField<tSid> kSymbolSet[] = {
     setField<&tSid::Type>("Type", Type::Int16),
     setField<&tSid::Checked>("Checked", Type::Boolean).writtenOnly(),
 };
-constexpr quint8 kVector = 1;
+
+/// What a value that a row lacks is read as: that of a new symbol, but no text.
+tSid blankSymbol()
+{
+    tSid s = newSymbol({}, {});
+    s.FullName.clear();
+    return s;
+}
 
 } // namespace
 
@@ -47,9 +56,9 @@ std::variant<Recordset, SetFault> symbolSetOf(std::span<const tSid> symbols)
 
 SetContent<tSid> symbolsIn(const Recordset &set)
 {
-    SetContent<tSid> content = contentOf<tSid>(set, kSymbolSet);
+    SetContent<tSid> content = contentOf<tSid>(set, kSymbolSet, blankSymbol());
     for (tSid &s : content.records)
-        if (s.Type == kVector) s.XwFact = 1;
+        if (s.Type == kVectorFont) s.XwFact = 1;
     return content;
 }
 

@@ -10,6 +10,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
@@ -136,6 +137,22 @@ private slots:
             },
             {}, "1 A Egy 5 16 0, 2 B Egy 5 16 1, 30 C Kettő 5 16 0", "Egy Kettő");
         row(
+            "dragged to a group, not to the one they are in",
+            [](frmSupSid &f) {
+                QTreeView &list = *f.lvSids->report();
+                list.selectAll();
+                const std::unique_ptr<QMimeData> mime(
+                    list.model()->mimeData(list.selectionModel()->selectedIndexes()));
+                QCOMPARE(mime->text(), QStringLiteral("FromZol3GridSid 1 2"));
+                QAbstractItemModel &groups = *f.lvGroups->model();
+                for (const int to : {0, 1})
+                    groups.dropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(to, 0));
+                mime->setText(QStringLiteral("30"));
+                QVERIFY(!groups.canDropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(0, 0)));
+                click(f, "cmdOk");
+            },
+            {}, "1 A Kettő 5 16 0, 2 B Kettő 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
+        row(
             "a character of a vector font",
             [](frmSupSid &f) {
                 const auto user = whileModal<frmChooseList>([](frmChooseList &c) {
@@ -191,6 +208,7 @@ private slots:
         m_form->open(
             MODE_EDIT,
             [&](frmSupSid &f) {
+                run(f, "cmdByGroups"); // all are listed
                 for (const int number : {1, 2}) {
                     select(f, number);
                     run(f, "cmdSid_SaveFile");
@@ -209,10 +227,9 @@ private slots:
     void everyCallOfEveryCommandMayFail_data()
     {
         QTest::addColumn<QByteArray>("tool");
-        for (const char *tool :
-             {"cmdSid_Add", "cmdSid_SaveFile", "cmdSid_OpenFile", "cmdSid_Edit", "cmdSid_Nr", "cmdSid_Name",
-              "cmdSid_Size", "cmdSid_TrueType", "cmdSid_Vector", "cmdSid_Width", "cmdSid_Remove",
-              "cmdGroup_Add", "cmdGroup_Name", "cmdGroup_Remove", "cmdEditMode", "cmdOk"})
+        for (const char *tool : {"cmdSid_Add", "cmdSid_SaveFile", "cmdSid_OpenFile", "cmdSid_Edit",
+                                 "cmdSid_Nr", "cmdSid_TrueType", "cmdSid_Remove", "cmdGroup_Name",
+                                 "cmdGroup_Remove", "cmdEditMode", "cmdOk"})
             QTest::newRow(tool) << QByteArray(tool);
     }
     /// The error arrives at the caller, the form is closed and nothing is left open; reading symbols for the

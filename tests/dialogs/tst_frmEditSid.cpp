@@ -194,11 +194,39 @@ private slots:
                 QCOMPARE(f.cboFonts->placeholderText(),
                          QStringLiteral("( ZolW_DAT1_M2 )  Ismeretlen  készlet !"));
                 QWidget *const first = f.focusWidget();
+                int steps = 0;
                 do QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
-                while (f.focusWidget() != first);
+                while (f.focusWidget() != first && ++steps < 100);
+                QVERIFY(steps < 100);
             });
             QVERIFY(after == odd);
         }
+    }
+
+    void tabGoesAsOneReads()
+    {
+        QStringList visited;
+        int steps = 0;
+        edited(
+            symbol(),
+            [&](frmEditSid &f) {
+                QWidget *const first = f.focusWidget();
+                do {
+                    QWidget *field = f.focusWidget();
+                    while (field->parentWidget() != &f && !qobject_cast<QGroupBox *>(field->parentWidget()))
+                        field = field->parentWidget();
+                    if (qobject_cast<OptionBox *>(field->parentWidget())) field = field->parentWidget();
+                    const QString name = field == f.cmdOk->parentWidget() ? QStringLiteral("buttons")
+                                                                          : field->objectName();
+                    if (visited.isEmpty() || visited.last() != name) visited << name;
+                    QTest::keyClick(f.focusWidget(), Qt::Key_Tab);
+                } while (f.focusWidget() != first && ++steps < 100);
+            },
+            "cmdNok");
+        QCOMPARE(visited.join(u' '),
+                 QStringLiteral("txtShortName txtFullName optFontType cboFonts usNumAscIICode "
+                                "usNumSize usNumXMove usNumYMove usTxAlign1 cboProtType usNumProtParam1 "
+                                "usLayInfo1 cmdChooseChar chkGrid usSiInfo1 buttons"));
     }
 
     void markerAndFontSayWhichFieldsThereAre()

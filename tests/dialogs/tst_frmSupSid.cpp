@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QMouseEvent>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -95,7 +96,15 @@ private slots:
         row("mode left, dropped", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(false)},
             "0 30 5 5 5");
         row("mode left, kept", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(true)},
-            "0 30 5 7 5");
+            "1 2 5 7 5");
+        row(
+            "not picked, edited", MODE_SELECT,
+            [=](frmSupSid &f) {
+                run(f, "cmdEditMode");
+                resize(f);
+                click(f, "cmdCancel");
+            },
+            {kSizeAsked, keep(true)}, "0 30 5 7 5");
         row(
             "mode entered", MODE_SELECT,
             [=](frmSupSid &f) {
@@ -152,8 +161,10 @@ private slots:
                 QCOMPARE(hint.text(), QStringLiteral(" Válassz jelkulcsot! "));
                 QVERIFY(!child<QPushButton>(f, "cmdOk").isEnabled());
                 QHeaderView &header = *f.lvSids->report()->header();
-                for (const int section : {1, 2}) // it may stand there from a window before
-                    QTest::mouseMove(header.viewport(), {header.sectionViewportPosition(section) + 4, 4});
+                const QPointF name(header.sectionViewportPosition(2) + 4, 4);
+                QMouseEvent over(QEvent::MouseMove, name, header.viewport()->mapToGlobal(name), Qt::NoButton,
+                                 Qt::NoButton, {});
+                QApplication::sendEvent(header.viewport(), &over);
                 QCOMPARE(hint.text(), QStringLiteral(" Nagyság "));
                 run(f, "cmdByGroups");
                 select(f, 2);

@@ -202,6 +202,10 @@ private slots:
             doc->addGlyph(65, "A", {{{{0, 0}, {0.5, 1}}, {}}, 0.75});
         }
         QCOMPARE(files(), QStringList{"a.qvd"});
+        const QByteArray bytes = bytesOf(file("a.qvd"));
+        QCOMPARE(SqliteDoc::openToRead(file("a.qvd"))->elements().size(), elements.size());
+        QCOMPARE(files(), QStringList{"a.qvd"});
+        QVERIFY(bytesOf(file("a.qvd")) == bytes);
         const auto doc = SqliteDoc::open(file("a.qvd"));
         auto read = doc->elements();
         for (Element &e : read) QVERIFY(std::exchange(e.id, 0) > 0);
@@ -244,6 +248,14 @@ private slots:
         doc->symbols().update(s);
         for (const char *end : {"", "-wal"}) // what a crash leaves on the disk
             QVERIFY(QFile::copy(file("a.qvd") + end, file("b.qvd") + end));
+        const QByteArray bytes = bytesOf(file("b.qvd")), log = bytesOf(file("b.qvd-wal"));
+        {
+            const auto look = SqliteDoc::openToRead(file("b.qvd"));
+            QCOMPARE(look->symbols().find(s.SidId), std::optional(s));
+            QVERIFY(look->changeScopes()->changesOpen(TableKind::Symbols));
+            QVERIFY(!errorOf([&] { look->setInfo({}); }).isEmpty());
+        }
+        QVERIFY(bytesOf(file("b.qvd")) == bytes && bytesOf(file("b.qvd-wal")) == log && !log.isEmpty());
         const auto after = SqliteDoc::open(file("b.qvd"));
         QCOMPARE(after->openNotes().size(), 1);
         QVERIFY(after->openNotes().front().contains("jelkulcsok"));

@@ -44,23 +44,16 @@ private slots:
     }
     void cleanup() { m_view.reset(); }
 
-    void wheelKeepsThePointUnderTheCursor_data()
-    {
-        QTest::addColumn<QPointF>("at");
-        QTest::addColumn<int>("turn");
-        QTest::newRow("in, near a corner") << QPointF(13, 280) << 120;
-        QTest::newRow("out") << QPointF(311, 17) << -240;
-        QTest::newRow("far in") << QPointF(200, 150) << 4800;
-    }
     void wheelKeepsThePointUnderTheCursor()
     {
-        QFETCH(QPointF, at);
-        QFETCH(int, turn);
-        const QPointF before = m_view->toWorld(at);
-        const double zoom = m_view->viewport().pxPerMetre;
-        wheel(at, turn);
-        QVERIFY((m_view->viewport().pxPerMetre > zoom) == (turn > 0));
-        QVERIFY(near(m_view->toWorld(at), before, 1e-6));
+        for (const auto &[at, turn] :
+             {std::pair(QPointF(13, 280), 120), {{311, 17}, -240}, {{200, 150}, 4800}}) {
+            const QPointF before = m_view->toWorld(at);
+            const double zoom = m_view->viewport().pxPerMetre;
+            wheel(at, turn);
+            QVERIFY((m_view->viewport().pxPerMetre > zoom) == (turn > 0));
+            QVERIFY(near(m_view->toWorld(at), before, 1e-6));
+        }
     }
 
     void fitShowsAll()
@@ -74,36 +67,34 @@ private slots:
         QVERIFY(m_view->viewport().visible().contains(all)); // follows the window until the user moves
     }
 
-    void panningMovesTheDrawingAndPaintsWhatComesIntoView_data()
-    {
-        QTest::addColumn<QString>("how");
-        QTest::addColumn<QPoint>("delta");
-        QTest::newRow("middle button") << "middle" << QPoint(37, -21);
-        QTest::newRow("space and left button") << "space" << QPoint(-50, 60);
-        QTest::newRow("arrow") << "arrow" << QPoint(40, 0);
-    }
     void panningMovesTheDrawingAndPaintsWhatComesIntoView()
     {
-        QFETCH(QString, how);
-        QFETCH(QPoint, delta);
-        m_view->grab();
-        const QPoint before = on(650050, 240025);
-        if (how == u"space") QTest::keyPress(m_view.get(), Qt::Key_Space);
-        if (how == u"arrow") QTest::keyClick(m_view.get(), Qt::Key_Left);
-        else drag(how == u"space" ? Qt::LeftButton : Qt::MiddleButton, {200, 150}, QPoint(200, 150) + delta);
-        if (how == u"space") QTest::keyRelease(m_view.get(), Qt::Key_Space);
-        QCOMPARE(on(650050, 240025) - before, delta);
-        QImage whole(m_view->size(), QImage::Format_RGB32);
-        QPainter p(&whole);
-        renderTo(p, m_view->scene(), m_view->viewport(), {Qt::white});
-        p.end();
-        const QImage seen = m_view->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        int different =
-            0; // a line that is clipped starts at another fraction of a pixel: its softness may differ
-        for (int y = 0; y < whole.height(); ++y)
-            for (int x = 0; x < whole.width(); ++x)
-                different += std::abs(qGray(seen.pixel(x, y)) - qGray(whole.pixel(x, y))) > 40;
-        QCOMPARE(different, 0);
+        using How = std::function<void(QPoint)>;
+        const How middle = [this](QPoint by) { drag(Qt::MiddleButton, {200, 150}, QPoint(200, 150) + by); };
+        const How space = [this](QPoint by) {
+            QTest::keyPress(m_view.get(), Qt::Key_Space);
+            drag(Qt::LeftButton, {200, 150}, QPoint(200, 150) + by);
+            QTest::keyRelease(m_view.get(), Qt::Key_Space);
+        };
+        const How arrow = [this](QPoint) { QTest::keyClick(m_view.get(), Qt::Key_Left); };
+        for (const auto &[pan, by] :
+             {std::pair(middle, QPoint(37, -21)), {space, {-50, 60}}, {arrow, {40, 0}}}) {
+            m_view->grab();
+            const QPoint before = on(650050, 240025);
+            pan(by);
+            QCOMPARE(on(650050, 240025) - before, by);
+            QImage whole(m_view->size(), QImage::Format_RGB32);
+            QPainter p(&whole);
+            renderTo(p, m_view->scene(), m_view->viewport(), {Qt::white});
+            p.end();
+            const QImage seen = m_view->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            int different =
+                0; // a clipped line starts at another fraction of a pixel: its softness may differ
+            for (int y = 0; y < whole.height(); ++y)
+                for (int x = 0; x < whole.width(); ++x)
+                    different += std::abs(qGray(seen.pixel(x, y)) - qGray(whole.pixel(x, y))) > 40;
+            QCOMPARE(different, 0);
+        }
     }
 
     void zoomWindowShowsTheWindowAndEnds()
@@ -118,14 +109,14 @@ private slots:
 
     void clickSelectsTheNearestAndControlAdds()
     {
-        QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, on(650050, 240000) + QPoint(0, 3));
-        QCOMPARE(m_view->selection(), std::vector<int>{0});
-        QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::ControlModifier, on(650050, 240050));
-        QCOMPARE(m_view->selection(), (std::vector<int>{0, 1}));
-        QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::ControlModifier, on(650050, 240000));
-        QCOMPARE(m_view->selection(), std::vector<int>{1});
-        QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, on(650050, 240060));
-        QVERIFY(m_view->selection().empty());
+        const auto clicked = [this](QPoint at, Qt::KeyboardModifiers held = {}) {
+            QTest::mouseClick(m_view.get(), Qt::LeftButton, held, at);
+            return m_view->selection();
+        };
+        QCOMPARE(clicked(on(650050, 240000) + QPoint(0, 3)), std::vector<int>{0});
+        QCOMPARE(clicked(on(650050, 240050), Qt::ControlModifier), (std::vector<int>{0, 1}));
+        QCOMPARE(clicked(on(650050, 240000), Qt::ControlModifier), std::vector<int>{1});
+        QVERIFY(clicked(on(650050, 240060)).empty());
     }
 
     void rubberBandTakesWholeOnesToTheRightAndTouchedOnesToTheLeft()

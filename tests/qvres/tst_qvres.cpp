@@ -90,6 +90,32 @@ private slots:
         QCOMPARE(get("back.rst"), get("set.rst"));
         QCOMPARE(run({"diff", "set.rst", over}).code, 0);
     }
+    void nullsComeBackFromEveryKind()
+    {
+        put("gaps.csv", "k,i,r,t,b,n\r\n1,,1.5,\"\",true,\r\n2,7,,,,\r\n");
+        for (const char *name : {"gaps.rst", "gaps.json"}) {
+            QCOMPARE(run({"convert", "gaps.csv", name}).err, QByteArray());
+            QCOMPARE(run({"convert", name, "back.csv"}).err, QByteArray());
+            QCOMPARE(get("back.csv"), get("gaps.csv").replace("k,i,r,t,b,n", R"("k","i","r","t","b","n")"));
+        }
+        QCOMPARE(get("gaps.rst").count("rs:nullable='true'"), 5);
+        QVERIFY(run({"convert", "set.rst", "a.csv"}).code == 0 && get("a.csv").contains(",3.3,"));
+        put("a.csv", get("a.csv").replace(",3.3,", ",,"));
+        QCOMPARE(run({"convert", "a.csv", "a.rst"}).err, QByteArray());
+        QCOMPARE(run({"diff", "a.csv", "a.rst"}).code, 0);
+        QVERIFY(run({"convert", "a.csv", "b.rst", "--like", "set.rst"}).err.contains("value: (empty)"));
+    }
+    void numbersThatOnlySetFilesWriteSoAreReadAsNumbers()
+    {
+        put("odd.rst", get("set.rst")
+                           .replace("Size_mm='3.3", "Size_mm='&#x26;H10' Was='3.3")
+                           .replace("ProtXmm='0.1", "ProtXmm='1,000.5' Was='"));
+        const QJsonArray rows = QJsonDocument::fromJson(run({"show", "odd.rst", "--json"}).out).array();
+        QCOMPARE(rows[0].toObject()["Size_mm"], QJsonValue(16));
+        QCOMPARE(rows[1].toObject()["ProtXmm"], QJsonValue(1000.5));
+        QCOMPARE(run({"convert", "odd.rst", "odd.csv"}).code, 0);
+        QCOMPARE(run({"diff", "odd.rst", "odd.csv"}).code, 0);
+    }
     void columnsAreAsWideAsTheValuesNeed()
     {
         put("odd.json",
@@ -117,6 +143,12 @@ private slots:
         put("c.csv", csv.left(csv.indexOf("\r\n2,") + 2));
         const Run gone = run({"diff", "b.csv", "c.csv"});
         QVERIFY(gone.code == 1 && gone.out.startsWith("- 2 | ") && gone.out.count('\n') == 1);
+        put("bare.json", "[{}]");
+        QCOMPARE(run({"diff", "bare.json", "bare.json"}).code, 0);
+        put("turned.json", R"([{"t": "a", "b": true, "n": 1}, {"t": null, "b": null, "n": 2.5}])");
+        QCOMPARE(run({"diff", "all.json", "turned.json"}).out, QByteArray());
+        put("turned.json", R"([{"t": "z", "n": 1, "b": true}, {"t": null, "n": 2.5}])");
+        QCOMPARE(run({"diff", "all.json", "turned.json"}).out, QByteArray("~ 1 t: a -> z\n"));
     }
     void checkingSaysRowsOrWhatIsWrong()
     {

@@ -1,9 +1,12 @@
+#include "rules/SymbolRules.h"
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetXml.h"
 #include "support/Registry.h"
 
 #include <QFile>
 #include <QTest>
+
+#include <cmath>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -54,6 +57,37 @@ private slots:
         expected.GroupName.clear();
         expected.Checked = false;
         QCOMPARE(content.records, (std::vector<tSid>{expected, {}}));
+    }
+    void asManySymbolsAsADocumentCanHaveComeBackEqual()
+    {
+        std::vector<tSid> symbols(32000, symbol());
+        for (int i = 0; i < int(symbols.size()); ++i) {
+            tSid &s = symbols[size_t(i)];
+            s.SidId = s.GroupId = -1, s.GroupName.clear(), s.Checked = false;
+            s.ShortName = QStringLiteral("%1 <&> \"%2\" '\n\t ő").arg(i).arg(QChar(0x4e00 + i % 9000));
+            s.Code = i, s.Align = quint8(i), s.LayId = qint16(i), s.Weight = qint16(-i);
+            // Eight digits, as these files have them on purpose, do not tell all longer singles apart.
+            s.Size_mm = float(i) / 100, s.XwFact = float(i) / 1e5f, s.MoveXmm = float(i % 997) / -64;
+            s.ProtXmm = i / 7.0, s.ProtYmm = std::ldexp(1 / 3.0, i % 2000 - 1000);
+            s.Underline = i % 3, s.StrikeThrough = i % 2, s.CharSet = i * 65537;
+        }
+        const auto content = symbolsIn(asRead(std::get<Recordset>(symbolSetOf(symbols))));
+        QVERIFY(!content.fault);
+        const auto [mine, its] = std::ranges::mismatch(symbols, content.records);
+        QVERIFY2(mine == symbols.end() && its == content.records.end(),
+                 qPrintable(QString::number(mine - symbols.begin())));
+    }
+    void whatARowLacksIsAsInANewSymbol()
+    {
+        auto fields = std::get<Recordset>(symbolSetOf({})).fields();
+        for (RecordsetField &f : fields) f = nullable(f);
+        Recordset set(fields);
+        const int row = set.addRow(Recordset::RowState::Unchanged);
+        QVERIFY(set.setText(row, set.fieldNamed(u"ShortName"), u"Fa"));
+        tSid expected = newSymbol(QStringLiteral("Fa"), {});
+        expected.FullName.clear();
+        QCOMPARE(symbolsIn(asRead(set)).records, std::vector<tSid>{expected});
+        QCOMPARE(expected.YwFact, 1.0f);
     }
     void aVectorSymbolIsNotStretched()
     {

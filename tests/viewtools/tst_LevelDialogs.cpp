@@ -1,11 +1,13 @@
 #include "dialogs/viewtools/frmGroupBy.h"
 #include "dialogs/viewtools/frmSort.h"
 #include "facade/services/Language.h"
+#include "kit/grid/Grid.h"
+#include "kit/grid/SampleRows.h"
 #include "support/Modal.h"
-#include "support/PlainGrid.h"
 #include "support/Registry.h"
 #include "support/Same.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -13,7 +15,6 @@
 #include <QStandardItemModel>
 
 using namespace QV_DOC_CONTROLS;
-using tests::PlainGrid;
 using tests::same;
 using tests::whileModal;
 
@@ -44,20 +45,16 @@ Act descending(int level)
 const Act kClear = [](LevelDialog &d) { d.cmdClearAll->click(); };
 
 struct Deed {
-    const char *name, *before;
+    const char *name, *before;                  ///< keys: "+0 -1" = by Szám, then by Név, descending
     std::vector<Act> acts;
     const char *shown, *after;
 };
 const Deed kDeeds[] = {
     {"nothing set", "", {}, "(Nincs) [(Nincs)] [(Nincs)] [(Nincs)]", ""},
-    {"as it was", "-1 +0 +4 -2", {}, "Név- Szám+ Látható+ Szín-", "-1 +0 +4 -2"},
+    {"as it was", "-1 +0 +3 -2", {}, "Név- Sorszám+ Vonaltípus+ Látható-", "-1 +0 +3 -2"},
     {"ascending by default", "", {choose(0, "Név")}, "Név+ (Nincs) [(Nincs)] [(Nincs)]", "+1"},
-    {"a level more", "+1", {choose(1, "Szín"), descending(1)}, "Név+ Szín- (Nincs) [(Nincs)]", "+1 -2"},
-    {"another column keeps the order",
-     "-1 +0",
-     {choose(0, "Szín")},
-     "Szín- Szám+ (Nincs) [(Nincs)]",
-     "-2 +0"},
+    {"a level more", "+1", {choose(1, "Szín"), descending(1)}, "Név+ Szín- (Nincs) [(Nincs)]", "+1 -4"},
+    {"another column keeps the order", "-1", {choose(0, "Szín")}, "Szín- (Nincs) [(Nincs)] [(Nincs)]", "-4"},
     {"a level without column takes those below along",
      "-1 -0 -4",
      {choose(1, "(Nincs)")},
@@ -65,46 +62,53 @@ const Deed kDeeds[] = {
      "-1"},
     {"a column chosen again starts ascending",
      "-1 -0",
-     {choose(0, "(Nincs)"), choose(0, "Név"), choose(1, "Szám")},
-     "Név+ Szám+ (Nincs) [(Nincs)]",
-     "+1 +0"},
-    {"cleared", "-1 +0 +4 -2", {kClear}, "(Nincs) [(Nincs)] [(Nincs)] [(Nincs)]", ""},
+     {choose(0, "(Nincs)"), choose(0, "Név"), choose(1, "Szín")},
+     "Név+ Szín+ (Nincs) [(Nincs)]",
+     "+1 +4"},
+    {"cleared", "-1 +0 +3 -2", {kClear}, "(Nincs) [(Nincs)] [(Nincs)] [(Nincs)]", ""},
 };
 
-/// What a grid has been told after that work in the three ways that the two dialogs are opened.
-template <class Work> QStringList writtenBy(PlainGrid grid, const Work &work)
+std::vector<SortKey> keys(const QString &text)
 {
-    const auto onSort = whileModal<frmSort>(work);
-    frmSort().SortGrid(grid);
-    const auto onGroup = whileModal<frmGroupBy>(work);
-    frmGroupBy().GroupGrid(grid);
-    const auto onGroup2 = whileModal<frmGroupBy>(work);
-    frmGroupBy().GroupGrid2(grid);
-    return grid.written;
+    std::vector<SortKey> out;
+    for (const QString &k : text.split(u' ', Qt::SkipEmptyParts))
+        out.push_back({k.mid(1).toInt(), k[0] == u'+' ? SortOrder::Ascending : SortOrder::Descending});
+    return out;
 }
+
+/// A grid of six rows with the same keys for order and groups, and what the dialogs make of it.
+struct Sorted {
+    tests::SampleRows rows{{"a", "b", "c", "d", "e", "f"}};
+    Grid grid;
+    explicit Sorted(const char *text = "")
+    {
+        grid.setSource(&rows);
+        grid.setSortKeys(keys(text));
+        grid.setGroupLevels(keys(text));
+    }
+    int lines() const { return grid.table()->model()->rowCount(); }
+    /// Works on the sort dialog, and once more on the other one in both ways that it is opened.
+    template <class Work> bool sort(const Work &work)
+    {
+        const auto open = whileModal<frmSort>(work);
+        return frmSort().SortGrid(grid);
+    }
+    template <class Work> bool group(const Work &work)
+    {
+        const auto open = whileModal<frmGroupBy>(work);
+        return frmGroupBy().GroupGrid(grid);
+    }
+    template <class Work> bool group2(const Work &work)
+    {
+        const auto open = whileModal<frmGroupBy>(work);
+        return frmGroupBy().GroupGrid2(grid);
+    }
+};
 
 } // namespace
 
 class tst_LevelDialogs : public QObject {
     Q_OBJECT
-private:
-    static PlainGrid grid(const char *keys)
-    {
-        PlainGrid plain({"Szám", "Név", "Szín", "Vastagság", "Látható"});
-        plain.sort = plain.groups = PlainGrid::keys(keys);
-        return plain;
-    }
-    /// What the sort dialog has made of the keys after that work and OK.
-    template <class Work> static QStringList sorted(PlainGrid &plain, const Work &work)
-    {
-        const auto onSort = whileModal<frmSort>([&](frmSort &d) {
-            work(d);
-            d.cmdOk->click();
-        });
-        frmSort().SortGrid(plain);
-        return plain.written;
-    }
-
 private slots:
     void init() { setLanguage(Hungarian, {}); }
     void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a form was not released"); }
@@ -112,87 +116,99 @@ private slots:
     void theGridsKeysAreShownAndTheChosenOnesWritten()
     {
         for (const Deed &deed : kDeeds) {
-            PlainGrid plain = grid(deed.before);
-            const QStringList written = sorted(plain, [&](LevelDialog &d) {
+            Sorted s(deed.before);
+            const auto work = [&](LevelDialog &d) {
                 for (const Act &act : deed.acts) act(d);
                 same(deed.name, dump(d), deed.shown);
-            });
-            same(deed.name, written, {QString("sort ") + deed.after});
+                d.cmdOk->click();
+            };
+            QVERIFY(s.sort(work) && s.group(work));
+            QVERIFY2(s.grid.sortKeys() == keys(deed.after), deed.name);
+            QVERIFY2(s.grid.groupLevels() == keys(deed.after), deed.name);
         }
     }
-    void groupsAreWrittenWithTheirState()
+    void theStateOfGroupsIsChosenToo()
     {
-        const QStringList all = writtenBy(grid(""), [](LevelDialog &d) {
-            choose(0, "Szám")(d);
-            d.cmdOk->click();
-        });
-        QCOMPARE(all, QStringList({"sort +0", "group +0", "expand", "group +0"}));
-        const QStringList cleared = writtenBy(PlainGrid{QStringList()}, [](LevelDialog &d) {
+        for (const int state : {0, 1}) {                // expanded, collapsed
+            Sorted s("+1");
+            s.grid.setAllExpanded(state);
+            const auto work = [state](frmGroupBy &d) {
+                d.cboState->setCurrentIndex(state);
+                d.cmdOk->click();
+            };
+            QVERIFY(s.group(work));
+            QCOMPARE(s.lines(), state ? 6 : 12);
+            const auto other = [](frmGroupBy &d) {
+                QVERIFY(d.cboState->isHidden() && d.lblState->isHidden());
+                d.cmdOk->click();
+            };
+            QVERIFY(s.group2(other));
+            QCOMPARE(s.lines(), state ? 6 : 12);        // left as it was
+        }
+    }
+    void withoutColumnsThereIsNothingToChoose()
+    {
+        Sorted s;
+        s.grid.setSource(nullptr);
+        const auto ok = [](LevelDialog &d) {
             QCOMPARE(d.cboGroups[0]->count(), 1);
             d.cmdOk->click();
-        });
-        QCOMPARE(cleared, QStringList({"sort ", "group ", "expand", "group "}));
-        PlainGrid plain = grid("+0");
-        const auto onGroup = whileModal<frmGroupBy>([](frmGroupBy &d) {
-            d.cboState->setCurrentIndex(1);
-            d.cmdOk->click();
-        });
-        QVERIFY(frmGroupBy().GroupGrid(plain));
-        QCOMPARE(plain.written, QStringList({"group +0", "collapse"}));
-        const auto onGroup2 = whileModal<frmGroupBy>([](frmGroupBy &d) {
-            QVERIFY(d.cboState->isHidden() && d.lblState->isHidden());
-            d.reject();
-        });
-        QVERIFY(!frmGroupBy().GroupGrid2(plain));
+        };
+        QVERIFY(s.sort(ok) && s.group(ok) && s.group2(ok));
     }
     void whateverIsNoOkLeavesTheGridAlone()
     {
         const Act leaves[] = {[](LevelDialog &d) { d.cmdCancel->click(); },
                               [](LevelDialog &d) { QTest::keyClick(d.focusWidget(), Qt::Key_Escape); },
                               [](LevelDialog &d) { d.close(); }};
-        for (const Act &leave : leaves)
-            QCOMPARE(writtenBy(grid("-1"), [&](LevelDialog &d) { kClear(d), leave(d); }), QStringList());
+        for (const Act &leave : leaves) {
+            Sorted s("-1");
+            const auto work = [&](LevelDialog &d) { kClear(d), leave(d); };
+            QVERIFY(!s.sort(work) && !s.group(work) && !s.group2(work));
+            QVERIFY(s.grid.sortKeys() == keys("-1") && s.grid.groupLevels() == keys("-1"));
+        }
     }
     void keysServeFromTheFirstField()
     {
-        PlainGrid plain = grid("+0 +1");
-        const auto onSort = whileModal<frmSort>([](frmSort &d) {
+        Sorted s("+0 +1");
+        QVERIFY(s.sort([](frmSort &d) {
             QCOMPARE(d.focusWidget(), d.cboGroups[0]);
             QTest::keyClick(&d, Qt::Key_2, Qt::AltModifier);
             QCOMPARE(d.focusWidget(), d.cboGroups[1]);
             QTest::keyClick(d.focusWidget(), Qt::Key_Down);
             QTest::keyClick(d.focusWidget(), Qt::Key_Return);
-        });
-        QVERIFY(frmSort().SortGrid(plain));
-        QCOMPARE(plain.written, QStringList{"sort +0 +2"});
+        }));
+        QCOMPARE(s.grid.sortKeys(), keys("+0 +2"));
     }
     /// Arrow keys on a closed list pass over what another level has.
     void aColumnServesOneLevel()
     {
-        PlainGrid plain = grid("+0 +1");
-        plain.all[2].longCaption = "A réteg színe";
-        const QStringList written = sorted(plain, [](frmSort &d) {
+        Sorted s("+0 +1");
+        s.rows.cols[2].longCaption = "Látható réteg";
+        QVERIFY(s.sort([](frmSort &d) {
             QTest::keyClick(d.cboGroups[0], Qt::Key_Down);
-            QCOMPARE(d.cboGroups[0]->currentText(), "A réteg színe");
+            QCOMPARE(d.cboGroups[0]->currentText(), "Látható réteg");
             const auto *entries = qobject_cast<QStandardItemModel *>(d.cboGroups[1]->model());
             QVERIFY(!entries->item(3)->isEnabled() && !entries->item(3)->toolTip().isEmpty());
             QVERIFY(entries->item(1)->isEnabled()); // free again
             QCOMPARE(d.cboGroups[0]->itemData(2).toInt(), 2); // columns count from one
-        });
-        QCOMPARE(written, QStringList{"sort +2 +1"});
+            d.cmdOk->click();
+        }));
+        QCOMPARE(s.grid.sortKeys(), keys("+2 +1"));
     }
     void aLanguageChangeKeepsWhatIsChosen()
     {
-        PlainGrid plain = grid("-1");
-        const QStringList written = sorted(plain, [&](frmSort &d) {
-            plain.all[1].caption = "Name";
+        Sorted s("-1");
+        QVERIFY(s.sort([&](frmSort &d) {
+            s.rows.cols[1].caption = "Name";
             setLanguage(English, {});
             emit LanguageHub::instance().LanguageChanged();
             QCOMPARE(dump(d), "Name- (None) [(None)] [(None)]");
             QCOMPARE(d.cboGroups[0]->accessibleName(), "1. sort consideration");
             QCOMPARE(d.optOrder[1]->accessibleName(), "1. sort consideration: descendant");
-        });
-        QCOMPARE(written, QStringList{"sort -1"});
+            d.cmdOk->click();
+        }));
+        QCOMPARE(s.grid.sortKeys(), keys("-1"));
     }
 };
 QVDC_TEST(tst_LevelDialogs)

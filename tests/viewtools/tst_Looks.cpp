@@ -4,13 +4,13 @@
 #include "dialogs/viewtools/frmSort.h"
 #include "facade/services/Language.h"
 #include "facade/services/Text.h"
+#include "kit/grid/Grid.h"
+#include "kit/grid/SampleRows.h"
 #include "support/Looks.h"
 #include "support/Modal.h"
-#include "support/PlainGrid.h"
 #include "support/Registry.h"
 
 using namespace QV_DOC_CONTROLS;
-using tests::PlainGrid;
 
 namespace {
 struct Names final : EntrySource {
@@ -29,9 +29,15 @@ private slots:
         };
         for (const int language : {Hungarian, Romanian, Vietnamese, English}) {
             setLanguage(language, {});
-            PlainGrid grid({txt(Text{3411, u"Sorszám"}), txt(Text{3299, u"Rétegnév"}),
-                            txt(Text{3307, u"Látható"}), txt(Text{3306, u"Láthatóság"})});
-            grid.sort = grid.groups = PlainGrid::keys("-3 +1");
+            tests::SampleRows rows;
+            const Text captions[] = {{3411, u"Sorszám"}, {3299, u"Rétegnév"}, {3307, u"Látható"},
+                                     {3305, u"Vonaltípus"}, {3306, u"Láthatóság"}};
+            rows.cols.resize(std::size(captions));
+            for (size_t c = 0; c < rows.cols.size(); ++c) rows.cols[c].caption = txt(captions[c]);
+            Grid grid;
+            grid.setSource(&rows);
+            grid.setSortKeys(std::vector<SortKey>{{3, SortOrder::Descending}, {1}});
+            grid.setGroupLevels(grid.sortKeys());
             bool confirmed = false;
             qint32 index = 0;
             const auto onSort = tests::whileModal<frmSort>(look);

@@ -1,7 +1,8 @@
 #include "dialogs/viewtools/frmShowfields.h"
 #include "facade/services/Language.h"
+#include "kit/grid/Grid.h"
+#include "kit/grid/SampleRows.h"
 #include "support/Modal.h"
-#include "support/PlainGrid.h"
 #include "support/Registry.h"
 #include "support/Same.h"
 
@@ -10,7 +11,6 @@
 #include <QPushButton>
 
 using namespace QV_DOC_CONTROLS;
-using tests::PlainGrid;
 
 namespace {
 
@@ -52,23 +52,45 @@ Act key(Qt::Key k)
     };
 }
 
+/// A grid of the columns A to F that shows D, A, C.
+struct Columns {
+    tests::SampleRows rows;
+    Grid grid;
+    bool confirmed = false;
+    Columns()
+    {
+        for (size_t c = 0; c < rows.cols.size(); ++c) rows.cols[c].caption = QChar(u'A' + ushort(c));
+        grid.setSource(&rows);
+        grid.showColumns(std::vector{3, 0, 2});
+    }
+    /// What is shown after that work.
+    template <class Work> QString after(const Work &work)
+    {
+        const auto watch = tests::whileModal<F>(work);
+        F().ShowFields(grid, confirmed);
+        QString shown;
+        for (const int c : grid.shownColumns()) shown += rows.cols[size_t(c)].caption;
+        return shown;
+    }
+};
+
 struct Deed {
     const char *name;
     std::vector<Act> acts;
-    const char *shown, *written;                ///< of columns A B C D E, the grid shows D, A, C
+    const char *listed, *shown;
 };
 const Deed kDeeds[] = {
-    {"as it was", {}, "*B E|*D A C", "show 3 0 2"},
-    {"add goes to the end", {click(&F::cmdAdd)}, "*E| D A C*B", "show 3 0 2 1"},
-    {"add all", {click(&F::cmdAdd), click(&F::cmdAdd), click(&F::cmdAdd)}, "| D A C B*E", "show 3 0 2 1 4"},
-    {"double click adds", {doubleClick(&F::lstAvail, 1)}, "*B| D A C*E", "show 3 0 2 4"},
-    {"double click removes", {doubleClick(&F::lstVisible, 0)}, " B E*D|*A C", "show 0 2"},
-    {"remove", {current(&F::lstVisible, 1), click(&F::cmdRemove)}, " B E*A| D*C", "show 3 2"},
-    {"remove all", std::vector<Act>(4, click(&F::cmdRemove)), " B E D A*C|", "show "},
-    {"up", {current(&F::lstVisible, 2), click(&F::cmdUp)}, "*B E| D*C A", "show 3 2 0"},
-    {"up at the top", {click(&F::cmdUp)}, "*B E|*D A C", "show 3 0 2"},
-    {"down to the bottom", std::vector<Act>(3, click(&F::cmdDown)), "*B E| A C*D", "show 0 2 3"},
-    {"by keys", {key(Qt::Key_Down), key(Qt::Key_Down), key(Qt::Key_Up)}, "*B E| A*D C", "show 0 3 2"},
+    {"as it was", {}, "*B E F|*D A C", "DAC"},
+    {"add goes to the end", {click(&F::cmdAdd)}, "*E F| D A C*B", "DACB"},
+    {"add all", std::vector<Act>(4, click(&F::cmdAdd)), "| D A C B E*F", "DACBEF"},
+    {"double click adds", {doubleClick(&F::lstAvail, 1)}, " B*F| D A C*E", "DACE"},
+    {"double click removes", {doubleClick(&F::lstVisible, 0)}, " B E F*D|*A C", "AC"},
+    {"remove", {current(&F::lstVisible, 1), click(&F::cmdRemove)}, " B E F*A| D*C", "DC"},
+    {"remove all", std::vector<Act>(4, click(&F::cmdRemove)), " B E F D A*C|", ""},
+    {"up", {current(&F::lstVisible, 2), click(&F::cmdUp)}, "*B E F| D*C A", "DCA"},
+    {"up at the top", {click(&F::cmdUp)}, "*B E F|*D A C", "DAC"},
+    {"down to the bottom", std::vector<Act>(3, click(&F::cmdDown)), "*B E F| A C*D", "ACD"},
+    {"by keys", {key(Qt::Key_Down), key(Qt::Key_Down), key(Qt::Key_Up)}, "*B E F| A*D C", "ADC"},
 };
 
 } // namespace
@@ -81,57 +103,50 @@ private slots:
     void listsAreFilledWorkedOnAndWritten()
     {
         for (const Deed &deed : kDeeds) {
-            PlainGrid grid({"A", "B", "C", "D", "E"});
-            grid.shown = {3, 0, 2};
-            bool confirmed = false;
-            const auto watch = tests::whileModal<F>([&](F &d) {
+            Columns columns;
+            const QString shown = columns.after([&](F &d) {
                 for (const Act &act : deed.acts) act(d);
-                tests::same(deed.name, dump(d), deed.shown);
+                tests::same(deed.name, dump(d), deed.listed);
                 d.cmdOk->click();
             });
-            F().ShowFields(grid, confirmed);
-            QVERIFY(confirmed);
-            tests::same(deed.name, grid.written, {deed.written});
+            QVERIFY(columns.confirmed);
+            tests::same(deed.name, shown, deed.shown);
         }
     }
     void cancelSaysSoAndLeavesTheGridAlone()
     {
-        PlainGrid grid({"A", "B"});
-        bool confirmed = true;
-        const auto watch = tests::whileModal<F>([](F &d) {
+        Columns columns;
+        columns.confirmed = true;
+        QCOMPARE(columns.after([](F &d) {
             d.cmdRemove->click();
             QTest::keyClick(d.focusWidget(), Qt::Key_Escape);
-        });
-        F().ShowFields(grid, confirmed);
-        QVERIFY(!confirmed);
-        QCOMPARE(grid.written, QStringList());
+        }),
+                 "DAC");
+        QVERIFY(!columns.confirmed);
     }
     void withoutColumnsNothingCanBeMoved()
     {
-        PlainGrid grid{QStringList()};
-        bool confirmed = false;
-        const auto watch = tests::whileModal<F>([](F &d) {
+        Columns none;
+        none.grid.setSource(nullptr);
+        none.after([](F &d) {
             for (const QPushButton *b : {d.cmdAdd, d.cmdRemove, d.cmdUp, d.cmdDown}) QVERIFY(!b->isEnabled());
             d.cmdOk->click();
         });
-        F().ShowFields(grid, confirmed);
-        QVERIFY(confirmed);
+        QVERIFY(none.confirmed);
     }
     void aLanguageChangeKeepsOrderAndShortcuts()
     {
-        PlainGrid grid({"A", "B", "C"});
-        bool confirmed = false;
-        const auto watch = tests::whileModal<F>([&](F &d) {
+        Columns columns;
+        const QString shown = columns.after([&](F &d) {
             d.cmdDown->click();
-            for (auto &c : grid.all) c.caption = c.caption.toLower();
+            for (auto &c : columns.rows.cols) c.caption = c.caption.toLower();
             setLanguage(English, {});
             emit LanguageHub::instance().LanguageChanged();
-            QCOMPARE(dump(d), "| b*a c");
+            QCOMPARE(dump(d), "*b e f| a*d c");
             key(Qt::Key_Down)(d);
             d.cmdOk->click();
         });
-        F().ShowFields(grid, confirmed);
-        QCOMPARE(grid.written, QStringList{"show 1 2 0"});
+        QCOMPARE(shown, "acd");
         setLanguage(Hungarian, {});
     }
 };

@@ -20,6 +20,7 @@ void ChangeSpan::begin()
 void ChangeSpan::commit()
 {
     if (m_open) m_doc.changeScopes()->commitChanges(m_kind);
+    m_kept = m_kept || m_changed;
     m_open = m_changed = false;
 }
 

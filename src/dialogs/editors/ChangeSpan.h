@@ -18,6 +18,7 @@ public:
     void begin();                     ///< before anything is written; throws the document's error
     void note() { m_changed = true; } ///< something was written
     bool isChanged() const { return m_changed; }
+    bool isKept() const { return m_kept; } ///< a change was committed
     bool canDiscard() const { return m_open; }
     void commit(); ///< both throw the document's error
     void discard();
@@ -25,7 +26,7 @@ public:
 private:
     ZolWDoc::ZOLW_Doc &m_doc;
     ZolWDoc::TableKind m_kind;
-    bool m_open = false, m_changed = false;
+    bool m_open = false, m_changed = false, m_kept = false;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -22,7 +22,10 @@ constexpr char kWanted[] = "wanted"; // what a list was to show and does not hav
 
 template <class Control> Control &as(QWidget &w) { return static_cast<Control &>(w); }
 template <class Control> const Control &as(const QWidget &w) { return static_cast<const Control &>(w); }
-template <class Control> QWidget *made(QWidget *form, ErrorRelay &) { return new Control(form); }
+template <class Control> QWidget *made(QWidget *form, const FieldSpec &, ErrorRelay &)
+{
+    return new Control(form);
+}
 bool nothingTyped(QWidget &) { return true; }
 void nameIt(QWidget &w, const FieldSpec &, const QString &caption) { w.setAccessibleName(caption); }
 
@@ -44,7 +47,7 @@ void followLine(QWidget &w, const Changed &changed)
 
 // --- a number
 
-QWidget *makeNumber(QWidget *form, ErrorRelay &)
+QWidget *makeNumber(QWidget *form, const FieldSpec &, ErrorRelay &)
 {
     auto *const box = new usInputBox(form);
     box->setLocale(interfaceLocale());
@@ -88,11 +91,14 @@ void captionNumber(QWidget &w, const FieldSpec &spec, const QString &caption)
 
 // --- one of several choices
 
-void showOption(QWidget &w, const QVariant &v, const FieldSpec &spec)
+/// With its options at once: they come here in the order of tabs.
+QWidget *makeOption(QWidget *form, const FieldSpec &spec, ErrorRelay &)
 {
-    as<OptionBox>(w).setChoices(captionsOf(spec));
-    as<OptionBox>(w).setValue(v.toInt());
+    auto *const box = new OptionBox(form);
+    box->setChoices(captionsOf(spec));
+    return box;
 }
+void showOption(QWidget &w, const QVariant &v, const FieldSpec &) { as<OptionBox>(w).setValue(v.toInt()); }
 QVariant optionOf(const QWidget &w) { return as<OptionBox>(w).value(); }
 void followOption(QWidget &w, const Changed &changed)
 {
@@ -104,7 +110,7 @@ void captionOption(QWidget &w, const FieldSpec &spec, const QString &caption)
     as<OptionBox>(w).setChoices(captionsOf(spec));
 }
 
-QWidget *makeList(QWidget *form, ErrorRelay &)
+QWidget *makeList(QWidget *form, const FieldSpec &, ErrorRelay &)
 {
     auto *const list = new QComboBox(form);
     quietWheel(*list);
@@ -171,7 +177,7 @@ void followAlign(QWidget &w, const Changed &changed)
 }
 
 /// The layer that is typed here is a value of the record and no current layer.
-QWidget *makeLayer(QWidget *form, ErrorRelay &relay)
+QWidget *makeLayer(QWidget *form, const FieldSpec &, ErrorRelay &relay)
 {
     auto *const layer = new ZOL3_LayInfo(form);
     layer->setNotSetCurrentLayer(true);
@@ -204,8 +210,8 @@ bool settleLayer(QWidget &w)
 const FieldControl kLineField{made<QLineEdit>, showLine, lineOf, followLine, nothingTyped, nameIt};
 const FieldControl kNumberField{makeNumber,   showNumber,    numberOf, followNumber,
                                 settleNumber, captionNumber, true};
-const FieldControl kOptionField{made<OptionBox>, showOption,    optionOf, followOption,
-                                nothingTyped,    captionOption, true};
+const FieldControl kOptionField{makeOption,   showOption,    optionOf, followOption,
+                                nothingTyped, captionOption, true};
 const FieldControl kListField{makeList, showChoice, choiceOf, followList, nothingTyped, captionList};
 const FieldControl kFaceField{makeList, showFace, faceOf, followList, nothingTyped, captionFace};
 const FieldControl kAlignField{made<usTxAlign>, showAlign, alignOf, followAlign, nothingTyped, nameIt};

@@ -33,7 +33,7 @@ struct FieldSpec {
 
 /// How a kind of control takes part in an editor: what the rows' widgets have to know, once for each class.
 struct FieldControl {
-    QWidget *(*make)(QWidget *form, ErrorRelay &relay);
+    QWidget *(*make)(QWidget *form, const FieldSpec &spec, ErrorRelay &relay);
     /// What a record has, also when the control could not be brought to say it: that stays until the user
     /// changes it. Raises nothing that the form hears of.
     void (*show)(QWidget &control, const QVariant &value, const FieldSpec &spec);

@@ -11,7 +11,7 @@ namespace QV_DOC_CONTROLS {
 
 void FieldSet::add(const FieldSpec &spec)
 {
-    QWidget *const control = spec.kind->make(&m_form, m_relay);
+    QWidget *const control = spec.kind->make(&m_form, spec, m_relay);
     control->setObjectName(QLatin1String(spec.control));
     const size_t row = m_fields.size();
     m_fields.push_back({&spec, control, {}});

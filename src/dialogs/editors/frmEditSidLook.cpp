@@ -6,7 +6,6 @@
 #include "dialogs/editors/OptionBox.h"
 #include "dialogs/editors/frmEditSid.h"
 #include "kit/forms/AccessKeys.h"
-#include "kit/forms/Twips.h"
 #include "kit/forms/WindowSize.h"
 
 #include <QCheckBox>
@@ -42,7 +41,10 @@ void frmEditSid::build()
     cmdOk->setFocusPolicy(Qt::TabFocus);  // a click leaves the focus in a field that is refused
     auto *const seen = new QVBoxLayout;
     seen->addWidget(usSiInfo1, 1);
-    seen->addWidget(chkGrid);
+    auto *const below = new QHBoxLayout;
+    below->addWidget(cmdChooseChar);
+    below->addWidget(chkGrid, 1);
+    seen->addLayout(below);
     auto *const both = new QHBoxLayout;
     both->addLayout(buildFields(), 2);
     both->addLayout(seen, 3);
@@ -75,7 +77,6 @@ void frmEditSid::buildFont(QVBoxLayout &column)
     cboFonts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto *const code = new QHBoxLayout;
     code->addWidget(usNumAscIICode);
-    code->addWidget(cmdChooseChar);
     code->addStretch(1);
     auto *const size = new QHBoxLayout;
     size->addWidget(usNumSize);

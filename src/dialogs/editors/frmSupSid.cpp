@@ -66,7 +66,7 @@ bool frmSupSid::bDoModal(ZOLW_Doc &oDoc, enumSetupMode mode, qint16 &SidId)
     TearDown();
     m_doc = &oDoc;
     m_span.emplace(oDoc, TableKind::Symbols);
-    m_edit = mode == MODE_EDIT;
+    m_edit = m_toEdit = mode == MODE_EDIT;
     m_editForbidden = mode == MODE_SELECT_ONLY;
     m_ok = false;
     usSiItem->SetDoc(&oDoc);
@@ -195,9 +195,7 @@ void frmSupSid::settleChanges()
     const bool asks = m_span->isChanged() && m_span->canDiscard();
     const Message question{Icon::Question, txt(Text{20087, u"Változások rögzítése"}),
                            txt(Text{20086, u"Akarod rögzíteni a változtatásokat ?"})};
-    m_ok = m_span->isChanged();
     if (!asks || yesNo(question)) return m_span->commit();
-    m_ok = false;
     m_span->discard();
     fill();
 }
@@ -235,8 +233,8 @@ void frmSupSid::accept()
 void frmSupSid::reject()
 {
     m_relay.guard([this] {
-        m_ok = false;
         if (m_edit) settleChanges();
+        m_ok = m_toEdit && m_span->isKept(); // who was to choose has not
         const auto current = currentRecord();
         m_chosen = current ? current->SidId : qint16(-1);
         QDialog::reject();

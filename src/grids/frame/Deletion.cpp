@@ -6,8 +6,6 @@
 namespace QV_DOC_CONTROLS {
 namespace {
 
-constexpr Text kDelete{3208, u" TÖRLÖD? "};
-
 /// Asks about one record after the other; remembers "Mind".
 class Asking {
 public:
@@ -24,9 +22,7 @@ public:
     bool mayGo(const Doomed &d)
     {
         if (!d.isUsed || m_all) return true;
-        QString question = join(m_texts.usedBefore, d.name, m_texts.usedAfter);
-        const QString end = txt(kDelete);
-        question += end.startsWith(u' ') ? end : u' ' + end; // the blank is not in every language's text
+        const QString question = deleteQuestion(join(m_texts.usedBefore, d.name, m_texts.usedAfter));
         const AllYesNo answer = prompts().allYesNo({Icon::Question, txt(m_texts.title), question}, m_asker);
         m_relay.checkpoint();
         m_all = answer == AllYesNo::All;
@@ -46,6 +42,13 @@ private:
 };
 
 } // namespace
+
+QString deleteQuestion(const QString &before)
+{
+    const QString question = txt(Text{3208, u" TÖRLÖD? "});
+    return before +
+           (question.startsWith(u' ') ? question : u' ' + question); // not every language has the blank
+}
 
 std::vector<qint16> DeleteQuestions::ask(std::span<const Doomed> rows, const ErrorRelay &relay,
                                          QObject *asker) const

@@ -27,6 +27,9 @@ struct Doomed {
     bool isUsed = false;
 };
 
+/// "... is in use! DELETE?": what is said before, and the question behind it.
+QString deleteQuestion(const QString &before);
+
 /// Asks which records may go, before anything is removed.
 ///
 /// The last record of the table stays; a record in use is asked for, and "Mind" ends that asking.

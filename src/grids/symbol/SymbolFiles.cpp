@@ -105,14 +105,15 @@ tGroup SymbolFiles::target()
 
 void SymbolFiles::store(std::vector<tSid> symbols, const tGroup &group)
 {
+    std::vector<qint16> ids;
     m_desk.write(txt(kLoad), [&] {
         if (m_ownGroup && group.GroupId == -1) {
             const qint16 made = m_desk.doc().symbols().groups().add(group.GroupName);
             for (tSid &s : symbols) s.GroupId = made;
         }
-        std::vector<qint16> ids;
         m_desk.doc().symbols().addAll(symbols, ids);
     });
+    if (!ids.empty()) m_desk.selectById(ids.front());
 }
 
 void SymbolFiles::add(const std::vector<tSid> &read)

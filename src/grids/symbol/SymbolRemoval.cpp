@@ -1,6 +1,7 @@
 #include "grids/symbol/SymbolRemoval.h"
 
 #include "facade/services/Services.h"
+#include "grids/frame/Deletion.h"
 #include "grids/frame/RecordWork.h"
 
 namespace QV_DOC_CONTROLS {
@@ -73,8 +74,8 @@ bool SymbolRemoval::mayGo(const tSid &symbol, bool &needConfirm, bool useMsgBox)
 {
     if (m_desk.doc().symbols().uses(symbol.SidId) == 0 || !needConfirm) return true;
     const Message question{Icon::Question, txt(kOne),
-                           join(Text{3447, u"A(z) '"}, symbol.ShortName,
-                                Text{3232, u"' jelkulcstípus használva van!"}, Text{3208, u" TÖRLÖD? "})};
+                           deleteQuestion(join(Text{3447, u"A(z) '"}, symbol.ShortName,
+                                               Text{3232, u"' jelkulcstípus használva van!"}))};
     if (useMsgBox) return m_desk.yesNo(question);
     const AllYesNo answer = prompts().allYesNo(question, m_desk.asker());
     m_desk.relay().checkpoint();

@@ -42,6 +42,20 @@ RecordsetField made(const Recordset::Column &column, int number)
 
 } // namespace
 
+RecordsetField nullable(RecordsetField f)
+{
+    const auto named = [](const char *name) {
+        return [name](const RecordsetAttribute &a) { return a.name == QLatin1String(name); };
+    };
+    std::erase_if(f.datatype, named("rs:maybenull"));
+    std::erase_if(f.column, named("rs:nullable"));
+    const auto number = std::ranges::find_if(f.column, named("rs:number"));
+    f.column.insert(number == f.column.end() ? number : number + 1,
+                    {QStringLiteral("rs:nullable"), QStringLiteral("true")});
+    f.needsValue = false;
+    return f;
+}
+
 Recordset Recordset::made(const std::vector<Column> &columns)
 {
     std::vector<RecordsetField> fields;
@@ -76,8 +90,8 @@ Recordset::Value &Recordset::place(int row, int field)
         m_values.reserve(m_values.size() + r.count + 1);
         for (size_t i = 0; i < r.count; ++i) m_values.push_back(m_values[from + i]);
     }
-    const auto behind = std::ranges::find_if(m_values.begin() + qsizetype(r.first), m_values.end(),
-                                             [&](const Value &v) { return v.field > quint32(field); });
+    const auto behind = std::ranges::upper_bound(m_values.begin() + qsizetype(r.first), m_values.end(),
+                                                 quint32(field), {}, &Value::field);
     ++r.count;
     return *m_values.insert(behind, {quint32(field), 0, kForcedNull});
 }

@@ -40,6 +40,7 @@ struct RecordsetField {
     bool isReal() const { return type == Type::Single || type == Type::Double; }
     bool operator==(const RecordsetField &) const = default;
 };
+RecordsetField nullable(RecordsetField f); ///< the same column, whose rows may be without a value
 
 /// A table of typed columns whose values keep the text they were read from, so that what nobody edits is
 /// written as it was. All texts share one buffer: a value costs twelve bytes beside its letters, an absent

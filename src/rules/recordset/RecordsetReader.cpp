@@ -43,20 +43,32 @@ private:
     bool readDataPart(const Tag &tag);
     void readUpdate();
     bool addRow(const Tag &tag, Recordset::RowState state);
-    void readRow(int row);
-    void readValue(int row, int field, const XmlScanner::Attribute &a);
-    void forceNulls(int row, const XmlScanner::Attribute &a);
-    void requireValues(int row, qsizetype at) const;
+    void startRow();
+    void readTag();
+    void readValue(int field, const XmlScanner::Attribute &a);
+    void forceNulls(const XmlScanner::Attribute &a);
+    void endRow(Recordset::RowState state, qsizetype at);
     int columnOf(QStringView name);
     bool isRow(const Tag &tag) const { return tag.is(Space::Row, m_set.rowName); }
+
+    /// What the row being read says of a column; of no concern when it was said of an earlier row.
+    struct Said {
+        quint32 row = 0, tag = 0; ///< by which it was said
+        bool isNull = false;
+        QStringView value;
+    };
+    Said &saidOf(int field);
 
     XmlScanner m_scanner;
     Recordset m_set;
     bool m_hasSchema = false;
-    QHash<QString, int> m_columns; ///< by folded name
-    std::vector<int> m_needed;     ///< columns without which a row cannot be opened
-    int m_likely = 0;              ///< column of the next attribute, as a rule
-    QString m_value;               ///< the one being read
+    QHash<QString, int> m_columns;   ///< by folded name
+    std::vector<int> m_needed;       ///< columns without which a row cannot be opened
+    int m_likely = 0;                ///< column of the next attribute, as a rule
+    std::vector<Said> m_said;        ///< by column
+    std::vector<int> m_inRow;        ///< columns of which the row says something, as they are met
+    std::vector<QString> m_resolved; ///< values of the row that had references
+    quint32 m_row = 0, m_tag = 0;
 };
 
 Recordset Reader::read()
@@ -87,6 +99,7 @@ void Reader::takeSchema()
     m_hasSchema = true;
     m_set = schemaIn(m_scanner);
     const auto &fields = m_set.fields();
+    m_said.resize(fields.size());
     for (size_t i = 0; i < fields.size(); ++i) {
         m_columns.insert(fields[i].xmlName.toCaseFolded(), int(i));
         if (fields[i].needsValue) m_needed.push_back(int(i));
@@ -106,41 +119,50 @@ bool Reader::readDataPart(const Tag &tag)
 /// The original row with the new values over it; one of the two alone is a row like others.
 void Reader::readUpdate()
 {
-    int row = -1;
-    qsizetype at = m_scanner.tag().at;
+    bool any = false;
+    const qsizetype at = m_scanner.tag().at;
+    startRow();
     const auto take = [&](const Tag &tag) {
         if (!isRow(tag)) return false;
-        if (row < 0) row = m_set.addRow(Recordset::RowState::Unchanged);
-        return readRow(row), false;
+        any = true;
+        return readTag(), false;
     };
     m_scanner.forEachChild([&](const Tag &tag) {
         if (!tag.is(Space::Rowset, u"original")) return take(tag);
         m_scanner.forEachChild(take);
         return true;
     });
-    if (row >= 0) requireValues(row, at);
+    if (any) endRow(Recordset::RowState::Unchanged, at);
 }
 
 bool Reader::addRow(const Tag &tag, Recordset::RowState state)
 {
     if (!isRow(tag)) return false;
-    const int row = m_set.addRow(state);
-    readRow(row);
-    requireValues(row, tag.at);
+    startRow();
+    readTag();
+    endRow(state, tag.at);
     return true;
 }
 
-void Reader::readRow(int row)
+void Reader::startRow()
 {
+    ++m_row;
+    m_inRow.clear();
+    m_resolved.clear();
+}
+
+void Reader::readTag()
+{
+    ++m_tag;
     m_likely = 0;
     const XmlScanner::Attribute *nulls = nullptr;
     for (const auto &a : m_scanner.attributes()) {
         if (a.space == Space::Rowset && a.name == u"forcenull") nulls = &a;
         if (a.space != Space::None) continue;
         const int field = columnOf(a.name);
-        if (field >= 0) readValue(row, field, a);
+        if (field >= 0) readValue(field, a);
     }
-    if (nulls) forceNulls(row, *nulls);
+    if (nulls) forceNulls(*nulls);
 }
 
 /// Mostly the column behind the one before; otherwise whatever has that name in any case.
@@ -154,41 +176,46 @@ int Reader::columnOf(QStringView name)
     return found;
 }
 
-void Reader::readValue(int row, int field, const XmlScanner::Attribute &a)
+Reader::Said &Reader::saidOf(int field)
+{
+    Said &said = m_said[size_t(field)];
+    if (said.row != m_row) m_inRow.push_back(field);
+    said.row = m_row, said.tag = m_tag;
+    return said;
+}
+
+void Reader::readValue(int field, const XmlScanner::Attribute &a)
 {
     const RecordsetField &column = m_set.fields()[size_t(field)];
     QStringView value = a.raw;
-    if (value.contains(u'&')) {
-        m_value.clear();
-        resolve(a.raw, a.at, m_value);
-        value = m_value;
-    }
+    if (value.contains(u'&')) value = m_resolved.emplace_back(resolved(a));
     if (const auto why = refusalOf(column, value)) throw Refused{*why, a.at, column.name};
     if (column.maxLength >= 0) value = value.first(std::min<qsizetype>(value.size(), column.maxLength));
-    m_set.keepSource(row, field, value);
+    Said &said = saidOf(field);
+    said.isNull = false, said.value = value;
 }
 
-/// A value that stands in the row goes before.
-void Reader::forceNulls(int row, const XmlScanner::Attribute &a)
+/// A value that stands in the same tag goes before.
+void Reader::forceNulls(const XmlScanner::Attribute &a)
 {
     const QString names = resolved(a);
-    for (const QStringView name : QStringView(names).split(u' ', Qt::SkipEmptyParts)) {
+    for (const QStringView name : QStringView(names).tokenize(u' ', Qt::SkipEmptyParts)) {
         const int field = m_columns.value(name.toString().toCaseFolded(), -1);
-        const bool stands = std::ranges::any_of(m_scanner.attributes(), [&](const auto &other) {
-            return other.space == Space::None && other.name.compare(name, Qt::CaseInsensitive) == 0;
-        });
-        if (field >= 0 && !stands) m_set.setNull(row, field);
+        if (field >= 0 && m_said[size_t(field)].tag != m_tag) saidOf(field).isNull = true;
     }
 }
 
-/// Goes along the row's values, so that a row costs no more than what stands in it.
-void Reader::requireValues(int row, qsizetype at) const
+/// Puts the row in by column, so that it costs what stands in it, in whatever order.
+void Reader::endRow(Recordset::RowState state, qsizetype at)
 {
-    int i = 0;
-    for (const int needed : m_needed) {
-        while (i < m_set.valueCount(row) && m_set.fieldOfValue(row, i) < needed) ++i;
-        if (i == m_set.valueCount(row) || m_set.fieldOfValue(row, i) != needed || m_set.isNull(row, needed))
+    for (const int needed : m_needed)
+        if (const Said &said = m_said[size_t(needed)]; said.row != m_row || said.isNull)
             throw Refused{Why::LacksValue, at, m_set.fields()[size_t(needed)].name};
+    const int row = m_set.addRow(state);
+    if (!std::ranges::is_sorted(m_inRow)) std::ranges::sort(m_inRow);
+    for (const int field : m_inRow) {
+        const Said &said = m_said[size_t(field)];
+        said.isNull ? m_set.setNull(row, field) : m_set.keepSource(row, field, said.value);
     }
 }
 

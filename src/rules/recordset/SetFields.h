@@ -51,7 +51,7 @@ template <auto Member> constexpr auto setField(const char *name, RecordsetField:
             return set.setInteger(row, field, r.*Member);
     };
     f.take = [](const Recordset &set, int row, int field, Rec &r) {
-        if (set.isNull(row, field)) return true; // the record keeps what a new one has
+        if (set.isNull(row, field)) return true; // the record keeps what it has
         if constexpr (std::is_same_v<Value, QString>)
             r.*Member = set.text(row, field).toString();
         else if constexpr (std::is_same_v<Value, bool>)
@@ -88,8 +88,10 @@ template <class Rec> struct SetContent {
     std::vector<Rec> records;
     std::optional<SetFault> fault;
 };
-/// Columns are found by name, without regard to case and order; further ones are of no concern.
-template <class Rec> SetContent<Rec> contentOf(const Recordset &set, std::span<const SetField<Rec>> layout)
+/// Columns are found by name, without regard to case and order; further ones are of no concern. What a row
+/// has no value for stays as in `blank`.
+template <class Rec>
+SetContent<Rec> contentOf(const Recordset &set, std::span<const SetField<Rec>> layout, const Rec &blank)
 {
     std::vector<int> places;
     for (const auto &f : layout) {
@@ -98,7 +100,7 @@ template <class Rec> SetContent<Rec> contentOf(const Recordset &set, std::span<c
     }
     SetContent<Rec> content;
     for (int row = 0; row < set.rowCount(); ++row) {
-        Rec r;
+        Rec r = blank;
         for (size_t f = 0; f < layout.size(); ++f)
             if (layout[f].isRead && !layout[f].take(set, row, places[f], r))
                 return content.fault = SetFault{row, QLatin1String(layout[f].name)}, content;

@@ -88,7 +88,12 @@ private slots:
             << QByteArray("<z:row t='a' n='1' T='b' X='?' rs:what='?'><i><j/></i></z:row><z:other N='3'/>")
             << "  N=1 T=b R B";
         QTest::newRow("null loses against a value")
-            << QByteArray("<z:row N='1' T='' rs:forcenull='n b T x'/>") << "  N=1 T= R B";
+            << QByteArray("<z:row N='1' T='' rs:forcenull='n b T x b'/><z:row rs:forcenull='n' B='0'/>")
+            << "  N=1 T= R B\n  N T R B=0";
+        QTest::newRow("columns of an update from the last to the first")
+            << QByteArray("<rs:update><rs:original><z:row B='1' T='a&amp;' rs:forcenull='N'/></rs:original>"
+                          "<z:row R='2' N='3' rs:forcenull='B'/></rs:update>")
+            << "  N=3 T=a& R=2 B";
         QTest::newRow("references, blanks, line breaks and control letters stay")
             << QByteArray("<z:row T='&#x22;&amp;&#39;&lt;'/><z:row T=' \t\r\n'/><z:row T='\x01'/>")
             << "  N T=\"&'< R B\n  N T= \t\r\n R B\n  N T=\x01 R B";
