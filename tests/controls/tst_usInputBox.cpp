@@ -1,7 +1,7 @@
 #include "controls/InputForm.h"
 
-#include "support/MutePrompts.h"
 #include "support/Registry.h"
+#include "support/WillingPrompts.h"
 
 #include <QClipboard>
 #include <QDropEvent>
@@ -61,7 +61,7 @@ private slots:
         f.leave();
         QCOMPARE(f.value(), 3.14159);
         f.box->setFocus();
-        f.type(QStringLiteral("3,14\n"));       // typed: read as far as it goes, on purpose
+        f.type(QStringLiteral("3,14\n")); // the same text, but typed: read as far as it goes, on purpose
         QCOMPARE(f.value(), 3.0);
         f.box->setReadsLocale(true);
         f.type(QStringLiteral("1.5\n"));        // the point types the comma
@@ -292,7 +292,7 @@ private slots:
     /// Whatever is pressed, pasted or stepped: the value stays in its bounds and the box has a way back.
     void randomKeysNeverLeaveAValueOutsideTheBounds()
     {
-        MutePrompts mute;
+        WillingPrompts mute;
         constexpr int kKeys[] = {Qt::Key_Return, Qt::Key_Up, Qt::Key_Down, Qt::Key_Backspace, Qt::Key_Delete,
                                  Qt::Key_Left, Qt::Key_Home, Qt::Key_End};
         const QString characters = QStringLiteral("0123456789.,-+eE a");
