@@ -18,6 +18,22 @@ using namespace tests;
 
 class tst_ValuePrompts : public QObject {
     Q_OBJECT
+private:
+    /// Once, as plain text without an access key; and no two of the others' keys are the same.
+    static void asksPlainly(QDialog &box, const QString &text)
+    {
+        int asked = 0;
+        QString keys;
+        for (const auto *label : box.findChildren<QLabel *>()) {
+            if (label->text() == text) asked += label->textFormat() == Qt::PlainText && !label->buddy();
+            else keys += accessKeyOf(label->text());
+        }
+        QCOMPARE(asked, 1);
+        for (const auto *button : box.findChildren<QAbstractButton *>()) keys += accessKeyOf(button->text());
+        keys.remove(QChar());
+        for (const QChar key : keys) QVERIFY2(keys.count(key) == 1, qPrintable(keys));
+    }
+
 private slots:
     void cleanup() { setLanguage(Hungarian, {}); }
 
@@ -46,18 +62,7 @@ private slots:
                 const auto watch = whileModal<QDialog>([&](QDialog &box) {
                     QCOMPARE(box.windowTitle(), title);
                     QCOMPARE(box.parentWidget(), &window);
-                    int asked = 0;
-                    QString keys;
-                    for (const auto *label : box.findChildren<QLabel *>()) {
-                        if (label->text() == text)
-                            asked += label->textFormat() == Qt::PlainText && !label->buddy();
-                        else keys += accessKeyOf(label->text());
-                    }
-                    QCOMPARE(asked, 1);
-                    for (const auto *button : box.findChildren<QAbstractButton *>())
-                        keys += accessKeyOf(button->text());
-                    keys.remove(QChar());
-                    for (const QChar key : keys) QVERIFY2(keys.count(key) == 1, qPrintable(keys));
+                    asksPlainly(box, text);
                     box.reject();
                 });
                 ask();
