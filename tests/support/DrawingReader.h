@@ -47,6 +47,21 @@ public:
         while (q.next()) now.rows[place.at(q.value(0).toInt())].groups.insert(q.value(1).toString());
         return now;
     }
+    /// "number name group size thickness layer type uses" of every symbol.
+    QStringList symbols()
+    {
+        QStringList rows;
+        QSqlQuery q = ask("SELECT s.id||' '||s.name||' '||g.name||' '||round(s.size_mm, 3)||' '||s.weight||' '||"
+                          "s.layer||' '||s.font_type||' '||"
+                          "(SELECT count(*) FROM elements e WHERE e.symbol=s.id) "
+                          "FROM symbols s JOIN symbol_groups g ON g.id=s.group_id ORDER BY s.id");
+        while (q.next()) rows << q.value(0).toString();
+        return rows;
+    }
+    QString symbolGroups()
+    {
+        return text("SELECT group_concat(name, '|') FROM (SELECT name FROM symbol_groups ORDER BY id)");
+    }
     int orphans() { return number("SELECT count(*) FROM elements WHERE layer IS NULL"); }
     QString systemGroup() { return text("SELECT name FROM layer_groups WHERE system=1"); }
     QString groups()
