@@ -5,7 +5,7 @@
 namespace QV_DOC_CONTROLS {
 
 /// The twin of usSiInfo for a host's own forms: its captions follow the language and its buttons the font. It
-/// has no look of its own for being disabled, and hands out no window.
+/// looks disabled only when it is, and hands out no window.
 class ZOL3_SiInfo final : public SymbolPreview {
     Q_OBJECT
 public:

@@ -128,8 +128,9 @@ private slots:
         row("layer", typed("usLayInfo1", "12"), [](tSid &s) { s.LayId = s_road; });
         row("layer left", typed("txtLayNr", "12\t"), [](tSid &s) { s.LayId = s_road; });
         row(
-            "face", [](frmEditSid &f) { f.cboFonts->setCurrentIndex(1); },
-            [](tSid &s) { s.Facename = trueTypeFaces()[1]; });
+            "face that has the character set",
+            [](frmEditSid &f) { f.cboFonts->setCurrentText(QStringLiteral("DejaVu Serif")); },
+            [](tSid &s) { s.Facename = QStringLiteral("DejaVu Serif"); });
         row(
             "alignment",
             [](frmEditSid &f) { f.usTxAlign1->findChildren<QAbstractButton *>().front()->click(); },

@@ -51,10 +51,11 @@ public:
     QStringList symbols()
     {
         QStringList rows;
-        QSqlQuery q = ask("SELECT s.id||' '||s.name||' '||g.name||' '||round(s.size_mm, 3)||' '||s.weight||' '||"
-                          "s.layer||' '||s.font_type||' '||"
-                          "(SELECT count(*) FROM elements e WHERE e.symbol=s.id) "
-                          "FROM symbols s JOIN symbol_groups g ON g.id=s.group_id ORDER BY s.id");
+        QSqlQuery q =
+            ask("SELECT s.id||' '||s.name||' '||g.name||' '||round(s.size_mm, 3)||' '||s.weight||' '||"
+                "s.layer||' '||s.font_type||' '||"
+                "(SELECT count(*) FROM elements e WHERE e.symbol=s.id) "
+                "FROM symbols s JOIN symbol_groups g ON g.id=s.group_id ORDER BY s.id");
         while (q.next()) rows << q.value(0).toString();
         return rows;
     }

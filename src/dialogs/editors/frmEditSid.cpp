@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <cstring>
 
 namespace QV_DOC_CONTROLS {
@@ -149,7 +150,19 @@ void frmEditSid::changed(const char *control)
 {
     if (std::strcmp(control, "optFontType") == 0) fontTypeChanged();
     if (std::strcmp(control, "cboProtType") == 0) resetMarker();
+    if (std::strcmp(control, "cboFonts") == 0) followFace();
     showSymbol();
+}
+
+/// A face that lacks the symbol's character set brings one of its own: small codes mean characters of it.
+void frmEditSid::followFace()
+{
+    tSid &s = m_fields.record();
+    const auto &scripts = scriptsOf(s.Facename);
+    if (isVector(s) || scripts.empty()) return;
+    const bool isThere =
+        std::ranges::any_of(scripts, [&](const Script *script) { return script->charSet == s.CharSet; });
+    if (!isThere) s.CharSet = scripts.front()->charSet;
 }
 
 void frmEditSid::fontTypeChanged()

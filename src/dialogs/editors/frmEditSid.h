@@ -68,6 +68,7 @@ private:
     void connectParts();
     void changed(const char *control);
     void fontTypeChanged();
+    void followFace();
     void fillFaces();
     void enableByFont();
     void resetMarker();
