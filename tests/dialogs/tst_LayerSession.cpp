@@ -1,20 +1,12 @@
 #include "facade/clsDocDlgs.h"
-#include "facade/services/Language.h"
-#include "import/DxfImport.h"
-#include "support/DrawingReader.h"
-#include "support/OwnStore.h"
+#include "support/RealDrawings.h"
 #include "support/Registry.h"
-#include "support/Someone.h"
 
-#include <QAbstractItemView>
-#include <QDir>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <numeric>
 
 using namespace QV_DOC_CONTROLS;
-using tests::child;
 using Places = tests::LayerModel::Places;
 using Row = tests::LayerModel::Row;
 
@@ -33,6 +25,15 @@ struct Session {
     {
         model.firstGroups = {file.systemGroup()};
     }
+    QStringList found()
+    {
+        return file.layers().dump().split(u'\n') << file.groups() << QString::number(file.orphans());
+    }
+    QStringList expected() const
+    {
+        return model.dump().split(u'\n') << groups << QString::number(orphans);
+    }
+    int count() const { return int(model.rows.size()); }
     std::vector<int> numbers(const Places &places) const
     {
         std::vector<int> out;
@@ -243,14 +244,6 @@ struct Session {
     }
 };
 
-QString difference(const QStringList &found, const QStringList &wanted)
-{
-    for (qsizetype i = 0; i < std::max(found.size(), wanted.size()); ++i)
-        if (found.value(i) != wanted.value(i))
-            return QStringLiteral(": '%1', not '%2'").arg(found.value(i), wanted.value(i));
-    return {};
-}
-
 using Act = void (Session::*)();
 constexpr std::pair<const char *, Act> kActs[] = {
     {"hide", &Session::hide},
@@ -290,46 +283,12 @@ constexpr std::pair<const char *, Act> kActs[] = {
 class tst_LayerSession : public QObject {
     Q_OBJECT
 private slots:
-    void everyCommandDoesItsWorkOnADrawing_data()
-    {
-        QTest::addColumn<QString>("path");
-        const QDir folder(qEnvironmentVariable("QVDC_SAMPLES") + QStringLiteral("/dxf"));
-        if (qEnvironmentVariableIsEmpty("QVDC_SAMPLES"))
-            QSKIP("QVDC_SAMPLES does not name a folder of drawings");
-        const QFileInfoList files = folder.entryInfoList({QStringLiteral("*.dxf")});
-        QCOMPARE(files.size(), 6);
-        for (const QFileInfo &f : files) QTest::newRow(qPrintable(f.baseName())) << f.filePath();
-    }
+    void everyCommandDoesItsWorkOnADrawing_data() { tests::addDrawingRows(); }
     void everyCommandDoesItsWorkOnADrawing()
     {
         QFETCH(QString, path);
-        setLanguage(Hungarian, {});
-        const QTemporaryDir folder;
-        const tests::OwnStore store;
-        const QString saved = folder.filePath(QStringLiteral("drawing.qvd"));
-        refhost::ImportReport report;
-        const auto doc = refhost::DxfImport::into(saved, path, {1, 1000}, report);
-        const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {
-            tests::DrawingReader file(saved);
-            tests::Someone user(d);
-            Session session(file, user);
-            for (const auto &[name, act] : kActs) {
-                (session.*act)();
-                QVERIFY2(user.surprises.isEmpty(),
-                         qPrintable(QLatin1String(name) + QStringLiteral(": ") + user.surprises.join(u'\n')));
-                QVERIFY2(user.answers.isEmpty(), name);
-                const QStringList found = file.layers().dump().split(u'\n'),
-                                  wanted = session.model.dump().split(u'\n');
-                QVERIFY2(found == wanted, qPrintable(QLatin1String(name) + difference(found, wanted)));
-                QCOMPARE(file.groups(), session.groups);
-                QCOMPARE(file.orphans(), session.orphans);
-            }
-            QCOMPARE(child<Grid>(d, "gridItems").table()->model()->rowCount(),
-                     int(session.model.rows.size()));
-            d.reject();
-        });
         clsDocDlgs dialogs;
-        QVERIFY(!dialogs.bEdit_Layers(*doc));
+        tests::workThrough<Session>(path, kActs, [&](auto &doc) { return dialogs.bEdit_Layers(doc); });
     }
 };
 

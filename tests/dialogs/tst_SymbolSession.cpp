@@ -1,13 +1,7 @@
 #include "facade/clsDocDlgs.h"
-#include "facade/services/Language.h"
-#include "import/DxfImport.h"
-#include "support/DrawingReader.h"
-#include "support/OwnStore.h"
+#include "support/RealDrawings.h"
 #include "support/Registry.h"
-#include "support/Someone.h"
 
-#include <QDir>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace QV_DOC_CONTROLS;
@@ -41,12 +35,14 @@ struct Session {
         for (const QString &line : f.symbols()) known << line;
     }
     QStringList known;                          ///< the drawing's own, which nothing changes
+    QStringList found() { return file.symbols() << file.symbolGroups(); }
     QStringList expected() const
     {
         QStringList all = known;
         for (const auto &[number, row] : rows) all << row.line(number);
-        return all;
+        return all << groups;
     }
+    int count() const { return int(known.size() + rows.size()); }
     QString firstGroup() const { return groups.section(u'|', 0, 0); }
     int nextNumber() const
     {
@@ -228,43 +224,12 @@ constexpr std::pair<const char *, Act> kActs[] = {
 class tst_SymbolSession : public QObject {
     Q_OBJECT
 private slots:
-    void everyCommandDoesItsWorkOnADrawing_data()
-    {
-        QTest::addColumn<QString>("path");
-        if (qEnvironmentVariableIsEmpty("QVDC_SAMPLES"))
-            QSKIP("QVDC_SAMPLES does not name a folder of drawings");
-        const QDir folder(qEnvironmentVariable("QVDC_SAMPLES") + QStringLiteral("/dxf"));
-        const QFileInfoList files = folder.entryInfoList({QStringLiteral("*.dxf")});
-        QCOMPARE(files.size(), 6);
-        for (const QFileInfo &f : files) QTest::newRow(qPrintable(f.baseName())) << f.filePath();
-    }
+    void everyCommandDoesItsWorkOnADrawing_data() { tests::addDrawingRows(); }
     void everyCommandDoesItsWorkOnADrawing()
     {
         QFETCH(QString, path);
-        setLanguage(Hungarian, {});
-        const QTemporaryDir folder;
-        const tests::OwnStore store;
-        const QString saved = folder.filePath(QStringLiteral("drawing.qvd"));
-        refhost::ImportReport report;
-        const auto doc = refhost::DxfImport::into(saved, path, {1, 1000}, report);
-        const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {
-            tests::DrawingReader file(saved);
-            tests::Someone user(d);
-            Session session(file, user);
-            for (const auto &[name, act] : kActs) {
-                (session.*act)();
-                QVERIFY2(user.surprises.isEmpty(),
-                         qPrintable(QLatin1String(name) + QStringLiteral(": ") + user.surprises.join(u'\n')));
-                QVERIFY2(user.answers.isEmpty(), name);
-                const QString found = file.symbols().join(u'\n'), wanted = session.expected().join(u'\n');
-                QVERIFY2(found == wanted,
-                         qPrintable(QLatin1String(name) + u'\n' + found + QStringLiteral("\n\n") + wanted));
-                QCOMPARE(file.symbolGroups(), session.groups);
-            }
-            d.reject();
-        });
         clsDocDlgs dialogs;
-        QVERIFY(!dialogs.bEdit_Sids(*doc));
+        tests::workThrough<Session>(path, kActs, [&](auto &doc) { return dialogs.bEdit_Sids(doc); });
     }
 };
 

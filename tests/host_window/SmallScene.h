@@ -13,15 +13,8 @@ inline refhost::Resources smallTables(bool secondVisible = true)
 {
     refhost::Resources r;
     r.layers = {{{.LayId = 1, .gNr = 10, .Name = "A", .PenStyleId = 5, .PenColorId = 2, .TxdId = 3},
-                 {.LayId = 2,
-                  .gNr = 20,
-                  .Name = "B",
-                  .Visible = secondVisible,
-                  .PenStyleId = 6,
-                  .ScrColor = 4,
-                  .TxdId = 4,
-                  .ElByLayer = true,
-                  .TxByLayer = true}}};
+                 {.LayId = 2, .gNr = 20, .Name = "B", .Visible = secondVisible, .PenStyleId = 6,
+                  .ScrColor = 4, .TxdId = 4, .ElByLayer = true, .TxByLayer = true}}};
     r.lineTypes = {
         {{.iPenStyleId = 5, .PenStyleNr = 1}, {.iPenStyleId = 6, .PenStyleNr = 2, .Pattern = {3, 2}}}};
     r.textTypes = {{{.TxdId = 3, .Size_mm = 2}, {.TxdId = 4, .Size_mm = 4}}};

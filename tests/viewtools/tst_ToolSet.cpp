@@ -1,4 +1,5 @@
 #include "dialogs/viewtools/ViewTools.h"
+#include "facade/services/Language.h"
 #include "kit/tools/ToolSet.h"
 #include "support/Registry.h"
 
@@ -63,7 +64,7 @@ Window::Window()
 class tst_ToolSet : public QObject {
     Q_OBJECT
 private slots:
-    void bandsShowTheirRowsInOrder()
+    void bandsShowTheirRowsInOrderAndTipsTheirKeys()
     {
         Window w;
         QStringList shown;
@@ -72,6 +73,10 @@ private slots:
                                    "miView_Table miView_Card miView_CardMin - miPrintPreview");
         QCOMPARE(w.tool("miViewStyle").menu(), w.tools.popUp("bndPopUp_ViewStyle"));
         QCOMPARE(w.tools.popUp("bndPopUp_View")->actions().first(), &w.tool("miFind")); // one tool on both
+        setLanguage(English, {});
+        w.tools.retranslate();
+        QCOMPARE(w.tool("miSort").toolTip(), "Sort (Ctrl+Shift+S)");
+        setLanguage(Hungarian, {});
     }
     void aToolRunsItsCommandWhenItCan()
     {
