@@ -96,7 +96,7 @@ const bool s_symbolsEntered =
            [] { return megabytesPerSecond(symbolBytes(), nanosecondsOf(readSymbols)); }) &&
     figure("symbolset.write", "MB/s", unbounded(),
            [] { return megabytesPerSecond(symbolBytes(), nanosecondsOf(writeSymbols)); }) &&
-    figure("symbolset.read.to.plain.pass", "x", atMost(2), // the records are made too
+    figure("symbolset.read.to.plain.pass", "x", atMost(1.5), // the records are made too
            [] { return ratioOf(readSymbols, plainSymbolPass); });
 
 const bool s_entered =
