@@ -1,6 +1,7 @@
 #include "controls/usSiInfo.h"
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
+#include "dialogs/values/NumberBox.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
@@ -14,6 +15,8 @@
 #include "support/ScriptedPrompts.h"
 #include "support/SymbolForm.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
@@ -41,6 +44,26 @@ int inkOf(clsJS_Sid &js, qint16 number, Grid &grid)
     for (int y = 0; y < sample.height(); ++y)
         for (int x = 0; x < sample.width(); ++x) ink += sample.pixel(x, y) != sample.pixel(0, 0);
     return ink;
+}
+
+/// An item of the list behind a line, which must have ten.
+void choose(QComboBox &of, int item, bool byMouse)
+{
+    QCOMPARE(of.count(), 10);
+    QAbstractItemView &list = *of.view();
+    if (!byMouse) {
+        QTest::keyClick(&of, Qt::Key_Down, Qt::AltModifier);
+        QTest::keyClick(&list, Qt::Key_Home);
+        for (int i = 0; i < item; ++i) QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+    } else {
+        QTest::mouseClick(&of, Qt::LeftButton, {}, {of.width() - 5, of.height() / 2});
+        list.scrollTo(list.model()->index(item, 0));
+        const QPoint at = list.visualRect(list.model()->index(item, 0)).center();
+        QTest::mouseMove(list.viewport(), at);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    }
+    QVERIFY(!list.isVisible());
 }
 
 } // namespace
@@ -149,6 +172,25 @@ private slots:
         });
         QVERIFY(!m_dialogs.bEdit_Sids(*m_doc));
         QCOMPARE(m_doc->symbols().find(1)->Size_mm, 2.5f);      // edits stay
+    }
+
+    void everyPresetSizeIsChosenByKeysAndByMouse()
+    {
+        const float presets[] = {1, 1.5f, 2, 2.5f, 3, 3.5f, 4, 5, 7, 10};
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            items(d).selectAll();
+            for (const bool byMouse : {false, true})
+                for (int i = 0; i < 10; ++i) {
+                    const auto user = whileModal<NumberBox>([&](NumberBox &box) {
+                        choose(*box.findChild<QComboBox *>(), i, byMouse);
+                        QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+                    });
+                    tool(d, "cmdSid_Size").trigger();
+                    for (const tSid &s : m_doc->symbols().readAll()) QCOMPARE(s.Size_mm, presets[i]);
+                }
+            d.reject();
+        });
+        m_dialogs.bEdit_Sids(*m_doc);
     }
 
     void selectedSymbolsMoveByTheGroupMenu()

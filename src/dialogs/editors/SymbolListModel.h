@@ -20,6 +20,7 @@ public:
     void setSymbols(std::vector<ZolWDoc::tSid> all, SymbolNames names, std::optional<qint16> group);
     void showGroup(std::optional<qint16> group);
     void setMarked(qint16 id) { m_marked = id; } ///< the symbol that the manager was opened with; -1 = none
+    qint16 marked() const { return m_marked; }
     using Dragged = std::function<QMimeData *(const std::vector<qint16> &)>;
     void setDragged(Dragged data) { m_drag = std::move(data); }
     void retranslate();

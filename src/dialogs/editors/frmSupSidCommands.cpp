@@ -100,6 +100,9 @@ void frmSupSid::renumber()
     if (!number || *number == current->SidId) return;
     inCommand(doc(), txt(Text{20074, u"Jk.sorszám módosítása"}),
               [&] { doc().symbolRenumber()->renumber(current->SidId, *number); });
+    m_span->note();
+    m_span->commit();
+    if (m_symbols->marked() == current->SidId) m_symbols->setMarked(*number);
     fill();
     selectById(*number);
 }

@@ -179,6 +179,7 @@ void GridDelegate::paintPicture(QPainter *painter, const QRect &rect, const QPix
     QSize size = picture.deviceIndependentSize().toSize();
     if (size.width() > rect.width() || size.height() > rect.height())
         size.scale(rect.size(), Qt::KeepAspectRatio);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect), picture);
 }
 
@@ -228,7 +229,7 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
     bool pictures = false;
     for (int c = 0; const GridColumn *column = m_model.column(c); ++c)
         pictures |= column->kind == CellKind::Picture;
-    if (pictures) height = std::max(height, m_pictureSize.height() + 2);
+    if (pictures) height = std::max(height, pictureRoom());
     return {height, height};
 }
 

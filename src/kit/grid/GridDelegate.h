@@ -25,7 +25,7 @@ public:
     {
         m_pictureSize = size;
     } ///< device-independent pixels; empty = a line's height
-    QSize pictureSize() const { return m_pictureSize; }
+    int pictureRoom() const { return m_pictureSize.height() + 3; } ///< height of a cell: a line and an edge
     static int padding(const QFontMetrics &letters) { return letters.horizontalAdvance(u' '); }
     int lineHeight(const QStyleOptionViewItem &option) const;
 
