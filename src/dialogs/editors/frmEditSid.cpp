@@ -125,7 +125,7 @@ void frmEditSid::Init(ZOLW_Doc &doc, const tSid &record)
     enableByFont();
     describeMarker();
     usSiInfo1->SetDoc(&doc);
-    if (record.DspZoom > 0) usSiInfo1->setZoom(record.DspZoom);
+    usSiInfo1->setZoom(previewZoomOf(record));
     showSymbol();
 }
 

@@ -51,6 +51,7 @@ public:
     void toggleMode();
     void toggleGroups();
     template <ItemList::View V> void showView() { changeView(V); }
+    void sortItems();
     void zoomIn();
     void zoomOut();
     template <int step> void resizeCells() { changeCell(step); }
