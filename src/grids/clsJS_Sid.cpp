@@ -89,9 +89,7 @@ GroupDrags clsJS_Sid::groupDrags()
 
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
-    bool renamed = false;
-    guarded([&] { renamed = m_groups.renameInPlace(group, name); });
-    return renamed;
+    return guardedOr(false, [&] { return m_groups.renameInPlace(group, name); });
 }
 
 void clsJS_Sid::raiseSelection(int count)

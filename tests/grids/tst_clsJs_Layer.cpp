@@ -170,7 +170,8 @@ private slots:
         QAbstractItemView &table = *form.grid.table();
         table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
         const QString now = form.cellOf(form.grid.currentRow(), c);
-        ScriptedPrompts user({{"colorIndex", caption, QStringLiteral("Válassz tollat! Réteg: 1/A|") + now, 9}});
+        ScriptedPrompts user(
+            {{"colorIndex", caption, QStringLiteral("Válassz tollat! Réteg: 1/A|") + now, 9}});
         QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
         QCOMPARE(LayerTable::columns[c].get(m_doc->layers().find(layer(1).LayId).value()).toInt(), 9);
     }

@@ -5,6 +5,7 @@
 #include "grids/frame/Desk.h"
 #include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
+#include "grids/frame/PenChoice.h"
 #include "grids/frame/RecordRows.h"
 #include "kit/grid/Grid.h"
 
@@ -154,23 +155,14 @@ protected:
 
     bool edit(int row, int c, const QVariant &value) override
     {
-        bool stored = false;
-        guarded([&] { stored = tryEdit(row, c, value); });
-        return stored;
+        return guardedOr(false, [&] { return tryEdit(row, c, value); });
     }
 
     std::optional<QVariant> choose(int row, int c) override
     {
-        std::optional<QVariant> chosen;
-        guarded([&] {
-            const ColorIndexQuestion question{txt(Table::columns[c].caption),
-                                              join(Text{22343, u"Válassz tollat! "}, Rows::rowName(row)),
-                                              Rows::value(row, c).toInt(), screenColorsOfPens(*m_doc)};
-            const auto pen = prompts().colorIndex(question, asker());
-            relay().checkpoint();
-            if (pen) chosen = *pen;
+        return guardedOr(std::optional<QVariant>(), [&] {
+            return choosePen(*this, txt(Table::columns[c].caption), Rows::rowName(row), Rows::value(row, c));
         });
-        return chosen;
     }
 
 private:
@@ -195,14 +187,7 @@ private:
         Record &shown = Rows::recordAt(row);
         if (const Refusal *const why = refusalOf<Table>(shown, *edited, c, Rows::all()))
             return this->tell(messageOf(*why)), false;
-        try {
-            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
-                               [&] { storeEdit(shown, *edited); });
-        } catch (...) { // what the document has now, an error of its own apart
-            relay().tryQuietly([&] { shown = asStored<Table>(*m_doc, shown, *edited); });
-            throw;
-        }
-        shown = *edited;
+        storeCell<Table>(*m_doc, c, shown, *edited, [&] { storeEdit(shown, *edited); });
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }
