@@ -117,7 +117,7 @@ private slots:
             {"1", 1},      {" -2 ", -2},  {"+1", 1},     {"1.5", 1.5},    {"1E1", 10},    {"1,000", 1000},
             {"1,5", 15},   {"&H1F", 31},  {"&o17", 15},  {"5.0E-2", .05}, {"", none},     {"x", none},
             {"1 2", none}, {"nan", none}, {"inf", none}, {"&H", none},    {"&H-1", none}, {"0x10", none},
-            {"+.5", .5},   {"-5.", -5},   {"+-1", none}, {"1E", none},    {"1E400", none}, {"-", none},
+            {"+.5", .5},   {"-5.", -5},   {"+-1", none}, {"1E", none},    {"9E999", none}, {"-", none},
         };
         for (const auto &[text, number] : rows) QTest::newRow(text) << text << number;
     }
