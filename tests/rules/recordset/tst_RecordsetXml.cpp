@@ -169,9 +169,13 @@ private slots:
         row("cut in a tag", value("N='1'").chopped(30), Why::CutShort, 4);
         row("cut between tags", whole(kColumns, "").chopped(6), Why::CutShort, 3);
         row("crossed tags", kHead + "<s:Schema></rs:data></xml>", Why::WrongMarkup, 2);
-        row("two schemas", kHead + schema(kColumns) + schema(kColumns) + "</xml>", Why::TwoSchemas, 3);
+        row("two schemas", kHead + schema(kColumns) + schema(kColumns) + "</xml>", Why::DescribedTwice, 3);
         row("no schema", kHead + "<rs:data/></xml>", Why::NoSchema, 2);
         row("column not described", whole("<s:attribute type='Q'/>", ""), Why::NoSuchColumn, 2, "Q");
+        row("column referred to twice",
+            whole("<s:AttributeType name='N'/><s:attribute type='N'/><s:attribute type='N'/>", ""),
+            Why::DescribedTwice, 2, "N");
+        row("half a letter", value("T='&#xD800;'"), Why::WrongMarkup, 4);
         row("other root", "<html/>", Why::WrongRoot, 0);
         row("nothing", "", Why::WrongRoot, 0);
         row("binary", QByteArray(64, '\xff'), Why::WrongBytes, 1);
