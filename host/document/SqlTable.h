@@ -6,10 +6,12 @@
 
 #include "facade/contract/TableRoles.h"
 
+#include <exception>
+
 namespace refhost {
 
 /// The common role over one table. Every write call is one transaction: when it throws, nothing of it was
-/// written.
+/// written, but for the rows of addAll before the one that was refused.
 template <class Rec, class Role> class SqlTable : public Role {
 public:
     explicit SqlTable(Database &db) : m_db(db), m_facts(factsOf<Rec>()), m_sql(m_facts) {}
@@ -44,19 +46,13 @@ public:
         ids.clear();
         std::vector<qint16> given;
         Write write(m_db);
-        Identifiers numbers(m_db, table());
-        Statement insertion(m_db, m_sql.insert);
-        for (const Rec &r : rows) {
-            Rec stored = completed(r);
-            stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
-            insert(insertion, stored);
-            given.push_back(stored.*m_facts.id);
-        }
-        numbers.keep();
+        const std::exception_ptr refusal = insertUntilRefused(rows, given);
+        if (refusal && given.empty()) std::rethrow_exception(refusal);
         added(given);
         changed();
         write.keep();
         ids = std::move(given);
+        if (refusal) std::rethrow_exception(refusal);
     }
     void update(const Rec &r) override
     {
@@ -137,6 +133,24 @@ private:
         int column = 0;
         for (const Field<Rec> &field : m_facts.fields) field.put(r, s.value(column++));
         return r;
+    }
+    std::exception_ptr insertUntilRefused(std::span<const Rec> rows, std::vector<qint16> &given)
+    {
+        std::exception_ptr refusal;
+        Identifiers numbers(m_db, table());
+        Statement insertion(m_db, m_sql.insert);
+        try {
+            for (const Rec &r : rows) {
+                Rec stored = completed(r);
+                stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
+                insert(insertion, stored);
+                given.push_back(stored.*m_facts.id);
+            }
+        } catch (const DocumentError &) {
+            refusal = std::current_exception();
+        }
+        numbers.keep();
+        return refusal;
     }
     void insert(Statement &s, const Rec &r)
     {
