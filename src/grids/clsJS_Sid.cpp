@@ -49,7 +49,6 @@ void clsJS_Sid::storeEdit(const tSid &now, const tSid &edited)
 
 bool clsJS_Sid::edit(int row, int column, const QVariant &value)
 {
-    if (column == SymbolTable::numberColumn && isOpen() && !document()->symbolRenumber()) return false;
     const bool stored = GroupedManager::edit(row, column, value);
     if (stored) emit RefreshSample(recordAt(row));
     return stored;
@@ -81,7 +80,10 @@ GroupDrags clsJS_Sid::groupDrags()
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
     bool renamed = false;
-    guarded([&] { renamed = m_groups.renameInPlace(group, name); });
+    guarded([&] {
+        renamed = m_groups.renameInPlace(group, name);
+        if (renamed) groupRenamed(group, name);
+    });
     return renamed;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facade/contract/ZOLW_Doc.h"
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Prompts.h"
 #include "facade/services/Text.h"
@@ -37,6 +38,7 @@ template <class Rec, class Names> struct Column {
     double least = std::numeric_limits<double>::lowest(), most = std::numeric_limits<double>::max();
     bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
     void (*follow)(Rec &) = nullptr;                    ///< set: what an edit of the column changes too
+    bool (*offer)(ZolWDoc::ZOLW_Doc &) = nullptr;       ///< set: whether the host lets it be edited at all
 
     constexpr Column within(double from, double to) const
     {
@@ -57,6 +59,12 @@ template <class Rec, class Names> struct Column {
                (value.toDouble() >= least && value.toDouble() <= most);
     }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
+    constexpr Column offered(bool (*by)(ZolWDoc::ZOLW_Doc &)) const
+    {
+        auto c = *this;
+        c.offer = by;
+        return c;
+    }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
     constexpr Column alsoSets(void (*what)(Rec &)) const { auto c = *this; c.follow = what; return c; }
@@ -136,13 +144,14 @@ template <class Table> consteval int columnOf(std::string_view key)
     return c;
 }
 
-/// The columns of a table as a grid shows them, captions in the current language.
-template <class Table> std::vector<GridColumn> gridColumnsOf()
+/// The columns of a table as a grid shows them, captions in the current language; `doc` is the one it is of.
+template <class Table> std::vector<GridColumn> gridColumnsOf(ZolWDoc::ZOLW_Doc *doc)
 {
     std::vector<GridColumn> columns;
     for (const auto &c : Table::columns)
         columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
-                             c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
+                             c.longCaption.id ? txt(c.longCaption) : QString(), c.kind,
+                             c.canEdit && (!c.offer || (doc && c.offer(*doc))), 0});
     return columns;
 }
 

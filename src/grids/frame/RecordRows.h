@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace QV_DOC_CONTROLS {
 
 /// The records of a table as last read, seen by a grid: those that fit are its rows.
@@ -18,7 +20,8 @@ protected:
     Record &recordAt(int row) { return m_all[size_t(m_shown[size_t(row)])]; }
     virtual bool fits(const Record &) const { return true; } ///< whether the record is listed
 
-    void readCaptions() { m_columns = gridColumnsOf<Table>(); }
+    void readCaptions(ZolWDoc::ZOLW_Doc *doc) { m_columns = gridColumnsOf<Table>(doc); }
+    template <class Change> void patchAll(Change patch) { std::ranges::for_each(m_all, patch); }
     void setRecords(std::vector<Record> all, typename Table::Names names) ///< none of them is listed yet
     {
         m_all = std::move(all), m_names = std::move(names);

@@ -17,7 +17,7 @@ class TableManager : public GridManager, protected RecordRows<Table>, protected 
 public:
     using Record = typename Table::Record;
 
-    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(); }
+    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(nullptr); }
     void setAllowEdit(bool on) override
     {
         GridManager::setAllowEdit(on);
@@ -33,9 +33,9 @@ public:
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
-        Rows::readCaptions();
+        Rows::readCaptions(m_doc);
         if (!m_grid) return;
-        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows(*m_grid);
         m_grid->captionsChanged();
         loadLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
@@ -106,12 +106,13 @@ protected:
         auto names = Table::namesOf(doc);
         readBeside(doc, all); // an error leaves nothing attached, and no layout to save
         m_doc = &doc, m_grid = &grid;
+        Rows::readCaptions(m_doc);
         Rows::setRecords(std::move(all), std::move(names));
         grid.setAllowEdit(AllowEdit());
         readTooltips(grid);
         Rows::showWhatFits();
         grid.setSource(this);
-        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows(grid);
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
@@ -137,6 +138,13 @@ protected:
     QObject *asker() const override { return m_grid; }
 
     Grid *grid() const { return m_grid; }
+    /// What the records carry of something else is another now, in the document too; none of it is a cell.
+    template <class Change> void patchAll(Change patch)
+    {
+        const auto before = currentRecord();
+        Rows::patchAll(patch);
+        if (const auto now = currentRecord(); now && now != before) raiseCurrent(*now);
+    }
     void endEditing() override { if (m_grid) m_grid->endEditing(); }
     /// fits() answers otherwise now. What is not listed any more stays selected, and current, until the user
     /// chooses anew.
@@ -160,6 +168,11 @@ protected:
     }
 
 private:
+    static void captionRows(Grid &grid)
+    {
+        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        if constexpr (requires { Table::bandCaption; }) grid.setBandCaption(txt(Table::bandCaption));
+    }
     void tellSelection()
     {
         m_selectionTold = true;
