@@ -6,8 +6,6 @@
 
 #include "facade/contract/TableRoles.h"
 
-#include <exception>
-
 namespace refhost {
 
 /// The common role over one table. Every write call is one transaction: when it throws, nothing of it was
@@ -46,8 +44,10 @@ public:
         ids.clear();
         std::vector<qint16> given;
         Write write(m_db);
-        const std::exception_ptr refusal = insertUntilRefused(rows, given);
+        Identifiers numbers(m_db, table());
+        const std::exception_ptr refusal = refusalIn([&] { insertAll(rows, numbers, given); });
         if (refusal && given.empty()) std::rethrow_exception(refusal);
+        numbers.keep();
         added(given);
         changed();
         write.keep();
@@ -98,8 +98,7 @@ public:
     {
         if (r.*m_facts.id <= 0) failUnknown(r.*m_facts.id);
         Write write(m_db);
-        Statement insertion(m_db, m_sql.insert);
-        insert(insertion, completed(r));
+        RowInsert(m_db, m_facts, m_sql.insert).write(completed(r));
         Identifiers::note(m_db, table(), r.*m_facts.id);
         added(std::vector<qint16>{r.*m_facts.id});
         changed();
@@ -134,30 +133,15 @@ private:
         for (const Field<Rec> &field : m_facts.fields) field.put(r, s.value(column++));
         return r;
     }
-    std::exception_ptr insertUntilRefused(std::span<const Rec> rows, std::vector<qint16> &given)
+    void insertAll(std::span<const Rec> rows, Identifiers &numbers, std::vector<qint16> &given)
     {
-        std::exception_ptr refusal;
-        Identifiers numbers(m_db, table());
-        Statement insertion(m_db, m_sql.insert);
-        try {
-            for (const Rec &r : rows) {
-                Rec stored = completed(r);
-                stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
-                insert(insertion, stored);
-                given.push_back(stored.*m_facts.id);
-            }
-        } catch (const DocumentError &) {
-            refusal = std::current_exception();
+        RowInsert<Rec> insertion(m_db, m_facts, m_sql.insert);
+        for (const Rec &r : rows) {
+            Rec stored = completed(r);
+            stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
+            insertion.write(stored);
+            given.push_back(stored.*m_facts.id);
         }
-        numbers.keep();
-        return refusal;
-    }
-    void insert(Statement &s, const Rec &r)
-    {
-        int place = 0;
-        for (const Field<Rec> &field : m_facts.fields)
-            if (field.type) s.bind(place++, field.get(r));
-        named(m_facts, r, [&] { s.exec(); });
     }
     /// What is stored under the identifiers of the rows, in the order of identifiers.
     std::vector<Rec> storedFor(std::span<const Rec> rows) const

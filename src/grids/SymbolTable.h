@@ -36,7 +36,7 @@ struct SymbolTable {
         symbolField<&Record::SidId>("SidId", {3224, u"Ssz"})
             .with({2920, u"Sorszám"})
             .within(1, 32767)
-            .offered(&canRenumber)
+            .where(&canRenumber)
             .unique({Icon::Information, {2920, u"Sorszám"}, {3357, u"Létező sorszám !"}}),
         symbolField<&Record::ShortName>("SidSample", {3167, u"Minta"}).picture(),
         symbolField<&Record::ShortName>("Name", {2834, u"Név"})

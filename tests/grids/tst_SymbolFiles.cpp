@@ -123,7 +123,8 @@ private slots:
         QFETCH(int, symbols);
         if (!tests::FullDisk::isPossible) QSKIP("needs a limit on the size of files");
         std::vector<tSid> all;
-        for (int n = 1; n <= symbols; ++n) all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
+        for (int n = 1; n <= symbols; ++n)
+            all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
         m_doc = tests::symbolDoc(all);
         write(QByteArray("old"));
         tests::SymbolForm form(*m_doc);

@@ -2,6 +2,7 @@
 
 #include "facade/services/Prompts.h"
 #include "grids/frame/Column.h"
+#include "kit/ask/ErrorRelay.h"
 
 #include <algorithm>
 #include <span>
@@ -45,6 +46,24 @@ typename Table::Record asStored(ZolWDoc::ZOLW_Doc &doc, const typename Table::Re
 {
     const auto found = Table::role(doc).find(Table::id(before));
     return found ? *found : Table::role(doc).find(Table::id(edited)).value_or(before);
+}
+
+template <class Record> struct Edit {
+    Record &shown;                              ///< becomes what the document has
+    const Record &edited;
+};
+/// Writes an edit as one command of the document. After an error the document is asked, quietly.
+template <class Table, class Store>
+void storeOrReread(ZolWDoc::ZOLW_Doc &doc, const QString &command, Edit<typename Table::Record> edit,
+                   Store store)
+{
+    try {
+        ZolWDoc::inCommand(doc, command, store);
+    } catch (...) {
+        ErrorRelay::tryQuietly([&] { edit.shown = asStored<Table>(doc, edit.shown, edit.edited); });
+        throw;
+    }
+    edit.shown = edit.edited;
 }
 
 inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }

@@ -42,7 +42,7 @@ template <class Rec, class Names> struct Column {
     bool isPen = false;                                 ///< a pen's number: picked by its colour as well
     bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped
     void (*follow)(Rec &) = nullptr;                    ///< set: what an edit of the column changes too
-    bool (*offer)(ZolWDoc::ZOLW_Doc &) = nullptr;       ///< set: whether the host lets it be edited at all
+    bool (*allowed)(ZolWDoc::ZOLW_Doc &) = nullptr;     ///< set: whether the host lets it be edited at all
 
     constexpr Column within(double from, double to) const
     {
@@ -69,10 +69,10 @@ template <class Rec, class Names> struct Column {
         return {.min = least, .max = most, .decimals = decimals, .unit = unit.id ? txt(unit) : QString()};
     }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
-    constexpr Column offered(bool (*by)(ZolWDoc::ZOLW_Doc &)) const
+    constexpr Column where(bool (*by)(ZolWDoc::ZOLW_Doc &)) const
     {
         auto c = *this;
-        c.offer = by;
+        c.allowed = by;
         return c;
     }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
@@ -169,7 +169,7 @@ template <class Table> std::vector<GridColumn> gridColumnsOf(ZolWDoc::ZOLW_Doc *
                            .caption = txt(c.caption),
                            .longCaption = c.longCaption.id ? txt(c.longCaption) : QString(),
                            .kind = c.kind,
-                           .editable = c.canEdit && (!c.offer || (doc && c.offer(*doc))),
+                           .editable = c.canEdit && (!c.allowed || (doc && c.allowed(*doc))),
                            .unit = c.unit.id ? txt(c.unit) : QString(),
                            .asks = c.isPen});
     return columns;

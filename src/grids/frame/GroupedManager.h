@@ -103,9 +103,11 @@ protected:
     /// Of a table whose records name their group: in the list, which is not read again.
     void groupRenamed(qint16 group, const QString &name)
     {
-        this->patchAll([&](auto &record) {
+        const auto before = this->currentRecord();
+        RecordRows<Table>::patchAll([&](auto &record) {
             if (record.GroupId == group) record.GroupName = name;
         });
+        if (const auto now = this->currentRecord(); now && now != before) this->raiseCurrent(*now);
     }
     virtual void groupChosen() {}                       ///< chosenGroup() may be another one now
     Qt::DropAction dragAction() const override { return Qt::CopyAction; }

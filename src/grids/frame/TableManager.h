@@ -5,7 +5,9 @@
 #include "grids/frame/Desk.h"
 #include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
+#include "grids/frame/PenChoice.h"
 #include "grids/frame/RecordRows.h"
+#include "grids/frame/RowCaptions.h"
 #include "kit/grid/Grid.h"
 
 namespace QV_DOC_CONTROLS {
@@ -35,7 +37,7 @@ public:
     {
         Rows::readCaptions(m_doc);
         if (!m_grid) return;
-        captionRows(*m_grid);
+        captionRows<Table>(*m_grid);
         m_grid->captionsChanged();
         loadLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
@@ -82,10 +84,7 @@ public:
     }
     std::vector<Record> selected() const override ///< in grid order
     {
-        std::vector<Record> out;
-        if (m_grid)
-            for (int r : m_grid->selectedRows()) out.push_back(Rows::recordAt(r));
-        return out;
+        return m_grid ? Rows::recordsAt(m_grid->selectedRows()) : std::vector<Record>{};
     }
     std::optional<Record> currentRecord() const override
     {
@@ -112,7 +111,7 @@ protected:
         readTooltips(grid);
         Rows::showWhatFits();
         grid.setSource(this);
-        captionRows(grid);
+        captionRows<Table>(grid);
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
@@ -138,13 +137,6 @@ protected:
     QObject *asker() const override { return m_grid; }
 
     Grid *grid() const { return m_grid; }
-    /// What the records carry of something else is another now, in the document too; none of it is a cell.
-    template <class Change> void patchAll(Change patch)
-    {
-        const auto before = currentRecord();
-        Rows::patchAll(patch);
-        if (const auto now = currentRecord(); now && now != before) raiseCurrent(*now);
-    }
     void endEditing() override { if (m_grid) m_grid->endEditing(); }
     /// fits() answers otherwise now. What is not listed any more stays selected, and current, until the user
     /// chooses anew.
@@ -169,35 +161,21 @@ protected:
 
     std::optional<QVariant> choose(int row, int c) override
     {
-        std::optional<QVariant> chosen;
+        std::optional<int> chosen;
         guarded([&] {
-            const ColorIndexQuestion question{txt(Table::columns[c].caption),
-                                              join(Text{22343, u"Válassz tollat! "}, Rows::rowName(row)),
-                                              Rows::value(row, c).toInt(), screenColorsOfPens(*m_doc)};
-            const auto pen = prompts().colorIndex(question, asker());
-            relay().checkpoint();
-            if (pen) chosen = *pen;
+            const QString title = txt(Table::columns[c].caption);
+            chosen = askForPen(*this, title, Rows::rowName(row), Rows::value(row, c).toInt());
         });
         return chosen;
     }
 
 private:
-    static void captionRows(Grid &grid)
-    {
-        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
-        if constexpr (requires { Table::bandCaption; }) grid.setBandCaption(txt(Table::bandCaption));
-    }
     void tellSelection()
     {
         m_selectionTold = true;
         raiseSelection(m_grid->selectedCount());
     }
-    std::vector<qint16> selectedIds() const
-    {
-        std::vector<qint16> ids;
-        for (const Record &r : selected()) ids.push_back(Table::id(r));
-        return ids;
-    }
+    std::vector<qint16> selectedIds() const { return Rows::idsAt(m_grid->selectedRows()); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
@@ -208,14 +186,8 @@ private:
         Record &shown = Rows::recordAt(row);
         if (const Refusal *const why = refusalOf<Table>(shown, *edited, c, Rows::all()))
             return this->tell(messageOf(*why)), false;
-        try {
-            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
-                               [&] { storeEdit(shown, *edited); });
-        } catch (...) { // what the document has now, an error of its own apart
-            relay().tryQuietly([&] { shown = asStored<Table>(*m_doc, shown, *edited); });
-            throw;
-        }
-        shown = *edited;
+        const auto store = [&] { storeEdit(shown, *edited); };
+        storeOrReread<Table>(*m_doc, txt(Table::columns[c].caption), {shown, *edited}, store);
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }

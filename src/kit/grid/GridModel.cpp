@@ -220,7 +220,8 @@ QString GridModel::bandText(int b) const
     const int c = m_engine.groupLevels()[size_t(band.level)].column;
     const QString value = cellText(m_engine.firstRowOf(b), c);
     return m_beforeBands + column(c)->caption + QStringLiteral(": ")
-        + (value.isEmpty() ? txt(Text{21002, u"(üres)"}) : value) + QStringLiteral(" (") + interfaceLocale().toString(band.count) + u')';
+        + (value.isEmpty() ? txt(Text{21002, u"(üres)"}) : value)
+        + QStringLiteral(" (") + interfaceLocale().toString(band.count) + u')';
 }
 
 QString GridModel::accessibleBand(int b) const
@@ -277,8 +278,9 @@ QVariant GridModel::accessibleText(int row, int c) const
 QString GridModel::described(int c) const
 {
     const GridColumn &col = *column(c);
-    return col.asks && m_flags[size_t(c)] & Qt::ItemIsEditable ? col.caption + QStringLiteral(", ") + chooseHint()
-                                                              : col.caption;
+    return col.asks && m_flags[size_t(c)] & Qt::ItemIsEditable
+               ? col.caption + QStringLiteral(", ") + chooseHint()
+               : col.caption;
 }
 
 QVariant GridModel::cellData(int row, int c, int role) const
@@ -376,7 +378,8 @@ void GridModel::choose(const QModelIndex &cell)
     const int row = sourceRow(cell), c = cell.column();
     if (row < 0 || !column(c)->asks || !(flags(cell) & Qt::ItemIsEditable)) return;
     const qint64 id = m_source->rowId(row);
-    if (const auto chosen = m_source->choose(row, c)) setData(indexOf(rowWithId(id), c), *chosen, Qt::EditRole);
+    if (const auto chosen = m_source->choose(row, c))
+        setData(indexOf(rowWithId(id), c), *chosen, Qt::EditRole);
 }
 
 } // namespace QV_DOC_CONTROLS
