@@ -352,7 +352,7 @@ private slots:
     {
         tests::FaultyDoc doc(*m_doc);
         const QString wait = QStringLiteral("Frissítés van folyamatban, kérem várakozzék!");
-        const ScriptedPrompts::Step refusal{"tell", QStringLiteral("ZOL"), wait, {}, Icon::Exclamation};
+        const ScriptedPrompts::Step refusal{"tell", appTitle(), wait, {}, Icon::Exclamation};
         ScriptedPrompts user({refusal, refusal, refusal, refusal});
         const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
             doc.log.meanwhile = [&](const QString &call) {

@@ -1,5 +1,6 @@
 #include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
@@ -189,7 +190,7 @@ private slots:
         tests::FaultyDoc slow(*m_doc);
         tests::LayerForm form(slow);
         form.select({1});
-        const ScriptedPrompts::Step refusal = {"tell", QStringLiteral("ZOL"),
+        const ScriptedPrompts::Step refusal = {"tell", appTitle(),
                               QStringLiteral("Frissítés van folyamatban, kérem várakozzék!"), {},
                               Icon::Exclamation};
         ScriptedPrompts user({refusal, refusal, refusal});

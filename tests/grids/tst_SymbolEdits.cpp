@@ -1,9 +1,11 @@
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/ShownForm.h"
 #include "support/SymbolForm.h"
+#include "support/WillingPrompts.h"
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -58,7 +60,7 @@ Step keyAsked(const char *question, bool answer)
 }
 Step keyDoesNothing()
 {
-    return told(Icon::None, "ZOL",
+    return told(Icon::None, "Próba",
                 "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)");
 }
 Step groupGone()
@@ -132,6 +134,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
+        setAppTitle(QStringLiteral("Próba"));
         m_doc = tests::symbolDoc({symbol(1, "A"), symbol(2, "B"), symbol(3, "C", "Kettő")});
         const std::vector<refhost::Element> used{{.kind = refhost::ElementKind::Symbol, .sidId = 2}};
         m_doc->addElements(used);
@@ -279,18 +282,74 @@ private slots:
         QCOMPARE(m_doc->elements().front().sidId, qint16(20));
     }
 
+    void numbersAreFixedWhereTheDocumentCannotRenumber()
+    {
+        tests::FaultyDoc fixed(*m_doc);
+        fixed.symbols().renumberer = nullptr;
+        tests::SymbolForm form(fixed);
+        QString editable;
+        const QAbstractItemModel &cells = *form.grid.table()->model();
+        for (int c = 0; c < cells.columnCount(); ++c)
+            editable += cells.flags(cells.index(0, c)) & Qt::ItemIsEditable ? u'e' : u'-';
+        QCOMPARE(editable, QStringLiteral("--eeee-e"));
+        QVERIFY(!form.edit(1, SymbolTable::numberColumn, QStringLiteral("9")));
+    }
+
+    void numbersAreAskedForWithinTheirBounds()
+    {
+        struct : tests::WillingPrompts {
+            std::vector<NumberField> asked;
+            std::optional<std::vector<double>> numbers(const NumberQuestion &q, QObject *) override
+            {
+                asked.push_back(q.fields.front());
+                return {};
+            }
+        } user;
+        tests::SymbolForm form(*m_doc);
+        form.select({1});
+        form.run("cmdSid_Size");
+        form.run("cmdSid_Width");
+        const NumberField &size = user.asked.at(0), &width = user.asked.at(1);
+        QCOMPARE(size.presets, (std::vector{1.0, 1.5, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 7.0, 10.0}));
+        QCOMPARE(size.unit + width.unit, QStringLiteral("mmmm"));
+        QCOMPARE((std::vector{size.min, size.max}), (std::vector{0.1, 1000.0}));
+        QCOMPARE((std::vector{width.min, width.max}), (std::vector{0.0, 3.0}));
+    }
+
+    void bandsSayWhatTheyAreBandsOf()
+    {
+        tests::SymbolForm form(*m_doc);
+        form.grid.setGroupLevels(std::vector{SortKey{columnOf<SymbolTable>("Weight")}});
+        const auto band = [&form] {
+            const QModelIndex first = form.grid.table()->model()->index(0, 0);
+            return first.data().toString() + u'|' + first.data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(band(), QStringLiteral("Jelkulcstípus: Vast.: 16 (3)|"
+                                        "csoport Jelkulcstípus: Vast.: 16, 3 sor, kibontva"));
+        setLanguage(English, {});
+        emit LanguageHub::instance().LanguageChanged();
+        QVERIFY2(band().startsWith(QStringLiteral("Symbol type: ")), qPrintable(band()));
+    }
+
     void groupsInTheList()
     {
         tests::SymbolForm form(*m_doc);
         QAbstractItemModel &list = *form.groups.table()->model();
+        form.select({1});
+        QStringList heard;
+        connect(&form.js, &clsJS_Sid::CurrentChanced, &form.window, [&](tSid &s) { heard << s.GroupName; });
         {
             ScriptedPrompts user({told(Icon::Exclamation, "Egyedi jelkulcscsoport név",
                                        "Létező jelkulcscsoportnév: Kettő")});
             QVERIFY(!list.setData(list.index(1, 0), QStringLiteral("Kettő")));
         }
         QVERIFY(!list.setData(list.index(0, 0), QStringLiteral("X")));  // "MIND" is no group
+        QVERIFY(list.setData(list.index(2, 0), QStringLiteral("Más")));
+        QVERIFY(list.setData(list.index(2, 0), QStringLiteral("Kettő")));
         QVERIFY(list.setData(list.index(1, 0), QStringLiteral("Első")));
         QCOMPARE(groups(), QStringLiteral("Első, Kettő"));
+        QCOMPARE(heard, QStringList{"Első"});           // by who keeps the current record
+        QCOMPARE(form.rows(), m_doc->symbols().readAll());
         QCOMPARE(list.index(1, 0).data().toString(), QStringLiteral("Első"));
         form.chooseGroup(QStringLiteral("Kettő"));
         QCOMPARE(form.listed(), QStringLiteral("3"));

@@ -1,6 +1,7 @@
 #include "facade/services/Language.h"
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetXml.h"
+#include "support/FaultyDoc.h"
 #include "support/FullDisk.h"
 #include "support/NotingPrompts.h"
 #include "support/OwnStore.h"
@@ -122,7 +123,8 @@ private slots:
         QFETCH(int, symbols);
         if (!tests::FullDisk::isPossible) QSKIP("needs a limit on the size of files");
         std::vector<tSid> all;
-        for (int n = 1; n <= symbols; ++n) all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
+        for (int n = 1; n <= symbols; ++n)
+            all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
         m_doc = tests::symbolDoc(all);
         write(QByteArray("old"));
         tests::SymbolForm form(*m_doc);
@@ -205,6 +207,26 @@ private slots:
         form.run("moLoadXML");
         QVERIFY2(user.told.size() == 1 && user.told.front().contains(says), qPrintable(user.told.join(u'|')));
         QCOMPARE(m_doc->symbols().count(), 3 + added);
+    }
+
+    void whatTheDocumentRefusesStopsTheLoading()
+    {
+        write({symbol(1, "V"), symbol(2, "W"), symbol(3, "X")});
+        tests::FaultyDoc doc(*m_doc);
+        tests::SymbolForm form(doc);
+        tests::NotingPrompts user;
+        user.path = path();
+        const QString add = QStringLiteral("symbols.add");
+        doc.log.meanwhile = [&](const QString &) {
+            if (doc.log.calls.count(add) == 2) doc.log.failNext = add;
+        };
+        doc.log.calls.clear();
+        form.run("moLoadXML");
+        QVERIFY_THROWS_EXCEPTION(tests::HostError, std::rethrow_exception(form.error));
+        QCOMPARE(m_doc->symbols().readAll().back().ShortName, QStringLiteral("V"));
+        QCOMPARE(form.rows(), m_doc->symbols().readAll());
+        QCOMPARE(doc.log.calls.filter(QStringLiteral("scopes")),        // one step back for the user
+                 (QStringList{"scopes.begin", "scopes.end"}));
     }
 
     void aFileThatIsNotThere()

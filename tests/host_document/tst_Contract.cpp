@@ -33,6 +33,7 @@ constexpr std::pair<const char *, const char *> kFaults[] = {
     {"remove answers false", "symbols"},
     {"uses is always 0", "symbols"},
     {"addAll loses an identifier", "symbols"},
+    {"a failed addAll takes all back", "symbols"},
     {"a failed updateAll lies", "symbols"},
     {"removeAll leaves the last out", "symbols"},
     {"the current layer is forgotten", "layers"},

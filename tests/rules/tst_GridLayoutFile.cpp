@@ -164,7 +164,9 @@ private slots:
         QFETCH(int, language);
         QFETCH(QString, name);
         setLanguage(language, {});
-        QCOMPARE(layoutFileName(m_table), settingsFolder() + name);
+        QCOMPARE(layoutFileName({"jsLayer"}), settingsFolder() + name);
+        const LayoutName own{"jsX", {2802, u"OK"}};     // a text of the table's own ends the name
+        QCOMPARE(layoutFileName(own), settingsFolder() + QStringLiteral("/jsXOK.jgl"));
         setLanguage(Hungarian, {});
     }
 

@@ -5,6 +5,7 @@
 #include "kit/ask/ErrorRelay.h"
 #include "kit/ask/StepRun.h"
 #include "kit/grid/SheetSource.h"
+#include "rules/GridLayoutFile.h"
 
 #include <QObject>
 #include <QStringList>
@@ -86,7 +87,7 @@ protected:
     static void readTooltips(Grid &grid);                    ///< shown or not, as the user's setting says
     void followView(Grid &grid);                             ///< raises both, and follows the language
     void unfollow(Grid &grid);                               ///< hears nothing of either any more
-    void loadLayout(Grid &grid, const QString &layout);      ///< of the language, if there is one
+    void loadLayout(Grid &grid, const LayoutName &layout); ///< of the language, if there is one
     explicit GridManager(const char *type) : m_identity(type) {}
     ErrorRelay &relay() const { return *m_relay; }
 

@@ -7,6 +7,7 @@
 #include "grids/frame/GridManager.h"
 #include "grids/frame/PenChoice.h"
 #include "grids/frame/RecordRows.h"
+#include "grids/frame/RowCaptions.h"
 #include "kit/grid/Grid.h"
 
 namespace QV_DOC_CONTROLS {
@@ -18,7 +19,7 @@ class TableManager : public GridManager, protected RecordRows<Table>, protected 
 public:
     using Record = typename Table::Record;
 
-    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(); }
+    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(nullptr); }
     void setAllowEdit(bool on) override
     {
         GridManager::setAllowEdit(on);
@@ -34,9 +35,9 @@ public:
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
-        Rows::readCaptions();
+        Rows::readCaptions(m_doc);
         if (!m_grid) return;
-        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows<Table>(*m_grid);
         m_grid->captionsChanged();
         loadLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
@@ -83,10 +84,7 @@ public:
     }
     std::vector<Record> selected() const override ///< in grid order
     {
-        std::vector<Record> out;
-        if (m_grid)
-            for (int r : m_grid->selectedRows()) out.push_back(Rows::recordAt(r));
-        return out;
+        return m_grid ? Rows::recordsAt(m_grid->selectedRows()) : std::vector<Record>{};
     }
     std::optional<Record> currentRecord() const override
     {
@@ -107,12 +105,13 @@ protected:
         auto names = Table::namesOf(doc);
         readBeside(doc, all); // an error leaves nothing attached, and no layout to save
         m_doc = &doc, m_grid = &grid;
+        Rows::readCaptions(m_doc);
         Rows::setRecords(std::move(all), std::move(names));
         grid.setAllowEdit(AllowEdit());
         readTooltips(grid);
         Rows::showWhatFits();
         grid.setSource(this);
-        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows<Table>(grid);
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
@@ -171,12 +170,7 @@ private:
         m_selectionTold = true;
         raiseSelection(m_grid->selectedCount());
     }
-    std::vector<qint16> selectedIds() const
-    {
-        std::vector<qint16> ids;
-        for (const Record &r : selected()) ids.push_back(Table::id(r));
-        return ids;
-    }
+    std::vector<qint16> selectedIds() const { return Rows::idsAt(m_grid->selectedRows()); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
