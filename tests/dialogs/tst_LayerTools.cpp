@@ -96,9 +96,7 @@ private slots:
     {
         setLanguage(Hungarian, {});
         QDir(settingsFolder()).removeRecursively();
-        m_doc = tests::layerDoc({{.gNr = 10, .Name = QStringLiteral("Telek")},
-                                 {.gNr = 12, .Name = QStringLiteral("Út"), .Visible = false},
-                                 {.gNr = 21, .Name = QStringLiteral("Épület")}});
+        m_doc = tests::layerDoc("10 Telek, -12 Út, 21 Épület");
         m_doc->layers().makeCurrent(m_doc->layers().readAll().back());
     }
 

@@ -35,9 +35,7 @@ private slots:
         const QTemporaryDir folder;
         tests::WillingPrompts user;
         user.path = folder.filePath(QStringLiteral("layers"));
-        const auto real = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-A")},
-                                           {.gNr = 2, .Name = QStringLiteral("2-B")},
-                                           {.gNr = 3, .Name = QStringLiteral("C")}});
+        const auto real = tests::layerDoc("1 1-A, 2 2-B, 3 C");
         tests::FaultyDoc faulty(*real);
         frmSetup dialog;
         const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {

@@ -1,8 +1,8 @@
 #include "dialogs/editors/OptionBox.h"
 #include "dialogs/editors/frmEditSid.h"
 #include "dialogs/viewtools/frmChooseList.h"
-#include "facade/contract/FontPicker.h"
 #include "support/FaultyDoc.h"
+#include "support/FixedFonts.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
@@ -20,32 +20,10 @@ using tests::kSizeAsked;
 using tests::run;
 using tests::ScriptedPrompts;
 using tests::select;
+using tests::told;
 using tests::whileModal;
 using Act = tests::ManagerAct;
 using Steps = tests::PromptSteps;
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Steps)
-
-namespace {
-
-struct OneFace final : FontPicker {
-    FontPicker *before = setFontPicker(this);
-    ~OneFace() override { setFontPicker(before); }
-    std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override
-    {
-        return ScriptedFace{QStringLiteral("DejaVu Sans"), 204};
-    }
-    std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override
-    {
-        return QStringLiteral("Strokes");
-    }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &, QObject *) override
-    {
-        return {};
-    }
-};
-
-} // namespace
 
 /// The commands that the symbol manager has or words in its own way.
 class tst_SymbolManager : public QObject {
@@ -84,7 +62,7 @@ private slots:
             },
             {kSizeAsked,
              asksNumber(30),
-             {"tell", QStringLiteral("Egyedi sorszám"), QStringLiteral("Létező sorszám !"), {}, info},
+             told("Egyedi sorszám", "Létező sorszám !"),
              asksNumber(77, 30)},
             "2 B Egy 5 16 0, 30 C Kettő 5 16 0, 77 A Egy 7 16 0", "Egy Kettő");
         row(
@@ -95,11 +73,7 @@ private slots:
                 QTest::keyClick(f.lvSids->report(), Qt::Key_Delete);
                 click(f, "cmdOk");
             },
-            {{"tell",
-              QStringLiteral("Jelkulcs típus törlése"),
-              QStringLiteral("Az utolsó jelkulcs nem törölhető!"),
-              {},
-              info}},
+            {told("Jelkulcs típus törlése", "Az utolsó jelkulcs nem törölhető!")},
             "30 C Kettő 5 16 0", "Egy Kettő");
         const auto inUse = [&](const char *name, bool goOn) {
             return ScriptedPrompts::Step{"yesNo", group,
@@ -156,7 +130,7 @@ private slots:
         QFETCH(QString, symbols);
         QFETCH(QString, groups);
         const tests::StrokeFontHost host;
-        const OneFace picker;
+        const tests::FixedFonts picker;
         ScriptedPrompts user(asked);
         m_form->open(MODE_EDIT, act, 1);
         QCOMPARE(m_form->symbols(), symbols);
@@ -207,11 +181,7 @@ private slots:
     void theLastGroupStays()
     {
         for (const tSid &s : m_form->doc->symbols().readAll()) m_form->doc->symbols().remove(s.SidId);
-        ScriptedPrompts user{{{"tell",
-                               QStringLiteral("Csoport törlése"),
-                               QStringLiteral("Az utolsó csoport nem törölhető!"),
-                               {},
-                               Icon::Critical}}};
+        ScriptedPrompts user({told("Csoport törlése", "Az utolsó csoport nem törölhető!", Icon::Critical)});
         m_form->open(
             MODE_EDIT,
             [](frmSupSid &f) {
@@ -261,7 +231,7 @@ private slots:
     void everyCallOfEveryCommandMayFail()
     {
         QFETCH(QByteArray, tool);
-        const OneFace picker;
+        const tests::FixedFonts picker;
         QTemporaryDir folder;
         for (int failAt = -1, calls = 1; failAt < calls; ++failAt) {
             init();

@@ -82,7 +82,7 @@ private slots:
         QFETCH(QString, button);
         QFETCH(QString, failing);
         QFETCH(QStringList, marks);
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         tests::FaultyDoc faulty(*doc);
         faulty.log.failNext = failing;
         clsDocDlgs dialogs;
@@ -108,8 +108,7 @@ private slots:
         using ZolWDoc::TableKind;
         ResourcePicker *const picker = resourcePicker();
         QVERIFY(picker && picker->canPick(TableKind::Symbols) && !picker->canPick(TableKind::TextTypes));
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                          {.gNr = 2, .Name = QStringLiteral("B")}});
+        const auto doc = tests::layerDoc("1 A, 2 B");
         const qint16 second = doc->layers().findByNumber(2)->LayId;
         const auto pickBy = [&](const char *button) {
             const auto watch = tests::whileModal<frmSelect>(
@@ -130,7 +129,7 @@ private slots:
     void everyCallIsTraced()
     {
         QFETCH(QString, name);
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         clsDocDlgs dialogs;
         ZolWDoc::tLayArr layers;
         const QHash<QString, std::function<bool()>> calls{
@@ -146,7 +145,7 @@ private slots:
     }
     void whatTheSetupDialogIsTold()
     {
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         clsDocDlgs dialogs;
         tests::Documents list({{doc.get(), QStringLiteral("a")}});
         dialogs.setWarnInvisibleCurrentLayer(true);

@@ -5,11 +5,11 @@
 #include "controls/usSiInfo.h"
 #include "controls/usTxAlign.h"
 #include "dialogs/editors/OptionBox.h"
-#include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
 #include "facade/services/Language.h"
 #include "fonts/FontCatalogue.h"
 #include "support/FaultyDoc.h"
+#include "support/FixedFonts.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
@@ -27,6 +27,8 @@
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
+using tests::told;
+using tests::warned;
 using tests::whileModal;
 
 using Act = std::function<void(frmEditSid &)>;
@@ -49,20 +51,6 @@ Act typed(const char *control, const char *text)
 {
     return [=](frmEditSid &f) { typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text)); };
 }
-
-struct ChosenCharacter final : FontPicker {
-    FontPicker *before = setFontPicker(this);
-    FontCharacter asked, answer;
-    ~ChosenCharacter() override { setFontPicker(before); }
-    std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override { return {}; }
-    std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override { return {}; }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
-                                               QObject *) override
-    {
-        asked = first;
-        return answer;
-    }
-};
 
 } // namespace
 
@@ -273,7 +261,7 @@ private slots:
         QFETCH(Act, act);
         QFETCH(QString, title);
         QFETCH(QString, text);
-        ScriptedPrompts user{{{"tell", title, text, {}, Icon::Exclamation}}};
+        ScriptedPrompts user({warned(title, text)});
         const tSid after = edited(
             symbol(),
             [&](frmEditSid &f) {
@@ -289,8 +277,8 @@ private slots:
 
     void aCharacterComesFromTheViewer()
     {
-        ChosenCharacter picker;
-        picker.answer = {FontKind::TrueType, trueTypeFaces()[1], 204, 200};
+        tests::FixedFonts picker;
+        picker.character = {FontKind::TrueType, trueTypeFaces()[1], 204, 200};
         tSid wanted = symbol();
         wanted.Facename = trueTypeFaces()[1], wanted.CharSet = 204, wanted.Code = 200;
         QVERIFY(edited(symbol(), [](frmEditSid &f) { f.cmdChooseChar->click(); }) == wanted);
@@ -300,11 +288,7 @@ private slots:
     void missingVectorFontsAreTold()
     {
         m_host.reset(); // a host without any
-        ScriptedPrompts user{{{"tell",
-                               {},
-                               QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"),
-                               {},
-                               Icon::Information}}};
+        ScriptedPrompts user({told({}, QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"))});
         tSid wanted = symbol();
         wanted.Type = 1;
         QVERIFY(edited(symbol(), [](frmEditSid &f) {

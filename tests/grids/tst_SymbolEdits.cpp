@@ -9,6 +9,8 @@ using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
+using tests::told;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 using Shown = tests::ShownForm<tests::SymbolForm>;
 
@@ -18,13 +20,12 @@ constexpr char kDeleteKey[] = "the delete key", kMoveTo2[] = "2cmdSid_GroupMove"
 const QVariant kAll = QVariant::fromValue(AllYesNo::All), kYes = QVariant::fromValue(AllYesNo::Yes);
 
 // What the commands say, to the letter.
-Step told(Icon icon, const char *title, const char *text) { return {"tell", title, text, {}, icon}; }
 Step newAsked(const char *preset, const QVariant &name)
 {
     return {"text", QStringLiteral("Jelkulcs típus"),
             QStringLiteral("Az új jelkulcs típus megnevezése|") + QString::fromUtf8(preset), name};
 }
-Step nameTaken() { return told(Icon::Exclamation, "Egyedi név", "Létező jelkulcs név!"); }
+Step nameTaken() { return warned("Egyedi név", "Létező jelkulcs név!"); }
 Step sizeAsked(double answer)
 {
     return {"numbers", QStringLiteral("Betűnagyság"),
@@ -41,14 +42,13 @@ Step groupAsked(const char *title, const char *text, const QVariant &name)
 {
     return {"text", QString::fromUtf8(title), QString::fromUtf8(text), name};
 }
-Step groupTaken() { return told(Icon::Exclamation, "Egyedi csoportnév", "Létező csoportnév !"); }
+Step groupTaken() { return warned("Egyedi csoportnév", "Létező csoportnév !"); }
 Step refused(const char *name)
 {
-    return {"tell", QStringLiteral("Jelkulcs törlése"),
-            QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)), {},
-            Icon::Exclamation};
+    return warned("Jelkulcs törlése",
+                  QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)));
 }
-Step lastOne() { return told(Icon::Information, "Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
+Step lastOne() { return told("Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
 Step keyAsked(const char *question, bool answer)
 {
     return {"yesNo", QStringLiteral("Jelkulcstípus törlés"), QString::fromUtf8(question), answer,
@@ -56,8 +56,7 @@ Step keyAsked(const char *question, bool answer)
 }
 Step keyDoesNothing()
 {
-    return told(Icon::None, "ZOL",
-                "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)");
+    return told("ZOL", "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)", Icon::None);
 }
 Step groupGone()
 {
@@ -75,41 +74,79 @@ struct Case {
 };
 const char kA[] = "1 A Egy 5 16 0", kMany[] = "Biztosan szeretnéd törölni a kiválasztott típusokat?";
 const std::vector<Case> kCases = {
-    {"new, in the first group", "miAddNew", "MIND", {1}, {newAsked("", "D")},
+    {"new, in the first group",
+     "miAddNew",
+     "MIND",
+     {1},
+     {newAsked("", "D")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0, 4 D Egy 5 16 0"},
-    {"new, in the current group, after a refusal", "miAddNew", "Kettő", {},
+    {"new, in the current group, after a refusal",
+     "miAddNew",
+     "Kettő",
+     {},
      {newAsked("", "B"), nameTaken(), newAsked("B", "D")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0, 4 D Kettő 5 16 0"},
     {"new without a name", "miAddNew", "MIND", {}, {newAsked("", " ")}, nullptr},
-    {"size", "cmdSid_Size", "MIND", {1, 3}, {sizeAsked(2.25)},
+    {"size",
+     "cmdSid_Size",
+     "MIND",
+     {1, 3},
+     {sizeAsked(2.25)},
      "1 A Egy 2.25 16 0, 2 B Egy 5 16 0, 3 C Kettő 2.25 16 0"},
-    {"thickness", "cmdSid_Width", "MIND", {2}, {widthAsked(0.29)},
+    {"thickness",
+     "cmdSid_Width",
+     "MIND",
+     {2},
+     {widthAsked(0.29)},
      "1 A Egy 5 16 0, 2 B Egy 5 29 0, 3 C Kettő 5 16 0"},
-    {"rename", "cmdSid_Name", "MIND", {1},
+    {"rename",
+     "cmdSid_Name",
+     "MIND",
+     {1},
      {groupAsked("Jelkulcs típus", "A jelkulcs típus megnevezése|A", "X")},
      "1 X Egy 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
 
-    {"deletes, and goes on after a refusal", "miRemove", "MIND", {1, 2, 3}, {refused("B")},
-     "2 B Egy 5 16 0"},
+    {"deletes, and goes on after a refusal", "miRemove", "MIND", {1, 2, 3}, {refused("B")}, "2 B Egy 5 16 0"},
     {"deletes one", "miRemove", "MIND", {1}, {}, "2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
-    {"the key, one row", kDeleteKey, "MIND", {3},
-     {keyAsked("Biztosan szeretnéd törölni a 3. jelkulcsot?", true), keyDoesNothing()}, nullptr},
-    {"the key, answered No", kDeleteKey, "MIND", {3},
-     {keyAsked("Biztosan szeretnéd törölni a 3. jelkulcsot?", false)}, nullptr},
+    {"the key, one row",
+     kDeleteKey,
+     "MIND",
+     {3},
+     {keyAsked("Biztosan szeretnéd törölni a 3. jelkulcsot?", true), keyDoesNothing()},
+     nullptr},
+    {"the key, answered No",
+     kDeleteKey,
+     "MIND",
+     {3},
+     {keyAsked("Biztosan szeretnéd törölni a 3. jelkulcsot?", false)},
+     nullptr},
     {"the key, several rows", kDeleteKey, "MIND", {1, 3}, {keyAsked(kMany, true), keyDoesNothing()}, nullptr},
 
-    {"new group", "miAddNewGroup", "MIND", {},
+    {"new group",
+     "miAddNewGroup",
+     "MIND",
+     {},
      {groupAsked("Új csoport", "Új csoportnév|", "Egy"), groupTaken(),
-      groupAsked("Új csoport", "Új csoportnév|Egy", "Három")}, nullptr, "Egy, Kettő, Három"},
-    {"rename group", "miGroupRename", "Kettő", {},
+      groupAsked("Új csoport", "Új csoportnév|Egy", "Három")},
+     nullptr,
+     "Egy, Kettő, Három"},
+    {"rename group",
+     "miGroupRename",
+     "Kettő",
+     {},
      {groupAsked("Csoport átnevezés", "A csoport új neve:|Kettő", "MIND"), groupTaken(),
       groupAsked("Csoport átnevezés", "A csoport új neve:|MIND", "Más")},
-     "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Más 5 16 0", "Egy, Más"},
-    {"a group that holds symbols stays", "miGroupRemove", "Kettő", {},
-     {groupGone(), told(Icon::Critical, "Csoport törlése",
-                        "A(z) Kettő csoport használatban van, ezért nem törölhető!")}, nullptr, "Egy, Kettő"},
-    {"move to a group", kMoveTo2, "MIND", {1, 3}, {},
-     "1 A Kettő 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
+     "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Más 5 16 0",
+     "Egy, Más"},
+    {"a group that holds symbols stays",
+     "miGroupRemove",
+     "Kettő",
+     {},
+     {groupGone(),
+      told("Csoport törlése", "A(z) Kettő csoport használatban van, ezért nem törölhető!", Icon::Critical)},
+     nullptr,
+     "Egy, Kettő"},
+    {"move to a group", kMoveTo2, "MIND", {1, 3}, {}, "1 A Kettő 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
 };
 
 } // namespace
@@ -135,11 +172,7 @@ private slots:
         m_doc->addElements(used);
     }
 
-    void commandsAskTellAndWrite_data()
-    {
-        QTest::addColumn<int>("index");
-        for (size_t i = 0; i < kCases.size(); ++i) QTest::newRow(kCases[i].name) << int(i);
-    }
+    void commandsAskTellAndWrite_data() { tests::addCases(kCases); }
     void commandsAskTellAndWrite()
     {
         QFETCH(int, index);
@@ -166,7 +199,7 @@ private slots:
         m_doc = tests::symbolDoc({symbol(7, "A")});
         tests::SymbolForm form(*m_doc);
         form.select({7});
-        ScriptedPrompts user({lastOne(), told(Icon::Information, "Jelkulcstípus törlés",
+        ScriptedPrompts user({lastOne(), told("Jelkulcstípus törlés",
                                               "Az utolsó típust nem lehet törölni!")});
         form.run("miRemove");
         bool ask = true;
@@ -241,7 +274,7 @@ private slots:
         while (SymbolTable::columns[c].key != column) ++c;
         std::vector<Step> script;
         if (told && column == "Name") script = {nameTaken()};
-        else if (told) script = {::told(Icon::Information, "Sorszám", "Létező sorszám !")};
+        else if (told) script = {tests::told("Sorszám", "Létező sorszám !")};
         ScriptedPrompts user(script);
         QCOMPARE(form.edit(1, c, typed), !after.isEmpty());
         QCOMPARE(refreshed, after.isEmpty() ? 0 : 1);
@@ -265,7 +298,7 @@ private slots:
         tests::SymbolForm form(*m_doc);
         QAbstractItemModel &list = *form.groups.table()->model();
         {
-            ScriptedPrompts user({told(Icon::Exclamation, "Egyedi jelkulcscsoport név",
+            ScriptedPrompts user({warned("Egyedi jelkulcscsoport név",
                                        "Létező jelkulcscsoportnév: Kettő")});
             QVERIFY(!list.setData(list.index(1, 0), QStringLiteral("Kettő")));
         }

@@ -16,6 +16,7 @@ using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 
 namespace {
@@ -29,10 +30,6 @@ Step known(const char *name)
 {
     return {"tell", QStringLiteral("Létező jelkulcstípus név"),
             QString::fromUtf8(name) + QStringLiteral(" nevű jelkulcstípus már van!"), {}, Icon::Information};
-}
-Step refused(const QString &title, const QString &text)
-{
-    return {"tell", title, text, {}, Icon::Exclamation};
 }
 
 } // namespace
@@ -105,7 +102,7 @@ private slots:
         write(QByteArray("old"));
         run("miSave2XML", {1, 3},
             {saveAsked(path()),
-             refused(kSave,
+             warned(kSave,
                      QStringLiteral("A(z) 'C' jelkulcs nem fér a készletfájlba, ezért semmi sem lett "
                                     "elmentve. Túl hosszú vagy túl nagy az adata, javítsd ki: Code"))});
         QCOMPARE(content(), QByteArray("old"));
@@ -122,7 +119,8 @@ private slots:
         QFETCH(int, symbols);
         if (!tests::FullDisk::isPossible) QSKIP("needs a limit on the size of files");
         std::vector<tSid> all;
-        for (int n = 1; n <= symbols; ++n) all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
+        for (int n = 1; n <= symbols; ++n)
+            all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
         m_doc = tests::symbolDoc(all);
         write(QByteArray("old"));
         tests::SymbolForm form(*m_doc);
@@ -166,12 +164,12 @@ private slots:
         m_doc->symbols().addAll(all, ids);
         write({symbol(1, "V"), symbol(2, "W")});
         run("moLoadXML", {},
-            {loadAsked(path()), refused(kLoad, QStringLiteral("Nincs hely több jelkulcs számára."))});
+            {loadAsked(path()), warned(kLoad, QStringLiteral("Nincs hely több jelkulcs számára."))});
         QCOMPARE(m_doc->symbols().find(32767)->ShortName, QStringLiteral("V"));
         run("miAddNew", {},
             {{"text", QStringLiteral("Jelkulcs típus"), QStringLiteral("Az új jelkulcs típus megnevezése|"),
               QStringLiteral("W")},
-             refused(QStringLiteral("Jelkulcs típus"), QStringLiteral("Nincs hely több jelkulcs számára."))});
+             warned(QStringLiteral("Jelkulcs típus"), QStringLiteral("Nincs hely több jelkulcs számára."))});
         QCOMPARE(m_doc->symbols().count(), 32767);
     }
 

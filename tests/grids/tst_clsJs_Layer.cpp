@@ -31,9 +31,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C")}});
+        m_doc = tests::layerDoc("1 A, -2 B, 3 C");
     }
 
     void editsAreCheckedThenWritten_data()
