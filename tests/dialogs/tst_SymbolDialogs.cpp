@@ -142,9 +142,9 @@ private slots:
             QCOMPARE(inkOf(*d.jsSid, 1, items(d)), before);
             auto &preview = child<usSiInfo>(d, "usSiInfo1");
             tool(d, "cmdSid_ZoomIn").trigger();         // makes it smaller, as published
-            QCOMPARE(preview.Zoom(), 2.5);
+            QCOMPARE(preview.Zoom(), 9.5);              // the symbol's own is 10
             tool(d, "cmdSid_ZoomOut").trigger();
-            QCOMPARE(preview.Zoom(), 3.0);
+            QCOMPARE(preview.Zoom(), 10.0);
             tool(d, "miSiInfo").trigger();
             QVERIFY(!preview.isVisible());
             d.reject();
@@ -154,11 +154,20 @@ private slots:
 
     void aSampleFollowsAnEdit()
     {
+        tSid plain = *m_doc->symbols().find(2);
+        plain.DspZoom = 0;
+        m_doc->symbols().update(plain);
         const auto watch = whileModal<frmSetup>([](frmSetup &d) {
             const int before = inkOf(*d.jsSid, 1, items(d));
             QAbstractItemModel &cells = *items(d).table()->model();
+            auto &preview = child<usSiInfo>(d, "usSiInfo1");
+            chooseRow(d, 1);
+            preview.setZoom(7);
             QVERIFY(cells.setData(cells.index(0, 3), QStringLiteral("2,5")));
             QVERIFY(inkOf(*d.jsSid, 1, items(d)) < before);
+            QCOMPARE(preview.Zoom(), 7.0);              // still the user's
+            chooseRow(d, 2);
+            QCOMPARE(preview.Zoom(), 3.0);              // a symbol without a zoom of its own
             d.reject();
         });
         QVERIFY(!m_dialogs.bEdit_Sids(*m_doc));

@@ -1,6 +1,7 @@
 #include "dialogs/editors/OptionBox.h"
 #include "dialogs/editors/frmEditSid.h"
 #include "dialogs/viewtools/frmChooseList.h"
+#include "dialogs/viewtools/frmSort.h"
 #include "support/FaultyDoc.h"
 #include "support/FixedFonts.h"
 #include "support/ManagerForm.h"
@@ -65,6 +66,21 @@ private slots:
              told("Egyedi sorszám", "Létező sorszám !"),
              asksNumber(77, 30)},
             "2 B Egy 5 16 0, 30 C Kettő 5 16 0, 77 A Egy 7 16 0", "Egy Kettő");
+        row(
+            "sorted by keys alone",
+            [](frmSupSid &f) {
+                const auto user = whileModal<frmSort>([](frmSort &s) {
+                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return})
+                        QTest::keyClick(s.focusWidget(), key); // by name, downward
+                });
+                select(f, 2);
+                f.lvSids->setFocus();
+                QTest::keyClick(f.lvSids->report(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+                QCOMPARE(f.lvSids->report()->model()->index(0, 1).data().toString(), QStringLiteral("B"));
+                QCOMPARE(f.lvSids->currentRow(), 0);
+                click(f, "cmdOk");
+            },
+            {}, "1 A Egy 5 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
         row(
             "removed but for the last one",
             [](frmSupSid &f) {

@@ -1,5 +1,6 @@
 #include "fonts/BlockHost.h"
 #include "fonts/CharacterGrid.h"
+#include "fonts/CharacterSource.h"
 #include "fonts/FontSample.h"
 #include "fonts/FontViewer.h"
 #include "fonts/frmTrueTypeSel.h"
@@ -187,6 +188,13 @@ private slots:
         if (chosen)
             QCOMPARE(*chosen, (FontCharacter{FontKind::TrueType, kSans.face, first.charSet, chosen->code}));
     }
+    void aSymbolSetIsTypedByItsKeys()
+    {
+        const auto letters = trueTypeCharacters({kSans.face, 2});
+        QCOMPARE(letters->codeOf(u'A'), 65);
+        QCOMPARE(letters->codeOf(u'\xf041'), 0xf041);
+        QCOMPARE(letters->codeOf(u'é'), -1);
+    }
     void theViewerTakesAnotherFaceAndScript()
     {
         const auto watch = whileModal<FontViewer>([](FontViewer &d) {
@@ -255,6 +263,7 @@ private slots:
         QTest::addColumn<bool>("hasHost");
         QTest::addColumn<QStringList>("offered");
         QTest::newRow("no provider") << false << QStringList();
+        QTest::newRow("no names") << true << QStringList();
         QTest::newRow("none that it can give") << true << QStringList{QStringLiteral("Lost")};
     }
     void vectorFontsThatCannotBeListedAreSaid()

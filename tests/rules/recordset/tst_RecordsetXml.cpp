@@ -117,6 +117,7 @@ private slots:
             {"1", 1},      {" -2 ", -2},  {"+1", 1},     {"1.5", 1.5},    {"1E1", 10},    {"1,000", 1000},
             {"1,5", 15},   {"&H1F", 31},  {"&o17", 15},  {"5.0E-2", .05}, {"", none},     {"x", none},
             {"1 2", none}, {"nan", none}, {"inf", none}, {"&H", none},    {"&H-1", none}, {"0x10", none},
+            {"+.5", .5},   {"-5.", -5},   {"+-1", none}, {"1E", none},    {"1E400", none}, {"-", none},
         };
         for (const auto &[text, number] : rows) QTest::newRow(text) << text << number;
     }
@@ -127,6 +128,16 @@ private slots:
         const auto read = numberIn(text);
         QCOMPARE(read.has_value(), !qIsNaN(number));
         if (read) QCOMPARE(*read, number);
+    }
+
+    void wholeNumbersAreExactTo64Bits()
+    {
+        const qint64 numbers[] = {INT64_MAX, INT64_MIN, (qint64(1) << 53) + 1};
+        for (const qint64 n : numbers)
+            QCOMPARE(readOf(whole("<s:AttributeType name='N' dt:type='i8'/>",
+                                  "<z:row N=' " + QByteArray::number(n) + "'/>"))
+                         .integer(0, 0),
+                     n);
     }
 
     void whatCannotBeOpenedIsRefusedWithLineAndReason_data()
@@ -141,6 +152,9 @@ private slots:
             return whole(kColumns, QByteArray("\n<z:row ") + said + "/>");
         };
         row("out of range", value("N='32768'"), Why::OutOfRange, 4, "N");
+        row("more than 64 bits hold",
+            whole("<s:AttributeType name='N' dt:type='i8'/>", "<z:row N='9223372036854775808'/>"),
+            Why::OutOfRange, 3, "N");
         row("half to even is out of range", value("N='32767.5'"), Why::OutOfRange, 4, "N");
         row("no number", value("N='x'"), Why::NoNumber, 4, "N");
         row("too large for a single", value("R='1E39'"), Why::OutOfRange, 4, "R");
