@@ -155,6 +155,10 @@ private slots:
         form.run("cmdLay_GroupAllLay");
         QCOMPARE(form.chosenGroup(), QStringLiteral("MIND"));
         QCOMPARE(form.listed(), QStringLiteral("1 2 3 4"));
+        for (const auto &[tool, shown] : {std::pair("cmdLay_HideGroups", false), {"cmdLay_ShowGroups", true}}) {
+            form.run(tool);
+            QVERIFY(form.js.bShowGroups() == shown && form.groups.isHidden() != shown);
+        }
     }
 
     void aGroupWithALayerOfItsOwnStays()
@@ -254,15 +258,6 @@ private slots:
         QVERIFY(!form.js.canCollapseGroup());
         form.run("miGroupCollapse");
         QCOMPARE(lines(form), 10);
-    }
-
-    void theGroupListComesAndGoes()
-    {
-        tests::LayerForm form(*m_doc);
-        form.run("cmdLay_HideGroups");
-        QVERIFY(!form.js.bShowGroups() && form.groups.isHidden());
-        form.run("cmdLay_ShowGroups");
-        QVERIFY(form.js.bShowGroups() && !form.groups.isHidden());
     }
 
     void anEmptyGroupIsWhatAFailedRemovalLeaves()

@@ -76,21 +76,16 @@ private slots:
     }
     void cleanup() { m_store.reset(); }
 
-    void theSelectedAreSaved_data()
-    {
-        QTest::addColumn<QByteArray>("tool");
-        QTest::addColumn<QList<int>>("selected");
-        QTest::newRow("two") << QByteArray("miSave2XML") << QList<int>{1, 3};
-        QTest::newRow("none: the columns only") << QByteArray("miSaveXML") << QList<int>{};
-    }
     void theSelectedAreSaved()
     {
-        QFETCH(QByteArray, tool);
-        QFETCH(QList<int>, selected);
-        run(tool.constData(), {selected.begin(), selected.end()}, {saveAsked(path())});
-        std::vector<tSid> expected;
-        for (const int n : selected) expected.push_back(*m_doc->symbols().find(qint16(n)));
-        QCOMPARE(content(), bytesOf(std::get<Recordset>(symbolSetOf(expected))));
+        const std::pair<const char *, std::vector<int>> rows[] = {{"miSave2XML", {1, 3}},
+                                                                  {"miSaveXML", {}}}; // the columns only
+        for (const auto &[tool, selected] : rows) {
+            run(tool, selected, {saveAsked(path())});
+            std::vector<tSid> expected;
+            for (const int n : selected) expected.push_back(*m_doc->symbols().find(qint16(n)));
+            QCOMPARE(content(), bytesOf(std::get<Recordset>(symbolSetOf(expected))));
+        }
         QVERIFY(m_store->kept.values.values().contains(m_folder.path())); // proposed the next time
     }
 
@@ -179,6 +174,7 @@ private slots:
         QTest::addColumn<QByteArray>("to");
         QTest::addColumn<QString>("says");
         QTest::addColumn<int>("added");
+        QTest::newRow("not there") << QByteArray() << QByteArray() << "' fájl nem olvasható" << 0;
         QTest::newRow("no markup") << QByteArray("<") << QByteArray("x") << "készletként. " << 0;
         QTest::newRow("a field is missing") << QByteArray("ShortName") << QByteArray("Shortname2")
                                             << "Hiányzó mező: ShortName" << 0;
@@ -196,7 +192,8 @@ private slots:
         write({symbol(1, "V"), second});
         QByteArray bytes = content();
         QVERIFY(bytes.contains(from));
-        write(bytes.replace(from, to));
+        if (from.isEmpty()) QVERIFY(QFile::remove(path()));
+        else write(bytes.replace(from, to));
         tests::SymbolForm form(*m_doc);
         tests::NotingPrompts user;
         user.path = path();
@@ -205,14 +202,6 @@ private slots:
         QCOMPARE(m_doc->symbols().count(), 3 + added);
     }
 
-    void aFileThatIsNotThere()
-    {
-        tests::SymbolForm form(*m_doc);
-        tests::NotingPrompts user;
-        user.path = path();
-        form.run("moLoadXML");
-        QVERIFY(user.told.size() == 1 && user.told.front().contains(QStringLiteral("' fájl nem olvasható")));
-    }
 };
 
 QVDC_TEST(tst_SymbolFiles)

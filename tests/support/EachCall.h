@@ -30,7 +30,8 @@ int failEachCall(ZolWDoc::ZOLW_Doc &doc, Road road, Act act, After after)
         } catch (const HostError &e) {
             if (faulty.log.calls.value(at) != QString::fromUtf8(e.what())) return fail(faulty.log.calls.value(at));
         }
-        if (QApplication::activeModalWidget()) return fail(faulty.log.calls[at] + QStringLiteral(": a dialog is open"));
+        if (QApplication::activeModalWidget())
+            return fail(faulty.log.calls[at] + QStringLiteral(": a dialog is open"));
         after();
     }
 }
