@@ -47,25 +47,23 @@ private slots:
         };
         const Icon info = Icon::Information, stop = Icon::Critical;
         const QString number = QStringLiteral("Sorszám módosítás"), group = QStringLiteral("Csoport törlése");
-        const auto asksNumber = [&](int answer, int proposed = 1) {
+        const auto asksNumber = [&](const QVariant &answer, int proposed = 1) {
             return ScriptedPrompts::Step{"numbers", number,
                                          QStringLiteral("A művelet rögzíti az eddigi változtatásokat is.\n"
                                                         "A(z) 'A' jelkulcs új sorszáma|Új sorszám:|%1")
                                              .arg(proposed),
-                                         QVariantList{double(answer)}};
+                                         answer.isNull() ? answer : QVariantList{answer.toDouble()}};
         };
-        row(
-            "renumbered: what was changed before cannot be dropped",
-            [](frmSupSid &f) {
-                select(f, 1);
-                run(f, "cmdSid_Size"), run(f, "cmdSid_Nr");
-                click(f, "cmdCancel");
-            },
-            {kSizeAsked,
-             asksNumber(30),
-             told("Egyedi sorszám", "Létező sorszám !"),
-             asksNumber(77, 30)},
+        const Act renumberAndCancel = [](frmSupSid &f) {
+            select(f, 1);
+            run(f, "cmdSid_Size"), run(f, "cmdSid_Nr");
+            click(f, "cmdCancel");
+        };
+        row("renumbered: what was changed before cannot be dropped", renumberAndCancel,
+            {kSizeAsked, asksNumber(30), told("Egyedi sorszám", "Létező sorszám !"), asksNumber(77, 30)},
             "2 B Egy 5 16 0, 30 C Kettő 5 16 0, 77 A Egy 7 16 0", "Egy Kettő");
+        row("renumbering given up: nor then", renumberAndCancel, {kSizeAsked, asksNumber({})},
+            "1 A Egy 7 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
         row(
             "sorted by keys alone",
             [](frmSupSid &f) {
@@ -184,6 +182,10 @@ private slots:
             QCOMPARE(mime ? mime->text() : QString(), QStringLiteral("FromZol3GridSid 1 2"));
             mime->setText(text);
             counted.log.calls.clear();
+            const QAbstractItemModel &groups = *f.lvGroups->model();
+            const bool isOwn = text != QStringLiteral("1 2");
+            QCOMPARE(groups.canDropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(onto, 0)),
+                     isOwn && onto >= 0);
             tests::drop(*mime, *f.lvGroups, onto);
             QCOMPARE(counted.log.writes().size(), moves ? 2 : 0);
             click(f, "cmdCancel");

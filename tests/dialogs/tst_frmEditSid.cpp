@@ -8,7 +8,7 @@
 #include "facade/contract/RecordEditors.h"
 #include "facade/services/Language.h"
 #include "fonts/FontCatalogue.h"
-#include "support/FaultyDoc.h"
+#include "support/EachCall.h"
 #include "support/FixedFonts.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
@@ -330,31 +330,16 @@ private slots:
     /// The road of the commands: read, edited, written at once; and every call of it may fail.
     void theEditorOfTheLibraryWritesOrThrows()
     {
-        for (int failAt = -1, calls = 1; failAt < calls; ++failAt) {
-            init();
-            tests::FaultyDoc faulty(*m_doc);
-            faulty.log.failAt = failAt;
-            const auto confirm = [](frmEditSid &f) {
-                typeInto(*f.usLayInfo1, QStringLiteral("12"));
-                typeInto(*f.txtShortName, QStringLiteral("Akna"));
-                if (f.isVisible()) f.cmdOk->click();
-            };
-            const auto edit = [&] { return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr); };
-            if (failAt < 0) {
-                const auto user = whileModal<frmEditSid>(confirm);
-                QVERIFY(edit());
-                calls = int(faulty.log.calls.size());
-                QVERIFY(symbol().ShortName == QStringLiteral("Akna") && symbol().LayId == s_road);
-                continue;
-            }
-            QTimer user;
-            user.callOnTimeout([&] {
-                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget()))
-                    confirm(*f);
-            });
-            user.start(0);
-            QVERIFY_THROWS_EXCEPTION(tests::HostError, edit());
-        }
+        const auto confirm = [](frmEditSid &f) {
+            typeInto(*f.usLayInfo1, QStringLiteral("12"));
+            typeInto(*f.txtShortName, QStringLiteral("Akna"));
+            if (f.isVisible()) f.cmdOk->click();
+        };
+        const auto edit = [](ZOLW_Doc &doc) {
+            return recordEditors()->edit(TableKind::Symbols, doc, 7, nullptr);
+        };
+        QVERIFY(tests::failEachCall<frmEditSid>(*m_doc, edit, confirm, [] {}) > 4);
+        QVERIFY(symbol().ShortName == QStringLiteral("Akna") && symbol().LayId == s_road);
     }
 };
 

@@ -28,7 +28,8 @@ int failEachCall(ZolWDoc::ZOLW_Doc &doc, Road road, Act act, After after)
         try {
             return road(faulty) ? at : fail(QStringLiteral("not confirmed"));
         } catch (const HostError &e) {
-            if (faulty.log.calls.value(at) != QString::fromUtf8(e.what())) return fail(faulty.log.calls.value(at));
+            const QString call = faulty.log.calls.value(at);
+            if (call != QString::fromUtf8(e.what())) return fail(call);
         }
         if (QApplication::activeModalWidget())
             return fail(faulty.log.calls[at] + QStringLiteral(": a dialog is open"));

@@ -22,7 +22,8 @@ struct FixedFonts final : QV_DOC_CONTROLS::FontPicker {
     {
         return strokes;
     }
-    std::optional<Character> pickCharacter(const ZolWDoc::ZOLW_Doc *, const Character &first, QObject *) override
+    std::optional<Character> pickCharacter(const ZolWDoc::ZOLW_Doc *, const Character &first,
+                                           QObject *) override
     {
         asked = first;
         return character;
