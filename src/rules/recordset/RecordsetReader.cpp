@@ -89,7 +89,7 @@ Recordset Reader::read()
 bool Reader::readPart(const Tag &tag)
 {
     if (tag.is(Space::Schema, u"Schema")) {
-        if (m_hasSchema) throw Refused{Why::TwoSchemas, tag.at};
+        if (m_hasSchema) throw Refused{Why::DescribedTwice, tag.at};
         return takeSchema(), true;
     }
     if (!tag.is(Space::Rowset, u"data")) return false;
