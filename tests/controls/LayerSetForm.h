@@ -81,11 +81,7 @@ protected:
     void begin()
     {
         setLanguage(Hungarian, {});
-        m_doc = layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                          {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                          {.gNr = 3, .Name = QStringLiteral("C")},
-                          {.gNr = 4, .Name = QStringLiteral("D")},
-                          {.gNr = 7, .Name = QStringLiteral("E"), .Visible = false}});
+        m_doc = layerDoc("1 A, -2 B, 3 C, 4 D, -7 E");
         m_doc->layers().makeCurrent(layer(3));
     }
     static void end()

@@ -105,9 +105,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 10, .Name = QStringLiteral("Telekhatár")},
-                                 {.gNr = 12, .Name = QStringLiteral("Út")},
-                                 {.gNr = 21, .Name = QStringLiteral("Épület")}});
+        m_doc = tests::layerDoc("10 Telekhatár, 12 Út, 21 Épület");
         m_doc->layers().makeCurrent(layer(10));
     }
     void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a control was not released"); }
@@ -129,7 +127,7 @@ private slots:
         f.control->LetLayNr(21, 0);
         QCOMPARE(current(), qint16(12));
         QCOMPARE(f.raised, QStringList({"7: 12", "255: 21", "0: 10", "0: 21"}));
-        const auto second = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto second = tests::layerDoc("1 A");
         f.control->setoDoc(second.get());       // identifiers mean nothing there
         QCOMPARE(f.shown(), QStringLiteral(" "));
     }
