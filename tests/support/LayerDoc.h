@@ -10,7 +10,7 @@ namespace tests {
 /// them and "Utak" with the even numbers.
 inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDoc::tLay> layers)
 {
-    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    auto doc = refhost::SqliteDoc::create(":memory:");
     ZolWDoc::LayerRole &role = doc->layers();
     const std::vector<ZolWDoc::tLay> before = role.readAll();
     std::vector<ZolWDoc::tLay> stored;
@@ -24,7 +24,7 @@ inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDo
     role.writeAll(stored);
 
     auto groups = role.groups();
-    groups.push_back({-1, QStringLiteral("Utak")});
+    groups.push_back({-1, "Utak"});
     role.writeGroups(groups);
     const qint16 roads = role.groups().back().GroupId;
     auto members = role.members();
@@ -39,7 +39,7 @@ inline QString dump(ZolWDoc::ZOLW_Doc &doc)
 {
     QStringList rows;
     for (const ZolWDoc::tLay &l : doc.layers().readAll()) rows << QString::number(l.gNr) + u' ' + l.Name;
-    return rows.join(QStringLiteral(", "));
+    return rows.join(", ");
 }
 
 /// Every layer group with the numbers of its layers: "RENDSZER: 1 2 | Utak: 2".
@@ -54,7 +54,7 @@ inline QString dumpGroups(ZolWDoc::ZOLW_Doc &doc)
                 line += u' ' + QString::number(l.gNr);
         out << line;
     }
-    return out.join(QStringLiteral(" | "));
+    return out.join(" | ");
 }
 
 } // namespace tests

@@ -2,12 +2,8 @@
 
 #include "kit/grid/Grid.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
+#include "support/QtClasses.h"
 #include <QDrag>
-#include <QDropEvent>
-#include <QMimeData>
-#include <QMouseEvent>
 
 namespace tests {
 

@@ -4,8 +4,7 @@
 #include "kit/grid/Grid.h"
 #include "kit/tools/Tool.h"
 
-#include <QTest>
-#include <QAbstractItemView>
+#include "support/QtClasses.h"
 
 #include <cstring>
 
@@ -53,7 +52,7 @@ template <class Manager> struct TableForm {
     {
         QStringList out;
         for (const int r : grid.selectedRows())
-            out << cellOf(r, 0) + (r == grid.currentRow() ? QStringLiteral("*") : QString());
+            out << cellOf(r, 0) + (r == grid.currentRow() ? "*" : QString());
         return out.join(u' ');
     }
     QString listed() const                      ///< numbers of the listed records: "1 2"
@@ -71,7 +70,7 @@ template <class Manager> struct TableForm {
             out << chosenGroup() + u':' + (listed().isEmpty() ? QString() : u' ' + listed());
         }
         groups.setCurrentRow(0);
-        return out.join(QStringLiteral(" | "));
+        return out.join(" | ");
     }
     QString chosenGroup() const
     {
