@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
 
 using namespace refhost;
 
@@ -35,10 +37,19 @@ struct Options {
             QStringLiteral("Drawings (.qvd) and .dxf files, a tab for each; without one a sample."),
             QStringLiteral("[file...]"));
         parser.addHelpOption();
+        parser.addVersionOption();
         parser.addOptions({language, pictures, dialog, yes});
         parser.process(app);
     }
 };
+
+/// Help and version are asked for where there is no display, too.
+bool asksForWordsOnly(int argc, char **argv)
+{
+    constexpr std::string_view kWords[] = {"-?", "-h", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(argv + 1, argv + argc,
+                       [&](const char *word) { return std::ranges::count(kWords, word) > 0; });
+}
 
 /// False = there is no such call.
 bool callsOf(const QString &name, std::vector<const DialogCall *> &calls)
@@ -76,8 +87,10 @@ bool load(MainWindow &window, const Options &options)
 
 int main(int argc, char **argv)
 {
+    if (asksForWordsOnly(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qvdraw"));
+    QApplication::setApplicationVersion(QStringLiteral(QVDC_VERSION));
     const Options options(app);
     HostServices services;
     if (options.parser.isSet(options.language)) {

@@ -10,11 +10,11 @@ bool usesManagers()
     return readBoolSetting(QStringLiteral("setup"), QStringLiteral("OldStyleSetupForms"), false);
 }
 
-bool selectInManager(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, QWidget *owner)
+bool selectInManager(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, enumSetupMode mode, QWidget *owner)
 {
     frmSupSid form(owner);
     qint16 id = symbol.SidId;
-    const bool confirmed = form.bDoModal(doc, MODE_SELECT, id);
+    const bool confirmed = form.bDoModal(doc, mode, id);
     form.TearDown();
     const auto chosen = confirmed ? doc.symbols().find(id) : std::nullopt;
     if (chosen) symbol = *chosen;

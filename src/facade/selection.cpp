@@ -28,14 +28,15 @@ std::optional<Rec> pickIn(bool (frmSelect::*entry)(ZolWDoc::ZOLW_Doc &, Rec &, Q
 }
 
 /// In the dialog that the user's setting asks for.
-bool pickSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, QWidget *owner)
+bool pickSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol, enumSetupMode mode, QWidget *owner = nullptr)
 {
-    if (usesManagers()) return selectInManager(doc, symbol, owner);
+    if (usesManagers()) return selectInManager(doc, symbol, mode, owner);
     frmSelect dialog;
     return selectWith(dialog, &frmSelect::bDoSelect_Sid, doc, symbol, owner);
 }
 
-/// The selection dialogs that there are, for those who pick from below the roof.
+/// The selection dialogs that there are, for those who pick from below the roof: what is being edited there
+/// may refer to what an editing user would delete.
 struct Picker final : ResourcePicker {
     using Kind = ZolWDoc::TableKind;
     bool canPick(Kind kind) const override { return kind == Kind::Layers || kind == Kind::Symbols; }
@@ -47,8 +48,8 @@ struct Picker final : ResourcePicker {
         }
         if (kind == Kind::Symbols) {
             ZolWDoc::tSid symbol{.SidId = first};
-            return pickSymbol(doc, symbol, qobject_cast<QWidget *>(owner)) ? std::optional(symbol.SidId)
-                                                                           : std::nullopt;
+            if (!pickSymbol(doc, symbol, MODE_SELECT_ONLY, qobject_cast<QWidget *>(owner))) return {};
+            return symbol.SidId;
         }
         return std::nullopt;
     }
@@ -76,7 +77,7 @@ bool selectLayers(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tLayArr &layers)
 
 bool selectSymbol(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::tSid &symbol)
 {
-    return pickSymbol(doc, symbol, nullptr);
+    return pickSymbol(doc, symbol, MODE_SELECT);
 }
 
 } // namespace QV_DOC_CONTROLS

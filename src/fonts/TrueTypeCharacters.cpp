@@ -73,9 +73,11 @@ const QRawFont &TrueTypeCharacters::sized(double pixels) const
     return m_sized;
 }
 
-/// Wide characters are their own codes in every script; the others are where the code page has them.
+/// Wide characters are their own codes in every script; the others are where the code page has them. A symbol
+/// set is typed by the keys whose codes its characters have.
 int TrueTypeCharacters::codeOf(QChar c) const
 {
+    if (m_face.charSet == kSymbolCharSet && c.unicode() > 0x20 && c.unicode() < 0x7f) return c.unicode();
     if (c.unicode() >= kBytes || m_low[c.unicode()] == c) return c.unicode();
     const auto at = std::ranges::find(m_low, c);
     return at == m_low.end() ? -1 : int(at - m_low.begin());

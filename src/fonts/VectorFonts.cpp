@@ -15,6 +15,7 @@ VectorFontList vectorFontList(const ZolWDoc::ZOLW_Doc *doc)
         if (provider->find(name)) list.names << name;
         else list.complete = false;
     }
+    if (list.names.isEmpty()) list.complete = false;
     return list;
 }
 

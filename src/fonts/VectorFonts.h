@@ -9,7 +9,7 @@ namespace QV_DOC_CONTROLS {
 /// The vector fonts of the host for a document, as a list offers them.
 struct VectorFontList {
     QStringList names;
-    bool complete = true;       ///< false: the host has no provider, or it names a font that it cannot give
+    bool complete = true;       ///< false: the host has no fonts, or it names one that it cannot give
 };
 VectorFontList vectorFontList(const ZolWDoc::ZOLW_Doc *doc);            ///< throws the host's error
 

@@ -42,13 +42,12 @@ struct LayerTable {
         layerField<&Record::PenStyleId>("PenSyleId", {3305, u"Vonaltípus"}) // published spelling
             .named(&lineTypeName, &lineTypeChoices)
             .editable(),
-        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().within(0, 255).editable(),
+        layerField<&Record::ScrColor>("ScrColor", {3412, u"Képernyő szín"}).color().editable(),
         layerField<&Record::PrnColor>("PrnColor", {3414, u"Nyomtatási szín"})
             .with({3413, u"Nyomtató szín"})
             .color()
-            .within(0, 255)
             .editable(),
-        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).within(0, 255).editable(),
+        layerField<&Record::PenColorId>("PenColorId", {3168, u"Toll"}).pen().editable(),
         layerField<&Record::TxdId>("TxdId", {15, u"Felirattípus"})
             .named(&textTypeName, &textTypeChoices)
             .editable(),

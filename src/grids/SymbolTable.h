@@ -42,10 +42,12 @@ struct SymbolTable {
             .unique({Icon::Exclamation, {3039, u"Egyedi név"}, {3234, u"Létező jelkulcs név!"}}),
         symbolField<&Record::Size_mm>("Size", {3221, u"Méret"})
             .within(kLeastSymbolSize, kMostSymbolSize)
+            .measuredIn({20005, u"mm"})
             .editable(),
-        symbolField<&Record::Weight>("Weight", {3367, u"Vast."})
+        symbolField<&Record::Weight>("Weight", {3367, u"Vast."}) // as stored, on purpose: prompts ask in mm
             .with({3237, u"Vastagság"})
             .within(0, kHighestWeight)
+            .measuredIn({22340, u"század mm"})
             .editable(),
         symbolField<&Record::Type>("FontType", {2894, u"Típus"})
             .named(&fontTypeName, &fontTypeChoices)

@@ -4,6 +4,12 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
+namespace {
+
+constexpr Text kFixedNumbers{22344, u"Ebben a rajzban a jelkulcsok sorszáma nem módosítható."};
+
+} // namespace
+
 clsJS_Sid::clsJS_Sid() : GroupedManager("clsJS_Sid")
 {
     groupRows().setDrags(groupDrags());
@@ -49,7 +55,10 @@ void clsJS_Sid::storeEdit(const tSid &now, const tSid &edited)
 
 bool clsJS_Sid::edit(int row, int column, const QVariant &value)
 {
-    if (column == SymbolTable::numberColumn && isOpen() && !document()->symbolRenumber()) return false;
+    if (column == SymbolTable::numberColumn && isOpen() && !document()->symbolRenumber()) {
+        guarded([this] { tell({Icon::Information, txt(Text{2920, u"Sorszám"}), txt(kFixedNumbers)}); });
+        return false;
+    }
     const bool stored = GroupedManager::edit(row, column, value);
     if (stored) emit RefreshSample(recordAt(row));
     return stored;

@@ -19,6 +19,9 @@ ZolWDoc::tSid newSymbol(const QString &name, const ZolWDoc::tGroup &group);
 void makeVector(ZolWDoc::tSid &symbol);         ///< what a symbol gets when its font becomes a vector font
 inline void followFontType(ZolWDoc::tSid &symbol) { if (symbol.Type == kVectorFont) makeVector(symbol); }
 
+constexpr double kPreviewZoom = 3;              ///< of a symbol that says none: the preview's own
+inline double previewZoomOf(const ZolWDoc::tSid &s) { return s.DspZoom > 0 ? s.DspZoom : kPreviewZoom; }
+
 inline qint16 weightOf(double millimetres) { return qint16(qRound(millimetres * 100)); }
 
 /// Symbols of a set, made ready for a document: numbers, group, no name twice.

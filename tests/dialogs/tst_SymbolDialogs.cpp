@@ -1,6 +1,7 @@
 #include "controls/usSiInfo.h"
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
+#include "dialogs/values/NumberBox.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
@@ -14,6 +15,8 @@
 #include "support/ScriptedPrompts.h"
 #include "support/SymbolForm.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
@@ -41,6 +44,26 @@ int inkOf(clsJS_Sid &js, qint16 number, Grid &grid)
     for (int y = 0; y < sample.height(); ++y)
         for (int x = 0; x < sample.width(); ++x) ink += sample.pixel(x, y) != sample.pixel(0, 0);
     return ink;
+}
+
+/// An item of the list behind a line, which must have ten.
+void choose(QComboBox &of, int item, bool byMouse)
+{
+    QCOMPARE(of.count(), 10);
+    QAbstractItemView &list = *of.view();
+    if (!byMouse) {
+        QTest::keyClick(&of, Qt::Key_Down, Qt::AltModifier);
+        QTest::keyClick(&list, Qt::Key_Home);
+        for (int i = 0; i < item; ++i) QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_Return);
+    } else {
+        QTest::mouseClick(&of, Qt::LeftButton, {}, {of.width() - 5, of.height() / 2});
+        list.scrollTo(list.model()->index(item, 0));
+        const QPoint at = list.visualRect(list.model()->index(item, 0)).center();
+        QTest::mouseMove(list.viewport(), at);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
+    }
+    QVERIFY(!list.isVisible());
 }
 
 } // namespace
@@ -119,9 +142,9 @@ private slots:
             QCOMPARE(inkOf(*d.jsSid, 1, items(d)), before);
             auto &preview = child<usSiInfo>(d, "usSiInfo1");
             tool(d, "cmdSid_ZoomIn").trigger();         // makes it smaller, as published
-            QCOMPARE(preview.Zoom(), 2.5);
+            QCOMPARE(preview.Zoom(), 9.5);              // the symbol's own is 10
             tool(d, "cmdSid_ZoomOut").trigger();
-            QCOMPARE(preview.Zoom(), 3.0);
+            QCOMPARE(preview.Zoom(), 10.0);
             tool(d, "miSiInfo").trigger();
             QVERIFY(!preview.isVisible());
             d.reject();
@@ -131,15 +154,43 @@ private slots:
 
     void aSampleFollowsAnEdit()
     {
+        tSid plain = *m_doc->symbols().find(2);
+        plain.DspZoom = 0;
+        m_doc->symbols().update(plain);
         const auto watch = whileModal<frmSetup>([](frmSetup &d) {
             const int before = inkOf(*d.jsSid, 1, items(d));
             QAbstractItemModel &cells = *items(d).table()->model();
+            auto &preview = child<usSiInfo>(d, "usSiInfo1");
+            chooseRow(d, 1);
+            preview.setZoom(7);
             QVERIFY(cells.setData(cells.index(0, 3), QStringLiteral("2,5")));
             QVERIFY(inkOf(*d.jsSid, 1, items(d)) < before);
+            QCOMPARE(preview.Zoom(), 7.0);              // still the user's
+            chooseRow(d, 2);
+            QCOMPARE(preview.Zoom(), 3.0);              // a symbol without a zoom of its own
             d.reject();
         });
         QVERIFY(!m_dialogs.bEdit_Sids(*m_doc));
         QCOMPARE(m_doc->symbols().find(1)->Size_mm, 2.5f);      // edits stay
+    }
+
+    void everyPresetSizeIsChosenByKeysAndByMouse()
+    {
+        const float presets[] = {1, 1.5f, 2, 2.5f, 3, 3.5f, 4, 5, 7, 10};
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            items(d).selectAll();
+            for (const bool byMouse : {false, true})
+                for (int i = 0; i < 10; ++i) {
+                    const auto user = whileModal<NumberBox>([&](NumberBox &box) {
+                        choose(*box.findChild<QComboBox *>(), i, byMouse);
+                        QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+                    });
+                    tool(d, "cmdSid_Size").trigger();
+                    for (const tSid &s : m_doc->symbols().readAll()) QCOMPARE(s.Size_mm, presets[i]);
+                }
+            d.reject();
+        });
+        m_dialogs.bEdit_Sids(*m_doc);
     }
 
     void selectedSymbolsMoveByTheGroupMenu()

@@ -1,16 +1,17 @@
 #include "dialogs/editors/OptionBox.h"
 #include "dialogs/editors/frmEditSid.h"
 #include "dialogs/viewtools/frmChooseList.h"
+#include "dialogs/viewtools/frmSort.h"
 #include "facade/contract/FontPicker.h"
 #include "support/FaultyDoc.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
+#include "support/ViewDrag.h"
 #include "support/WillingPrompts.h"
 
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMimeData>
 #include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
@@ -88,6 +89,21 @@ private slots:
              asksNumber(77, 30)},
             "2 B Egy 5 16 0, 30 C Kettő 5 16 0, 77 A Egy 7 16 0", "Egy Kettő");
         row(
+            "sorted by keys alone",
+            [](frmSupSid &f) {
+                const auto user = whileModal<frmSort>([](frmSort &s) {
+                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return})
+                        QTest::keyClick(s.focusWidget(), key); // by name, downward
+                });
+                select(f, 2);
+                f.lvSids->setFocus();
+                QTest::keyClick(f.lvSids->report(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+                QCOMPARE(f.lvSids->report()->model()->index(0, 1).data().toString(), QStringLiteral("B"));
+                QCOMPARE(f.lvSids->currentRow(), 0);
+                click(f, "cmdOk");
+            },
+            {}, "1 A Egy 5 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
+        row(
             "removed but for the last one",
             [](frmSupSid &f) {
                 run(f, "cmdByGroups");
@@ -137,22 +153,6 @@ private slots:
             },
             {}, "1 A Egy 5 16 0, 2 B Egy 5 16 1, 30 C Kettő 5 16 0", "Egy Kettő");
         row(
-            "dragged to a group, not to the one they are in",
-            [](frmSupSid &f) {
-                QTreeView &list = *f.lvSids->report();
-                list.selectAll();
-                const std::unique_ptr<QMimeData> mime(
-                    list.model()->mimeData(list.selectionModel()->selectedIndexes()));
-                QCOMPARE(mime->text(), QStringLiteral("FromZol3GridSid 1 2"));
-                QAbstractItemModel &groups = *f.lvGroups->model();
-                for (const int to : {0, 1})
-                    groups.dropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(to, 0));
-                mime->setText(QStringLiteral("30"));
-                QVERIFY(!groups.canDropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(0, 0)));
-                click(f, "cmdOk");
-            },
-            {}, "1 A Kettő 5 16 0, 2 B Kettő 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
-        row(
             "a character of a vector font",
             [](frmSupSid &f) {
                 const auto user = whileModal<frmChooseList>([](frmChooseList &c) {
@@ -178,6 +178,46 @@ private slots:
         QCOMPARE(m_form->symbols(), symbols);
         QCOMPARE(m_form->groups(), groups);
         QVERIFY(!m_form->isSpanOpen());
+    }
+
+    void symbolsAreDraggedToAGroup_data()
+    {
+        QTest::addColumn<int>("onto"); // a row of the group list; -1 = below the last one
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("group"); // where they are then
+        const QString own = QStringLiteral("FromZol3GridSid 1 2");
+        QTest::newRow("another one") << 1 << own << QStringLiteral("Kettő");
+        QTest::newRow("the one they are in") << 0 << own << QStringLiteral("Egy");
+        QTest::newRow("none") << -1 << own << QStringLiteral("Egy");
+        QTest::newRow("a foreign text") << 1 << QStringLiteral("1 2") << QStringLiteral("Egy");
+    }
+    /// Where nothing moves nothing is written, and there is nothing to keep.
+    void symbolsAreDraggedToAGroup()
+    {
+        QFETCH(int, onto);
+        QFETCH(QString, text);
+        QFETCH(QString, group);
+        const bool moves = group != QStringLiteral("Egy");
+        ScriptedPrompts user(moves ? Steps{tests::keepAsked(true)} : Steps{});
+        tests::FaultyDoc counted(*m_form->doc);
+        const Act drag = [&](frmSupSid &f) {
+            QTreeView &list = *f.lvSids->report();
+            list.selectAll();
+            QVERIFY(!tests::dragged(list)); // whoever chooses one moves none
+            run(f, "cmdEditMode");
+            list.selectAll();
+            const auto mime = tests::dragged(list);
+            QCOMPARE(mime ? mime->text() : QString(), QStringLiteral("FromZol3GridSid 1 2"));
+            mime->setText(text);
+            counted.log.calls.clear();
+            tests::drop(*mime, *f.lvGroups, onto);
+            QCOMPARE(counted.log.writes().size(), moves ? 2 : 0);
+            click(f, "cmdCancel");
+        };
+        qint16 id = 1;
+        m_form->open(counted, MODE_SELECT, drag, id);
+        QCOMPARE(m_form->symbols(),
+                 QStringLiteral("1 A %1 5 16 0, 2 B %1 5 16 0, 30 C Kettő 5 16 0").arg(group));
     }
 
     void theLastGroupStays()

@@ -204,6 +204,37 @@ private slots:
         }
     }
 
+    void aFaceWithoutTheCharacterSetDoesNotLoseIt()
+    {
+        const QString sans = QStringLiteral("DejaVu Sans"), serif = QStringLiteral("DejaVu Serif");
+        const struct {
+            int wanted;
+            QStringList walk;
+            int expected;
+        } rows[] = {{177, {serif}, scriptsOf(serif).front()->charSet}, // which has no Hebrew
+                    {177, {serif, sans}, 177},
+                    {1, {serif}, 1}};
+        for (const auto &row : rows) {
+            tSid first = symbol();
+            first.Facename = sans, first.CharSet = row.wanted;
+            const tSid after = edited(first, [&](frmEditSid &f) {
+                for (const QString &face : row.walk) f.cboFonts->setCurrentText(face);
+            });
+            QCOMPARE(after.CharSet, row.expected);
+        }
+        QVERIFY(rows[0].expected != 177);
+    }
+
+    void numbersFollowTheLanguage()
+    {
+        edited(symbol(), [](frmEditSid &f) {
+            QCOMPARE(f.usNumSize->txtCombo->currentText(), QStringLiteral("5,00"));
+            setLanguage(English, {});
+            emit LanguageHub::instance().LanguageChanged();
+            QCOMPARE(f.usNumSize->txtCombo->currentText(), QStringLiteral("5.00"));
+        });
+    }
+
     void tabGoesAsOneReads()
     {
         QStringList visited;

@@ -7,11 +7,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QSplitter>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::child;
 using tests::click;
+using tests::keepAsked;
 using tests::kSizeAsked;
 using tests::run;
 using tests::ScriptedPrompts;
@@ -24,11 +26,6 @@ Q_DECLARE_METATYPE(Steps)
 
 namespace {
 
-ScriptedPrompts::Step keep(bool yes)
-{
-    return {"yesNo", QStringLiteral("Változások rögzítése"),
-            QStringLiteral("Akarod rögzíteni a változtatásokat ?"), yes, Icon::Question};
-}
 QString listed(frmSupSid &form, int column = 0)
 {
     QStringList all;
@@ -90,12 +87,12 @@ private slots:
             },
             {}, "1 2 5 5 5");
         row("edited", MODE_EDIT, then(resize, "cmdOk"), {kSizeAsked}, "1 2 5 7 5");
-        row("closed, kept", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keep(true)}, "1 2 5 7 5");
-        row("closed, dropped", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keep(false)}, "0 30 5 5 5");
+        row("closed, kept", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keepAsked(true)}, "1 2 5 7 5");
+        row("closed, dropped", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keepAsked(false)}, "0 30 5 5 5");
         row("nothing changed", MODE_EDIT, then(two, "cmdCancel"), {}, "0 30 5 5 5");
-        row("mode left, dropped", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(false)},
+        row("mode left, dropped", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keepAsked(false)},
             "0 30 5 5 5");
-        row("mode left, kept", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keep(true)},
+        row("mode left, kept", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keepAsked(true)},
             "1 2 5 7 5");
         row(
             "not picked, edited", MODE_SELECT,
@@ -104,7 +101,7 @@ private slots:
                 resize(f);
                 click(f, "cmdCancel");
             },
-            {kSizeAsked, keep(true)}, "0 30 5 7 5");
+            {kSizeAsked, keepAsked(true)}, "0 30 5 7 5");
         row(
             "mode entered", MODE_SELECT,
             [=](frmSupSid &f) {
@@ -217,28 +214,58 @@ private slots:
             2000);
     }
 
+    /// Kept through the switches of the mode and for the next run, where the columns are still called the
+    /// same.
     void eachModeHasItsWidths()
     {
-        const Act widths = [](frmSupSid &f) {
+        using Widths = QList<int>;
+        Widths left[2]; // by mode
+        const auto widths = [](frmSupSid &f) {
+            const QHeaderView &header = *f.lvSids->report()->header();
+            return Widths{f.width(), header.sectionSize(1), header.sectionSize(6)};
+        };
+        int groups = 0;
+        const Act arrange = [&](frmSupSid &f) {
             QHeaderView &header = *f.lvSids->report()->header();
-            for (const int wide : {700, 780}) {
-                f.resize(wide, 500), header.resizeSection(1, wide / 4);
+            for (Widths &of : left) {
+                const int wide = &of == left ? 700 : 780;
+                f.resize(wide, 500);
+                header.resizeSection(1, wide / 4), header.resizeSection(6, wide / 3);
+                child<QSplitter>(f, "").setSizes({wide / 3, wide / 2});
+                of = widths(f);
                 run(f, "cmdEditMode");
             }
-            QCOMPARE(f.width(), 700);
-            QCOMPARE(header.sectionSize(1), 175);
-            run(f, "cmdEditMode");
-            QCOMPARE(f.width(), 780);
-            QCOMPARE(header.sectionSize(1), 195);
+            for (const Widths &of : left) {
+                QCOMPARE(widths(f), of);
+                run(f, "cmdEditMode");
+            }
+            groups = f.lvGroups->width();
             click(f, "cmdCancel");
         };
-        m_form->open(MODE_SELECT, widths, 2);
+        m_form->open(MODE_SELECT, arrange, 2);
         const auto &kept = m_form->store.kept.values;
         for (const char *key :
              {"ZolWOpfrmSupSid-Groups", "ZolWOpfrmSupSid-Sids", "ZolWOpfrmSupSid-Width4Edit",
-              "ZolWOpfrmSupSid-Width4Select", "ZolWOpfrmSupSid-Height"})
+              "ZolWOpfrmSupSid-Width4Select", "ZolWOpfrmSupSid-Height", "lvSidsSelectMode7"})
             QVERIFY2(kept.value(QStringLiteral("ZolWOp/Settings/") + QLatin1String(key)).toInt() > 0, key);
         QCOMPARE(kept.value(QStringLiteral("ZolWOp/Settings/ViewModelvSidsEditMode")), QStringLiteral("3"));
+        for (const enumSetupMode mode : {MODE_SELECT, MODE_EDIT}) {
+            const auto again = [&](frmSupSid &f) {
+                QCOMPARE(widths(f), left[mode == MODE_EDIT]);
+                if (mode == MODE_SELECT) QCOMPARE(f.lvGroups->width(), groups);
+                run(f, "cmdEditMode");
+                QCOMPARE(widths(f), left[mode != MODE_EDIT]);
+                click(f, "cmdCancel");
+            };
+            m_form->open(mode, again, 2);
+        }
+        setLanguage(English, {});
+        const auto translated = [&](frmSupSid &f) {
+            QCOMPARE(f.width(), 700);
+            QVERIFY(widths(f)[1] != left[0][1] && widths(f)[2] != left[0][2]);
+            click(f, "cmdCancel");
+        };
+        m_form->open(MODE_SELECT, translated, 2);
     }
 
     void aFreeNumberIsAskedFor()

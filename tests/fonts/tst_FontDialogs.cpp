@@ -1,5 +1,6 @@
 #include "fonts/BlockHost.h"
 #include "fonts/CharacterGrid.h"
+#include "fonts/CharacterSource.h"
 #include "fonts/FontSample.h"
 #include "fonts/FontViewer.h"
 #include "fonts/frmTrueTypeSel.h"
@@ -143,6 +144,13 @@ private slots:
             if (chosen) QCOMPARE(*chosen, characterOfSans(chosen->code, first.charSet));
         }
     }
+    void aSymbolSetIsTypedByItsKeys()
+    {
+        const auto letters = trueTypeCharacters({kSans.face, 2});
+        QCOMPARE(letters->codeOf(u'A'), 65);
+        QCOMPARE(letters->codeOf(u'\xf041'), 0xf041);
+        QCOMPARE(letters->codeOf(u'é'), -1);
+    }
     void theViewerTakesAnotherFaceAndScript()
     {
         const auto watch = whileModal<FontViewer>([](FontViewer &d) {
@@ -208,9 +216,10 @@ private slots:
     {
         const ScriptedPrompts::Step missing{
             "tell", appTitle(), "Hiányoznak a vektor fontok tulajdonságai!", {}, Icon::Information};
-        for (const bool hasHost : {false, true}) {  // no provider, and one that cannot give what it names
-            const auto host = hasHost ? std::make_unique<BlockHost>() : nullptr;
-            if (host) host->offered = QStringList{"Lost"};
+        const std::optional<QStringList> rows[] = {{}, QStringList(), {{"Lost"}}}; // none: no provider
+        for (const auto &offered : rows) {
+            const auto host = offered ? std::make_unique<BlockHost>() : nullptr;
+            if (host) host->offered = *offered;
             const ScriptedPrompts user{{missing, missing}};
             QVERIFY(!fontPicker()->pickVector(nullptr, {}, nullptr));
             QVERIFY(!fontPicker()->pickCharacter(nullptr, {.kind = FontKind::Vector}, nullptr));

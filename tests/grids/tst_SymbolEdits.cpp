@@ -1,16 +1,22 @@
 #include "facade/services/Language.h"
 #include "support/FaultyDoc.h"
+#include "support/Modal.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/ShownForm.h"
 #include "support/SymbolForm.h"
+
+#include <QComboBox>
+#include <QDialog>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
 using Step = ScriptedPrompts::Step;
+using Steps = std::vector<Step>;
 using Shown = tests::ShownForm<tests::SymbolForm>;
+Q_DECLARE_METATYPE(Steps)
 
 namespace {
 
@@ -102,8 +108,8 @@ const std::vector<Case> kCases = {
      {groupAsked("Új csoport", "Új csoportnév|", "Egy"), groupTaken(),
       groupAsked("Új csoport", "Új csoportnév|Egy", "Három")}, nullptr, "Egy, Kettő, Három"},
     {"rename group", "miGroupRename", "Kettő", {},
-     {groupAsked("Csoport átnevezés", "A csoport új neve:|Kettő", "MIND"), groupTaken(),
-      groupAsked("Csoport átnevezés", "A csoport új neve:|MIND", "Más")},
+     {groupAsked("Csoport átnevezés", "Új csoportnév|Kettő", "MIND"), groupTaken(),
+      groupAsked("Csoport átnevezés", "Új csoportnév|MIND", "Más")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Más 5 16 0", "Egy, Más"},
     {"a group that holds symbols stays", "miGroupRemove", "Kettő", {},
      {groupGone(), told(Icon::Critical, "Csoport törlése",
@@ -209,19 +215,35 @@ private slots:
         QTest::addColumn<QByteArray>("column");
         QTest::addColumn<QVariant>("typed");
         QTest::addColumn<QString>("after");         // of symbol 1; empty = refused
-        QTest::addColumn<bool>("told");
+        QTest::addColumn<Steps>("asked");
         const auto row = [](const char *name, const char *column, const QVariant &typed, const char *after,
-                            bool told = false) {
-            QTest::newRow(name) << QByteArray(column) << typed << QString::fromUtf8(after) << told;
+                            Steps asked = {}) {
+            QTest::newRow(name) << QByteArray(column) << typed << QString::fromUtf8(after) << asked;
         };
+        const auto notTaken = [](const char *column, const char *typed, const char *why) {
+            return Steps{told(Icon::Exclamation, column, (QByteArray("Jelkulcstípus: 1/A\nNem fogadható el: ")
+                                                          + typed + "\n\n" + why).constData())};
+        };
+        const char kNumbers[] = "\nMegengedett: 1\u00a0–\u00a032767";
         row("a free number", "SidId", "9", "9 A Egy 5 16 0");
-        row("a number in use", "SidId", "2", "", true);
-        row("no number", "SidId", "0", "");
+        row("a number in use", "SidId", "2", "", {told(Icon::Information, "Sorszám", "Létező sorszám !")});
+        row("too small a number", "SidId", "0", "",
+            notTaken("Sorszám", "0", QByteArray("A szám túl kicsi.").append(kNumbers)));
+        row("no number", "SidId", "1x", "",
+            notTaken("Sorszám", "1x", QByteArray("Írj be egy számot!").append(kNumbers)));
+        row("beyond all numbers", "SidId", "40000", "",
+            notTaken("Sorszám", "40000", QByteArray("A szám túl nagy.").append(kNumbers)));
+        row("emptied", "SidId", " ", "");
         row("a name", "Name", "Új", "1 Új Egy 5 16 0");
-        row("a name in use", "Name", "C", "", true);
+        row("a name in use", "Name", "C", "", {nameTaken()});
         row("a size with a comma", "Size", "2,5", "1 A Egy 2.5 16 0");
-        row("a size too small", "Size", "0,05", "");
+        row("a size too small", "Size", "0,05", "",
+            notTaken("Méret", "0,05",
+                     "A szám túl kicsi.\nMegengedett: 0,1\u00a0–\u00a01000\u00a0mm"));
         row("a thickness", "Weight", "35", "1 A Egy 5 35 0");
+        row("a thickness in millimetres", "Weight", "0,25", "",
+            notTaken("Vastagság", "0,25",
+                     "Egész számot írj be!\nMegengedett: 0\u00a0–\u00a0300\u00a0század mm"));
         row("to a vector font", "FontType", 1, "1 A Egy 5 16 1");
         row("no font type", "FontType", 2, "");
     }
@@ -230,7 +252,7 @@ private slots:
         QFETCH(QByteArray, column);
         QFETCH(QVariant, typed);
         QFETCH(QString, after);
-        QFETCH(bool, told);
+        QFETCH(Steps, asked);
         tSid wide = *m_doc->symbols().find(1);
         wide.XwFact = 2.5f, wide.Weight = column == "FontType" ? 99 : 16;
         m_doc->symbols().update(wide);
@@ -239,10 +261,7 @@ private slots:
         int refreshed = 0, c = 0;
         connect(&form.js, &clsJS_Sid::RefreshSample, &form.window, [&](const tSid &) { ++refreshed; });
         while (SymbolTable::columns[c].key != column) ++c;
-        std::vector<Step> script;
-        if (told && column == "Name") script = {nameTaken()};
-        else if (told) script = {::told(Icon::Information, "Sorszám", "Létező sorszám !")};
-        ScriptedPrompts user(script);
+        ScriptedPrompts user(asked);
         QCOMPARE(form.edit(1, c, typed), !after.isEmpty());
         QCOMPARE(refreshed, after.isEmpty() ? 0 : 1);
         if (after.isEmpty()) QCOMPARE(stored(), before);
@@ -251,6 +270,22 @@ private slots:
         QCOMPARE(std::ranges::count(all, 1.0f, &tSid::XwFact),
                  column == "FontType" && !after.isEmpty() ? 3 : 2);
         QCOMPARE(form.rows(), all);
+    }
+
+    void millimetresAndHundredthsAreSaid()
+    {
+        tests::SymbolForm form(*m_doc);
+        form.select({1});
+        QCOMPARE(form.grid.table()->model()->headerData(4, Qt::Horizontal, Qt::ToolTipRole).toString(),
+                 QStringLiteral("Vastagság (század mm)"));
+        QStringList offered;
+        const auto user = tests::whileModal<QDialog>([&](QDialog &box) {
+            const auto &list = tests::child<QComboBox>(box, "txtCombo");
+            for (int i = 0; i < list.count(); ++i) offered << list.itemText(i);
+            box.reject();
+        });
+        form.run("cmdSid_Size");
+        QCOMPARE(offered.join(u' '), QStringLiteral("1,0 1,5 2,0 2,5 3,0 3,5 4,0 5,0 7,0 10,0"));
     }
 
     void aRenumberedSymbolTakesItsElementsAlong()

@@ -1,12 +1,14 @@
 #include "facade/services/Language.h"
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetXml.h"
+#include "support/FullDisk.h"
 #include "support/NotingPrompts.h"
 #include "support/OwnStore.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/SymbolForm.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -107,6 +109,37 @@ private slots:
                      QStringLiteral("A(z) 'C' jelkulcs nem fér a készletfájlba, ezért semmi sem lett "
                                     "elmentve. Túl hosszú vagy túl nagy az adata, javítsd ki: Code"))});
         QCOMPARE(content(), QByteArray("old"));
+    }
+
+    void aFullDiskLeavesTheOldFile_data()
+    {
+        QTest::addColumn<int>("symbols");
+        QTest::newRow("written at once") << 300;
+        QTest::newRow("kept back until the end") << 3;
+    }
+    void aFullDiskLeavesTheOldFile()
+    {
+        QFETCH(int, symbols);
+        if (!tests::FullDisk::isPossible) QSKIP("needs a limit on the size of files");
+        std::vector<tSid> all;
+        for (int n = 1; n <= symbols; ++n) all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
+        m_doc = tests::symbolDoc(all);
+        write(QByteArray("old"));
+        tests::SymbolForm form(*m_doc);
+        tests::NotingPrompts user;
+        user.path = path();
+        form.grid.selectAll();
+        {
+            const tests::FullDisk full;
+            form.run("miSave2XML");
+        }
+        QVERIFY(user.told.join(u'|').startsWith(
+            QStringLiteral("A(z) '%1' fájl nem menthető; ha volt ilyen fájl, a régi tartalma megmaradt.")
+                .arg(path())));
+        QCOMPARE(content(), QByteArray("old"));
+        QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("a.rst"));
+        form.run("miSave2XML");
+        QCOMPARE(content(), bytesOf(std::get<Recordset>(symbolSetOf(m_doc->symbols().readAll()))));
     }
 
     void aSetGoesToTheCurrentGroup()

@@ -4,6 +4,7 @@
 #include "kit/grid/Grid.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
+#include "support/LayerForm.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
@@ -53,12 +54,19 @@ private slots:
                                      << "32767 A, 2 B, 3 C";
         QTest::newRow("taken number") << QByteArray("gNr") << QVariant("3") << "Rétegsorszám"
                                       << "Létező rétegsorszám !" << same;
-        QTest::newRow("no number") << QByteArray("gNr") << QVariant("tíz") << "" << "" << same;
-        QTest::newRow("no whole number") << QByteArray("gNr") << QVariant("2.5") << "" << "" << same;
-        QTest::newRow("no layer number") << QByteArray("gNr") << QVariant("0") << "" << "" << same;
+        const auto notTaken = [&](const char *name, const char *key, const char *typed, const char *why) {
+            const bool isPen = QByteArray(key) == "ScrColor";
+            QTest::newRow(name) << QByteArray(key) << QVariant(typed) << (isPen ? "Képernyő szín" : "Sorszám")
+                                << QStringLiteral("Réteg: 1/A\nNem fogadható el: %1\n\n%2\nMegengedett: %3")
+                                       .arg(typed, why, isPen ? "0\u00a0–\u00a0255" : "1\u00a0–\u00a032767")
+                                << same;
+        };
+        notTaken("no number", "gNr", "tíz", "Írj be egy számot!");
+        notTaken("no whole number", "gNr", "2.5", "Egész számot írj be!");
+        notTaken("no layer number", "gNr", "0", "A szám túl kicsi.");
+        notTaken("beyond 16 bits", "gNr", "32768", "A szám túl nagy.");
+        notTaken("no such pen", "ScrColor", "256", "A szám túl nagy.");
         QTest::newRow("empty name") << QByteArray("Name") << QVariant("  ") << "" << "" << same;
-        QTest::newRow("no such pen") << QByteArray("ScrColor") << QVariant("256") << "" << "" << same;
-        QTest::newRow("beyond 16 bits") << QByteArray("gNr") << QVariant("32768") << "" << "" << same;
     }
     void editsAreCheckedThenWritten()
     {
@@ -68,7 +76,8 @@ private slots:
         QFETCH(QString, message);
         QFETCH(QString, after);
         std::vector<ScriptedPrompts::Step> boxes;
-        if (!message.isEmpty()) boxes.push_back({"tell", title, message, {}, Icon::Information});
+        const Icon icon = message.startsWith(u"Réteg:") ? Icon::Exclamation : Icon::Information;
+        if (!message.isEmpty()) boxes.push_back({"tell", title, message, {}, icon});
         ScriptedPrompts user(boxes);
         Grid grid;
         clsJs_Layer js;
@@ -140,6 +149,30 @@ private slots:
         QCOMPARE(LayerTable::styles(layer(1)).row, QStringLiteral("OddRow"));
         QCOMPARE(LayerTable::styles(layer(2)).row, QStringLiteral("Grayed"));
         QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));
+    }
+
+    void pensAreChosenByTheirColour_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("caption");
+        for (const auto &[key, caption] : {std::pair("ScrColor", "Képernyő szín"),
+                                           {"PrnColor", "Nyomtatási szín"}, {"PenColorId", "Toll"}})
+            QTest::newRow(key) << key << caption;
+    }
+    void pensAreChosenByTheirColour()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, caption);
+        tests::LayerForm form(*m_doc);
+        form.select({1});
+        int c = 0;
+        while (LayerTable::columns[c].key != key) ++c;
+        QAbstractItemView &table = *form.grid.table();
+        table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
+        const QString now = form.cellOf(form.grid.currentRow(), c);
+        ScriptedPrompts user({{"colorIndex", caption, QStringLiteral("Válassz tollat! Réteg: 1/A|") + now, 9}});
+        QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(LayerTable::columns[c].get(m_doc->layers().find(layer(1).LayId).value()).toInt(), 9);
     }
 
     void theGroupListNarrowsTheGrid()

@@ -2,6 +2,7 @@
 
 #include "document/SqliteDoc.h"
 #include "host_document/BrokenTables.h"
+#include "support/FaultyDoc.h"
 
 #include <QObject>
 

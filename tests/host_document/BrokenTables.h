@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FaultyDoc.h"
+#include "support/FaultyTables.h"
 
 /// Tables with one fault between them and their caller.
 namespace broken {
@@ -43,13 +43,21 @@ struct Symbols : tests::FaultySymbols {
         tSid stored = r;
         if (is("update forgets a member of symbols")) stored.ProtYmm = 0;
         real.update(stored);
-        if (!is("update changes the others too")) return;
-        for (tSid other : real.readAll()) other.ProtYmm = 0, real.update(other);
+        spoil("update changes the records before it", [&](qint16 id) { return id < r.SidId; });
+        spoil("update changes the records behind it", [&](qint16 id) { return id > r.SidId; });
+    }
+    template <class Which> void spoil(const char *fault, Which which)
+    {
+        if (!is(fault)) return;
+        for (tSid other : real.readAll())
+            if (which(other.SidId)) other.ProtYmm += 1, real.update(other);
     }
     bool remove(qint16 id) override
     {
         if (is("remove ignores references") && real.uses(id) > 0) return true;
-        return real.remove(id) && !is("remove answers false");
+        const bool isGone = real.remove(id);
+        spoil("remove changes what stays", [](qint16) { return true; });
+        return isGone && !is("remove answers false");
     }
     int uses(qint16 id) const override { return is("uses is always 0") ? 0 : real.uses(id); }
     void addAll(std::span<const tSid> rows, std::vector<qint16> &ids) override
@@ -61,6 +69,8 @@ struct Symbols : tests::FaultySymbols {
     {
         try {
             real.updateAll(rows, written);
+            spoil("updateAll changes a record that is not meant",
+                  [&](qint16 id) { return id < std::ranges::min(rows, {}, &tSid::SidId).SidId; });
         } catch (...) {
             if (is("a failed updateAll lies")) written = int(rows.size());
             throw;
@@ -70,6 +80,7 @@ struct Symbols : tests::FaultySymbols {
     {
         real.removeAll(is("removeAll leaves the last out") ? ids.first(ids.size() - 1) : ids, refused,
                        looked);
+        spoil("removeAll changes what stays", [](qint16) { return true; });
     }
 };
 

@@ -13,7 +13,7 @@
 
 using namespace QV_DOC_CONTROLS;
 
-/// The tool as a script runs it.
+/// The programs as a script runs them, without a display.
 class tst_qvres : public QObject {
     Q_OBJECT
 private:
@@ -22,15 +22,16 @@ private:
         int code = -1;
         QByteArray out, err;
     };
-    Run run(const QStringList &words)
+    Run run(const QStringList &words, const char *program = QVRES)
     {
         QProcess tool;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-        environment.remove(QStringLiteral("DISPLAY"));
+        for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(display));
         tool.setProcessEnvironment(environment);
         tool.setWorkingDirectory(m_folder.path());
-        tool.start(QStringLiteral(QVRES), words);
+        tool.start(QString::fromUtf8(program), words);
         if (!tool.waitForFinished()) return {};
         return {tool.exitStatus() == QProcess::NormalExit ? tool.exitCode() : -1,
                 tool.readAllStandardOutput(), tool.readAllStandardError()};
@@ -157,6 +158,27 @@ private slots:
         QCOMPARE(good.out, QByteArray("set.rst: in order, number of rows: 2\n"));
         put("low.rst", get("set.rst").replace("Align='0'", "Align='-1'"));
         QVERIFY(run({"check", "low.rst"}).err.contains("column: Align"));
+    }
+    void helpAndVersionNeedNoDisplay_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QByteArray>("said");
+        for (const char *program : {QVRES, QVDRAW}) {
+            const QByteArray name = QFileInfo(QString::fromUtf8(program)).fileName().toUtf8();
+            for (const auto &[word, said] :
+                 {std::pair("--help", name + " [options]"), {"--version", name + " 0."}})
+                QTest::addRow("%s %s", name.data(), word) << QByteArray(program) << word << said;
+        }
+    }
+    void helpAndVersionNeedNoDisplay()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QString, word);
+        QFETCH(QByteArray, said);
+        const Run ended = run({word}, program.data());
+        QCOMPARE(ended.code, 0);
+        QVERIFY2(ended.out.contains(said), ended.out);
     }
     void errorsGoToStandardErrorWithCodeTwo_data()
     {

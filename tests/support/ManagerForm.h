@@ -24,6 +24,13 @@ inline const ScriptedPrompts::Step kSizeAsked{
     "numbers", QStringLiteral("Betűnagyság"),
     QStringLiteral("A jelkulcstípus betűnagysága mm-ben|Nagyság=|5"), QVariantList{7.0}};
 
+/// Whether what was changed is to stay.
+inline ScriptedPrompts::Step keepAsked(bool yes)
+{
+    return {"yesNo", QStringLiteral("Változások rögzítése"),
+            QStringLiteral("Akarod rögzíteni a változtatásokat ?"), yes, QV_DOC_CONTROLS::Icon::Question};
+}
+
 inline void run(frmSupSid &form, const char *tool) { child<QAction>(form, tool).trigger(); }
 inline void click(frmSupSid &form, const char *button) { child<QPushButton>(form, button).click(); }
 /// Selects what is listed, by its first column; the last one is current.

@@ -2,13 +2,12 @@
 
 #include "dialogs/select/frmSetup.h"
 #include "kit/grid/Grid.h"
+#include "support/MenuWay.h"
 #include "support/Modal.h"
 #include "support/Typing.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QMenu>
-#include <QMenuBar>
 #include <QTest>
 
 namespace tests {
@@ -65,33 +64,11 @@ public:
     /// A click on the menu bar, then by keys down to that tool.
     void menu(const char *tool)
     {
-        auto &bar = child<QMenuBar>(m_dialog, "mnuMain");
-        const auto way = wayTo(QLatin1String(tool), bar.actions());
-        if (way.isEmpty() || !way.last()->isEnabled()) {
+        if (!chooseInMenu(child<QMenuBar>(m_dialog, "mnuMain"), tool))
             surprises << QStringLiteral("cannot be clicked: ") + QLatin1String(tool);
-            return;
-        }
-        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(way.first()).center());
-        for (qsizetype i = 1; i < way.size(); ++i) {
-            QMenu *const open = way[i - 1]->menu();
-            QTRY_VERIFY(open->isVisible());
-            for (auto n = open->actions().size(); n > 0 && open->activeAction() != way[i]; --n)
-                QTest::keyClick(open, Qt::Key_Down); // a long menu does not fit the screen
-            QTest::keyClick(open, Qt::Key_Return);
-        }
     }
 
 private:
-    static QList<QAction *> wayTo(const QString &tool, const QList<QAction *> &from)
-    {
-        for (QAction *const a : from) {
-            if (a->objectName() == tool) return {a};
-            if (const auto rest = a->menu() ? wayTo(tool, a->menu()->actions()) : QList<QAction *>();
-                !rest.isEmpty())
-                return QList<QAction *>{a} + rest;
-        }
-        return {};
-    }
     static void clickIn(QV_DOC_CONTROLS::Grid &grid, int line, int column, Qt::KeyboardModifiers held)
     {
         QAbstractItemView &view = *grid.table();

@@ -1,5 +1,5 @@
 #include "dialogs/values/NumberBox.h"
-#include "dialogs/values/NumberWording.h"
+#include "kit/ask/NumberWording.h"
 
 #include "facade/services/Language.h"
 #include "support/Modal.h"

@@ -50,7 +50,6 @@ void followLine(QWidget &w, const Changed &changed)
 QWidget *makeNumber(QWidget *form, const FieldSpec &, ErrorRelay &)
 {
     auto *const box = new usInputBox(form);
-    box->setLocale(interfaceLocale());
     box->setReadsLocale(true);
     box->setUpDownVisible(true);
     return box;
@@ -85,6 +84,7 @@ bool settleNumber(QWidget &w)
 void captionNumber(QWidget &w, const FieldSpec &spec, const QString &caption)
 {
     auto &box = as<usInputBox>(w);
+    box.setLocale(interfaceLocale());
     box.setBeforeString(caption);
     if (!spec.bounds.millimetres) box.setAfterString({});
 }

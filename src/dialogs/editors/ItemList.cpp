@@ -232,12 +232,18 @@ void ItemList::rearrange(const std::function<void()> &arrange)
     emit selectionMoved();
 }
 
+/// A click on a header; another one turns the order round.
 void ItemList::sortBy(int column)
 {
-    const bool again = column == m_sorted && m_order == Qt::AscendingOrder;
-    m_order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    m_sorted = column;
-    m_relay.guard([this] { rearrange([this] { m_model->sortBy(m_sorted, m_order); }); });
+    const SortKey upward{column}, downward{column, SortOrder::Descending};
+    const auto now = sortKeys();
+    const SortKey key = !now.empty() && now.front() == upward ? downward : upward;
+    setSortKeys({&key, 1});
+}
+
+void ItemList::setSortKeys(std::span<const SortKey> keys)
+{
+    m_relay.guard([&] { rearrange([&] { m_model->setSortKeys({keys.begin(), keys.end()}); }); });
     shown()->scrollTo(m_report->currentIndex());
 }
 

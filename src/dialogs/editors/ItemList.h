@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/ask/ErrorRelay.h"
+#include "kit/grid/AbstractGrid.h"
 
 #include <QAbstractTableModel>
 #include <QStackedWidget>
@@ -19,7 +20,9 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
     virtual qint16 idAt(int row) const = 0;
     virtual int rowOf(qint16 id) const = 0;                   ///< -1 = not listed
-    virtual void sortBy(int column, Qt::SortOrder order) = 0; ///< to be called inside ItemList::rearrange()
+    virtual const std::vector<GridColumn> &columns() const = 0;
+    virtual const std::vector<SortKey> &sortKeys() const = 0;
+    virtual void setSortKeys(std::vector<SortKey> keys) = 0;  ///< inside ItemList::rearrange()
     virtual void setPictureColumn(int column) = 0;            ///< of the view that is shown
 signals:
     void picturesDrawn(); ///< some that were asked for
@@ -27,7 +30,7 @@ signals:
 
 /// A list view of four looks over one model and one selection: a table with a header, large icons, small
 /// icons, and a list in columns. Nothing is kept for an item; what is not seen is not asked for.
-class ItemList final : public QStackedWidget {
+class ItemList final : public QStackedWidget, public SortableRows {
     Q_OBJECT
 public:
     enum class View { Icons, SmallIcons, List, Report }; ///< numbers as they are stored
@@ -47,6 +50,10 @@ public:
     /// Lets `arrange` list other items or the same ones in another order. What was selected and is still
     /// listed stays selected, and the current item stays current.
     void rearrange(const std::function<void()> &arrange);
+
+    const std::vector<GridColumn> &columns() const override { return m_model->columns(); }
+    std::vector<SortKey> sortKeys() const override { return m_model->sortKeys(); }
+    void setSortKeys(std::span<const SortKey> keys) override;
 
     QTreeView *report() const { return m_report; }
     QAbstractItemView *shown() const;
@@ -74,8 +81,6 @@ private:
     ItemModel *m_model = nullptr;
     int m_nameColumn = 0, m_cell = 32;
     View m_view = View::Report;
-    int m_sorted = -1; ///< column; -1 = none
-    Qt::SortOrder m_order = Qt::AscendingOrder;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -3,7 +3,7 @@
 #include "kit/tools/Icons.h"
 
 #include <QApplication>
-#include <QPixmap>
+#include <QIcon>
 #include <QStyle>
 
 #include <cstring>
@@ -18,14 +18,17 @@ inline constexpr ManagerImage kManagerImages[] = {
     {"Open", "groupOpen"}, {"Empty", "groupEmpty"}, {"Current", "currentItem"}, {"Egyéb", "groupOther"},
     {"SortAZ", "sortAZ"},  {"SortZA", "sortZA"},    {"Vector", "vectorFont"},   {"TrueType", "trueType"},
 };
-/// As large as icons are in lists; null = no such key.
-inline QPixmap managerImage(const char *key)
+/// As large as icons are in lists, and legible on a selected row; null = no such key.
+inline QIcon managerImage(const char *key)
 {
+    QIcon image;
     const int side = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize);
-    for (const ManagerImage &image : kManagerImages)
-        if (std::strcmp(image.key, key) == 0)
-            return toolIcon(image.icon).pixmap(QSize(side, side), qApp->devicePixelRatio());
-    return {};
+    for (const ManagerImage &row : kManagerImages) {
+        if (std::strcmp(row.key, key) != 0) continue;
+        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+            image.addPixmap(toolIcon(row.icon).pixmap({side, side}, qApp->devicePixelRatio(), mode), mode);
+    }
+    return image;
 }
 
 } // namespace QV_DOC_CONTROLS

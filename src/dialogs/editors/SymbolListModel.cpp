@@ -89,10 +89,10 @@ void SymbolListModel::showGroup(std::optional<qint16> group)
     endResetModel();
 }
 
-void SymbolListModel::sortBy(int column, Qt::SortOrder order)
+void SymbolListModel::setSortKeys(std::vector<SortKey> keys)
 {
     beginResetModel();
-    m_sorted = column, m_order = order;
+    m_sorts = std::move(keys);
     list();
     endResetModel();
 }
@@ -102,18 +102,19 @@ void SymbolListModel::list()
     m_rows.clear();
     for (int i = 0; i < int(m_all.size()); ++i)
         if (!m_group || m_all[size_t(i)].GroupId == *m_group) m_rows.push_back(i);
-    if (m_sorted >= 0) sort();
+    for (auto key = m_sorts.rbegin(); key != m_sorts.rend(); ++key) sortBy(*key); // the first counts most
     m_rowOf.clear();
     for (int row = 0; row < int(m_rows.size()); ++row) m_rowOf.insert(idAt(row), row);
 }
 
 /// Each text gets its sorting key once.
-void SymbolListModel::sort()
+void SymbolListModel::sortBy(const SortKey &key)
 {
-    const ListColumn &column = kColumns[m_sorted];
+    const ListColumn &column = kColumns[key.column];
+    const bool up = key.order == SortOrder::Ascending;
     const auto inOrder = [&](auto less) {
         std::ranges::stable_sort(m_rows, [&](int a, int b) {
-            return m_order == Qt::AscendingOrder ? less(size_t(a), size_t(b)) : less(size_t(b), size_t(a));
+            return up ? less(size_t(a), size_t(b)) : less(size_t(b), size_t(a));
         });
     };
     if (column.number)
@@ -133,7 +134,14 @@ int SymbolListModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : kColumnCount;
 }
 
-void SymbolListModel::retranslate() { emit headerDataChanged(Qt::Horizontal, 0, kColumnCount - 1); }
+void SymbolListModel::retranslate()
+{
+    m_columns.clear();
+    for (const ListColumn &c : kColumns)
+        m_columns.push_back({.key = QString::fromLatin1(c.key), .caption = txt(c.caption),
+                             .longCaption = txt(c.hint).trimmed()});
+    emit headerDataChanged(Qt::Horizontal, 0, kColumnCount - 1);
+}
 
 QVariant SymbolListModel::image(const tSid &symbol, int column) const
 {
@@ -167,8 +175,9 @@ QVariant SymbolListModel::headerData(int section, Qt::Orientation turned, int ro
 {
     if (turned != Qt::Horizontal) return {};
     if (role == Qt::DisplayRole) return txt(kColumns[section].caption);
-    if (role == Qt::DecorationRole && section == m_sorted)
-        return managerImage(m_order == Qt::AscendingOrder ? "SortAZ" : "SortZA");
+    const auto key = std::ranges::find(m_sorts, section, &SortKey::column);
+    if (role == Qt::DecorationRole && key != m_sorts.end())
+        return managerImage(key->order == SortOrder::Ascending ? "SortAZ" : "SortZA");
     return {};
 }
 

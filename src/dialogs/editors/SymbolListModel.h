@@ -20,6 +20,7 @@ public:
     void setSymbols(std::vector<ZolWDoc::tSid> all, SymbolNames names, std::optional<qint16> group);
     void showGroup(std::optional<qint16> group);
     void setMarked(qint16 id) { m_marked = id; } ///< the symbol that the manager was opened with; -1 = none
+    qint16 marked() const { return m_marked; }
     using Dragged = std::function<QMimeData *(const std::vector<qint16> &)>;
     void setDragged(Dragged data) { m_drag = std::move(data); }
     void retranslate();
@@ -27,7 +28,9 @@ public:
 
     qint16 idAt(int row) const override { return at(row).SidId; }
     int rowOf(qint16 id) const override;
-    void sortBy(int column, Qt::SortOrder order) override;
+    const std::vector<GridColumn> &columns() const override { return m_columns; }
+    const std::vector<SortKey> &sortKeys() const override { return m_sorts; }
+    void setSortKeys(std::vector<SortKey> keys) override;
     void setPictureColumn(int column) override { m_pictureColumn = column; }
 
     int rowCount(const QModelIndex &parent = {}) const override
@@ -45,7 +48,7 @@ public:
 private:
     QVariant image(const ZolWDoc::tSid &symbol, int column) const;
     void list();
-    void sort();
+    void sortBy(const SortKey &key);
     SymbolPictures &m_pictures;
     std::vector<ZolWDoc::tSid> m_all;
     SymbolNames m_names;
@@ -54,8 +57,9 @@ private:
     std::optional<qint16> m_group;
     Dragged m_drag;
     qint16 m_marked = -1;
-    int m_sorted = -1, m_pictureColumn = 0;
-    Qt::SortOrder m_order = Qt::AscendingOrder;
+    int m_pictureColumn = 0;
+    std::vector<GridColumn> m_columns;
+    std::vector<SortKey> m_sorts;
 };
 
 } // namespace QV_DOC_CONTROLS

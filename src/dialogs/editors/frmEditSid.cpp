@@ -117,6 +117,7 @@ void frmEditSid::Init(ZOLW_Doc &doc, const tSid &record)
 {
     m_doc = &doc;
     m_before = record;
+    m_charSet = record.CharSet;
     m_ok = false;
     usLayInfo1->setoDoc(&doc);
     m_fields.showAll(record);
@@ -124,7 +125,7 @@ void frmEditSid::Init(ZOLW_Doc &doc, const tSid &record)
     enableByFont();
     describeMarker();
     usSiInfo1->SetDoc(&doc);
-    if (record.DspZoom > 0) usSiInfo1->setZoom(record.DspZoom);
+    usSiInfo1->setZoom(previewZoomOf(record));
     showSymbol();
 }
 
@@ -154,15 +155,16 @@ void frmEditSid::changed(const char *control)
     showSymbol();
 }
 
-/// A face that lacks the symbol's character set brings one of its own: small codes mean characters of it.
+/// A face that lacks the wanted character set brings one of its own, as small codes mean characters of it;
+/// the next face that has the wanted one gets it back. A number that stands for no script is nothing to lack.
 void frmEditSid::followFace()
 {
     tSid &s = m_fields.record();
+    if (isVector(s)) return;
+    s.CharSet = m_charSet;
     const auto &scripts = scriptsOf(s.Facename);
-    if (isVector(s) || scripts.empty()) return;
-    const bool isThere =
-        std::ranges::any_of(scripts, [&](const Script *script) { return script->charSet == s.CharSet; });
-    if (!isThere) s.CharSet = scripts.front()->charSet;
+    if (scripts.empty() || !scriptOf(m_charSet)) return;
+    if (std::ranges::count(scripts, m_charSet, &Script::charSet) == 0) s.CharSet = scripts.front()->charSet;
 }
 
 void frmEditSid::fontTypeChanged()
@@ -229,7 +231,7 @@ void frmEditSid::chooseCharacter()
     m_relay.checkpoint();
     if (!chosen) return;
     s.Facename = chosen->face, s.Code = chosen->code;
-    if (!isVector(s)) s.CharSet = chosen->charSet; // small codes mean characters of that set
+    if (!isVector(s)) m_charSet = s.CharSet = chosen->charSet; // small codes mean characters of that set
     m_fields.show("cboFonts");
     m_fields.show("usNumAscIICode");
     showSymbol();

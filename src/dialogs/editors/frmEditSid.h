@@ -80,6 +80,7 @@ private:
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr; ///< the host's, until TearDown()
     ZolWDoc::tSid m_before;
+    qint32 m_charSet = 0; ///< what the symbol was given or its user chose; a face may lack it
     QGroupBox *m_marker;
     bool m_ok = false;
 };

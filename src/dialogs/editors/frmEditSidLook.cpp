@@ -6,6 +6,7 @@
 #include "dialogs/editors/OptionBox.h"
 #include "dialogs/editors/frmEditSid.h"
 #include "kit/forms/AccessKeys.h"
+#include "kit/forms/Twips.h"
 #include "kit/forms/WindowSize.h"
 
 #include <QCheckBox>
@@ -28,6 +29,25 @@ void addLine(QGridLayout &grid, QWidget *label, QWidget *control)
     const int row = grid.rowCount();
     grid.addWidget(label, row, 0);
     grid.addWidget(control, row, 1);
+}
+
+QVBoxLayout *oneBelowTheOther(std::initializer_list<QWidget *> numbers)
+{
+    auto *const column = new QVBoxLayout;
+    for (QWidget *number : numbers) column->addWidget(number, 0, Qt::AlignLeft);
+    return column;
+}
+
+/// Fields one below the other start at one place, behind the longest of their captions.
+void alignFields(std::initializer_list<usInputBox *> numbers)
+{
+    int widest = 0;
+    for (const usInputBox *number : numbers) {
+        const QFontMetrics letters(number->font());
+        const QSize caption = letters.size(Qt::TextShowMnemonic, number->BeforeString() + u' ');
+        widest = std::max(widest, caption.width());
+    }
+    for (usInputBox *number : numbers) number->setWidthBeforeString(twipsOf(widest + 1, *number));
 }
 
 } // namespace
@@ -75,24 +95,15 @@ void frmEditSid::buildFont(QVBoxLayout &column)
     face->setColumnStretch(1, 1);
     cboFonts->setMinimumContentsLength(24);
     cboFonts->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    auto *const code = new QHBoxLayout;
-    code->addWidget(usNumAscIICode);
-    code->addStretch(1);
-    auto *const size = new QHBoxLayout;
-    size->addWidget(usNumSize);
-    size->addWidget(usNumWidth);
-    size->addStretch(1);
     column.addWidget(optFontType);
     column.addLayout(face);
-    column.addLayout(code);
-    column.addLayout(size);
+    column.addLayout(oneBelowTheOther({usNumAscIICode, usNumSize, usNumWidth}));
 }
 
 void frmEditSid::buildPlace(QVBoxLayout &column)
 {
     auto *const moves = new QVBoxLayout(fraMove);
-    moves->addWidget(usNumXMove);
-    moves->addWidget(usNumYMove);
+    moves->addLayout(oneBelowTheOther({usNumXMove, usNumYMove}));
     moves->addStretch(1);
     auto *const align = new QVBoxLayout(fraAlign);
     align->addWidget(usTxAlign1);
@@ -107,11 +118,7 @@ void frmEditSid::buildMarker(QVBoxLayout &column)
     auto *const grid = new QGridLayout(m_marker);
     addLine(*grid, m_fields.label("cboProtType"), cboProtType);
     grid->setColumnStretch(1, 1);
-    auto *const sizes = new QHBoxLayout;
-    sizes->addWidget(usNumProtParam1);
-    sizes->addWidget(usNumProtParam2);
-    sizes->addStretch(1);
-    grid->addLayout(sizes, grid->rowCount(), 0, 1, 2);
+    grid->addLayout(oneBelowTheOther({usNumProtParam1, usNumProtParam2}), grid->rowCount(), 0, 1, 2);
     column.addWidget(m_marker);
 }
 
@@ -131,6 +138,7 @@ void frmEditSid::readCaptions()
     m_marker->setTitle(captions[fields + 3]);
     chkGrid->setText(captions[fields + 4]);
     describeMarker();
+    alignFields({usNumAscIICode, usNumSize, usNumWidth});
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -69,6 +69,7 @@ bool frmSupSid::bDoModal(ZOLW_Doc &oDoc, enumSetupMode mode, qint16 &SidId)
     m_edit = m_toEdit = mode == MODE_EDIT;
     m_editForbidden = mode == MODE_SELECT_ONLY;
     m_ok = false;
+    m_chosen.reset();
     usSiItem->SetDoc(&oDoc);
     m_symbols->setMarked(SidId);
     fill();
@@ -80,7 +81,7 @@ bool frmSupSid::bDoModal(ZOLW_Doc &oDoc, enumSetupMode mode, qint16 &SidId)
         const auto keeping = qScopeGuard([this] { keepView(); });
         m_relay.exec(*this);
     }
-    if (m_ok) SidId = m_chosen;
+    if (m_ok && m_chosen) SidId = *m_chosen;
     return m_ok;
 }
 
@@ -222,9 +223,9 @@ void frmSupSid::accept()
 {
     m_relay.guard([this] {
         const auto current = currentRecord();
-        if (!m_edit && !current) return;
+        if (!m_toEdit && !current) return;      // opened to choose, in whatever mode it is now
         if (m_edit) m_span->commit();
-        m_chosen = current ? current->SidId : qint16(-1);
+        if (current) m_chosen = current->SidId;
         m_ok = true;
         QDialog::accept();
     });
@@ -235,8 +236,7 @@ void frmSupSid::reject()
     m_relay.guard([this] {
         if (m_edit) settleChanges();
         m_ok = m_toEdit && m_span->isKept(); // who was to choose has not
-        const auto current = currentRecord();
-        m_chosen = current ? current->SidId : qint16(-1);
+        if (const auto current = currentRecord()) m_chosen = current->SidId;
         QDialog::reject();
     });
 }

@@ -51,6 +51,7 @@ public:
     void toggleMode();
     void toggleGroups();
     template <ItemList::View V> void showView() { changeView(V); }
+    void sortItems();
     void zoomIn();
     void zoomOut();
     template <int step> void resizeCells() { changeCell(step); }
@@ -147,7 +148,7 @@ private:
     QDialogButtonBox *m_buttons;
     std::array<int, 4> m_cells{1, 0, 0, 0}; ///< by view: index of the size of its cells
     qint16 m_group = -1;
-    qint16 m_chosen = -1;
+    std::optional<qint16> m_chosen;
     bool m_toEdit = false;                              ///< was opened to edit
     bool m_edit = false, m_editForbidden = false, m_byGroups = true, m_ok = false;
 };

@@ -4,6 +4,7 @@
 #include "dialogs/editors/SymbolPictures.h"
 #include "dialogs/editors/frmSupSid.h"
 #include "dialogs/viewtools/frmChooseList.h"
+#include "dialogs/viewtools/frmSort.h"
 #include "facade/contract/FontPicker.h"
 #include "kit/ask/UniqueNumber.h"
 
@@ -37,6 +38,7 @@ bool frmSupSid::canPickFont() const { return isEditMode() && fontPicker(); }
 bool frmSupSid::canPickLayer() const { return canEditSelected() && canPickResource(TableKind::Layers); }
 bool frmSupSid::canEditGroup() const { return isEditMode() && m_byGroups && m_groups->rowOf(m_group) >= 0; }
 
+void frmSupSid::sortItems() { frmSort(this).SortGrid(*lvSids); }
 void frmSupSid::zoomIn() { m_pictures->zoomBy(kZoomStep); }
 void frmSupSid::zoomOut() { m_pictures->zoomBy(-kZoomStep); }
 
@@ -98,6 +100,9 @@ void frmSupSid::renumber()
     if (!number || *number == current->SidId) return;
     inCommand(doc(), txt(Text{20074, u"Jk.sorszám módosítása"}),
               [&] { doc().symbolRenumber()->renumber(current->SidId, *number); });
+    m_span->note();
+    m_span->commit();
+    if (m_symbols->marked() == current->SidId) m_symbols->setMarked(*number);
     fill();
     selectById(*number);
 }

@@ -28,7 +28,7 @@ namespace {
 const QString kApplication = QStringLiteral("ZolWOp");
 constexpr char kGroupsWidth[] = "-Groups", kSymbolsWidth[] = "-Sids";
 constexpr int kCells[] = {32, 48, 64, 96}; // pixels, room for a picture
-constexpr int kGroupLetters = 28, kSymbolLetters = 120, kLines = 30;
+constexpr int kGroupLetters = 28, kSymbolLetters = 128, kLines = 30;
 
 } // namespace
 
@@ -70,7 +70,7 @@ void frmSupSid::buildLists()
     lvSids->setModel(*m_symbols, SymbolListModel::kNameColumn);
     QHeaderView &header = *lvSids->report()->header();
     const int letter = fontMetrics().averageCharWidth();
-    for (const auto &[column, letters] : {std::pair(0, 14), {1, 26}, {2, 10}, {3, 9}, {4, 18}, {5, 22}})
+    for (const auto &[column, letters] : {std::pair(0, 14), {1, 26}, {2, 10}, {3, 9}, {4, 22}, {5, 22}})
         header.resizeSection(column, letters * letter);
     m_splitter->addWidget(lvGroups);
     m_splitter->addWidget(lvSids);

@@ -4,6 +4,7 @@
 #include "dialogs/select/GridPage.h"
 #include "grids/clsJS_Sid.h"
 #include "kit/forms/WindowSize.h"
+#include "rules/SymbolRules.h"
 
 #include <QEvent>
 #include <QToolBar>
@@ -93,7 +94,11 @@ void SymbolSide::connectGroupMove(clsJS_Sid &manager)
 void SymbolSide::show(const tSid &symbol)
 {
     m_relay.guard([&] {
-        if (m_doc) m_preview->LetSidRec(symbol);
+        if (!m_doc) return;
+        const auto idAndZoom = [](const tSid &s) { return std::pair(s.SidId, s.DspZoom); };
+        const bool isAnother = idAndZoom(symbol) != idAndZoom(m_preview->GetSidRec());
+        m_preview->LetSidRec(symbol);
+        if (isAnother) m_preview->setZoom(previewZoomOf(symbol));
     });
 }
 

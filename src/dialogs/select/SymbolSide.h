@@ -20,7 +20,8 @@ public:
     ~SymbolSide() override;
     void TearDown();                            ///< drops the document; may be repeated
 
-    void show(const ZolWDoc::tSid &symbol);     ///< in the preview
+    /// In the preview, at the symbol's own zoom; the one that is shown already keeps the user's.
+    void show(const ZolWDoc::tSid &symbol);
     void fill(std::vector<ZolWDoc::tSid> &symbols);     ///< gets ready to draw their samples
     void refresh(const ZolWDoc::tSid &symbol);  ///< draws its sample again
 

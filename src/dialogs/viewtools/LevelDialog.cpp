@@ -74,7 +74,7 @@ QGroupBox *LevelDialog::makeLevel(int level)
     return frame;
 }
 
-void LevelDialog::fill(const AbstractGrid &grid, std::span<const SortKey> keys)
+void LevelDialog::fill(const SortableRows &grid, std::span<const SortKey> keys)
 {
     m_grid = &grid;
     for (QComboBox *list : cboGroups) {

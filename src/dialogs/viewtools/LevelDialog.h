@@ -29,7 +29,7 @@ public:
 
 protected:
     LevelDialog(const char *form, QWidget *owner);
-    void fill(const AbstractGrid &grid, std::span<const SortKey> keys); ///< the grid's until TearDown()
+    void fill(const SortableRows &grid, std::span<const SortKey> keys); ///< the grid's until TearDown()
     std::vector<SortKey> keys() const;          ///< one per level that has a column
     void readLevelCaptions(std::span<const QString> frames); ///< access keys included
     QVBoxLayout *body() const { return m_body; } ///< below the levels
@@ -44,7 +44,7 @@ private:
 
     std::array<QGroupBox *, kMaxLevels> m_frames{};
     QVBoxLayout *m_body;
-    const AbstractGrid *m_grid = nullptr;
+    const SortableRows *m_grid = nullptr;
 };
 
 } // namespace QV_DOC_CONTROLS

@@ -9,7 +9,7 @@ namespace QV_DOC_CONTROLS {
 
 frmSort::frmSort(QWidget *owner) : LevelDialog("frmSort", owner) {}
 
-bool frmSort::SortGrid(AbstractGrid &grid)
+bool frmSort::SortGrid(SortableRows &grid)
 {
     const Trace trace("frmSort", "SortGrid");
     fill(grid, grid.sortKeys());

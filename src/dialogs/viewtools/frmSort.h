@@ -11,7 +11,7 @@ public:
     explicit frmSort(QWidget *owner = nullptr);
     ~frmSort() override { TearDown(); }
     /// True = confirmed, the grid has the chosen keys; else it is untouched
-    bool SortGrid(AbstractGrid &grid);
+    bool SortGrid(SortableRows &grid);
 private:
     void readCaptions() override;
 };

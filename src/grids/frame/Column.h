@@ -8,6 +8,7 @@
 #include "rules/NumberText.h"
 #include "rules/OwnerOf.h"
 
+#include <cmath>
 #include <limits>
 #include <string_view>
 #include <type_traits>
@@ -35,7 +36,10 @@ template <class Rec, class Names> struct Column {
     std::vector<GridChoice> (*choices)(const Names &) = nullptr;
 
     double least = std::numeric_limits<double>::lowest(), most = std::numeric_limits<double>::max();
-    bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped as well
+    int decimals = 0;                                   ///< of a number, at most
+    Text unit{};                                        ///< of a number, for tool tips and refusals
+    bool isPen = false;                                 ///< a pen's number: picked by its colour as well
+    bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped
     void (*follow)(Rec &) = nullptr;                    ///< set: what an edit of the column changes too
 
     constexpr Column within(double from, double to) const
@@ -44,24 +48,31 @@ template <class Rec, class Names> struct Column {
         c.least = from, c.most = to;
         return c;
     }
+    constexpr Column measuredIn(Text what) const { auto c = *this; c.unit = what; return c; }
     constexpr Column filled() const
     {
         auto c = *this;
         c.proper = [](const QVariant &v) { return !v.toString().trimmed().isEmpty(); };
         return c;
     }
+    bool isNumber() const { return kind == CellKind::Number || kind == CellKind::Color; }
     bool takes(const QVariant &value) const
     {
         if (proper && !proper(value)) return false;
         return kind == CellKind::Text || kind == CellKind::Check ||
                (value.toDouble() >= least && value.toDouble() <= most);
     }
+    NumberField asField() const                         ///< how a prompt would ask for its number
+    {
+        return {.min = least, .max = most, .decimals = decimals, .unit = unit.id ? txt(unit) : QString()};
+    }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
     constexpr Column alsoSets(void (*what)(Rec &)) const { auto c = *this; c.follow = what; return c; }
     constexpr Column picture() const { auto c = *this; c.kind = CellKind::Picture; return c; }
-    constexpr Column color() const { auto c = *this; c.kind = CellKind::Color; return c; }
+    constexpr Column pen() const { auto c = within(0, 255); c.isPen = true; return c; }
+    constexpr Column color() const { auto c = pen(); c.kind = CellKind::Color; return c; }
     constexpr Column named(QString (*by)(const Rec &, const Names &),
                            std::vector<GridChoice> (*offer)(const Names &)) const
     {
@@ -78,6 +89,7 @@ template <class T> constexpr CellKind kindOf()
     else return std::is_arithmetic_v<T> ? CellKind::Number : CellKind::Text;
 }
 
+constexpr int kDecimals = 3;
 constexpr const char16_t *kRealPattern = u"0.0##";      ///< how a number with decimals is shown
 
 /// Takes over an edited value; text that is no number of the member's kind and range is no value of a number
@@ -85,10 +97,10 @@ constexpr const char16_t *kRealPattern = u"0.0##";      ///< how a number with d
 template <class T> bool assign(T &member, const QVariant &value)
 {
     if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {
-        bool isNumber = false;
-        const qlonglong n = value.toString().trimmed().toLongLong(&isNumber);
-        if (!isNumber || n < std::numeric_limits<T>::min() || n > std::numeric_limits<T>::max()) return false;
-        member = T(n);
+        const auto n = numberMeant(value.toString(), u"0", interfaceLocale());
+        if (!n || *n != std::floor(*n)) return false;
+        if (*n < std::numeric_limits<T>::min() || *n > std::numeric_limits<T>::max()) return false;
+        member = T(*n);
     } else if constexpr (std::is_floating_point_v<T>) {
         const bool typed = value.typeId() == QMetaType::QString;
         const auto n = typed ? numberMeant(value.toString(), kRealPattern, interfaceLocale())
@@ -121,11 +133,15 @@ template <auto M, class Names> constexpr auto field(const char *key, Text captio
 {
     using Rec = decltype(ownerOf(M));
     using T = std::remove_cvref_t<decltype(std::declval<Rec>().*M)>;
-    return Column<Rec, Names>{key, caption,
+    Column<Rec, Names> column{key, caption,
                               [](const Rec &r) { return valueOf(r.*M); },
                               [](Rec &r, const QVariant &v) { return assign(r.*M, v); },
                               [](const Rec &r, const Names &) { return textOf(r.*M); },
                               kindOf<T>()};
+    if constexpr (std::is_arithmetic_v<T>)
+        column = column.within(std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max());
+    column.decimals = std::is_floating_point_v<T> ? kDecimals : 0;
+    return column;
 }
 
 /// The place of a column; an unknown key does not compile.
@@ -141,8 +157,13 @@ template <class Table> std::vector<GridColumn> gridColumnsOf()
 {
     std::vector<GridColumn> columns;
     for (const auto &c : Table::columns)
-        columns.push_back({QString::fromLatin1(c.key), txt(c.caption),
-                             c.longCaption.id ? txt(c.longCaption) : QString(), c.kind, c.canEdit, 0});
+        columns.push_back({.key = QString::fromLatin1(c.key),
+                           .caption = txt(c.caption),
+                           .longCaption = c.longCaption.id ? txt(c.longCaption) : QString(),
+                           .kind = c.kind,
+                           .editable = c.canEdit,
+                           .unit = c.unit.id ? txt(c.unit) : QString(),
+                           .asks = c.isPen});
     return columns;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "grids/frame/Column.h"
+#include "grids/frame/NotTaken.h"
+#include "kit/grid/CardCaption.h"
 
 #include <QSet>
 
@@ -16,6 +18,11 @@ protected:
     const typename Table::Names &names() const { return m_names; }
     const Record &recordAt(int row) const { return m_all[size_t(m_shown[size_t(row)])]; }
     Record &recordAt(int row) { return m_all[size_t(m_shown[size_t(row)])]; }
+    QString rowName(int row) const                      ///< "Réteg: 5/Falak"
+    {
+        return cardCaption(txt(Table::cardCaption), text(row, Table::numberColumn),
+                           text(row, Table::nameColumn));
+    }
     virtual bool fits(const Record &) const { return true; } ///< whether the record is listed
 
     void readCaptions() { m_columns = gridColumnsOf<Table>(); }
@@ -43,6 +50,16 @@ protected:
     }
     QVariant value(int row, int c) const override { return Table::columns[c].get(recordAt(row)); }
     QString text(int row, int c) const override { return Table::columns[c].shown(recordAt(row), m_names); }
+    std::optional<Message> refusal(int row, int c, const QString &typed) const override
+    {
+        const auto &column = Table::columns[c];
+        // A cell that was emptied keeps its value without a word, on purpose: as a prompt without an answer.
+        if (!column.isNumber() || typed.trimmed().isEmpty()) return {};
+        Record edited = recordAt(row);
+        if (column.put(edited, typed) && column.takes(column.get(edited))) return {};
+        return notTaken(rowName(row), txt(column.longCaption.id ? column.longCaption : column.caption),
+                        typed, column.asField());
+    }
     RowStyles styles(int row) const override { return Table::styles(recordAt(row)); }
     std::vector<GridChoice> choices(int c) const override
     {

@@ -159,6 +159,20 @@ protected:
         return stored;
     }
 
+    std::optional<QVariant> choose(int row, int c) override
+    {
+        std::optional<QVariant> chosen;
+        guarded([&] {
+            const ColorIndexQuestion question{txt(Table::columns[c].caption),
+                                              join(Text{22343, u"Válassz tollat! "}, Rows::rowName(row)),
+                                              Rows::value(row, c).toInt(), screenColorsOfPens(*m_doc)};
+            const auto pen = prompts().colorIndex(question, asker());
+            relay().checkpoint();
+            if (pen) chosen = *pen;
+        });
+        return chosen;
+    }
+
 private:
     void tellSelection()
     {
@@ -175,6 +189,7 @@ private:
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
+        if (const auto why = Rows::refusal(row, c, value.toString())) return this->tell(*why), false;
         const auto edited = withValue<Table>(Rows::recordAt(row), c, value);
         if (!edited) return false;
         Record &shown = Rows::recordAt(row);

@@ -25,7 +25,7 @@ public:
         const auto group = chosen();
         if (!group) return;
         const QString title = txt(Text{3212, u"Csoport átnevezés"});
-        const auto name = askForGroupName(title, Text{21750, u"A csoport új neve:"}, *group);
+        const auto name = askForGroupName(title, Text{3090, u"Új csoportnév"}, *group);
         if (name && *name != group->GroupName)
             m_desk.write(title, [&] { role().rename(group->GroupId, *name); });
     }

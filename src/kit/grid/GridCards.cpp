@@ -61,7 +61,7 @@ void GridCards::arrangeFields()
         const GridColumn *column = m_model.column(c);
         const bool picture = column && column->kind == CellKind::Picture;
         if (!column || (m_compact && !picture)) continue;
-        const int height = picture ? std::max(line, m_delegate.pictureSize().height() + 2) : line;
+        const int height = picture ? std::max(line, m_delegate.pictureRoom()) : line;
         m_fields.push_back({c, bottom, height, !m_compact});
         bottom += height;
         if (!m_compact) m_titles = std::max(m_titles, fontMetrics().horizontalAdvance(column->caption));

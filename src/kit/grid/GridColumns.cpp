@@ -67,6 +67,7 @@ void Grid::resetColumns()
 
 int Grid::fittingWidth(int c) const
 {
+    if (m_header->stretchLastSection() && c == m_header->count() - 1) return m_header->sectionSize(c);
     const GridColumn &column = columns()[size_t(c)];
     return column.width > 0 ? pixelsOf(column.width, *this) : contentWidth(c);
 }

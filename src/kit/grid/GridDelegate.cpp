@@ -2,13 +2,16 @@
 
 #include "kit/forms/Contrast.h"
 #include "kit/grid/GridModel.h"
+#include "kit/tools/Icons.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 #include <cmath>
 
@@ -33,6 +36,14 @@ QColor between(QColor a, QColor b, double share)
 {
     const auto mixed = [share](int x, int y) { return int(std::lround(x + (y - x) * share)); };
     return {mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue())};
+}
+
+/// What an editor begins with: numbers as they are shown, in the user's writing.
+QString textToEdit(const QModelIndex &cell)
+{
+    const auto &model = static_cast<const GridModel &>(*cell.model());
+    const bool isNumber = model.column(cell.column())->kind == CellKind::Number;
+    return cell.data(isNumber ? Qt::DisplayRole : Qt::EditRole).toString();
 }
 
 void paintFocus(QPainter *painter, const QStyleOptionViewItem &option, QPalette::ColorRole on)
@@ -168,6 +179,7 @@ void GridDelegate::paintPicture(QPainter *painter, const QRect &rect, const QPix
     QSize size = picture.deviceIndependentSize().toSize();
     if (size.width() > rect.width() || size.height() > rect.height())
         size.scale(rect.size(), Qt::KeepAspectRatio);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect), picture);
 }
 
@@ -217,7 +229,7 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
     bool pictures = false;
     for (int c = 0; const GridColumn *column = m_model.column(c); ++c)
         pictures |= column->kind == CellKind::Picture;
-    if (pictures) height = std::max(height, m_pictureSize.height() + 2);
+    if (pictures) height = std::max(height, pictureRoom());
     return {height, height};
 }
 
@@ -233,20 +245,41 @@ QWidget *GridDelegate::listEditor(QWidget *parent, int column) const
     return list;
 }
 
+/// Where a value can be chosen as well, a button at its end says so.
+QLineEdit *GridDelegate::lineEditor(QWidget *parent, int column) const
+{
+    auto *const line = new QLineEdit(parent);
+    line->setFrame(false);
+    if (!m_model.column(column)->asks) return line;
+    QAction *const more = line->addAction(toolIcon("penColor"), QLineEdit::TrailingPosition);
+    more->setText(GridModel::chooseHint());
+    auto *const self = const_cast<GridDelegate *>(this);
+    connect(more, &QAction::triggered, self, [self, line] { self->askInstead(*line); });
+    return line;
+}
+
+void GridDelegate::askInstead(QLineEdit &editor)
+{
+    const QPersistentModelIndex cell = m_edited;
+    emit closeEditor(&editor, RevertModelCache);
+    emit choiceAsked(cell);
+}
+
 QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
     const GridColumn *column = m_model.column(index.column());
+    m_edited = index;
     QWidget *editor = nullptr;
     if (column->kind == CellKind::List) {
         editor = listEditor(parent, index.column());
     } else {
-        auto *const line = new QLineEdit(parent);
-        line->setFrame(false);
+        QLineEdit *const line = lineEditor(parent, index.column());
         if (column->kind != CellKind::Text && isInColumn(option)) line->setAlignment(Qt::AlignRight);
         editor = line;
     }
-    editor->setAccessibleName(column->caption);
+    editor->setAccessibleName(m_model.headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole)
+                                  .toString());
     editor->setAutoFillBackground(true);
     return editor;
 }
@@ -255,23 +288,63 @@ void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 {
     const QVariant value = index.data(Qt::EditRole);
     if (auto *const list = qobject_cast<QComboBox *>(editor)) list->setCurrentIndex(list->findData(value));
-    else if (auto *const line = qobject_cast<QLineEdit *>(editor)) line->setText(value.toString());
+    else if (auto *const line = qobject_cast<QLineEdit *>(editor)) line->setText(textToEdit(index));
 }
 
 void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    QVariant value;
-    if (auto *const list = qobject_cast<QComboBox *>(editor)) value = list->currentData();
-    else if (auto *const line = qobject_cast<QLineEdit *>(editor)) value = line->text();
-    if (value.toString() != index.data(Qt::EditRole).toString()) model->setData(index, value);
+    const auto *const list = qobject_cast<QComboBox *>(editor);
+    const auto *const line = qobject_cast<QLineEdit *>(editor);
+    if (list && list->currentData().toString() != index.data(Qt::EditRole).toString())
+        model->setData(index, list->currentData());
+    if (line && line->text() != textToEdit(index)) model->setData(index, line->text());
 }
 
-/// The wheel edits nothing: over a closed list it goes on to the view.
+/// Why what is typed cannot be taken; empty also while nothing was typed.
+std::optional<Message> GridDelegate::refusalOf(const QLineEdit &editor) const
+{
+    const int row = m_model.sourceRow(m_edited);
+    if (row < 0 || editor.text() == textToEdit(m_edited)) return {};
+    return m_model.source()->refusal(row, m_edited.column(), editor.text());
+}
+
+/// What cannot be taken stays in its open cell, to be mended or given up by Esc.
+bool GridDelegate::isKeyTaken(QLineEdit &editor, const QKeyEvent &event)
+{
+    const int key = event.key();
+    const bool chooses = key == Qt::Key_Down && event.modifiers() & Qt::AltModifier;
+    if (chooses && m_edited.isValid() && m_model.column(m_edited.column())->asks)
+        return askInstead(editor), true;
+    const bool leaves = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab ||
+                        key == Qt::Key_Backtab;
+    const auto why = leaves ? refusalOf(editor) : std::nullopt;
+    if (!why) return false;
+    const QPointer alive(&editor);
+    prompts().tell(*why, &editor);
+    if (!alive) return true;
+    editor.setFocus();
+    editor.selectAll();
+    return true;
+}
+
+/// The wheel edits nothing: over a closed list it goes on to the view. Who looks at another window, the one
+/// with the refusal for one, finds the cell as it was.
 bool GridDelegate::eventFilter(QObject *editor, QEvent *event)
 {
-    if (event->type() != QEvent::Wheel) return QStyledItemDelegate::eventFilter(editor, event);
-    event->ignore();
-    return true;
+    auto *const line = qobject_cast<QLineEdit *>(editor);
+    switch (event->type()) {
+    case QEvent::Wheel: return event->ignore(), true;
+    case QEvent::KeyPress:
+        if (line && isKeyTaken(*line, static_cast<const QKeyEvent &>(*event))) return true;
+        break;
+    case QEvent::FocusOut:
+        if (line && static_cast<const QFocusEvent &>(*event).reason() == Qt::ActiveWindowFocusReason &&
+            refusalOf(*line))
+            return false;
+        break;
+    default: break;
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 bool GridDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "facade/services/Prompts.h"
+
 #include <QCache>
+#include <QPersistentModelIndex>
 #include <QStaticText>
 #include <QStyledItemDelegate>
+
+class QKeyEvent;
+class QLineEdit;
 
 namespace QV_DOC_CONTROLS {
 
@@ -19,7 +25,7 @@ public:
     {
         m_pictureSize = size;
     } ///< device-independent pixels; empty = a line's height
-    QSize pictureSize() const { return m_pictureSize; }
+    int pictureRoom() const { return m_pictureSize.height() + 3; } ///< height of a cell: a line and an edge
     static int padding(const QFontMetrics &letters) { return letters.horizontalAdvance(u' '); }
     int lineHeight(const QStyleOptionViewItem &option) const;
 
@@ -35,6 +41,9 @@ public:
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
+signals:
+    void choiceAsked(const QModelIndex &cell);  ///< of a column that asks; its editor is closed
+
 protected:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
@@ -42,6 +51,10 @@ protected:
 
 private:
     QWidget *listEditor(QWidget *parent, int column) const;
+    QLineEdit *lineEditor(QWidget *parent, int column) const;
+    void askInstead(QLineEdit &editor);
+    std::optional<Message> refusalOf(const QLineEdit &editor) const;
+    bool isKeyTaken(QLineEdit &editor, const QKeyEvent &event);
     void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
                    bool right) const;
     void paintBold(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
@@ -50,6 +63,7 @@ private:
     void paintPicture(QPainter *painter, const QRect &rect, const QPixmap &picture) const;
     static QColor textColor(const QStyleOptionViewItem &option, const GridStyle &style);
     const GridModel &m_model;
+    mutable QPersistentModelIndex m_edited;     ///< the cell of the editor made last
     QSize m_pictureSize;
     mutable QCache<QString, QStaticText> m_texts{2000}; ///< lately painted, in m_font
     mutable QFont m_font;

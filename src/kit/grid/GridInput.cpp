@@ -1,5 +1,6 @@
 #include "kit/grid/GridInput.h"
 
+#include "kit/grid/GridDelegate.h"
 #include "kit/grid/GridModel.h"
 #include "kit/grid/LineView.h"
 
@@ -17,6 +18,8 @@ void GridInput::watch(LineView &view)
     view.installEventFilter(this);
     view.viewport()->installEventFilter(this);
     m_views.push_back(&view);
+    connect(static_cast<GridDelegate *>(view.itemDelegate()), &GridDelegate::choiceAsked, &m_model,
+            &GridModel::choose);
 }
 
 void GridInput::watch(QHeaderView &header)
@@ -57,7 +60,7 @@ bool GridInput::eventFilter(QObject *watched, QEvent *event)
 bool GridInput::isKeyTaken(LineView &view, const QKeyEvent &event)
 {
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down) return isListOpened(view);
+    if (modifiers == Qt::AltModifier && event.key() == Qt::Key_Down) return isChoiceOpened(view);
     if (modifiers == Qt::ShiftModifier && event.key() == Qt::Key_F10) // not every desktop makes a menu of it
         return askForMenu(view, {QContextMenuEvent::Keyboard, QPoint(), QPoint()});
     if (modifiers != Qt::NoModifier) return false;
@@ -88,11 +91,14 @@ bool GridInput::isBandKeyTaken(LineView &view, int key)
     return true;
 }
 
-bool GridInput::isListOpened(LineView &view)
+/// A list drops down, a colour is asked for.
+bool GridInput::isChoiceOpened(LineView &view)
 {
     const QModelIndex now = view.currentIndex();
-    if (!(now.flags() & Qt::ItemIsEditable) || m_model.column(now.column())->kind != CellKind::List)
-        return false;
+    if (!(now.flags() & Qt::ItemIsEditable)) return false;
+    const GridColumn &column = *m_model.column(now.column());
+    if (column.asks) return m_model.choose(now), true;
+    if (column.kind != CellKind::List) return false;
     view.edit(now);
     if (auto *const list = view.viewport()->findChild<QComboBox *>()) list->showPopup();
     return true;

@@ -37,7 +37,7 @@ protected:
 private:
     bool isKeyTaken(LineView &view, const QKeyEvent &event);
     bool isBandKeyTaken(LineView &view, int key);
-    bool isListOpened(LineView &view);
+    bool isChoiceOpened(LineView &view);
     bool isBandPressed(LineView &view, const QMouseEvent &event, bool doubleClick);
     void rememberCheckMark(const LineView &view, QPoint at);
     bool askForMenu(LineView &view, const QContextMenuEvent &event);

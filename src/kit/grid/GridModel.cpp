@@ -2,6 +2,9 @@
 
 #include "facade/services/Text.h"
 #include "facade/services/InterfaceLocale.h"
+#include "kit/grid/CardCaption.h"
+
+#include <QKeySequence>
 
 #include <cmath>
 
@@ -9,6 +12,8 @@ namespace QV_DOC_CONTROLS {
 namespace {
 
 constexpr int kPictureCache = 4096;             ///< kilobytes
+
+constexpr QKeyCombination kChoose = Qt::ALT | Qt::Key_Down;
 
 QString yesNo(bool on) { return on ? txt(Text{21000, u"igen"}) : txt(Text{21001, u"nem"}); }
 
@@ -223,20 +228,23 @@ QString GridModel::accessibleBand(int b) const
                 band.expanded ? Text{21006, u"kibontva"} : Text{21007, u"összecsukva"});
 }
 
+QString GridModel::chooseHint()
+{
+    return QStringLiteral("%1 (%2)").arg(txt(Text{22342, u"Választás"}),
+                                         QKeySequence(kChoose).toString(QKeySequence::NativeText));
+}
+
 void GridModel::setCard(const QString &caption, int numberColumn, int nameColumn)
 {
     m_cardCaption = caption, m_numberColumn = numberColumn, m_nameColumn = nameColumn;
 }
 
-/// The caption up to "|", a blank, the number, what follows the "|", and the name: "Réteg:|/" -> "Réteg:
-/// 5/Falak".
 QString GridModel::cardCaption(int row) const
 {
-    const qsizetype bar = m_cardCaption.indexOf(u'|');
-    if (bar < 0 || !column(m_numberColumn) || !column(m_nameColumn))
-        return text(row, std::max(m_nameColumn, 0));
-    return m_cardCaption.first(bar) + u' ' + text(row, m_numberColumn) + m_cardCaption.sliced(bar + 1)
-        + text(row, m_nameColumn);
+    const bool isNamed = column(m_numberColumn) && column(m_nameColumn);
+    return QV_DOC_CONTROLS::cardCaption(isNamed ? m_cardCaption : QString(),
+                                        isNamed ? text(row, m_numberColumn) : QString(),
+                                        text(row, std::max(m_nameColumn, 0)));
 }
 
 int GridModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_engine.lines(); }
@@ -260,6 +268,14 @@ QVariant GridModel::accessibleText(int row, int c) const
     }
 }
 
+/// The column, and the key that not everybody would try.
+QString GridModel::described(int c) const
+{
+    const GridColumn &col = *column(c);
+    return col.asks && m_flags[size_t(c)] & Qt::ItemIsEditable ? col.caption + QStringLiteral(", ") + chooseHint()
+                                                              : col.caption;
+}
+
 QVariant GridModel::cellData(int row, int c, int role) const
 {
     const CellKind kind = column(c)->kind;
@@ -275,7 +291,7 @@ QVariant GridModel::cellData(int row, int c, int role) const
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                    : QVariant();
     case Qt::AccessibleTextRole: return accessibleText(row, c);
-    case Qt::AccessibleDescriptionRole: return column(c)->caption;
+    case Qt::AccessibleDescriptionRole: return described(c);
     default: return {};
     }
 }
@@ -296,9 +312,9 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     const GridColumn *c = orientation == Qt::Horizontal ? column(section) : nullptr;
     if (!c) return {};
     if (role == Qt::DisplayRole) return c->caption;
-    if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)
-        return c->longCaption.isEmpty() ? c->caption : c->longCaption;
-    return {};
+    if (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) return {};
+    const QString &name = c->longCaption.isEmpty() ? c->caption : c->longCaption;
+    return c->unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, c->unit);
 }
 
 void GridModel::readColumns()
@@ -347,6 +363,15 @@ bool GridModel::setData(const QModelIndex &index, const QVariant &value, int rol
     rowEdited(row);
     emit rowChanged(row);
     return true;
+}
+
+/// The rows may be others when the answer comes.
+void GridModel::choose(const QModelIndex &cell)
+{
+    const int row = sourceRow(cell), c = cell.column();
+    if (row < 0 || !column(c)->asks || !(flags(cell) & Qt::ItemIsEditable)) return;
+    const qint64 id = m_source->rowId(row);
+    if (const auto chosen = m_source->choose(row, c)) setData(indexOf(rowWithId(id), c), *chosen, Qt::EditRole);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -63,6 +63,8 @@ public:
     QString cardCaption(int sourceRow) const;
     void setCard(const QString &caption, int numberColumn, int nameColumn);
     int cardNameColumn() const { return m_nameColumn; }
+    static QString chooseHint();                ///< how a value is chosen in a box of its own, with the key
+    void choose(const QModelIndex &cell);       ///< asks for its value in a box of its own
     bool tooltips = false;
 
     QModelIndex index(int line, int column, const QModelIndex &parent = {}) const override;
@@ -83,6 +85,7 @@ private:
     double number(int row, int column) const override;
     QString text(int row, int column) const override { return cellText(row, column); }
     QVariant accessibleText(int row, int column) const;
+    QString described(int column) const;
     QString accessibleBand(int band) const;
     void readColumns();
     std::vector<SortKey> known(std::span<const SortKey> keys) const; ///< those of columns that are there

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "facade/services/Prompts.h"
+
 #include <QHash>
 #include <QPixmap>
 #include <QString>
 #include <QVariant>
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,11 +28,13 @@ enum class CellKind {
 /// One column as the grid sees it.
 struct GridColumn {
     QString key;            ///< published, the same in every language
-    QString caption;        ///< of the header
-    QString longCaption;    ///< of tool tips and column lists
+    QString caption{};      ///< of the header
+    QString longCaption{};  ///< of tool tips and column lists
     CellKind kind = CellKind::Text;
     bool editable = false;
     int width = 0;          ///< twips; 0 = by its content
+    QString unit{};         ///< of its numbers, for tool tips
+    bool asks = false;      ///< a value can be chosen in a box of its own
 };
 
 struct GridChoice {
@@ -72,8 +77,12 @@ public:
     } ///< of row and column; asked for when painted, kept
     virtual RowStyles styles(int) const { return {}; }           ///< of a row
     virtual std::vector<GridChoice> choices(int) const { return {}; } ///< of a List column
-    virtual bool edit(int row, int column,
-                      const QVariant &value) = 0; ///< false = refused, the old value stays
+    /// Why what is typed is no value of the cell, whatever the other rows hold; empty = it may be one.
+    virtual std::optional<Message> refusal(int, int, const QString &) const { return {}; }
+    /// Asks for a value of a column that asks; empty = cancelled. What is chosen comes back to edit().
+    virtual std::optional<QVariant> choose(int, int) { return {}; }
+    /// False = refused, the user knows why, and the old value stays.
+    virtual bool edit(int row, int column, const QVariant &value) = 0;
     /// The delete key: asks, removes and refills the grid by itself; false = nothing is ever removed here.
     virtual bool removeRows(std::span<const int>) { return false; }
     virtual QMimeData *dragData(std::span<const int>) const

@@ -83,8 +83,13 @@ const Recordset::Value *Recordset::find(int row, int field) const
 /// Where the value goes. A row that stands before others moves behind them when it grows.
 Recordset::Value &Recordset::place(int row, int field)
 {
-    if (const Value *const there = find(row, field)) return m_values[size_t(there - m_values.data())];
     Row &r = m_rows[size_t(row)];
+    if (r.first + r.count == m_values.size() && (!r.count || m_values.back().field < quint32(field))) {
+        ++r.count; // the next column of the last row, as a rule
+        m_values.push_back({quint32(field), 0, kForcedNull});
+        return m_values.back();
+    }
+    if (const Value *const there = find(row, field)) return m_values[size_t(there - m_values.data())];
     if (r.first + r.count != m_values.size()) {
         const size_t from = std::exchange(r.first, m_values.size());
         m_values.reserve(m_values.size() + r.count + 1);
@@ -115,10 +120,9 @@ QStringView Recordset::text(int row, int field) const
 
 qint64 Recordset::integer(int row, int field) const
 {
-    const QStringView source = text(row, field);
-    bool ok = false;
-    const qint64 plain = source.toLongLong(&ok); // a 64-bit number would lose digits as a double
-    return ok ? plain : qint64(std::nearbyint(numberIn(source).value_or(0))); // halves to even
+    const QStringView source = text(row, field).trimmed();
+    if (const auto whole = wholeIn(source)) return *whole; // a 64-bit number would lose digits as a double
+    return qint64(std::nearbyint(numberIn(source).value_or(0))); // halves to even
 }
 
 double Recordset::real(int row, int field) const { return numberIn(text(row, field)).value_or(0); }

@@ -17,19 +17,23 @@ using Type = RecordsetField::Type;
 using Space = XmlScanner::Space;
 using Tag = XmlScanner::Tag;
 
+bool fits(const RecordsetField &column, double number)
+{
+    if (column.isReal()) return std::isfinite(column.type == Type::Single ? float(number) : number);
+    const IntegerRange range = rangeOf(column.type);
+    const double rounded = std::nearbyint(number); // halves to even
+    return rounded >= double(range.lowest) && rounded < double(range.highest) + 1;
+}
+
 std::optional<Why> refusalOf(const RecordsetField &column, QStringView value)
 {
     if (column.type == Type::Boolean)
         return booleanIn(value) ? std::nullopt : std::optional(Why::NoTruthValue);
     if (!column.isInteger() && !column.isReal()) return {};
+    if (column.type == Type::Int64 && wholeIn(value.trimmed())) return {}; // the last ones are no doubles
     const auto number = numberIn(value);
     if (!number) return Why::NoNumber;
-    const IntegerRange range = rangeOf(column.type);
-    const double whole = std::nearbyint(*number); // halves to even
-    const bool fits = column.isInteger() ? whole >= double(range.lowest) && whole <= double(range.highest)
-                      : column.type == Type::Single ? std::isfinite(float(*number))
-                                                    : std::isfinite(*number);
-    return fits ? std::nullopt : std::optional(Why::OutOfRange);
+    return fits(column, *number) ? std::nullopt : std::optional(Why::OutOfRange);
 }
 
 class Reader {
@@ -85,7 +89,7 @@ Recordset Reader::read()
 bool Reader::readPart(const Tag &tag)
 {
     if (tag.is(Space::Schema, u"Schema")) {
-        if (m_hasSchema) throw Refused{Why::TwoSchemas, tag.at};
+        if (m_hasSchema) throw Refused{Why::DescribedTwice, tag.at};
         return takeSchema(), true;
     }
     if (!tag.is(Space::Rowset, u"data")) return false;
@@ -188,7 +192,7 @@ void Reader::readValue(int field, const XmlScanner::Attribute &a)
 {
     const RecordsetField &column = m_set.fields()[size_t(field)];
     QStringView value = a.raw;
-    if (value.contains(u'&')) value = m_resolved.emplace_back(resolved(a));
+    if (a.hasReferences) value = m_resolved.emplace_back(resolved(a));
     if (const auto why = refusalOf(column, value)) throw Refused{*why, a.at, column.name};
     if (column.maxLength >= 0) value = value.first(std::min<qsizetype>(value.size(), column.maxLength));
     Said &said = saidOf(field);

@@ -3,6 +3,7 @@
 #include "rules/recordset/RecordsetText.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace QV_DOC_CONTROLS {
 namespace {
@@ -129,17 +130,23 @@ void Schema::takeDescription(RecordsetField &field)
     field.needsValue = said("rs:maybenull") == u"false" && said("rs:nullable") != u"true";
 }
 
-/// In the order of the references, or as they stand when there are none.
+/// In the order of the references, or as they stand when there are none. A column is referred to once: many
+/// references to many described columns would be more than the file holds.
 std::vector<RecordsetField> Schema::placed()
 {
     if (m_order.isEmpty()) return std::move(m_described);
     QHash<QString, size_t> places;
     for (size_t i = 0; i < m_described.size(); ++i) places.insert(m_described[i].xmlName, i);
+    QSet<QString> taken;
     std::vector<RecordsetField> fields;
     for (const QString &name : std::as_const(m_order)) {
         const auto found = places.constFind(name);
-        if (found == places.cend()) throw Refused{Why::NoSuchColumn, m_scanner.tag().at, name};
-        fields.push_back(m_described[*found]);
+        if (found == places.cend())
+            throw Refused{taken.contains(name) ? Why::DescribedTwice : Why::NoSuchColumn, m_scanner.tag().at,
+                          name};
+        fields.push_back(std::move(m_described[*found]));
+        places.erase(found);
+        taken.insert(name);
     }
     return fields;
 }

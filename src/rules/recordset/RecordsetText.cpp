@@ -59,7 +59,8 @@ void resolve(QStringView raw, qsizetype at, QString &out)
         if (!ok && name.startsWith(u"#")) {
             const bool isHex = name.startsWith(u"#x");
             const uint code = name.sliced(isHex ? 2 : 1).toUInt(&ok, isHex ? 16 : 10);
-            ok = ok && code <= 0x10FFFF;
+            // Half a letter could not be written back.
+            ok = ok && code <= 0x10FFFF && !QChar::isSurrogate(code);
             if (ok) out.append(QStringView(QChar::fromUcs4(code)));
         }
         if (!ok) throw Refused{Why::WrongMarkup, at};

@@ -1,5 +1,8 @@
 #include "rules/recordset/RecordsetValues.h"
 
+#include <QVarLengthArray>
+
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -13,11 +16,27 @@ template <class Int> constexpr IntegerRange all()
     return {std::numeric_limits<Int>::min(), qint64(std::numeric_limits<Int>::max())};
 }
 
-bool isPlain(QStringView text)
+bool isDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+/// Digits with a sign, decimals and an exponent, and nothing else.
+std::optional<double> plainIn(QStringView text)
 {
-    return std::ranges::all_of(text, [](QChar c) {
-        return (c >= u'0' && c <= u'9') || c == u'.' || c == u'-' || c == u'+' || c == u'e' || c == u'E';
-    });
+    if (text.startsWith(u'+') && !text.startsWith(u"+-")) text = text.sliced(1);
+    QVarLengthArray<char, 64> letters(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (!isDigit(c) && c != u'.' && c != u'-' && c != u'+' && c != u'e' && c != u'E') return {};
+        letters[i] = char(c);
+    }
+    double number = 0;
+    const auto [end, error] = std::from_chars(letters.cbegin(), letters.cend(), number);
+    return error == std::errc() && end == letters.cend() ? std::optional(number) : std::nullopt;
+}
+
+bool isWord(QStringView text, std::u16string_view lowerCase)
+{
+    return std::equal(text.utf16(), text.utf16() + text.size(), lowerCase.begin(), lowerCase.end(),
+                      [](char16_t a, char16_t b) { return (a | 0x20) == b; });
 }
 
 /// "&H1F" and "&O17"; empty = neither.
@@ -45,26 +64,34 @@ IntegerRange rangeOf(Type type)
     }
 }
 
+std::optional<qint64> wholeIn(QStringView text)
+{
+    const bool isNegative = text.startsWith(u'-');
+    if (isNegative || text.startsWith(u'+')) text = text.sliced(1);
+    if (text.isEmpty() || text.size() > 19) return {};
+    quint64 size = 0; // holds any 19 digits
+    for (const QChar c : text) {
+        if (!isDigit(c.unicode())) return {};
+        size = size * 10 + (c.unicode() - u'0');
+    }
+    if (size > quint64(std::numeric_limits<qint64>::max()) + isNegative) return {};
+    return qint64(isNegative ? 0 - size : size);
+}
+
 std::optional<double> numberIn(QStringView text)
 {
+    if (const auto whole = wholeIn(text)) return double(*whole);
     text = text.trimmed();
-    bool ok = false;
-    if (isPlain(text)) {
-        const double n = text.toDouble(&ok);
-        return ok ? std::optional(n) : std::nullopt;
-    }
+    if (const auto plain = plainIn(text)) return plain;
     if (text.size() > 2 && text[0] == u'&') return prefixedIn(text);
-    const QString bare = text.toString().remove(u','); // commas are skipped wherever they stand, on purpose
-    if (!isPlain(bare)) return {};
-    const double n = bare.toDouble(&ok);
-    return ok ? std::optional(n) : std::nullopt;
+    return plainIn(text.toString().remove(u',')); // commas are skipped wherever they stand, on purpose
 }
 
 std::optional<bool> booleanIn(QStringView text)
 {
     const QStringView word = text.trimmed();
-    if (word.compare(u"true", Qt::CaseInsensitive) == 0) return true;
-    if (word.compare(u"false", Qt::CaseInsensitive) == 0) return false;
+    if (isWord(word, u"true")) return true;
+    if (isWord(word, u"false")) return false;
     const auto number = numberIn(word);
     return number ? std::optional(*number != 0) : std::nullopt;
 }

@@ -14,6 +14,10 @@ struct IntegerRange {
 };
 IntegerRange rangeOf(RecordsetField::Type type);
 
+/// Digits, with or without a sign: the form of nearly all whole numbers, exact to 64 bits. Empty = look with
+/// numberIn().
+std::optional<qint64> wholeIn(QStringView text);
+
 /// Blanks around it, a plus sign, decimals (rounded, halves to even), an exponent, thousands commas, &H and
 /// &O: as lenient as the programs that write these files. Empty = not a number.
 std::optional<double> numberIn(QStringView text);

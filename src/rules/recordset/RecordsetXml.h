@@ -18,7 +18,7 @@ struct RecordsetRefusal {
         CutShort, ///< it ends before its last element does
         WrongRoot,
         NoSchema,
-        TwoSchemas,
+        DescribedTwice, ///< the columns as a whole, or the column that is the subject
         NoSuchColumn, ///< the schema refers to a column it does not describe
         NoNumber,
         OutOfRange, ///< for the type of the column

@@ -99,6 +99,7 @@ SetContent<Rec> contentOf(const Recordset &set, std::span<const SetField<Rec>> l
         if (f.isRead && places.back() < 0) return {{}, SetFault{{}, QLatin1String(f.name)}};
     }
     SetContent<Rec> content;
+    content.records.reserve(size_t(set.rowCount()));
     for (int row = 0; row < set.rowCount(); ++row) {
         Rec r = blank;
         for (size_t f = 0; f < layout.size(); ++f)

@@ -23,28 +23,26 @@ Space spaceNamed(QStringView uri)
     return uri.isEmpty() ? Space::None : uri.startsWith(u'#') ? Space::Row : Space::Other;
 }
 
-bool isBlank(QChar c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; }
-bool endsName(QChar c) { return isBlank(c) || c == u'/' || c == u'>' || c == u'=' || c == u'<' || c == u'?'; }
-
-std::pair<QStringView, QStringView> split(QStringView qualified)
+/// Some of the letters below 64, one bit each.
+constexpr quint64 setOfLetters(std::u16string_view letters)
 {
-    const qsizetype colon = qualified.indexOf(u':');
-    if (colon < 0) return {{}, qualified};
-    return {qualified.first(colon), qualified.sliced(colon + 1)};
+    quint64 bits = 0;
+    for (const char16_t c : letters) bits |= quint64(1) << c;
+    return bits;
 }
+constexpr bool isIn(quint64 letters, char16_t c) { return c < 64 && (letters >> c & 1); }
+
+constexpr quint64 kBlanks = setOfLetters(u" \t\r\n");
+constexpr quint64 kNameEnds = kBlanks | setOfLetters(u"/>=<?");
 
 } // namespace
 
-QChar XmlScanner::peek() const
-{
-    if (m_at >= m_text.size()) throw XmlFault{XmlFault::What::CutShort, m_text.size()};
-    return m_text[m_at];
-}
+char16_t XmlScanner::cutShort() const { throw XmlFault{XmlFault::What::CutShort, m_text.size()}; }
 
 QStringView XmlScanner::until(QStringView mark)
 {
     const qsizetype end = m_text.indexOf(mark, m_at);
-    if (end < 0) throw XmlFault{XmlFault::What::CutShort, m_text.size()};
+    if (end < 0) cutShort();
     const QStringView before = m_text.sliced(m_at, end - m_at);
     m_at = end + mark.size();
     return before;
@@ -52,22 +50,36 @@ QStringView XmlScanner::until(QStringView mark)
 
 void XmlScanner::skipBlanks()
 {
-    while (m_at < m_text.size() && isBlank(m_text[m_at])) ++m_at;
+    while (m_at < m_text.size() && isIn(kBlanks, m_text[m_at].unicode())) ++m_at;
 }
 
-QStringView XmlScanner::name()
+XmlScanner::Name XmlScanner::name()
 {
     const qsizetype from = m_at;
-    while (!endsName(peek())) ++m_at;
+    qsizetype colon = -1;
+    for (char16_t c; !isIn(kNameEnds, c = peek()); ++m_at)
+        if (c == u':' && colon < 0) colon = m_at;
     if (m_at == from) throw XmlFault{XmlFault::What::Markup, from};
-    return m_text.sliced(from, m_at - from);
+    const QStringView whole = m_text.sliced(from, m_at - from);
+    return colon < 0 ? Name{whole, {}, whole}
+                     : Name{whole, whole.first(colon - from), whole.sliced(colon - from + 1)};
+}
+
+std::pair<QStringView, bool> XmlScanner::value()
+{
+    const char16_t quote = peek();
+    if (quote != u'\'' && quote != u'"') throw XmlFault{XmlFault::What::Markup, m_at};
+    const qsizetype from = ++m_at;
+    bool hasReferences = false;
+    for (char16_t c; (c = peek()) != quote; ++m_at) hasReferences |= c == u'&';
+    return {m_text.sliced(from, m_at++ - from), hasReferences};
 }
 
 /// A document type declaration; what stands in its brackets is never expanded.
 void XmlScanner::skipDeclaration()
 {
     for (int brackets = 0;; ++m_at) {
-        const QChar c = peek();
+        const char16_t c = peek();
         if (c == u'[') ++brackets;
         if (c == u']') --brackets;
         if (c == u'>' && brackets <= 0) break;
@@ -80,7 +92,7 @@ const XmlScanner::Tag &XmlScanner::next()
     for (;;) {
         const qsizetype tag = m_text.indexOf(u'<', m_at);
         if (tag < 0) {
-            if (!m_open.empty()) throw XmlFault{XmlFault::What::CutShort, m_text.size()};
+            if (!m_open.empty()) cutShort();
             m_tag = {Kind::Finished, false, Space::None, {}, m_text.size()};
             return m_tag;
         }
@@ -109,18 +121,18 @@ const XmlScanner::Tag &XmlScanner::next()
 void XmlScanner::startTag()
 {
     const qsizetype at = m_at++;
-    const QStringView qualified = name();
-    m_attributes.clear(), m_prefixes.clear();
+    const Name tag = name();
+    m_attributes.clear();
+    m_bindsPrefixes = false;
     for (skipBlanks(); peek() != u'>' && peek() != u'/'; skipBlanks()) attribute();
     const bool isEmpty = peek() == u'/';
     if (isEmpty && (++m_at, peek() != u'>')) throw XmlFault{XmlFault::What::Markup, m_at};
     ++m_at;
-    m_open.push_back(qualified);
-    bindNamespaces();
-    const auto [prefix, local] = split(qualified);
-    m_tag = {Kind::Start, isEmpty, spaceOf(prefix, true), local, at};
-    for (size_t i = 0; i < m_attributes.size(); ++i)
-        if (!m_prefixes[i].isEmpty()) m_attributes[i].space = spaceOf(m_prefixes[i], false);
+    m_open.push_back(tag.whole);
+    if (m_bindsPrefixes) bindPrefixes();
+    m_tag = {Kind::Start, isEmpty, spaceOf(tag.prefix, true), tag.local, at};
+    for (Attribute &a : m_attributes)
+        if (!a.prefix.isEmpty()) a.space = spaceOf(a.prefix, false);
     if (!isEmpty) return;
     while (!m_bindings.empty() && m_bindings.back().depth == m_open.size()) m_bindings.pop_back();
     m_open.pop_back();
@@ -130,7 +142,7 @@ void XmlScanner::endTag()
 {
     const qsizetype at = m_at;
     m_at += 2;
-    const QStringView qualified = name();
+    const QStringView qualified = name().whole;
     skipBlanks();
     if (peek() != u'>' || m_open.empty() || m_open.back() != qualified)
         throw XmlFault{XmlFault::What::Markup, at};
@@ -143,25 +155,21 @@ void XmlScanner::endTag()
 void XmlScanner::attribute()
 {
     const qsizetype at = m_at;
-    const auto [prefix, local] = split(name());
+    const Name named = name();
     skipBlanks();
     if (peek() != u'=') throw XmlFault{XmlFault::What::Markup, m_at};
     ++m_at;
     skipBlanks();
-    const QChar quote = peek();
-    if (quote != u'\'' && quote != u'"') throw XmlFault{XmlFault::What::Markup, m_at};
-    ++m_at;
-    const QStringView raw = until(QStringView(&quote, 1));
-    m_attributes.push_back({Space::None, local, raw, at});
-    m_prefixes.push_back(prefix);
+    const auto [raw, hasReferences] = value();
+    m_attributes.push_back({Space::None, hasReferences, named.prefix, named.local, raw, at});
+    m_bindsPrefixes |= (named.prefix.isEmpty() ? named.local : named.prefix) == u"xmlns";
 }
 
-void XmlScanner::bindNamespaces()
+void XmlScanner::bindPrefixes()
 {
-    for (size_t i = 0; i < m_attributes.size(); ++i) {
-        const Attribute &a = m_attributes[i];
-        if (m_prefixes[i] == u"xmlns") m_bindings.push_back({a.name, spaceNamed(a.raw), m_open.size()});
-        if (m_prefixes[i].isEmpty() && a.name == u"xmlns")
+    for (const Attribute &a : m_attributes) {
+        if (a.prefix == u"xmlns") m_bindings.push_back({a.name, spaceNamed(a.raw), m_open.size()});
+        if (a.prefix.isEmpty() && a.name == u"xmlns")
             m_bindings.push_back({{}, spaceNamed(a.raw), m_open.size()});
     }
     if (m_bindings.size() > kMostBindings) throw XmlFault{XmlFault::What::Markup, m_at};

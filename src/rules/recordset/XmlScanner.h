@@ -22,7 +22,8 @@ public:
     enum class Space : quint8 { None, Schema, Types, Rowset, Row, Other };
     struct Attribute {
         Space space;
-        QStringView name, raw; ///< the value as it stands, references unresolved
+        bool hasReferences;
+        QStringView prefix, name, raw; ///< the value as it stands, references unresolved
         qsizetype at;
     };
     struct Tag {
@@ -55,24 +56,29 @@ private:
         Space space;
         size_t depth;
     };
+    struct Name {
+        QStringView whole, prefix, local;
+    };
     bool has(QStringView what) const { return m_text.sliced(m_at).startsWith(what); }
-    QChar peek() const;
+    char16_t peek() const { return m_at < m_text.size() ? m_text[m_at].unicode() : cutShort(); }
+    [[noreturn]] char16_t cutShort() const;
     QStringView until(QStringView mark); ///< what stands before the mark; goes behind it
     void skipBlanks();
     void skipDeclaration();
-    QStringView name();
+    Name name();
+    std::pair<QStringView, bool> value(); ///< in quotes; with references
     void startTag();
     void endTag();
     void attribute();
-    void bindNamespaces();
+    void bindPrefixes();
     Space spaceOf(QStringView prefix, bool isElement) const;
 
     QStringView m_text;
     qsizetype m_at = 0;
     Tag m_tag;
     std::vector<Attribute> m_attributes;
-    std::vector<QStringView> m_prefixes; ///< of m_attributes
-    std::vector<QStringView> m_open;     ///< qualified names
+    bool m_bindsPrefixes = false;    ///< an attribute of the last start tag does
+    std::vector<QStringView> m_open; ///< qualified names
     std::vector<Binding> m_bindings;
 };
 

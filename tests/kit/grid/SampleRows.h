@@ -66,6 +66,17 @@ struct SampleRows : GridSource {
     {
         return {{0, kinds[0]}, {1, kinds[1]}, {2, kinds[2]}};
     }
+    std::optional<Message> refusal(int, int column, const QString &typed) const override
+    {
+        if (column != Nr || typed.toInt() > 0) return {};
+        return Message{Icon::Exclamation, cols[Nr].caption, typed};
+    }
+    std::optional<QVariant> choose(int row, int column) override
+    {
+        log << QStringLiteral("choose %1.%2").arg(rowId(row)).arg(cols[size_t(column)].key);
+        return chosen;
+    }
+    std::optional<QVariant> chosen;             ///< the answer; empty = cancelled
     bool edit(int row, int column, const QVariant &v) override
     {
         log << QStringLiteral("edit %1.%2=%3").arg(rowId(row)).arg(cols[size_t(column)].key, v.toString());

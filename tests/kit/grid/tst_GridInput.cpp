@@ -1,5 +1,7 @@
 #include "kit/grid/ShownGrid.h"
 #include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
+#include "support/Typing.h"
 
 #include <QScrollBar>
 
@@ -137,6 +139,49 @@ private slots:
         list->setCurrentIndex(2);
         emit list->activated(2);
         QCOMPARE(s.rows.log, QStringList{"edit 100.Kind=2"});
+    }
+
+    void whatIsRefusedStaysInItsOpenCell()
+    {
+        Shown s;
+        s.goTo(0, SampleRows::Nr);
+        s.key(Qt::Key_F2);
+        QLineEdit *const cell = s.table.findChild<QLineEdit *>();
+        for (const Qt::Key leave : {Qt::Key_Return, Qt::Key_Tab}) {
+            ScriptedPrompts user({{"tell", "Sorszám", "4x", {}, Icon::Exclamation}});
+            tests::type(s.dialog, "4x");                // over what is selected
+            s.key(leave);
+            QCoreApplication::processEvents();
+            QVERIFY(cell->hasFocus() && s.rows.log.isEmpty());
+        }
+        QDialog other;
+        other.show();
+        QApplication::setActiveWindow(&other);          // just to look at something
+        QCoreApplication::processEvents();
+        QApplication::setActiveWindow(&s.dialog);
+        QCOMPARE(s.table.findChild<QLineEdit *>(), cell);
+        QCOMPARE(cell->text(), "4x");
+        tests::type(s.dialog, "4\r");
+        QTRY_COMPARE(s.rows.log, QStringList{"edit 100.Nr=4"});
+    }
+
+    void whatIsAskedForIsChosenInABox()
+    {
+        Shown s;
+        s.rows.cols[SampleRows::Color].editable = s.rows.cols[SampleRows::Color].asks = true;
+        s.grid.setAllowEdit(true);
+        s.goTo(2, SampleRows::Color);
+        QVERIFY(s.cell(2, SampleRows::Color).data(Qt::AccessibleDescriptionRole).toString().contains("Alt+"));
+        s.key(Qt::Key_Down, Qt::AltModifier);           // cancelled
+        s.rows.chosen = 7;
+        s.key(Qt::Key_F2);
+        s.key(Qt::Key_Down, Qt::AltModifier);           // from the open cell
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        s.key(Qt::Key_F2);
+        s.table.findChild<QLineEdit *>()->actions().front()->trigger();
+        QCOMPARE(s.rows.log, (QStringList{"choose 102.Col", "choose 102.Col", "edit 102.Col=7",
+                                          "choose 102.Col", "edit 102.Col=7"}));
+        QVERIFY(s.table.hasFocus());
     }
 
     void deleteKeyAsksForShownSelectedRows()

@@ -1,13 +1,20 @@
 #include "host_window/Program.h"
 #include "window/DialogCalls.h"
 
+#include "dialogs/editors/frmEditSid.h"
+#include "dialogs/editors/frmSupSid.h"
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
 #include "facade/services/Services.h"
 #include "grids/clsJs_Layer.h"
 #include "kit/grid/Grid.h"
 
+#include "controls/usInputBox.h"
+#include "support/MenuWay.h"
 #include "support/Modal.h"
+#include "support/Typing.h"
+
+#include <QTreeView>
 
 using namespace tests;
 
@@ -38,10 +45,72 @@ struct Sample : Program {
     }
 };
 
+/// A new drawing with the symbols A and B; what its user does with them by mouse and keys.
+struct Symbols : Program {
+    qint16 first = 0, second = 0;
+    QImage empty;
+    Symbols()
+    {
+        ZolWDoc::tSid s = doc().symbols().readAll().front();
+        s.Facename = "DejaVu Sans", s.Code = 'M', s.Size_mm = 5, s.Type = 0;
+        s.ShortName = "A", first = s.SidId = doc().symbols().add(s);
+        s.ShortName = "B", second = s.SidId = doc().symbols().add(s);
+        page().refresh();
+    }
+    void choose(const char *entry) { QVERIFY(chooseInMenu(*window->menuBar(), entry)); }
+    static void click(QAbstractItemView &list, qint16 number)
+    {
+        for (int row = 0; row < list.model()->rowCount(); ++row) {
+            const QModelIndex cell = list.model()->index(row, 0);
+            if (cell.data().toInt() != number) continue;
+            list.scrollTo(cell);
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(cell).center());
+        }
+    }
+    template <class Dialog> static QAbstractItemView &listOf(Dialog &d)
+    {
+        if constexpr (std::is_same_v<Dialog, frmSupSid>) return *d.lvSids->report();
+        else return *tests::child<Grid>(d, "gridItems").table();
+    }
+    template <class Dialog> static void confirm(Dialog &d)
+    {
+        QTest::mouseClick(&tests::child<QPushButton>(d, "cmdOk"), Qt::LeftButton);
+    }
+    template <class Dialog> void pick(qint16 number)
+    {
+        const auto user = whileModal<Dialog>([&](Dialog &d) { click(listOf(d), number), confirm(d); });
+        choose("bSelect_Sid");
+    }
+    /// In its editor, which Ctrl+E opens.
+    template <class Dialog> void resize(qint16 number, const char *size)
+    {
+        const auto user = whileModal<Dialog>([&](Dialog &d) {
+            click(listOf(d), number);
+            const auto editor = whileModal<frmEditSid>([&](frmEditSid &e) {
+                e.usNumSize->txtCombo->setFocus();
+                QTest::keySequence(e.focusWidget(), QKeySequence::SelectAll);
+                type(e, QString::fromUtf8(size));
+                confirm(e);
+            });
+            QTest::keyClick(&listOf(d), Qt::Key_E, Qt::ControlModifier);
+            confirm(d);
+        });
+        choose("bEdit_Sids");
+    }
+    int ink()                                   ///< pixels that differ from the empty drawing
+    {
+        const QImage now = view().grab().toImage();
+        int n = 0;
+        for (int y = 0; y < now.height(); ++y)
+            for (int x = 0; x < now.width(); ++x) n += now.pixel(x, y) != empty.pixel(x, y);
+        return n;
+    }
+};
+
 } // namespace
 
-/// The library's layer dialogs at work in the program: what they do to the drawing is seen behind them.
-class tst_LayerCalls : public QObject {
+/// The library's dialogs at work in the program: what they do to the drawing is seen behind them.
+class tst_DialogCalls : public QObject {
     Q_OBJECT
 private slots:
     void whatIsDoneInTheDialogShowsBehindIt()
@@ -97,6 +166,33 @@ private slots:
             whileModal<frmSetup>([](frmSetup &d) { Sample::use(d, {0}, "cmdLays_FileRename"); });
         QVERIFY(!s.call("bEdit_Layers"));
     }
+    void symbolsAreChosenAndEditedFromTheMenu_data()
+    {
+        QTest::addColumn<bool>("classic");
+        QTest::newRow("selection and setup") << false;
+        QTest::newRow("classic manager") << true;
+    }
+    void symbolsAreChosenAndEditedFromTheMenu()
+    {
+        QFETCH(bool, classic);
+        Symbols s;
+        if (classic) s.choose("oldStyle");
+        s.empty = s.view().grab().toImage();
+        if (classic) s.pick<frmSupSid>(s.second);
+        else s.pick<frmSelect>(s.second);
+        QVERIFY(s.child<QAction>("symbol").isChecked()); // ready to be placed
+        QTest::mouseClick(&s.view(), Qt::LeftButton, {}, s.view().rect().center());
+        QCOMPARE(s.doc().elements().size(), size_t(1));
+        QCOMPARE(s.doc().elements()[0].sidId, s.second);
+        QTRY_VERIFY(s.ink() > 0);
+        const int before = s.ink();
+        if (classic) s.resize<frmSupSid>(s.second, "12,5");
+        else s.resize<frmSetup>(s.second, "12,5");
+        QCOMPARE(s.doc().symbols().find(s.second)->Size_mm, 12.5f);
+        QCOMPARE(s.doc().symbols().find(s.first)->Size_mm, 5.0f);
+        QTRY_VERIFY(s.ink() > 2 * before);
+        if (classic) s.choose("oldStyle"); // a setting, which is kept
+    }
     void whatGoesToAllDrawingsShowsInEach()
     {
         Sample s;
@@ -110,5 +206,5 @@ private slots:
     }
 };
 
-QVDC_TEST(tst_LayerCalls)
-#include "tst_LayerCalls.moc"
+QVDC_TEST(tst_DialogCalls)
+#include "tst_DialogCalls.moc"

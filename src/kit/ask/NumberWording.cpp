@@ -1,4 +1,4 @@
-#include "dialogs/values/NumberWording.h"
+#include "kit/ask/NumberWording.h"
 
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Text.h"
@@ -31,7 +31,7 @@ QString reasonFor(double number, const NumberField &field)
 
 QString patternOf(int decimals)
 {
-    return decimals > 0 ? QStringLiteral("0.") + QString(decimals, u'#') : QStringLiteral("0");
+    return decimals > 0 ? QStringLiteral("0.0") + QString(decimals - 1, u'#') : QStringLiteral("0");
 }
 
 QString textOf(double number, int decimals)
@@ -39,11 +39,13 @@ QString textOf(double number, int decimals)
     return formatted(number, patternOf(decimals), interfaceLocale());
 }
 
+/// Bounds are as short as they can be: "0,1 – 1000 mm".
 QString allowedIn(const NumberField &field)
 {
+    const auto bound = [&](double number) { return textOf(number, isWhole(number, 0) ? 0 : field.decimals); };
     const QString unit = field.unit.isEmpty() ? QString() : kHardBlank + field.unit;
-    return join(Text{21605, u"Megengedett: "}, textOf(field.min, field.decimals),
-                QStringLiteral("\u00a0–\u00a0"), textOf(field.max, field.decimals), unit);
+    return join(Text{21605, u"Megengedett: "}, bound(field.min),
+                QStringLiteral("\u00a0–\u00a0"), bound(field.max), unit);
 }
 
 QString refusalFor(const QString &text, const NumberField &field)
