@@ -276,7 +276,7 @@ private slots:
     {
         tests::FaultyDoc doc(*m_doc);
         const auto refusal =
-            tests::warned(qUtf8Printable(appTitle()), "Frissítés van folyamatban, kérem várakozzék!");
+            tests::warned(appTitle(), QStringLiteral("Frissítés van folyamatban, kérem várakozzék!"));
         ScriptedPrompts user({refusal, refusal, refusal, refusal});
         const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
             doc.log.meanwhile = [&](const QString &call) {

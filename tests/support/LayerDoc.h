@@ -11,7 +11,7 @@ namespace tests {
 /// them and "Utak" with the even numbers.
 inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const std::vector<ZolWDoc::tLay> &layers)
 {
-    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    auto doc = refhost::SqliteDoc::create(":memory:");
     ZolWDoc::LayerRole &role = doc->layers();
     const std::vector<ZolWDoc::tLay> before = role.readAll();
     std::vector<ZolWDoc::tLay> stored;
@@ -25,7 +25,7 @@ inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const std::vector<ZolWDoc::t
     role.writeAll(stored);
 
     auto groups = role.groups();
-    groups.push_back({-1, QStringLiteral("Utak")});
+    groups.push_back({-1, "Utak"});
     role.writeGroups(groups);
     const qint16 roads = role.groups().back().GroupId;
     auto members = role.members();
@@ -69,7 +69,7 @@ inline QString dump(ZolWDoc::ZOLW_Doc &doc)
 {
     QStringList rows;
     for (const ZolWDoc::tLay &l : doc.layers().readAll()) rows << QString::number(l.gNr) + u' ' + l.Name;
-    return rows.join(QStringLiteral(", "));
+    return rows.join(", ");
 }
 
 /// Every layer group with the numbers of its layers: "RENDSZER: 1 2 | Utak: 2".
@@ -84,7 +84,7 @@ inline QString dumpGroups(ZolWDoc::ZOLW_Doc &doc)
                 line += u' ' + QString::number(l.gNr);
         out << line;
     }
-    return out.join(QStringLiteral(" | "));
+    return out.join(" | ");
 }
 
 } // namespace tests

@@ -7,8 +7,7 @@
 #include "support/OwnStore.h"
 #include "support/Someone.h"
 
-#include <QDir>
-#include <QTemporaryDir>
+#include "support/QtClasses.h"
 
 namespace tests {
 
@@ -48,8 +47,7 @@ void workThrough(const Acts &acts, bool (QV_DOC_CONTROLS::clsDocDlgs::*call)(Zol
             const QStringList found = session.found(), wanted = session.expected();
             for (qsizetype i = 0; i < std::max(found.size(), wanted.size()); ++i)
                 QVERIFY2(found.value(i) == wanted.value(i),
-                         qPrintable(what +
-                                    QStringLiteral(": '%1', not '%2'").arg(found.value(i), wanted.value(i))));
+                         qPrintable(what + QString(": '%1', not '%2'").arg(found.value(i), wanted.value(i))));
         }
         QCOMPARE(child<QV_DOC_CONTROLS::Grid>(d, "gridItems").table()->model()->rowCount(), session.count());
         d.reject();

@@ -5,8 +5,7 @@
 #include "kit/tools/Tool.h"
 #include "support/CallLog.h"
 
-#include <QTest>
-#include <QAbstractItemView>
+#include "support/QtClasses.h"
 
 #include <cstring>
 
@@ -70,7 +69,7 @@ template <class Manager> struct TableForm {
     {
         QStringList out;
         for (const int r : grid.selectedRows())
-            out << cellOf(r, 0) + (r == grid.currentRow() ? QStringLiteral("*") : QString());
+            out << cellOf(r, 0) + (r == grid.currentRow() ? "*" : QString());
         return out.join(u' ');
     }
     QString listed() const                      ///< numbers of the listed records: "1 2"
@@ -88,7 +87,7 @@ template <class Manager> struct TableForm {
             out << chosenGroup() + u':' + (listed().isEmpty() ? QString() : u' ' + listed());
         }
         groups.setCurrentRow(0);
-        return out.join(QStringLiteral(" | "));
+        return out.join(" | ");
     }
     QString chosenGroup() const
     {
