@@ -4,6 +4,7 @@
 #include "grids/frame/NotTaken.h"
 #include "kit/grid/CardCaption.h"
 
+#include <QScopeGuard>
 #include <QSet>
 
 #include <algorithm>
@@ -41,6 +42,13 @@ protected:
     }
     void readCaptions(ZolWDoc::ZOLW_Doc *doc) { m_columns = gridColumnsOf<Table>(doc); }
     template <class Change> void patchAll(Change patch) { std::ranges::for_each(m_all, patch); }
+    /// A guard that, when it goes, makes `now` the record of the row, if that still is the one of `before`.
+    auto replacing(int row, const Record &before, const Record &now)
+    {
+        return qScopeGuard([this, row, &before, &now] {
+            if (row < rowCount() && Table::id(recordAt(row)) == Table::id(before)) recordAt(row) = now;
+        });
+    }
     void setRecords(std::vector<Record> all, typename Table::Names names) ///< none of them is listed yet
     {
         m_all = std::move(all), m_names = std::move(names);

@@ -10,8 +10,6 @@
 #include "grids/frame/RowCaptions.h"
 #include "kit/grid/Grid.h"
 
-#include <QScopeGuard>
-
 namespace QV_DOC_CONTROLS {
 
 /// The records of one table behind a grid, typed by its table.
@@ -82,7 +80,7 @@ public:
             if (const int row = m_grid ? m_grid->rowWithId(id) : -1; row >= 0) rows.push_back(row);
         if (rows.empty()) return;
         m_grid->setCurrentRow(rows.front());
-        m_grid->selectRows(rows);
+        if (m_grid) m_grid->selectRows(rows);           // a handler may have torn the manager down
     }
     std::vector<Record> selected() const override ///< in grid order
     {
@@ -149,6 +147,7 @@ protected:
         m_selectionTold = false;
         const auto current = currentRecord();
         m_grid->refill([this] { Rows::showWhatFits(); });
+        if (!m_grid) return;                            // a handler has torn the manager down
         if (!m_selectionTold && selectedIds() != before) tellSelection();
         if (const auto now = currentRecord(); now && (!current || Table::id(*current) != Table::id(*now)))
             raiseCurrent(*now);
@@ -172,15 +171,8 @@ private:
         m_selectionTold = true;
         raiseSelection(m_grid->selectedCount());
     }
-    std::vector<qint16> selectedIds() const
-    {
-        return m_grid ? Rows::idsAt(m_grid->selectedRows()) : std::vector<qint16>();
-    }
+    std::vector<qint16> selectedIds() const { return Rows::idsAt(m_grid->selectedRows()); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
-    bool lists(int row, const Record &record) const
-    {
-        return row < Rows::rowCount() && Table::id(Rows::recordAt(row)) == Table::id(record);
-    }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
@@ -192,7 +184,7 @@ private:
             return this->tell(messageOf(*why)), false;
         {
             Record now = before;                        // the host may refill or tear down while it writes
-            const auto showing = qScopeGuard([&] { if (lists(row, before)) Rows::recordAt(row) = now; });
+            const auto showing = Rows::replacing(row, before, now);
             storeCell<Table>(*m_doc, c, now, *edited, [&] { storeEdit(before, *edited); });
         }
         if (m_grid && row == m_grid->currentRow()) raiseCurrent(*edited);
