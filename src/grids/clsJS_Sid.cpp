@@ -79,12 +79,11 @@ GroupDrags clsJS_Sid::groupDrags()
 
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
-    bool renamed = false;
-    guarded([&] {
-        renamed = m_groups.renameInPlace(group, name);
+    return guardedOr(false, [&] {
+        const bool renamed = m_groups.renameInPlace(group, name);
         if (renamed) groupRenamed(group, name);
+        return renamed;
     });
-    return renamed;
 }
 
 void clsJS_Sid::raiseSelection(int count)

@@ -252,11 +252,13 @@ private slots:
     void everyPresetSizeIsChosenByKeysAndByMouse()
     {
         const float presets[] = {1, 1.5f, 2, 2.5f, 3, 3.5f, 4, 5, 7, 10};
+        const QStringList shown = QStringLiteral("1,0 1,5 2,0 2,5 3,0 3,5 4,0 5,0 7,0 10,0").split(u' ');
         const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
             items(d).selectAll();
             for (const bool byMouse : {false, true})
                 for (int i = 0; i < 10; ++i) {
                     const auto user = whileModal<NumberBox>([&](NumberBox &box) {
+                        QCOMPARE(box.findChild<QComboBox *>()->itemText(i), shown[i]);
                         choose(*box.findChild<QComboBox *>(), i, byMouse);
                         QTest::keyClick(box.focusWidget(), Qt::Key_Return);
                     });

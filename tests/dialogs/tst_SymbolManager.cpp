@@ -92,7 +92,7 @@ private slots:
             "sorted by keys alone",
             [](frmSupSid &f) {
                 const auto user = whileModal<frmSort>([](frmSort &s) {
-                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return})
+                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Right, Qt::Key_Return})
                         QTest::keyClick(s.focusWidget(), key); // by name, downward
                 });
                 select(f, 2);

@@ -123,7 +123,13 @@ struct Session {
         rows[made].size = 7.25;
         intoCell(made, 3, QStringLiteral("7,25"));
     }
-    void sizeOutOfBounds() { intoCell(made, 3, QStringLiteral("5000")); }
+    /// It is said, and what was typed waits in its cell to be typed over.
+    void sizeOutOfBounds()
+    {
+        rows[made].size = 8.25;
+        user.answers << QStringLiteral("\r");
+        intoCell(made, 3, QStringLiteral("5000\r8,25"));
+    }
     void weightInCell()
     {
         rows[third].weight = 25;

@@ -151,28 +151,19 @@ private slots:
         QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));
     }
 
-    void pensAreChosenByTheirColour_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("caption");
-        for (const auto &[key, caption] : {std::pair("ScrColor", "Képernyő szín"),
-                                           {"PrnColor", "Nyomtatási szín"}, {"PenColorId", "Toll"}})
-            QTest::newRow(key) << key << caption;
-    }
     void pensAreChosenByTheirColour()
     {
-        QFETCH(QString, key);
-        QFETCH(QString, caption);
         tests::LayerForm form(*m_doc);
         form.select({1});
-        int c = 0;
-        while (LayerTable::columns[c].key != key) ++c;
         QAbstractItemView &table = *form.grid.table();
-        table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
-        const QString now = form.cellOf(form.grid.currentRow(), c);
-        ScriptedPrompts user({{"colorIndex", caption, QStringLiteral("Válassz tollat! Réteg: 1/A|") + now, 9}});
-        QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
-        QCOMPARE(LayerTable::columns[c].get(m_doc->layers().find(layer(1).LayId).value()).toInt(), 9);
+        for (const int c : {columnOf<LayerTable>("ScrColor"), columnOf<LayerTable>("PrnColor"),
+                            columnOf<LayerTable>("PenColorId")}) {
+            table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
+            const QString asked = QStringLiteral("Válassz tollat! Réteg: 1/A|") + form.cellOf(0, c);
+            ScriptedPrompts user({{"colorIndex", txt(LayerTable::columns[c].caption), asked, 9}});
+            QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
+            QCOMPARE(LayerTable::columns[c].get(layer(1)).toInt(), 9);
+        }
     }
 
     void theGroupListNarrowsTheGrid()

@@ -48,22 +48,19 @@ typename Table::Record asStored(ZolWDoc::ZOLW_Doc &doc, const typename Table::Re
     return found ? *found : Table::role(doc).find(Table::id(edited)).value_or(before);
 }
 
-template <class Record> struct Edit {
-    Record &shown;                              ///< becomes what the document has
-    const Record &edited;
-};
-/// Writes an edit as one command of the document. After an error the document is asked, quietly.
-template <class Table, class Store>
-void storeOrReread(ZolWDoc::ZOLW_Doc &doc, const QString &command, Edit<typename Table::Record> edit,
-                   Store store)
+/// Lets `write` store what an edit in a column made of the shown record. When it throws, the record is what
+/// the document has now, an error of its own apart.
+template <class Table, class Write>
+void storeCell(ZolWDoc::ZOLW_Doc &doc, int c, typename Table::Record &shown,
+               const typename Table::Record &edited, Write write)
 {
     try {
-        ZolWDoc::inCommand(doc, command, store);
+        ZolWDoc::inCommand(doc, txt(Table::columns[c].caption), write);
     } catch (...) {
-        ErrorRelay::tryQuietly([&] { edit.shown = asStored<Table>(doc, edit.shown, edit.edited); });
+        ErrorRelay::tryQuietly([&] { shown = asStored<Table>(doc, shown, edited); });
         throw;
     }
-    edit.shown = edit.edited;
+    shown = edited;
 }
 
 inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }

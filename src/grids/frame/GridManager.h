@@ -67,6 +67,12 @@ protected:
             if (!refusesNow()) body();
         });
     }
+    /// What `body` answers, guarded; `otherwise` when it does not come to an answer.
+    template <class Answer, class Body> Answer guardedOr(Answer otherwise, Body &&body)
+    {
+        guarded([&] { otherwise = body(); });
+        return otherwise;
+    }
     /// Runs `body`, which writes, then fills; after an error too, so that the grid agrees with what had been
     /// written by then.
     void runAndFill(const std::function<void()> &body);

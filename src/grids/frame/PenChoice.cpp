@@ -6,13 +6,14 @@
 
 namespace QV_DOC_CONTROLS {
 
-std::optional<int> askForPen(Desk &desk, const QString &title, const QString &record, int now)
+std::optional<QVariant> choosePen(Desk &desk, const QString &column, const QString &record,
+                                  const QVariant &now)
 {
-    const ColorIndexQuestion question{title, join(Text{22343, u"Válassz tollat! "}, record), now,
-                                      screenColorsOfPens(desk.doc())};
+    const ColorIndexQuestion question{column, join(Text{22343, u"Válassz tollat! "}, record),
+                                      now.toInt(), screenColorsOfPens(desk.doc())};
     const auto pen = prompts().colorIndex(question, desk.asker());
     desk.relay().checkpoint();
-    return pen;
+    return pen ? std::optional<QVariant>(*pen) : std::nullopt;
 }
 
 } // namespace QV_DOC_CONTROLS

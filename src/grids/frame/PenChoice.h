@@ -2,11 +2,12 @@
 
 #include "grids/frame/Desk.h"
 
-#include <optional>
+#include <QVariant>
 
 namespace QV_DOC_CONTROLS {
 
-/// Asks for a pen by its screen colour; `now` is offered first. Empty = cancelled. Throws the host's error.
-std::optional<int> askForPen(Desk &desk, const QString &title, const QString &record, int now);
+/// Asks which pen a cell of that column and record is to have; empty = cancelled.
+std::optional<QVariant> choosePen(Desk &desk, const QString &column, const QString &record,
+                                  const QVariant &now);
 
 } // namespace QV_DOC_CONTROLS

@@ -154,19 +154,14 @@ protected:
 
     bool edit(int row, int c, const QVariant &value) override
     {
-        bool stored = false;
-        guarded([&] { stored = tryEdit(row, c, value); });
-        return stored;
+        return guardedOr(false, [&] { return tryEdit(row, c, value); });
     }
 
     std::optional<QVariant> choose(int row, int c) override
     {
-        std::optional<int> chosen;
-        guarded([&] {
-            const QString title = txt(Table::columns[c].caption);
-            chosen = askForPen(*this, title, Rows::rowName(row), Rows::value(row, c).toInt());
+        return guardedOr(std::optional<QVariant>(), [&] {
+            return choosePen(*this, txt(Table::columns[c].caption), Rows::rowName(row), Rows::value(row, c));
         });
-        return chosen;
     }
 
 private:
@@ -186,8 +181,7 @@ private:
         Record &shown = Rows::recordAt(row);
         if (const Refusal *const why = refusalOf<Table>(shown, *edited, c, Rows::all()))
             return this->tell(messageOf(*why)), false;
-        const auto store = [&] { storeEdit(shown, *edited); };
-        storeOrReread<Table>(*m_doc, txt(Table::columns[c].caption), {shown, *edited}, store);
+        storeCell<Table>(*m_doc, c, shown, *edited, [&] { storeEdit(shown, *edited); });
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }
