@@ -80,9 +80,9 @@ GroupDrags clsJS_Sid::groupDrags()
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
     return guardedOr(false, [&] {
-        const bool renamed = m_groups.renameInPlace(group, name);
-        if (renamed) groupRenamed(group, name);
-        return renamed;
+        if (!m_groups.renameInPlace(group, name)) return false;
+        groupRenamed(group, name);
+        return true;
     });
 }
 

@@ -5,15 +5,8 @@
 #include "facade/services/Language.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
+#include "support/QtClasses.h"
 #include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QVBoxLayout>
 
 namespace tests {
 
@@ -24,7 +17,12 @@ inline const QLocale kComma(QLocale::Hungarian, QLocale::Hungary);
 
 inline ScriptedPrompts::Step refusal(const char *text, const char *title = "Érték hiba!")
 {
-    return {"tell", QString::fromUtf8(title), QString::fromUtf8(text), {}, Icon::Exclamation};
+    return {"tell", title, text, {}, Icon::Exclamation};
+}
+/// The one that is told, or none when the text is empty.
+inline std::vector<ScriptedPrompts::Step> told(const char *text)
+{
+    return *text ? std::vector{refusal(text)} : std::vector<ScriptedPrompts::Step>();
 }
 inline const char *const kNotANumber = "Számot kell megadni!";
 inline const char *const kZeroToTen = "0 és 10 közé eső értéket kell megadni!";
@@ -38,8 +36,8 @@ struct InputForm {
     usInputBox *box = new usInputBox(&dialog);
     QLineEdit *after = new QLineEdit(&dialog);
     QDialogButtonBox *buttons = new QDialogButtonBox(&dialog);
-    QPushButton *ok = buttons->addButton(QStringLiteral("&Kész"), QDialogButtonBox::AcceptRole);
-    QPushButton *cancel = buttons->addButton(QStringLiteral("&Mégse"), QDialogButtonBox::RejectRole);
+    QPushButton *ok = buttons->addButton("&Kész", QDialogButtonBox::AcceptRole);
+    QPushButton *cancel = buttons->addButton("&Mégse", QDialogButtonBox::RejectRole);
 
     explicit InputForm(const QLocale &locale = kDot)
     {
@@ -49,13 +47,13 @@ struct InputForm {
         QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
         QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
         QObject::connect(box, &usInputBox::Change, box, [this](double &value) {
-            raised << QStringLiteral("Change ") + QString::number(value, 'g', 15);
+            raised << "Change " + QString::number(value, 'g', 15);
         });
     }
     InputForm &decimals(double min, double max, const char *format = "0.00")
     {
         box->setInputType(3);
-        box->setFormatString(QString::fromUtf8(format));
+        box->setFormatString(format);
         return whole(min > 0 ? min : 0, min, max);
     }
     InputForm &whole(double value, double min, double max)
@@ -77,6 +75,30 @@ struct InputForm {
         box->setFocus(Qt::TabFocusReason);
         return *this;
     }
+    /// Notes what else the box raises: keys with their codes, the mouse in twips.
+    InputForm &noting()
+    {
+        using Box = usInputBox;
+        const auto mouse = [this](const char *what) {
+            return [this, what](qint16 button, qint16 shift, double x, double y) {
+                raised << QString("%1 %2 %3 %4 %5").arg(what).arg(button).arg(shift).arg(x).arg(y);
+            };
+        };
+        QObject::connect(box, &Box::KeyDown, box, [this](qint16 &code, qint16 shift) {
+            raised << QString("KeyDown %1 %2").arg(code).arg(shift);
+        });
+        QObject::connect(box, &Box::KeyPress, box,
+                         [this](qint16 &code) { raised << QString("KeyPress %1").arg(code); });
+        QObject::connect(box, &Box::KeyUp, box,
+                         [this](qint16 &code, qint16) { raised << QString("KeyUp %1").arg(code); });
+        QObject::connect(box, &Box::MouseDown, box, mouse("down"));
+        QObject::connect(box, &Box::MouseMove, box, mouse("move"));
+        QObject::connect(box, &Box::MouseUp, box, mouse("up"));
+        QObject::connect(box, &Box::Click, box, [this] { raised << "click"; });
+        QObject::connect(box, &Box::DblClick, box, [this] { raised << "double"; });
+        return *this;
+    }
+    QString told() { return std::exchange(raised, {}).join(" | "); } ///< what was raised since the last time
     QLineEdit &line() { return *box->txtCombo->lineEdit(); }
     QString text() const { return box->txtCombo->currentText(); }
     double value() const { return box->Value().toDouble(); }

@@ -6,13 +6,7 @@
 #include "facade/services/Language.h"
 #include "support/LayerDoc.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <QVBoxLayout>
+#include "support/QtClasses.h"
 
 namespace tests {
 
@@ -25,7 +19,7 @@ template <class Control> struct Form {
     QPushButton *ok = new QPushButton(&dialog);
     QStringList raised; ///< the set's text at every ChangeLays
 
-    Form()
+    explicit Form(ZolWDoc::ZOLW_Doc *doc = nullptr)
     {
         auto *const column = new QVBoxLayout(&dialog);
         column->addWidget(control);
@@ -38,6 +32,12 @@ template <class Control> struct Form {
         dialog.activateWindow();
         QApplication::setActiveWindow(&dialog);
         control->txtLays->setFocus();
+        if (doc) arrives(*doc);
+    }
+    void arrives(ZolWDoc::ZOLW_Doc &doc)
+    {
+        if constexpr (std::is_same_v<Control, usLays>) control->SetLayArr(doc.layers().readAll());
+        else control->setZOLW_Doc(&doc);
     }
     QLineEdit &box() { return *control->txtLays; }
     QComboBox &list() { return *control->cboLays; }
@@ -45,7 +45,7 @@ template <class Control> struct Form {
     {
         box().selectAll();
         QTest::keyClick(&box(), Qt::Key_Delete);
-        QTest::keyClicks(&box(), QLatin1String(keys));
+        QTest::keyClicks(&box(), keys);
     }
     void leave() { ok->setFocus(); }
     /// The entry of this item data, with the keyboard, as a user does.
@@ -67,6 +67,16 @@ template <class Control> struct Form {
             out << QString::number(list().itemData(i).toInt()) + u' ' + list().itemText(i);
         return out;
     }
+    /// What was raised since the last look, the text and the entry: "[1][1-3] 1-3 (Felsorolt rétegek)".
+    QString look()
+    {
+        QString out;
+        for (const QString &set : std::exchange(raised, {})) out += u'[' + set + u']';
+        out += u' ' + box().text() + u' ' + list().currentText();
+        if (control->sLays() != box().text()) out += ", but says " + control->sLays();
+        if (control->sLayGroup() != list().currentText()) out += ", but says " + control->sLayGroup();
+        return out;
+    }
 };
 using DocForm = Form<ZOL3_LayGroup>;
 using ArrayForm = Form<usLays>;
@@ -81,11 +91,7 @@ protected:
     void begin()
     {
         setLanguage(Hungarian, {});
-        m_doc = layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                          {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                          {.gNr = 3, .Name = QStringLiteral("C")},
-                          {.gNr = 4, .Name = QStringLiteral("D")},
-                          {.gNr = 7, .Name = QStringLiteral("E"), .Visible = false}});
+        m_doc = layerDoc("1 A, -2 B, 3 C, 4 D, -7 E");
         m_doc->layers().makeCurrent(layer(3));
     }
     static void end()

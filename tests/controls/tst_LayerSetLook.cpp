@@ -2,10 +2,6 @@
 
 #include "support/Registry.h"
 
-#include <QAccessible>
-#include <QWheelEvent>
-
-using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using namespace tests;
 
@@ -23,19 +19,14 @@ private slots:
             setLanguage(Romanian, {});
             DocForm with;
             ArrayForm without;
-            QCOMPARE(with.control->sLayGroup(),
-                     QStringLiteral("(Aktuális réteg)")); // Hungarian at first, on purpose
-            with.control->setZOLW_Doc(m_doc.get());
-            without.control->SetLayArr(m_doc->layers().readAll());
+            QCOMPARE(with.control->sLayGroup(), "(Aktuális réteg)"); // Hungarian at first, on purpose
+            with.arrives(*m_doc), without.arrives(*m_doc);
             with.pick(kVisible), without.pick(kVisible);
-            const auto raised = with.raised;
+            with.raised.clear(), without.raised.clear();
             setLanguage(language, {});
             emit LanguageHub::instance().LanguageChanged();
-            for (auto *control : std::initializer_list<LayerSetControl *>{with.control, without.control}) {
-                QCOMPARE(control->cboLays->currentText(), QString::fromUtf8(visible));
-                QCOMPARE(control->sLayGroup(), QString::fromUtf8(visible));
-            }
-            QCOMPARE(with.raised, raised);
+            QCOMPARE(with.look(), QString(" 1,3-4 ") + visible);
+            QCOMPARE(without.look(), QString(" 1,3-4 ") + visible);
             with.type("1-2");
             QCOMPARE(with.list().currentData().toInt(), kEnumerated);
         }
@@ -45,85 +36,79 @@ private slots:
     {
         DocForm f;
         ZOL3_LayGroup &c = *f.control;
-        QCOMPARE(c.cboLays->geometry().united(c.txtLays->geometry()), c.rect());
-        QCOMPARE(c.cboLays->y(), 0);
-        QCOMPARE(c.txtLays->y(), c.cboLays->height());
+        const QRect &list = f.list().geometry(), &box = f.box().geometry();
+        QCOMPARE(list.united(box), c.rect());
+        QCOMPARE(box.topLeft(), QPoint(0, list.height()));
         const int two = c.height();
         c.setSingleLine(true);
         QApplication::sendPostedEvents(); // the form's layout
         QCOMPARE(c.height() * 2, two);
-        QCOMPARE(c.txtLays->width(), c.width() / 2);
-        c.setWidthDiferent(450); // twips: 30 pixels at 96 to the inch
-        QCOMPARE(c.txtLays->width(), c.width() / 2 + 450 * c.logicalDpiX() / 1440);
-        QCOMPARE(c.cboLays->geometry(),
-                 QRect(c.txtLays->width(), 0, c.width() - c.txtLays->width(), c.height()));
-        for (const double far : {1e300, -1e300}) {
-            c.setWidthDiferent(far);
-            QVERIFY(c.txtLays->width() + c.cboLays->width() == c.width());
+        const int moved = 450 * c.logicalDpiX() / 1440;
+        for (const auto &[twips, right] :
+             {std::pair(0.0, c.width() / 2), {450, c.width() / 2 + moved}, {1e300, c.width()}, {-1e300, 0}}) {
+            c.setWidthDiferent(twips);
+            QCOMPARE(box, QRect(0, 0, right, c.height()));
+            QCOMPARE(list, QRect(right, 0, c.width() - right, c.height()));
         }
-        c.setWidthDiferent(0);
         QFont large = c.font();
         large.setPointSize(large.pointSize() * 2);
         c.setFont(large);
-        QCOMPARE(c.txtLays->font().pointSize(), large.pointSize());
-        QVERIFY(c.height() > two / 2);
-        QCOMPARE(c.txtLays->height(), c.height());
+        QCOMPARE(f.box().font().pointSize(), large.pointSize());
+        QVERIFY(c.height() > two / 2 && box.height() == c.height());
     }
 
     void tabGoesAsOneReads()
     {
         DocForm f;
-        f.control->setFocus();
-        QVERIFY(f.list().hasFocus());
-        QTest::keyClick(&f.list(), Qt::Key_Tab);
-        QVERIFY(f.box().hasFocus());
-        f.control->setSingleLine(true);
-        f.control->setFocus();
-        QVERIFY(f.box().hasFocus());
-        QTest::keyClick(&f.box(), Qt::Key_Tab);
-        QVERIFY(f.list().hasFocus());
+        QWidget *const order[] = {&f.list(), &f.box()};
+        for (const bool single : {false, true}) {
+            f.control->setSingleLine(single);
+            f.control->setFocus();
+            QCOMPARE(f.dialog.focusWidget(), order[single]);
+            QTest::keyClick(order[single], Qt::Key_Tab);
+            QCOMPARE(f.dialog.focusWidget(), order[!single]);
+        }
     }
 
     void theWheelScrollsOnlyAFocusedList()
     {
-        DocForm f;
-        f.control->setZOLW_Doc(m_doc.get());
-        f.box().setFocus();
+        DocForm f(m_doc.get());
         const QPointF at(f.list().rect().center());
         QWheelEvent wheel(at, f.list().mapToGlobal(at), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&f.list(), &wheel);
-        QCOMPARE(f.list().currentData().toInt(), kCurrent);
-        QCOMPARE(f.raised, QStringList{"3"});
+        QCOMPARE(f.look(), "[3] 3 (Aktuális réteg)");
     }
 
     void readersHearWhatItIs()
     {
-        DocForm f;
-        f.control->setZOLW_Doc(m_doc.get());
-        f.control->setsLays(QStringLiteral("1-3"));
-        const QAccessibleInterface &group = *QAccessible::queryAccessibleInterface(f.control);
-        QCOMPARE(group.role(), QAccessible::Grouping);
-        QCOMPARE(group.text(QAccessible::Name), QStringLiteral("Réteghalmaz"));
-        const QAccessibleInterface &box = *QAccessible::queryAccessibleInterface(&f.box());
-        QCOMPARE(box.role(), QAccessible::EditableText);
-        QCOMPARE(box.text(QAccessible::Name), QStringLiteral("Rétegszámok"));
-        QCOMPARE(box.text(QAccessible::Value), QStringLiteral("1-3"));
-        QVERIFY(box.text(QAccessible::Description).endsWith(QStringLiteral("A halmaz rétegeinek száma: 3")));
-        const QAccessibleInterface &list = *QAccessible::queryAccessibleInterface(&f.list());
-        QCOMPARE(list.role(), QAccessible::ComboBox);
-        QCOMPARE(list.text(QAccessible::Description), QStringLiteral("Rétegek kiválasztása"));
-        QCOMPARE(list.text(QAccessible::Value), QStringLiteral("(Felsorolt rétegek)"));
+        DocForm f(m_doc.get());
+        f.control->setsLays("1-3");
+        const std::tuple<QWidget *, QAccessible::Role, QAccessible::Text, const char *> rows[] = {
+            {f.control, QAccessible::Grouping, QAccessible::Name, "Réteghalmaz"},
+            {&f.box(), QAccessible::EditableText, QAccessible::Name, "Rétegszámok"},
+            {&f.box(), QAccessible::EditableText, QAccessible::Value, "1-3"},
+            {&f.box(), QAccessible::EditableText, QAccessible::Description,
+             "Rétegszámok és tartományok vesszővel elválasztva, például 1-3,7\nA halmaz rétegeinek száma: 3"},
+            {&f.list(), QAccessible::ComboBox, QAccessible::Description, "Rétegek kiválasztása"},
+            {&f.list(), QAccessible::ComboBox, QAccessible::Value, "(Felsorolt rétegek)"}};
+        for (const auto &[widget, role, kind, said] : rows) {
+            const QAccessibleInterface &heard = *QAccessible::queryAccessibleInterface(widget);
+            QCOMPARE(heard.role(), role);
+            same(said, heard.text(kind), said);
+        }
     }
 
     void aColourOfItsOwnStaysReadable()
     {
         DocForm f;
-        const QColor usual = f.box().palette().color(QPalette::Base);
+        const QPalette usual = f.box().palette();
         f.control->setBackcolor(QColor(20, 30, 60));
         QCOMPARE(f.box().palette().color(QPalette::Base), QColor(20, 30, 60));
-        QVERIFY(f.box().palette().color(QPalette::Text).lightness() > 200);
+        for (const QPalette::ColorRole letters : {QPalette::Text, QPalette::PlaceholderText})
+            QVERIFY(f.box().palette().color(letters).lightness() > 200);
+        QVERIFY(f.box().palette().color(QPalette::PlaceholderText).alpha() < 200);
         f.control->setBackcolor(propertyColor(kWindowBackground));
-        QCOMPARE(f.box().palette().color(QPalette::Base), usual);
+        QCOMPARE(f.box().palette().color(QPalette::Base), usual.color(QPalette::Base));
     }
 };
 

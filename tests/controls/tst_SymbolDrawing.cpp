@@ -4,7 +4,6 @@
 
 #include <QFontMetricsF>
 #include <QPainterPath>
-#include <QTest>
 
 #include <cmath>
 
@@ -19,7 +18,7 @@ constexpr int kNoGlyph = 9;                     // a type of symbol that has non
 tSid letter(float size, quint8 align = 30)
 {
     return {.Code = 0xd5, .Align = align, .Size_mm = size, .YwFact = 1,
-            .Facename = QStringLiteral("DejaVu Sans"), .CharSet = 238};
+            .Facename = "DejaVu Sans", .CharSet = 238};
 }
 tSid marked(quint8 type, double x, double y)
 {
@@ -87,7 +86,7 @@ class tst_SymbolDrawing : public QObject {
 private slots:
     void aLetterStandsOnItsPointAtItsSize()
     {
-        const QString o = QStringLiteral("Ő");
+        const QString o = "Ő";
         for (const View &v : views())
             for (const quint8 align : {0, 6, 2, 8, 14, 10, 24, 30, 26}) {
                 const double mm = v.zoom * v.pixelsPerMm;

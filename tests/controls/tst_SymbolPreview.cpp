@@ -7,14 +7,6 @@
 #include "support/ScriptedPrompts.h"
 #include "support/StrokeFont.h"
 
-#include <QAccessible>
-#include <QDialog>
-#include <QHBoxLayout>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
-
 using namespace QV_DOC_CONTROLS;
 using ZolWDoc::tSid;
 
@@ -27,10 +19,10 @@ struct SymbolDoc : tests::FaultyDoc {
 
 /// Both twins on a host's form, with a document that holds a symbol.
 struct Form {
-    std::unique_ptr<refhost::SqliteDoc> real = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    std::unique_ptr<refhost::SqliteDoc> real = refhost::SqliteDoc::create(":memory:");
     SymbolDoc doc{*real};
     const tests::StrokeFontHost fonts;
-    tSid symbol{.Code = 'N', .FullName = QStringLiteral("Nyíl"), .Size_mm = 4, .Facename = fonts.name(),
+    tSid symbol{.Code = 'N', .FullName = "Nyíl", .Size_mm = 4, .Facename = fonts.name(),
                 .Weight = 50, .ProtXmm = 1, .ProtType = 1, .LayId = 1, .Type = 1};
     QDialog dialog;
     usSiInfo *control = new usSiInfo(&dialog);
@@ -69,7 +61,7 @@ private slots:
     {
         Form f;
         tSid other = f.symbol;
-        other.Facename = QStringLiteral("?");
+        other.Facename = "?";
         for (SymbolPreview *c : f.all()) {
             c->setVisibleGrid(true);
             c->LetSidRec(f.symbol);
@@ -104,46 +96,42 @@ private slots:
         f.control->grab();
         f.control->setSiColor(Qt::red);
         f.control->cmdZoomOut->click();
-        QCOMPARE(f.doc.log.calls.count(QStringLiteral("symbols")), 1);
+        QCOMPARE(f.doc.log.calls.count("symbols"), 1);
         QCOMPARE(f.fonts.asked, asked);
         f.control->ShowSid();                   // the host may have another font by now
         QCOMPARE(f.fonts.asked, asked + 1);
-        f.doc.log.failNext = QStringLiteral("symbols");
+        f.doc.log.failNext = "symbols";
         QVERIFY_THROWS_EXCEPTION(tests::HostError, f.control->setSidId(f.symbol.SidId));
         QVERIFY(f.blank(f.control));
-        f.doc.log.failNext = QStringLiteral("symbols");
-        tests::ScriptedPrompts user{{{"tell", {}, QStringLiteral("symbols"), {}, Icon::Exclamation}}};
+        f.doc.log.failNext = "symbols";
+        tests::ScriptedPrompts user{{{"tell", {}, "symbols", {}, Icon::Exclamation}}};
         f.control->setProperty("SidId", 5);     // through which nothing is thrown
     }
 
     void buttonsStepTheZoomWithinItsBounds()
     {
-        struct Row {
-            double zoom;
-            bool larger;
-            int ticks;                          // 0 = clicked
-            const char *raised;
-        };
+        const std::tuple<double, bool, int, const char *> rows[] = { // larger, ticks held, raised
+            {3, false, 0, "2.5"}, {3, true, 0, "3.5"}, {3, false, 3, "2.9 2.8 2.7"}, {3, true, 2, "3.1 3.2"},
+            {0.6, false, 0, "0.2"}, {0.2, false, 0, "0.2"}, {0.45, false, 9, "0.35 0.25 0.2"},
+            {99.85, true, 9, "99.95 100"}};
         Form f;
-        for (const Row &r : {Row{3, false, 0, "2.5"}, {3, true, 0, "3.5"}, {3, false, 3, "2.9 2.8 2.7"},
-                             {3, true, 2, "3.1 3.2"}, {0.6, false, 0, "0.2"}, {0.2, false, 0, "0.2"},
-                             {0.45, false, 9, "0.35 0.25 0.2"}, {99.85, true, 9, "99.95 100"}})
+        for (const auto &[zoom, larger, ticks, raised] : rows)
             for (SymbolPreview *c : f.all()) {
                 auto &repeat = *c->findChild<QTimer *>();
-                c->setZoom(r.zoom);
-                QCOMPARE(c->Zoom(), r.zoom);
+                c->setZoom(zoom);
+                QCOMPARE(c->Zoom(), zoom);
                 f.raised.clear();
-                QToolButton *const button = r.larger ? c->cmdZoomOut : c->cmdZoomIn;
+                QToolButton *const button = larger ? c->cmdZoomOut : c->cmdZoomIn;
                 QTest::mousePress(button, Qt::LeftButton);
                 QVERIFY(repeat.isActive() && repeat.interval() == 500);
-                for (int i = 0; i < r.ticks && repeat.isActive(); ++i) { // stands still at a bound
+                for (int i = 0; i < ticks && repeat.isActive(); ++i) { // stands still at a bound
                     QTimerEvent event(repeat.timerId());
                     QCoreApplication::sendEvent(&repeat, &event);
                     QCOMPARE(repeat.interval(), 10);
                 }
                 QTest::mouseRelease(button, Qt::LeftButton);
                 QVERIFY(!repeat.isActive());
-                QCOMPARE(f.raised.join(u' '), QLatin1String(r.raised));
+                QCOMPARE(f.raised.join(u' '), raised);
             }
         f.raised.clear();
         for (const double zoom : {-1.0, double(NAN), 0.0, 1e300}) f.control->setZoom(zoom);
@@ -152,37 +140,26 @@ private slots:
 
     void everyPropertyIsKeptAndDrawn()
     {
-        struct Row {
-            const char *name;
-            QVariant value;
-            bool shows = true;
-        };
+        const std::tuple<const char *, QVariant, bool> rows[] = { // whether it shows
+            {"BackColor", 0x80000008u, true}, {"BorderStyle", 1, true}, {"Zoom", 4.1, true},
+            {"SidId", 32000, true}, {"SiColor", 0x112233u, true}, {"VisibleGrid", true, true},
+            {"VisibleZoom", false, true}, {"Appearance", 1, false}, {"VisibleProt", true, true},
+            {"VisibleFrame", true, true}, {"ToolTipSid", "ő", false}, {"ShowEnabled", false, true}};
         Form f;
-        for (const Row &r : {Row{"BackColor", 0x80000008u},
-                             {"BorderStyle", 1},
-                             {"Zoom", 4.1},
-                             {"SidId", 32000},
-                             {"SiColor", 0x112233u},
-                             {"VisibleGrid", true},
-                             {"VisibleZoom", false},
-                             {"Appearance", 1, false},
-                             {"VisibleProt", true},
-                             {"VisibleFrame", true},
-                             {"ToolTipSid", QStringLiteral("ő"), false},
-                             {"ShowEnabled", false}})
+        for (const auto &[property, value, shows] : rows)
             for (SymbolPreview *c : f.all()) {
-                const QString name = QLatin1String(r.name);
-                const bool has = c == f.control || name != QStringLiteral("ShowEnabled");
-                QVariantMap bag{{QStringLiteral("SidId"), int(f.symbol.SidId)},
-                                {QStringLiteral("BackColor"), 0xffffeeu}}; // a border shows on it
+                const QString name = property;
+                const bool has = c == f.control || name != "ShowEnabled";
+                QVariantMap bag{{"SidId", int(f.symbol.SidId)},
+                                {"BackColor", 0xffffeeu}}; // a border shows on it
                 c->SetDoc(&f.doc);
                 c->setPropertyBag(bag);
                 const QImage before = c->grab().toImage();
-                bag[name] = r.value;
+                bag[name] = value;
                 c->setPropertyBag(bag);
                 if (!has) bag.remove(name);
                 QCOMPARE(c->propertyBag(), bag);
-                QVERIFY2((c->grab().toImage() != before) == (r.shows && has), r.name);
+                QVERIFY2((c->grab().toImage() != before) == (shows && has), property);
                 c->setPropertyBag({});
                 QCOMPARE(c->propertyBag(), QVariantMap());
             }
@@ -211,14 +188,14 @@ private slots:
         QCOMPARE(surface->text(QAccessible::Name), QStringLiteral("%1 Nyíl").arg(f.symbol.SidId));
         setLanguage(English, {});
         emit LanguageHub::instance().LanguageChanged();
-        QCOMPARE(f.twin->cmdZoomIn->toolTip(), QStringLiteral("Reduce"));
-        QCOMPARE(f.control->cmdZoomIn->toolTip(), QStringLiteral("Kicsinyítés"));
+        QCOMPARE(f.twin->cmdZoomIn->toolTip(), "Reduce");
+        QCOMPARE(f.control->cmdZoomIn->toolTip(), "Kicsinyítés");
         f.dialog.hide();
         f.dialog.show();
-        QCOMPARE(f.control->cmdZoomIn->toolTip(), QStringLiteral("Reduce"));
+        QCOMPARE(f.control->cmdZoomIn->toolTip(), "Reduce");
         setLanguage(Hungarian, {});
         const int before = f.twin->cmdZoomIn->width();
-        f.twin->setFont(QFont(QStringLiteral("DejaVu Sans"), 30));
+        f.twin->setFont(QFont("DejaVu Sans", 30));
         QVERIFY(f.twin->cmdZoomIn->width() > before);
         QCOMPARE(f.control->hWnd(), f.control->childAt(8, 8)->winId());
     }

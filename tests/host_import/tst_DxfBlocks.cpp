@@ -1,7 +1,6 @@
 #include "DxfSource.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 using namespace refhost;
 using source::Dxf;
@@ -60,10 +59,8 @@ private slots:
         const QByteArray blocks = "0 BLOCK|8 0|2 inner|70 0|10 0|20 0|0 LINE|8 0|62 0|10 0|20 0|11 1|21 0|"
                                   "0 ENDBLK|0 BLOCK|8 0|2 B|70 0|10 1|20 1|";
         for (const auto &[name, content, insert, elements] : kRows) {
-            const Imported in(Dxf{.tables = kLayers + dash,
-                                  .blocks = blocks + content + "|0 ENDBLK",
-                                  .entities = QByteArray("0 INSERT|2 B|") + insert}
-                                  .bytes());
+            const Imported in(Dxf{.tables = kLayers + dash, .blocks = blocks + content + "|0 ENDBLK",
+                                  .entities = QByteArray("0 INSERT|2 B|") + insert} .bytes());
             tests::same(name, in.elements(), elements);
             tests::same(name, in.tally("INSERT").lost, 0);
         }
@@ -74,13 +71,11 @@ private slots:
         const Imported in(
             Dxf{.blocks = "0 BLOCK|8 0|2 Well|70 0|10 100|20 50|0 CIRCLE|8 0|10 103|20 50|40 2|0 ENDBLK|"
                           "0 BLOCK|8 0|2 *U1|70 1|10 0|20 0|0 LINE|8 0|10 0|20 0|11 1|21 0|0 ENDBLK",
-                .entities = "0 INSERT|8 0|2 WELL|10 0|20 0|41 3|42 3"}
-                .bytes(),
-            {0.3048, 500});
+                .entities = "0 INSERT|8 0|2 WELL|10 0|20 0|41 3|42 3"} .bytes(), {0.3048, 500});
         const auto symbols = in.doc->symbols().readAll();
         QCOMPARE(symbols.size(), size_t(2));            // the one of a new document, and the named block
         const ZolWDoc::tSid &s = symbols.back();
-        QCOMPARE(s.ShortName, QStringLiteral("Well"));
+        QCOMPARE(s.ShortName, "Well");
         QVERIFY(s.Code == 33 && s.Type == 1 && s.Align == 24 && s.Facename == in.doc->ownFontName());
         QCOMPARE(s.Size_mm, float(4 * 0.3048 * 1000 / 500));
         const ZolWDoc::Glyph glyph = in.doc->ownFont().find(s.Facename)->glyph(s.Code);
@@ -94,11 +89,9 @@ private slots:
 
     void dimensionsShowTheirBlock()
     {
-        const Imported in(
-            Dxf{.tables = kLayers,
+        const Imported in(Dxf{.tables = kLayers,
                 .blocks = "0 BLOCK|8 0|2 *D1|70 1|10 0|20 0|0 LINE|8 0|62 0|10 0|20 0|11 1|21 0|0 ENDBLK",
-                .entities = "0 DIMENSION|8 A|62 1|2 *D1|10 0|20 0|70 0|13 0|23 0|14 1|24 0"}
-                .bytes());
+                .entities = "0 DIMENSION|8 A|62 1|2 *D1|10 0|20 0|70 0|13 0|23 0|14 1|24 0"} .bytes());
         QCOMPARE(in.elements(), "Line l2 p1 0,0 1,0");
         QCOMPARE(in.doc->symbols().count(), 1);
     }
@@ -121,7 +114,7 @@ private slots:
         QCOMPARE(in.report.paperSpace, 3);
         QCOMPARE(in.report.notCarried.front(), (ImportReport::Row{"FUTURE", 2}));
         QCOMPARE(in.report.notCarried.back(), (ImportReport::Row{kindText("RAY"), 1}));
-        QVERIFY(in.report.text().contains(QStringLiteral("2  FUTURE")));
+        QVERIFY(in.report.text().contains("2  FUTURE"));
     }
 };
 

@@ -1,7 +1,6 @@
 #include "DxfSource.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include <locale>
 
@@ -100,7 +99,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString path = source::written(folder, kPoint);
-        const QString target = folder.filePath(QStringLiteral("new.qvd"));
+        const QString target = folder.filePath("new.qvd");
         for (double stopAt : {0.0, 0.3, 0.55, 1.0}) {
             ImportReport report;
             double last = -1;
@@ -113,14 +112,13 @@ private slots:
             QVERIFY(!QFile::exists(target));
         }
         ImportReport report;
-        QCOMPARE(DxfImport::into(target, path, {}, report)->info().importedFrom, QStringLiteral("plan.dxf"));
+        QCOMPARE(DxfImport::into(target, path, {}, report)->info().importedFrom, "plan.dxf");
     }
 
     void announcedCountsAreNotTrusted()
     {
         const Imported in(
-            Dxf{.entities =
-                    "0 LWPOLYLINE|8 0|90 1073741825|70 0|10 0|20 0|10 1|20 0|"
+            Dxf{.entities = "0 LWPOLYLINE|8 0|90 1073741825|70 0|10 0|20 0|10 1|20 0|"
                     "0 LWPOLYLINE|8 0|70 0|10 5|20 5|10 6|20 5|"
                     "0 SPLINE|8 0|71 1|72 -7|73 2147483647|40 0|40 0|40 1|40 1|10 0|20 0|10 8|20 0|"
                     "0 SPLINE|8 0|71 3|74 2|11 0|21 0|11 1|21 0|0 LEADER|8 0|76 99999999|10 0|20 0|10 1|20 1"}
@@ -197,9 +195,9 @@ private slots:
         QStringList notes;
         for (const ImportReport::Row &row : in.report.notes)
             notes << QString::number(row.count) + u' ' + row.text;
-        QVERIFY(notes.contains(QStringLiteral("2 vonal (LINE), a saját vonalvastagsága nélkül")));
-        QVERIFY(notes.contains(QStringLiteral("1 sraffozás (HATCH), a saját vonalvastagsága nélkül")));
-        QVERIFY(notes.contains(QStringLiteral("1 réteg a saját vonalvastagsága nélkül")));
+        QVERIFY(notes.contains("2 vonal (LINE), a saját vonalvastagsága nélkül"));
+        QVERIFY(notes.contains("1 sraffozás (HATCH), a saját vonalvastagsága nélkül"));
+        QVERIFY(notes.contains("1 réteg a saját vonalvastagsága nélkül"));
     }
 };
 

@@ -1,7 +1,6 @@
 #include "DxfSource.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include <numbers>
 
@@ -39,8 +38,7 @@ constexpr Row kShapes[] = {
      "Line l2 p-1 0,0b-1 1,0"},
     {"smoothed polyline without its frame",
      "0 POLYLINE|8 A|66 1|70 4|0 VERTEX|10 9|20 9|70 16|0 VERTEX|10 0|20 0|70 8|0 VERTEX|10 1|20 0|70 8|0 "
-     "SEQEND",
-     "Line l2 p-1 0,0 1,0"},
+     "SEQEND", "Line l2 p-1 0,0 1,0"},
     {"spatial polyline",
      "0 POLYLINE|8 A|66 1|70 8|0 VERTEX|10 0|20 0|30 1|70 32|0 VERTEX|10 1|20 0|30 2|70 32|0 SEQEND",
      "Line l2 p-1 0,0 1,0"},
@@ -120,7 +118,7 @@ private slots:
         QStringList rows;
         for (const ZolWDoc::tLay &l : in.doc->layers().readAll())
             rows << QStringLiteral("%1 %2 c%3 t%4%5").arg(l.gNr).arg(l.Name).arg(l.ScrColor).arg(l.PenStyleId)
-                        .arg(l.Visible ? QString() : QStringLiteral(" off"));
+                        .arg(l.Visible ? QString() : " off");
         QCOMPARE(rows, (QStringList{"1 Kut c5 t2", "2 0 c7 t1", "3 off c3 t2 off", "4 frozen c2 t1 off",
                                     "5 true c1 t1", "6 unlisted c7 t1"}));
         const ImportReport::Row approximated{QV_DOC_CONTROLS::txt(QV_DOC_CONTROLS::Text{30370}), 1};
@@ -133,30 +131,25 @@ private slots:
             "0 TABLE|2 LTYPE|0 LTYPE|2 ByLayer|70 0|3 |72 65|73 0|40 0|0 LTYPE|2 Continuous|70 0|3 |"
             "72 65|73 0|40 0|0 LTYPE|2 GAS|70 0|3 |72 65|73 3|40 1|49 0.5|74 0|49 -0.2|74 2|75 0|46 1|"
             "50 0|44 0|45 0|9 GAS|49 -0.3|74 0|0 ENDTAB";
-        const Imported in(
-            Dxf{.header = "9 $ACADVER|1 AC1015|9 $LTSCALE|40 10",
-                .tables = tables,
+        const Imported in(Dxf{.header = "9 $ACADVER|1 AC1015|9 $LTSCALE|40 10", .tables = tables,
                 .entities = "0 LINE|8 0|6 GAS|48 2|10 0|20 0|11 1|21 0|0 LINE|8 0|6 gas|10 0|20 0|11 1|21 0"}
-                .bytes(),
-            {0.001, 20});
+                .bytes(), {0.001, 20});
         QStringList rows;
         for (const ZolWDoc::tPenStyle &p : in.doc->lineTypes().readAll()) {
             QStringList lengths;
             for (double d : p.Pattern) lengths << source::number(d);
             rows << p.Name + u' ' + lengths.join(u'-');
         }
-        QCOMPARE(rows, (QStringList{"Continuous ", "GAS 0.25-0.25", QStringLiteral("GAS ×2 0.5-0.5")}));
+        QCOMPARE(rows, (QStringList{"Continuous ", "GAS 0.25-0.25", "GAS ×2 0.5-0.5"}));
         QCOMPARE(in.elements(), "Line l1 p-1 t3 0,0 0.001,0 | Line l1 p-1 t2 0,0 0.001,0");
     }
 
     void layerSwitchesAreOnWhereEverythingFollowsTheLayer()
     {
-        const Imported in(
-            Dxf{.tables = kStyle,
+        const Imported in(Dxf{.tables = kStyle,
                 .entities = "0 LINE|8 plain|10 0|20 0|11 1|21 0|0 LINE|8 own|62 1|10 0|20 0|11 1|21 0|"
                             "0 LINE|8 own|10 0|20 0|11 1|21 0|0 TEXT|8 own|10 0|20 0|40 1|1 a|"
-                            "0 TEXT|8 plain|62 3|10 0|20 0|40 1|1 b"}
-                .bytes());
+                            "0 TEXT|8 plain|62 3|10 0|20 0|40 1|1 b"} .bytes());
         QStringList rows;
         for (const ZolWDoc::tLay &l : in.doc->layers().readAll())
             rows << QStringLiteral("%1 %2 %3").arg(l.Name).arg(l.ElByLayer).arg(l.TxByLayer);
@@ -181,11 +174,9 @@ private slots:
 
     void aRoundEdgeOfAHatchStaysWithinItsTolerance()
     {
-        const Imported in(
-            Dxf{.entities =
+        const Imported in(Dxf{.entities =
                     "0 HATCH|8 0|10 0|20 0|30 0|2 SOLID|70 1|91 1|92 0|93 1|72 2|10 5|20 0|40 2|50 0|51 360|"
-                    "73 1|97 0|75 0|76 1"}
-                .bytes());
+                    "73 1|97 0|75 0|76 1"} .bytes());
         const auto ring = in.doc->elements().at(0).vertices;
         double area = 0;
         for (size_t i = 0; i < ring.size(); ++i) {
@@ -205,34 +196,29 @@ private slots:
 
     void aTextWiderThanItsStyleGetsATypeOfItsOwn()
     {
-        const Imported in(
-            Dxf{.tables = kStyle,
+        const Imported in(Dxf{.tables = kStyle,
                 .entities = "0 TEXT|8 0|10 0|20 0|40 1|1 a|41 0.8|0 TEXT|8 0|10 0|20 0|40 1|1 b|"
                             "0 TEXT|8 0|10 0|20 0|40 1|1 c|41 0.8|0 MTEXT|8 0|10 0|20 0|40 1|71 1|"
-                            "1 {\\fTahoma;d}"}
-                .bytes());
+                            "1 {\\fTahoma;d}"} .bytes());
         QStringList types;
         for (const ZolWDoc::tTxd &t : in.doc->textTypes().readAll())
-            types << QStringLiteral("%1 %2 %3 %4")
+            types << QString("%1 %2 %3 %4")
                          .arg(t.Name, t.Facename)
                          .arg(double(t.XwFact), 0, 'f', 1)
                          .arg(t.Weight);
-        QCOMPARE(types.first(), QStringLiteral("STANDARD Arial 1.0 0"));
-        QCOMPARE(types.at(1), QStringLiteral("STANDARD 2 Arial 0.8 0"));
-        QCOMPARE(types.at(2), QStringLiteral("STANDARD 3 Tahoma 1.0 0"));
+        QCOMPARE(types.first(), "STANDARD Arial 1.0 0");
+        QCOMPARE(types.at(1), "STANDARD 2 Arial 0.8 0");
+        QCOMPARE(types.at(2), "STANDARD 3 Tahoma 1.0 0");
         const auto all = in.doc->elements();
         QVERIFY(all[0].txdId == all[2].txdId && all[0].txdId != all[1].txdId);
     }
 
     void namesKeepTheirLetters()
     {
-        const Imported in(
-            Dxf{.header = "9 $ACADVER|1 AC1018|9 $DWGCODEPAGE|3 ANSI_1251",
-                .tables =
+        const Imported in(Dxf{.header = "9 $ACADVER|1 AC1018|9 $DWGCODEPAGE|3 ANSI_1251", .tables =
                     "0 TABLE|2 LAYER|0 LAYER|2 \xCA\xEE\xEB\xEE\xE4\xE5\xF6|70 0|62 1|6 CONTINUOUS|0 ENDTAB",
-                .entities = "0 LINE|8 \xEA\xEE\xEB\xEE\xE4\xE5\xF6|10 0|20 0|11 1|21 0"}
-                .bytes());
-        QCOMPARE(in.doc->layers().readAll().front().Name, QStringLiteral("Колодец"));
+                .entities = "0 LINE|8 \xEA\xEE\xEB\xEE\xE4\xE5\xF6|10 0|20 0|11 1|21 0"} .bytes());
+        QCOMPARE(in.doc->layers().readAll().front().Name, "Колодец");
         QCOMPARE(in.elements(), "Line l1 p-1 0,0 1,0");   // names are found in any case
     }
 };

@@ -1,7 +1,6 @@
 #include "DxfSource.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include <map>
 

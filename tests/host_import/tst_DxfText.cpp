@@ -2,7 +2,6 @@
 #include "import/RecordsOfDrawing.h"
 
 #include "support/Registry.h"
-#include "support/Same.h"
 
 using namespace refhost;
 using tests::same;

@@ -8,12 +8,6 @@
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-
 namespace tests {
 
 using namespace QV_DOC_CONTROLS;

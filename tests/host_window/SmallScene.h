@@ -2,8 +2,7 @@
 
 #include "window/ScenePainter.h"
 
-#include <QImage>
-#include <QPainter>
+#include "support/QtClasses.h"
 
 namespace tests {
 

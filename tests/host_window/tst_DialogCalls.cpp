@@ -14,11 +14,6 @@
 #include "support/Modal.h"
 #include "support/Typing.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QFile>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTreeView>
 
 using namespace tests;
@@ -133,24 +128,6 @@ private slots:
         QVERIFY(!s.call("bEdit_Layers"));
         QVERIFY(!s.layer(101).Visible);             // edits stay, also after Cancel
         QVERIFY(s.window->windowTitle().contains(u'*')); // the sample is no longer what it was
-    }
-    void anInvisibleLayerIsAskedForUnlessTheUserDoesNotWantIt()
-    {
-        Sample s;
-        ZolWDoc::tLay hidden = s.layer(103);
-        hidden.Visible = false;
-        s.doc().layers().update(hidden);
-        ScriptedPrompts user({{"yesNo", appTitle(), "Kikapcsolt réteget választott!\nMegerősíti?", false,
-                               Icon::Question}});
-        for (const qint16 expected : {101, 103}) {
-            const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
-                Sample::use(d, {2}, "cmdLays_MakeCurrent");
-                d.reject();
-            });
-            s.call("bSetup");
-            QCOMPARE(s.doc().layers().currentId(), s.layer(expected).LayId);
-            s.trigger("warn");
-        }
     }
     void whatStandsOnTheChosenLayersIsSelected()
     {

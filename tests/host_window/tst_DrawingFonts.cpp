@@ -4,8 +4,6 @@
 
 #include "support/Registry.h"
 
-#include <QTest>
-
 using namespace refhost;
 
 class tst_DrawingFonts : public QObject {

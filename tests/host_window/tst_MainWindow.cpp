@@ -7,12 +7,7 @@
 #include "facade/services/LayerFileCodePage.h"
 #include "kit/forms/AccessKeys.h"
 
-#include <QDialog>
 #include <QDockWidget>
-#include <QFile>
-#include <QMenuBar>
-#include <QTemporaryDir>
-#include <QTimer>
 
 using namespace tests;
 
@@ -109,18 +104,14 @@ private slots:
         p.doc().addElements(std::vector{point, point, point});
         p.page().refresh();
         p.view().select({0, 2});
-        Step asks{"yesNo", "Elemek törlése",
-                  "A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.", false,
-                  Icon::Question};
-        Step agreed = asks;
-        agreed.answer = true;
-        ScriptedPrompts user({asks, agreed});
+        const QString asked = "A kijelölt elemek száma: 2. Törlöd őket? A törlés nem vonható vissza.";
+        ScriptedPrompts user({{"yesNo", "Elemek törlése", asked, false, Icon::Question},
+                              {"yesNo", "Elemek törlése", asked, true, Icon::Question}});
         p.trigger("delete");
         QCOMPARE(p.doc().elementCount(), 3);
         const qint64 kept = p.doc().elements()[1].id;
         QTest::keyClick(&p.view(), Qt::Key_Delete);
-        QCOMPARE(p.doc().elementCount(), 1);
-        QCOMPARE(p.doc().elements()[0].id, kept);
+        QVERIFY(p.doc().elementCount() == 1 && p.doc().elements()[0].id == kept);
         QVERIFY(p.view().selection().empty());
         p.trigger("delete"); // nothing selected: nothing asked
     }
@@ -192,17 +183,14 @@ private slots:
         Program p;
         const QString path = newFile("b.qvd"), none = m_folder.filePath("semmi.qvd");
         const QString junk = newFile("nem.dxf", "semmi");
-        QVERIFY(p.files().openFile(path));
-        QVERIFY(p.files().openSample());
+        QVERIFY(p.files().openFile(path) && p.files().openSample());
         QString why;
         try {
             DxfImport::guessOf(junk);
         } catch (const DocumentError &e) {
             why = e.text();
         }
-        ScriptedPrompts user(
-            {saving(path),
-             failure(
+        ScriptedPrompts user({saving(path), failure(
                  "A(z) 'b.qvd' rajz egy másik lapon meg van nyitva. Zárd be ott, vagy adj meg másik nevet!"),
              failure("A(z) '" + none + "' fájl nem található. Ellenőrizd a nevét és a mappáját!"),
              failure(why)});

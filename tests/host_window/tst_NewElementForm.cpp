@@ -4,10 +4,7 @@
 #include "controls/ZOL3_LayInfo.h"
 #include "controls/usInputBox.h"
 
-#include <QComboBox>
 #include <QDockWidget>
-#include <QMenuBar>
-#include <QTemporaryDir>
 
 using namespace tests;
 

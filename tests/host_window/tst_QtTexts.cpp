@@ -5,19 +5,11 @@
 
 #include "support/Registry.h"
 
-#include <QAction>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace refhost;
 using namespace QV_DOC_CONTROLS;

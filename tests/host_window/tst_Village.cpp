@@ -3,8 +3,6 @@
 
 #include "support/Registry.h"
 
-#include <QTest>
-
 #include <cmath>
 
 using namespace refhost;
@@ -15,7 +13,7 @@ private:
     std::unique_ptr<SqliteDoc> m_doc = made();
     static std::unique_ptr<SqliteDoc> made()
     {
-        auto doc = SqliteDoc::create(QStringLiteral(":memory:"));
+        auto doc = SqliteDoc::create(":memory:");
         makeVillage(*doc);
         return doc;
     }

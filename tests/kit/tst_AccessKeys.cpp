@@ -1,6 +1,5 @@
 #include "kit/forms/AccessKeys.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
 using namespace QV_DOC_CONTROLS;
 

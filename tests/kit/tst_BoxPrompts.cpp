@@ -3,12 +3,9 @@
 #include "facade/services/Language.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include <QMessageBox>
-#include <QPushButton>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {
@@ -18,15 +15,15 @@ enum Kind { YesNo, All, Cancel };
 
 QString answered(Kind kind, Icon icon)
 {
-    const Message question{icon, QStringLiteral("Réteg törlés"), QStringLiteral("Törlöd?")};
-    const auto said = [](bool yes) { return yes ? QStringLiteral("yes") : QStringLiteral("no"); };
+    const Message question{icon, "Réteg törlés", "Törlöd?"};
+    const auto said = [](bool yes) { return yes ? "yes" : "no"; };
     if (kind == YesNo) return said(prompts().yesNo(question));
     if (kind == Cancel) {
         const auto answer = prompts().yesNoCancel(question);
-        return answer ? said(*answer) : QStringLiteral("cancelled");
+        return answer ? said(*answer) : "cancelled";
     }
     const AllYesNo answer = prompts().allYesNo(question);
-    return answer == AllYesNo::All ? QStringLiteral("all") : said(answer == AllYesNo::Yes);
+    return answer == AllYesNo::All ? "all" : said(answer == AllYesNo::Yes);
 }
 Act press(Qt::Key key)
 {

@@ -3,9 +3,7 @@
 #include "support/OwnStore.h"
 #include "support/Registry.h"
 
-#include <QHeaderView>
 #include <QTreeWidget>
-#include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
 

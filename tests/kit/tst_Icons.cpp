@@ -1,12 +1,6 @@
 #include "kit/tools/Icons.h"
 #include "support/Registry.h"
 
-#include <QApplication>
-#include <QImage>
-#include <QPainter>
-#include <QPalette>
-#include <QtTest/qtest.h>
-
 using namespace QV_DOC_CONTROLS;
 
 class tst_Icons : public QObject {

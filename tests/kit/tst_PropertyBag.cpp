@@ -3,9 +3,6 @@
 #include "support/Registry.h"
 
 #include <QFont>
-#include <QPalette>
-#include <QWidget>
-#include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
 

@@ -3,8 +3,7 @@
 #include "kit/paper/SheetPainter.h"
 #include "paper/SampleSheet.h"
 
-#include <QImage>
-#include <QPainter>
+#include "support/QtClasses.h"
 
 namespace tests {
 

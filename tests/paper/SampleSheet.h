@@ -29,8 +29,8 @@ struct SampleSheet : QV_DOC_CONTROLS::SheetSource {
     void outline(const QString &letters)
     {
         for (QChar c : letters) {
-            if (c.isDigit()) band(c.digitValue(), QStringLiteral("band"));
-            else record({c == u'r' ? QStringLiteral("1") : QStringLiteral("many words ").repeated(12)});
+            if (c.isDigit()) band(c.digitValue(), "band");
+            else record({c == u'r' ? "1" : QStringLiteral("many words ").repeated(12)});
         }
     }
     std::vector<Column> sheetColumns() const override { return columns; }

@@ -4,15 +4,9 @@
 #include "kit/paper/PageSetup.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
-#include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {

@@ -2,11 +2,9 @@
 
 #include "paper/SamplePaper.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include <set>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {

@@ -5,14 +5,9 @@
 #include "paper/SamplePaper.h"
 #include "support/Looks.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QPdfWriter>
-#include <QTemporaryDir>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {

@@ -4,7 +4,6 @@
 #include "paper/SampleSheet.h"
 #include "support/Registry.h"
 
-#include <QTest>
 #include <QTextDocument>
 
 using namespace QV_DOC_CONTROLS;
@@ -39,8 +38,7 @@ private slots:
         read.setHtml(html);
         QVERIFY(read.toPlainText().contains("Road <a&b>"));
         QCOMPARE(html.count("<tr>"), 4);
-        QVERIFY(html.contains("background:#000000;color:#ffffff\">1</td>"));
-        QVERIFY(html.contains("colspan=\"3\""));
+        QVERIFY(html.contains("background:#000000;color:#ffffff\">1</td>") && html.contains("colspan=\"3\""));
     }
 };
 QVDC_TEST(tst_copySheet)

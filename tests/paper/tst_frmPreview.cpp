@@ -10,16 +10,9 @@
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QFile>
-#include <QLabel>
 #include <QPdfWriter>
-#include <QPushButton>
 #include <QSpinBox>
-#include <QTemporaryDir>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {

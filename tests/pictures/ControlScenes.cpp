@@ -32,7 +32,7 @@ void addLayerSets(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
 {
     auto &group = on<ZOL3_LayGroup>(form);
     group.setZOLW_Doc(&doc);
-    group.setsLays(QStringLiteral("101-105,110,120-139"));
+    group.setsLays("101-105,110,120-139");
     auto &line = on<ZOL3_LayGroup>(form);
     line.setSingleLine(true);
     line.setWidthDiferent(600);
@@ -44,22 +44,20 @@ void addLayerSets(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
     array.SetLayArr(doc.layers().readAll());
 }
 
+ZOL3_LayInfo &picker(QDialog &form, ZolWDoc::ZOLW_Doc &doc, qint16 number)
+{
+    auto &layer = on<ZOL3_LayInfo>(form);
+    layer.setoDoc(&doc);
+    layer.LetLayNr(number, 0);
+    return layer;
+}
+
 void addLayerPickers(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
 {
-    for (const bool icon : {false, true}) {
-        auto &layer = on<ZOL3_LayInfo>(form);
-        layer.setVisibleIcon(icon);
-        layer.setoDoc(&doc);
-        layer.LetLayNr(icon ? 105 : 101, 0);
-    }
-    auto &shown = on<ZOL3_LayInfo>(form);
-    shown.setInfoMode(true);
-    shown.setoDoc(&doc);
-    shown.LetLayNr(107, 0);
-    auto &disabled = on<ZOL3_LayInfo>(form);
-    disabled.setEnabled(false);
-    disabled.setoDoc(&doc);
-    disabled.LetLayNr(102, 0);
+    picker(form, doc, 101);
+    picker(form, doc, 105).setVisibleIcon(true);
+    picker(form, doc, 107).setInfoMode(true);
+    picker(form, doc, 102).setEnabled(false);
 }
 
 usInputBox &number(QDialog &form, const char *caption)
@@ -67,7 +65,7 @@ usInputBox &number(QDialog &form, const char *caption)
     auto &box = on<usInputBox>(form);
     box.setLocale(interfaceLocale());
     box.setInputType(3);
-    box.setFormatString(QStringLiteral("#,##0.00"));
+    box.setFormatString("#,##0.00");
     box.LetValue(0.35, 0, 100);
     box.setBeforeString(QLatin1String(caption));
     box.setUpDownVisible(true);
@@ -78,7 +76,7 @@ void addNumbers(QDialog &form)
 {
     number(form, "Value =");
     number(form, "Disabled").setEnabled(false);
-    number(form, "Refused").txtCombo->lineEdit()->setText(QStringLiteral("101"));
+    number(form, "Refused").txtCombo->lineEdit()->setText("101");
     auto &listed = number(form, "Listed, framed");
     listed.ComboValue(0.5);
     listed.setBorderStyle(1);
@@ -89,28 +87,23 @@ void addNumbers(QDialog &form)
     shown.setInfoMode(true);
 }
 
-struct Preview {
-    SymbolPreview *control;
-    ZolWDoc::tSid symbol;
-};
-
-void addPreviews(QGridLayout &grid, ZolWDoc::ZOLW_Doc &doc)
+void addPreviews(QDialog &form, QGridLayout &grid, ZolWDoc::ZOLW_Doc &doc)
 {
-    const ZolWDoc::tSid letter{.Code = 0xd5, .FullName = QStringLiteral("Ő"), .Align = 30, .Size_mm = 6,
-                               .YwFact = 1, .Facename = QStringLiteral("DejaVu Sans"), .CharSet = 238,
-                               .ProtXmm = 4, .ProtYmm = 0.5, .ProtType = 1};
+    const ZolWDoc::tSid letter{.Code = 0xd5, .FullName = "Ő", .Align = 30, .Size_mm = 6, .YwFact = 1,
+                               .Facename = "DejaVu Sans", .CharSet = 238, .ProtXmm = 4, .ProtYmm = 0.5,
+                               .ProtType = 1};
     ZolWDoc::tSid strokes = letter, box = letter;
-    strokes.Type = 1, strokes.Code = 'N', strokes.Facename = QStringLiteral("Strokes"), strokes.Weight = 60;
+    strokes.Type = 1, strokes.Code = 'N', strokes.Facename = "Strokes", strokes.Weight = 60;
     strokes.ProtType = 3;
     box.ProtType = 2, box.Align = 0;
-    auto *const dimmed = new usSiInfo;
+    auto *const dimmed = new usSiInfo(&form);
     dimmed->setShowEnabled(false);
-    auto *const desktop = new ZOL3_SiInfo;
+    auto *const desktop = new ZOL3_SiInfo(&form);
     desktop->setBackColor(propertyColor(kWindowBackground));
     desktop->setSiColor(propertyColor(kWindowText));
     desktop->setVisibleFrame(true);
-    const Preview all[] = {
-        {new usSiInfo, letter}, {new ZOL3_SiInfo, strokes}, {desktop, box}, {dimmed, letter}};
+    const std::pair<SymbolPreview *, ZolWDoc::tSid> all[] = {
+        {new usSiInfo(&form), letter}, {new ZOL3_SiInfo(&form), strokes}, {desktop, box}, {dimmed, letter}};
     int place = 0;
     for (const auto &[control, symbol] : all) {
         control->setBorderStyle(1);
@@ -124,29 +117,23 @@ void addPreviews(QGridLayout &grid, ZolWDoc::ZOLW_Doc &doc)
     }
 }
 
-void takePreviews(ZolWDoc::ZOLW_Doc &doc, tests::Sheet &sheet)
+void addAlignments(QDialog &form, QGridLayout &grid)
 {
-    const tests::StrokeFontHost fonts;
-    QDialog form;
-    auto *const grid = new QGridLayout(&form);
-    addPreviews(*grid, doc);
-    form.resize(sheet.pictures.front().deviceIndependentSize().toSize());
-    form.show();
-    sheet.take(form);
+    int place = 0;
+    for (const int number : {24, 2, 14, 255}) { // the last is none
+        auto *const picker = new usTxAlign(&form);
+        picker->setAlign(number);
+        picker->setEnabled(place != 1);
+        grid.addWidget(picker, place / 2, place % 2);
+        if (++place == 1) picker->setFocus();
+    }
 }
 
-void takeAlignments(tests::Sheet &sheet)
+/// Four controls, on a form as large as the first picture.
+void takeFour(tests::Sheet &sheet, const std::function<void(QDialog &, QGridLayout &)> &add)
 {
     QDialog form;
-    auto *const grid = new QGridLayout(&form);
-    constexpr int numbers[] = {24, 2, 14, 255}; // the last is none
-    for (int i = 0; i < 4; ++i) {
-        auto *const picker = new usTxAlign(&form);
-        picker->setAlign(numbers[i]);
-        picker->setEnabled(i != 1);
-        grid->addWidget(picker, i / 2, i % 2);
-        if (i == 0) picker->setFocus();
-    }
+    add(form, *new QGridLayout(&form));
     form.resize(sheet.pictures.front().deviceIndependentSize().toSize());
     form.show();
     QApplication::setActiveWindow(&form);
@@ -165,6 +152,7 @@ void tests::takeControls(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
     form.resize(460, form.sizeHint().height());
     form.show();
     sheet.take(form);
-    takePreviews(doc, sheet);
-    takeAlignments(sheet);
+    const StrokeFontHost fonts;
+    takeFour(sheet, [&](QDialog &four, QGridLayout &grid) { addPreviews(four, grid, doc); });
+    takeFour(sheet, addAlignments);
 }

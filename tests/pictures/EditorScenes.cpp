@@ -4,8 +4,6 @@
 #include "dialogs/editors/frmEditSid.h"
 #include "dialogs/editors/frmSupSid.h"
 #include "document/SqliteDoc.h"
-#include "facade/services/Services.h"
-#include "fonts/StrokeFonts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,20 +16,11 @@ using ZolWDoc::tSid;
 
 namespace {
 
-struct Host final : ZolWDoc::HostServices {
-    refhost::StrokeFonts fonts;
-    Host() { setHostServices(this); }
-    ~Host() override { setHostServices(nullptr); }
-    ZolWDoc::VectorFontProvider *vectorFonts(const ZolWDoc::ZOLW_Doc *) override { return &fonts; }
-};
-
 tSid letter(const char *name, const char *face, qint32 code)
 {
-    tSid s;
-    s.ShortName = QString::fromUtf8(name), s.FullName = s.ShortName + QStringLiteral(" – geodézia");
-    s.Facename = QString::fromUtf8(face), s.CharSet = 238, s.Code = code;
-    s.Size_mm = 5, s.YwFact = s.XwFact = 1, s.Align = 24, s.DspZoom = 6, s.LayId = 1, s.GroupId = 1;
-    return s;
+    return {.GroupId = 1, .Code = code, .ShortName = name, .FullName = QString(name) + " – geodézia",
+            .Align = 24, .Size_mm = 5, .YwFact = 1, .XwFact = 1, .Facename = face, .CharSet = 238,
+            .DspZoom = 6, .LayId = 1};
 }
 tSid sign(const char *name, qint32 code)
 {
@@ -40,36 +29,30 @@ tSid sign(const char *name, qint32 code)
     return s;
 }
 
+void marked(frmEditSid &f, int type, double x, double y)
+{
+    f.cboProtType->setCurrentIndex(type);
+    f.usNumProtParam1->setValue(x);
+    f.usNumProtParam2->setValue(y);
+}
 struct EditorState {
-    const char *name;
     tSid symbol;
     void (*make)(frmEditSid &);
 };
 const EditorState kStates[] = {
-    {"letter", letter("Kút", "DejaVu Sans", 0x151), [](frmEditSid &) {}},
-    {"sign", sign("Fa", 66),
-     [](frmEditSid &f) {
-         f.cboProtType->setCurrentIndex(3);
-         f.usNumProtParam1->setValue(4);
-         f.usNumProtParam2->setValue(0.5);
-         f.chkGrid->setChecked(true);
-     }},
-    {"unknown face", letter("Alappont", "ZolW_DAT1_M2", 33),
-     [](frmEditSid &f) {
-         f.cboProtType->setCurrentIndex(2);
-         f.usNumProtParam1->setValue(12);
-         f.usNumProtParam2->setValue(8.5);
-     }},
+    {letter("Kút", "DejaVu Sans", 0x151), [](frmEditSid &) {}},
+    {sign("Fa", 66), [](frmEditSid &f) { marked(f, 3, 4, 0.5), f.chkGrid->setChecked(true); }},
+    {letter("Alappont", "ZolW_DAT1_M2", 33), [](frmEditSid &f) { marked(f, 2, 12, 8.5); }}, // unknown face
 };
 
 /// Three groups, one of them empty, with letters and signs.
 std::unique_ptr<refhost::SqliteDoc> drawing()
 {
-    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    auto doc = refhost::SqliteDoc::create(":memory:");
     ZolWDoc::SymbolRole &symbols = doc->symbols();
     const qint16 ground = symbols.groups().readAll()[0].GroupId;
-    const qint16 trees = symbols.groups().add(QStringLiteral("Fák és cserjék"));
-    symbols.groups().add(QStringLiteral("Vasút"));
+    const qint16 trees = symbols.groups().add("Fák és cserjék");
+    symbols.groups().add("Vasút");
     for (int i = 0; i < 46; ++i) {
         tSid s = i % 3 ? letter("Kút", "DejaVu Sans", 0x2600 + i) : sign("Alappont", 65 + i / 3);
         s.SidId = qint16(1000 + i), s.GroupId = i < 38 ? ground : trees;
@@ -107,7 +90,7 @@ void takeManager(tests::Sheet &sheet)
 
 void tests::takeEditors(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
 {
-    const Host host;
+    const StrokeHost host;
     for (const EditorState &state : kStates) {
         frmEditSid form;
         form.Init(doc, state.symbol);

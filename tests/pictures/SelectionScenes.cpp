@@ -21,7 +21,7 @@ namespace {
 
 constexpr QSize kDialog(960, 560);
 
-Grid &itemsOf(frmSelect &d) { return *d.findChild<Grid *>(QStringLiteral("gridItems")); }
+Grid &itemsOf(frmSelect &d) { return *d.findChild<Grid *>("gridItems"); }
 
 void group(Grid &grid, std::initializer_list<SortKey> levels) { grid.setGroupLevels(std::vector(levels)); }
 
@@ -41,8 +41,7 @@ const State kStates[] = {
          group(itemsOf(d), {{kLineType}, {kVisible, SortOrder::Descending}});
          itemsOf(d).toggleBandOf(itemsOf(d).currentRow());
      }},
-    {"filtered",
-     [](frmSelect &d) { group(itemsOf(d), {}), itemsOf(d).setFilterText(QStringLiteral("patak")); }},
+    {"filtered", [](frmSelect &d) { group(itemsOf(d), {}), itemsOf(d).setFilterText("patak"); }},
     {"cards", [](frmSelect &d) { itemsOf(d).setFilterText({}), itemsOf(d).setView(GridView::Card); }},
     {"compact cards", [](frmSelect &d) { itemsOf(d).setView(GridView::CardMin); }},
     {"grouped cards",
@@ -56,7 +55,7 @@ QStringList cutCaptionsOf(frmSelect &d)
     const auto &header = *itemsOf(d).findChild<GridHeader *>();
     for (int c : itemsOf(d).shownColumns())
         if (header.sectionSize(c) < header.sectionSizeHint(c))
-            cut << QStringLiteral("caption cut off: ") + itemsOf(d).columns()[size_t(c)].caption;
+            cut << "caption cut off: " + itemsOf(d).columns()[size_t(c)].caption;
     return cut;
 }
 
@@ -74,7 +73,7 @@ void takeStates(frmSelect &d, tests::Sheet &sheet)
         sheet.take(*preview);
         preview->reject();
     });
-    d.findChild<QAction *>(QStringLiteral("miPrintPreview"))->trigger();
+    d.findChild<QAction *>("miPrintPreview")->trigger();
     d.reject();
 }
 

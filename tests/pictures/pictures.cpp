@@ -24,41 +24,27 @@ constexpr char kScreen[] =
 
 std::unique_ptr<refhost::SqliteDoc> sample()
 {
-    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    auto doc = refhost::SqliteDoc::create(":memory:");
     const char *const names[] = {"Földrészlet határ", "Lakóépület",      "Melléképület",
                                  "Kerítés",           "Út burkolatszél", "Vezeték – gáz",
-                                 "Vezeték – víz",     "Szintvonal",      "Patak",
-                                 "Alappont"};
+                                 "Vezeték – víz",     "Szintvonal",      "Patak", "Alappont"};
     for (qint16 i = 0; i < 40; ++i)
-        doc->layers().add({.gNr = qint16(101 + i),
-                           .Name = QString::fromUtf8(names[i % 10]) + QStringLiteral(" %1").arg(i / 10),
-                           .Visible = i % 4 != 3,
-                           .PenStyleId = qint16(1 + i % 3),
-                           .ScrColor = qint16(i * 6),
-                           .PrnColor = qint16(i),
-                           .PenColorId = qint16(i * 6),
-                           .TxdId = 1,
+        doc->layers().add({.gNr = qint16(101 + i), .Name = QString("%1 %2").arg(names[i % 10]).arg(i / 10),
+                           .Visible = i % 4 != 3, .PenStyleId = qint16(1 + i % 3), .ScrColor = qint16(i * 6),
+                           .PrnColor = qint16(i), .PenColorId = qint16(i * 6), .TxdId = 1,
                            .ElByLayer = i % 2 == 0});
     for (qint16 i = 0; i < 12; ++i)
-        doc->symbols().add({.Code = 65 + 3 * i,
-                            .ShortName = QString::fromUtf8(names[i % 10]) + QString::number(i),
-                            .Align = 6,
-                            .Size_mm = 2.0f + float(i) / 4,
-                            .YwFact = 1,
-                            .XwFact = 1,
-                            .Facename = QStringLiteral("DejaVu Sans"),
-                            .Weight = 16,
-                            .CharSet = 238,
-                            .ProtXmm = 1,
-                            .ProtType = 1,
-                            .LayId = i});
+        doc->symbols().add({.Code = 65 + 3 * i, .ShortName = QString("%1%2").arg(names[i % 10]).arg(i),
+                            .Align = 6, .Size_mm = 2.0f + float(i) / 4, .YwFact = 1, .XwFact = 1,
+                            .Facename = "DejaVu Sans", .Weight = 16, .CharSet = 238,
+                            .ProtXmm = 1, .ProtType = 1, .LayId = i});
     return doc;
 }
 
 /// The platform without a display, with a screen that every dialog fits on.
 void prepareScreen(const QTemporaryDir &home, const char *scale)
 {
-    const QString screen = home.filePath(QStringLiteral("screen.json"));
+    const QString screen = home.filePath("screen.json");
     QFile file(screen);
     if (!file.open(QIODevice::WriteOnly) || file.write(kScreen) < 0) qFatal("no screen");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screen));
@@ -86,11 +72,9 @@ struct SheetRow {
     void (*take)(ZolWDoc::ZOLW_Doc &, tests::Sheet &);
 };
 constexpr SheetRow kSheets[] = {
-    {"controls", tests::takeControls},
-    {"editors", tests::takeEditors},
-    {"fonts", takeScenes<tests::fontScenes>},
-    {"select", tests::takeSelection},
-    {"values", takeScenes<tests::valueScenes>}};
+    {"controls", tests::takeControls}, {"editors", tests::takeEditors},
+    {"fonts", takeScenes<tests::fontScenes>}, {"select", tests::takeSelection},
+    {"values", takeScenes<tests::valueScenes>}, {"viewtools", takeScenes<tests::viewToolScenes>}};
 
 /// One language in one palette; false when a flaw was found.
 bool takeSheets(ZolWDoc::ZOLW_Doc &doc, const QString &folder, const QString &variant)
@@ -116,8 +100,8 @@ int main(int argc, char **argv)
     const char *const scale = argc > 2 ? argv[2] : "1";
     prepareScreen(home, scale);
     QApplication app(argc, argv);
-    app.setStyle(QStringLiteral("Fusion"));
-    const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("out");
+    app.setStyle("Fusion");
+    const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : "out";
     QDir().mkpath(folder);
     const auto doc = sample();
     bool flawless = true;
@@ -126,8 +110,7 @@ int main(int argc, char **argv)
         for (const bool dark : {false, true}) {
             setLanguage(language, {});
             app.setPalette(dark ? tests::darkPalette() : app.style()->standardPalette());
-            flawless &= takeSheets(
-                *doc, folder,
+            flawless &= takeSheets(*doc, folder,
                 QStringLiteral("-%1-%2-x%3.png").arg(QLatin1String(name), dark ? "dark" : "light", scale));
         }
     return flawless ? 0 : 1;

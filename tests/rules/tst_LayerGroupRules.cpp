@@ -2,9 +2,7 @@
 #include "rules/LayerGroupRules.h"
 #include "support/Registry.h"
 
-#include <QTest>
-
-using namespace QV_DOC_CONTROLS;
+using namespace tests;
 using namespace ZolWDoc;
 using Members = std::vector<tLayMember>;
 
@@ -16,10 +14,8 @@ private slots:
     void noLayerIsLeftWithoutAGroup()
     {
         const tLayMember members[] = {{1, 10}, {1, 11}, {2, 10}, {3, 12}};
-        QVERIFY(!canDeleteGroup(1, members));
-        QVERIFY(canDeleteGroup(2, members));
-        QVERIFY(!canDeleteGroup(3, members));
-        QVERIFY(canDeleteGroup(4, members));            // an empty group
+        QVERIFY(!canDeleteGroup(1, members) && !canDeleteGroup(3, members));
+        QVERIFY(canDeleteGroup(2, members) && canDeleteGroup(4, members)); // the last is empty
     }
 
     void layersJoinOrMove()
@@ -33,33 +29,23 @@ private slots:
                  (Members{{-1, -1}, {-1, 1}, {1, -1}}));
     }
 
-    void theSystemGroupIsKnownInEveryLanguage_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("known");
-        QTest::newRow("hu") << "RENDSZER" << true;
-        QTest::newRow("en") << "SYSTEM" << true;
-        QTest::newRow("ro") << "SISTEM" << true;
-        QTest::newRow("vi") << "HỆ THỐNG" << true;
-        QTest::newRow("the user's") << "Rendszer" << false;
-    }
     void theSystemGroupIsKnownInEveryLanguage()
     {
-        QFETCH(QString, name);
-        QFETCH(bool, known);
         setLanguage(English, {});
-        const tGroup groups[] = {{4, QStringLiteral("Utak")}, {7, name}, {9, QStringLiteral("MIND")}};
-        QCOMPARE(systemGroupIn(groups), known ? std::optional(qint16(7)) : std::nullopt);
+        for (const auto &[name, id] : {std::pair("RENDSZER", 7), {"SYSTEM", 7}, {"SISTEM", 7},
+                                       {"HỆ THỐNG", 7}, {"Rendszer", -1}}) { // the last is the user's
+            const tGroup groups[] = {{4, "Utak"}, {7, name}, {9, "MIND"}};
+            same(name, int(systemGroupIn(groups).value_or(-1)), id);
+        }
     }
 
     void groupNamesAreUnique()
     {
-        const tGroup groups[] = {{4, QStringLiteral("Utak")}, {7, QStringLiteral("Utak_2")}};
-        QCOMPARE(freeGroupName(QStringLiteral("Utak"), groups), QStringLiteral("Utak_3"));
-        QCOMPARE(freeGroupName(QStringLiteral("utak"), groups), QStringLiteral("utak"));
-        QVERIFY(isGroupNameTaken(QStringLiteral("Utak"), 7, groups));
-        QVERIFY(!isGroupNameTaken(QStringLiteral("Utak"), 4, groups));
-        QVERIFY(isGroupNameTaken(QStringLiteral("MIND"), 4, groups)); // would look like the row of all layers
+        const tGroup groups[] = {{4, "Utak"}, {7, "Utak_2"}};
+        QCOMPARE(freeGroupName("Utak", groups), "Utak_3");
+        QCOMPARE(freeGroupName("utak", groups), "utak");
+        QVERIFY(isGroupNameTaken("Utak", 7, groups) && !isGroupNameTaken("Utak", 4, groups));
+        QVERIFY(isGroupNameTaken("MIND", 4, groups)); // would look like the row of all layers
     }
 };
 

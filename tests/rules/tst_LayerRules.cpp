@@ -3,9 +3,7 @@
 #include "rules/LayerRules.h"
 #include "support/Registry.h"
 
-#include <QTest>
-
-using namespace QV_DOC_CONTROLS;
+using namespace tests;
 using namespace ZolWDoc;
 
 namespace {
@@ -14,13 +12,13 @@ tLayArr layers(std::initializer_list<std::pair<qint16, const char *>> rows)
 {
     tLayArr all;
     for (const auto &[nr, name] : rows)
-        all.push_back({.LayId = qint16(all.size() + 1), .gNr = nr, .Name = QString::fromUtf8(name)});
+        all.push_back({.LayId = qint16(all.size() + 1), .gNr = nr, .Name = name});
     return all;
 }
 QString numbers(const std::optional<tLayArr> &all)
 {
     QStringList out;
-    if (!all) return QStringLiteral("refused");
+    if (!all) return "refused";
     for (const tLay &l : *all) out << QString::number(l.gNr);
     return out.join(u' ');
 }
@@ -32,84 +30,58 @@ class tst_LayerRules : public QObject {
 private slots:
     void init() { setLanguage(Hungarian, {}); }
 
-    void copiesGetAFreeNumberAndName_data()
-    {
-        QTest::addColumn<int>("growth");
-        QTest::addColumn<QString>("outcome");
-        const QString refused =
-            QStringLiteral("A(z) 10 sorszámú rétegről nem lehet másolatot csinálni %1 sorszámmal!");
-        QTest::newRow("free") << 5 << QStringLiteral("15 Út_15");
-        QTest::newRow("name taken too") << 20 << QStringLiteral("30 Út_30_2");
-        QTest::newRow("number taken") << 10 << QStringLiteral("A(z) 20 sorszámú réteg már van !");
-        QTest::newRow("highest") << 31990 << QStringLiteral("32000 Út_32000");
-        QTest::newRow("beyond") << 31991 << refused.arg(32001);
-        QTest::newRow("below the first") << -10 << refused.arg(0);
-    }
     void copiesGetAFreeNumberAndName()
     {
-        QFETCH(int, growth);
-        QFETCH(QString, outcome);
+        const QString refused = "A(z) 10 sorszámú rétegről nem lehet másolatot csinálni %1 sorszámmal!";
+        const std::tuple<const char *, int, QString> rows[] = {
+            {"free", 5, "15 Út_15"},
+            {"name taken too", 20, "30 Út_30_2"},
+            {"number taken", 10, "A(z) 20 sorszámú réteg már van !"},
+            {"highest", 31990, "32000 Út_32000"},
+            {"beyond", 31991, refused.arg(32001)},
+            {"below the first", -10, refused.arg(0)}};
         const tLayArr all = layers({{10, "Út"}, {20, "B"}, {21, "Út_30"}});
-        const auto copy = copyOf(all[0], growth, TakenLayers(all));
-        const auto *const lay = std::get_if<tLay>(&copy);
-        QCOMPARE(lay ? QString::number(lay->gNr) + u' ' + lay->Name : std::get<QString>(copy), outcome);
+        for (const auto &[name, growth, outcome] : rows) {
+            const auto copy = copyOf(all[0], growth, TakenLayers(all));
+            const auto *const lay = std::get_if<tLay>(&copy);
+            same(name, lay ? QString::number(lay->gNr) + u' ' + lay->Name : std::get<QString>(copy), outcome);
+        }
     }
 
     void newLayersFollowTheHighest()
     {
         QCOMPARE(newLayer({}, tLay{})->gNr, qint16(1));
-        const tLayArr all = layers({{7, "Az_új_réteg_neve"}, {3, "B"}});
-        const auto made = newLayer(all, {.LayId = 5, .PenStyleId = 4});
-        QCOMPARE(made->gNr, qint16(8));
-        QCOMPARE(made->Name, QStringLiteral("Az_új_réteg_neve_2"));
-        QCOMPARE(made->LayId, qint16(-1));
-        QCOMPARE(made->PenStyleId, qint16(4));
+        const auto made =
+            newLayer(layers({{7, "Az_új_réteg_neve"}, {3, "B"}}), {.LayId = 5, .PenStyleId = 4});
+        QCOMPARE(*made, (tLay{.gNr = 8, .Name = "Az_új_réteg_neve_2", .PenStyleId = 4}));
         QVERIFY(!newLayer(layers({{32767, "A"}}), tLay{}));
     }
 
-    void renumberingNeverCollides_data()
-    {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("growth");
-        QTest::addColumn<QString>("outcome");
-        QTest::newRow("free") << 100 << 10 << QStringLiteral("100 110");
-        QTest::newRow("a permutation of the selection") << 2 << -1 << QStringLiteral("2 1");
-        QTest::newRow("onto a layer outside") << 2 << 1 << QStringLiteral("refused");
-        QTest::newRow("the same number twice") << 9 << 0 << QStringLiteral("refused");
-        QTest::newRow("past the end") << 32767 << 1 << QStringLiteral("refused");
-        QTest::newRow("up to the end") << 32766 << 1 << QStringLiteral("32766 32767");
-        QTest::newRow("far past the end") << 32767 << 2147483647 << QStringLiteral("refused");
-    }
     void renumberingNeverCollides()
     {
-        QFETCH(int, start);
-        QFETCH(int, growth);
-        QFETCH(QString, outcome);
+        const std::tuple<const char *, int, int, const char *> rows[] = {
+            {"free", 100, 10, "100 110"},
+            {"a permutation of the selection", 2, -1, "2 1"},
+            {"onto a layer outside", 2, 1, "refused"},
+            {"the same number twice", 9, 0, "refused"},
+            {"past the end", 32767, 1, "refused"},
+            {"up to the end", 32766, 1, "32766 32767"},
+            {"far past the end", 32767, 2147483647, "refused"}};
         const tLayArr all = layers({{1, "A"}, {2, "B"}, {3, "C"}});
-        QCOMPARE(numbers(renumbered(std::span(all).first(2), start, growth, all)), outcome);
+        for (const auto &[name, start, growth, outcome] : rows)
+            same(name, numbers(renumbered(std::span(all).first(2), start, growth, all)), outcome);
     }
 
-    void prefixesAreCutAtTheFirstDash_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("anyPrefix");
-        QTest::addColumn<QString>("numbersOnly");
-        QTest::newRow("number") << "12-Út" << "Út" << "Út";
-        QTest::newRow("number in the wide sense") << " +1.5 - Út " << "Út" << "Út";
-        QTest::newRow("letters") << "A-Út" << "Út" << "A-Út";
-        QTest::newRow("no dash") << "Út" << "Út" << "Út";
-        QTest::newRow("dash first") << "-Út" << "-Út" << "-Út";
-        QTest::newRow("nothing behind") << "12-  " << "12-  " << "12-  ";
-        QTest::newRow("only the first dash") << "1-2-Út" << "2-Út" << "2-Út";
-        QTest::newRow("exponents are letters") << "1e2-Út" << "Út" << "1e2-Út";
-    }
     void prefixesAreCutAtTheFirstDash()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, anyPrefix);
-        QFETCH(QString, numbersOnly);
-        QCOMPARE(withoutPrefix(name, false), anyPrefix);
-        QCOMPARE(withoutPrefix(name, true), numbersOnly);
+        constexpr const char *rows[][3] = { // a name, without any prefix, without one that is a number
+            {"12-Út", "Út", "Út"}, {" +1.5 - Út ", "Út", "Út"}, {"A-Út", "Út", "A-Út"}, {"Út", "Út", "Út"},
+            {"-Út", "-Út", "-Út"}, {"12-  ", "12-  ", "12-  "}, {"1-2-Út", "2-Út", "2-Út"},
+            {"1e2-Út", "Út", "1e2-Út"}};
+        for (const auto &[name, anyPrefix, numbersOnly] : rows) {
+            same(name, withoutPrefix(name, false), anyPrefix);
+            same(name, withoutPrefix(name, true), numbersOnly);
+        }
     }
 
     void prefixesAreCutOneLayerAfterTheOther()
@@ -119,7 +91,7 @@ private slots:
         const ShorterNames names = withoutPrefixes(all, false, TakenLayers(all));
         // The third takes the name that the first has given up; the last finds it taken again.
         QCOMPARE(names.lines, (QStringList{"'1-A' ---> 'A'", "'B-1-A' ---> '1-A'"}));
-        QCOMPARE(numbers(names.changed), QStringLiteral("1 3"));
+        QCOMPARE(numbers(names.changed), "1 3");
         QCOMPARE(names.taken, 3);
     }
 
@@ -151,8 +123,8 @@ private slots:
                 if (!l.Visible) out += l.Name;
             return out;
         };
-        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByNumber).layers), QStringLiteral("AB"));
-        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByName).layers), QStringLiteral("B"));
+        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByNumber).layers), "AB");
+        QCOMPARE(hidden(withVisibilityOf(saved, all, LayerMatch::ByName).layers), "B");
     }
 };
 

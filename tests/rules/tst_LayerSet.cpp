@@ -2,10 +2,7 @@
 #include "rules/Numeric.h"
 #include "support/Registry.h"
 
-#include <QRandomGenerator>
-#include <QTest>
-
-#include <algorithm>
+#include <array>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -66,9 +63,9 @@ private slots:
             {"32767.4", "32767"}, {"32767.5", ""}, {"-32768.5", "-32768"}, {"-32769", ""}, {"70000", ""},
             {endless.constData(), ""}};
         for (const auto &[text, is] : numbers) {
-            QVERIFY2(isNumeric(QString::fromLatin1(text)), text);
-            const auto value = shortValue(QString::fromLatin1(text));
-            QCOMPARE(value ? QString::number(*value) : QString(), QLatin1String(is));
+            QVERIFY2(isNumeric(QString(text)), text);
+            const auto value = shortValue(QString(text));
+            tests::same(text, value ? QString::number(*value) : QString(), is);
         }
         for (const char *no :
              {"", " ", "-", "+", ".", "-.", "1 2", "1e3", "7-", "--7", "0x7", "1,5", "\n7", "7\t", "٧"})
@@ -94,8 +91,8 @@ private slots:
             QCOMPARE(layerSetText(parsed(QLatin1String(text), below).layers()), QLatin1String(normalised));
 
         const tLayArr twice = table({2, 1, 2, 3, 2});   // every layer of a number, in table order
-        QCOMPARE(dump(parsed(QStringLiteral("3,2"), twice).layers()), QStringLiteral("2#1 2#3 2#5 3#4"));
-        QCOMPARE(layerSetText(parsed(QStringLiteral("1-3"), twice).layers()), QStringLiteral("1-2,2,2-3"));
+        QCOMPARE(dump(parsed("3,2", twice).layers()), "2#1 2#3 2#5 3#4");
+        QCOMPARE(layerSetText(parsed("1-3", twice).layers()), "1-2,2,2-3");
     }
 
     void runsOfCommasShrinkInTheCallersText()
@@ -108,23 +105,16 @@ private slots:
         }
     }
 
-    void anyOrderComesOutAsStepByStep_data()
-    {
-        QTest::addColumn<int>("numbers");               // drawn from so many: the fewer, the more are equal
-        QTest::addColumn<int>("readEvery");             // reading puts in order what came meanwhile
-        for (const int numbers : {1, 2, 7, 40, 60000})
-            for (const int readEvery : {1, 3, 1000})
-                QTest::addRow("%d numbers, read every %d", numbers, readEvery) << numbers << readEvery;
-    }
+    /// Numbers drawn from so many: the fewer, the more are equal. Reading puts in order what came meanwhile.
     void anyOrderComesOutAsStepByStep()
     {
-        QFETCH(int, numbers);
-        QFETCH(int, readEvery);
         QRandomGenerator random(20240719);
-        for (int round = 0; round < 60; ++round) {
+        for (int round = 0; round < 900; ++round) {
+            const int numbers = std::array{1, 2, 7, 40, 60000}[size_t(round % 5)];
+            const int readEvery = std::array{1, 3, 1000}[size_t(round % 3)];
             LayerSet set;
             StepByStep expected;
-            for (int i = 0; i < round; ++i) {
+            for (int i = 0; i < round / 15; ++i) {
                 const auto id = qint16(random.bounded(-30, 60)); // some twice
                 const tLay lay{.LayId = id, .gNr = qint16(random.bounded(numbers) - numbers / 2)};
                 QCOMPARE(set.add(lay), std::ranges::count(expected.all, id, &tLay::LayId) == 0);
@@ -139,10 +129,9 @@ private slots:
     void theKeyIsTheIdentifier()
     {
         LayerSet set;
-        QVERIFY(set.add({.LayId = 7, .gNr = 3, .Name = QStringLiteral("first")}));
-        QVERIFY(!set.add({.LayId = 7, .gNr = 4, .Name = QStringLiteral("second")}));
-        QVERIFY(set.add({.LayId = -32768, .gNr = 2}));
-        QCOMPARE(set.find(7)->Name, QStringLiteral("first"));
+        QVERIFY(set.add({.LayId = 7, .gNr = 3, .Name = "first"}));
+        QVERIFY(!set.add({.LayId = 7, .gNr = 4, .Name = "second"}) && set.add({.LayId = -32768, .gNr = 2}));
+        QCOMPARE(set.find(7)->Name, "first");
         QCOMPARE(set.find(-32768)->gNr, qint16(2));
         QVERIFY(!set.find(8) && !set.contains(-1));
         const LayerSet copy = set;

@@ -1,9 +1,6 @@
 #include "rules/NumberFormat.h"
 #include "support/Registry.h"
 
-#include <QRandomGenerator>
-#include <QtTest/qtest.h>
-
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -25,11 +22,9 @@ const QLocale kRomanian(QLocale::Romanian, QLocale::Romania);
 void shows(const QLocale &locale, std::initializer_list<Row> rows)
 {
     for (const Row &row : rows) {
-        const QString text = formatted(row.value, QString::fromUtf8(row.pattern), locale);
-        QVERIFY2(text == QString::fromUtf16(row.text),
-                 qPrintable(QStringLiteral("%1 in '%2': '%3', not '%4'")
-                                .arg(row.value)
-                                .arg(QString::fromUtf8(row.pattern), text, QString::fromUtf16(row.text))));
+        const QString name = QString("%1 in '%2'").arg(row.value).arg(row.pattern);
+        tests::same(qPrintable(name), formatted(row.value, QString(row.pattern), locale),
+                    QString::fromUtf16(row.text));
     }
 }
 

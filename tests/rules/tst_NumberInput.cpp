@@ -3,8 +3,6 @@
 #include "rules/NumberText.h"
 #include "support/Registry.h"
 
-#include <QtTest/qtest.h>
-
 #include <cmath>
 
 using namespace QV_DOC_CONTROLS;
@@ -32,20 +30,14 @@ class tst_NumberInput : public QObject {
 private slots:
     void aTextIsNumericInTheWideSense()
     {
-        struct Row {
-            const char16_t *text;
-            const char *in;                     // d: in the dot locale, c: in the comma locale
-            double value;
-        };
-        const Row rows[] = {{u"10", "dc", 10},
-                            {u"  10  ", "dc", 10}, {u"-3", "dc", -3}, {u"+3", "dc", 3}, {u"1.5", "dc", 1.5},
-                            {u"1,5", "dc", 1}, // a decimal or a group, but read as 1, on purpose
-                            {u"1,500.5", "d", 1}, {u"1\u00a0500,5", "c", 1}, {u"1 500", "c", 1},
-                            {u".5", "dc", 0.5}, {u"5.", "dc", 5}, {u",5", "c", 0}, {u"1.5E+03", "dc", 1500},
-                            {u"1.5e", "", 1.5}, {u"2E-", "", 2}, {u"", "", 0}, {u" ", "", 0}, {u"-", "", 0},
-                            {u".", "", 0}, {u"abc", "", 0}, {u"12 mm", "", 12}, {u"--5", "", 0},
-                            {u"5-3", "", 5}, {u"1.2.3", "", 1.2}, {u"\u22127", "dc", -7}, {u"٣", "", 0},
-                            {u"1e999", "dc", HUGE_VAL}};
+        const std::tuple<const char16_t *, const char *, double> rows[] = { // d, c: in which locales
+            {u"10", "dc", 10}, {u"  10  ", "dc", 10}, {u"-3", "dc", -3}, {u"+3", "dc", 3},
+            {u"1.5", "dc", 1.5}, {u"1,5", "dc", 1}, // a decimal or a group, but read as 1, on purpose
+            {u"1,500.5", "d", 1}, {u"1\u00a0500,5", "c", 1}, {u"1 500", "c", 1}, {u".5", "dc", 0.5},
+            {u"5.", "dc", 5}, {u",5", "c", 0}, {u"1.5E+03", "dc", 1500}, {u"1.5e", "", 1.5}, {u"2E-", "", 2},
+            {u"", "", 0}, {u" ", "", 0}, {u"-", "", 0}, {u".", "", 0}, {u"abc", "", 0}, {u"12 mm", "", 12},
+            {u"--5", "", 0}, {u"5-3", "", 5}, {u"1.2.3", "", 1.2}, {u"\u22127", "dc", -7}, {u"٣", "", 0},
+            {u"1e999", "dc", HUGE_VAL}};
         for (const auto &[said, in, value] : rows) {
             const QString text = QString::fromUtf16(said);
             QVERIFY2(isNumeric(text, kEn) == (std::strchr(in, 'd') != nullptr), qPrintable(text));
@@ -56,12 +48,7 @@ private slots:
 
     void aPersonOfTheLocaleIsUnderstood()
     {
-        struct Row {
-            const QLocale &locale;
-            const char *pattern;
-            const char16_t *text;
-            const char *meant;                  // empty = no number
-        };
+        using Row = std::tuple<const QLocale &, const char *, const char16_t *, const char *>; // "" = none
         const Row rows[] = {
             {kHu, "0.00", u"3,5", "3.5"}, {kHu, "#,##0.0", u"1\u00a0234,5", "1234.5"},
             {kHu, "#,##0.0", u"1 234 567", "1234567"}, {kRo, "0.0", u"1.234,5", "1234.5"},
@@ -87,44 +74,36 @@ private slots:
             {kEn, "0.#", u"inf", ""}, {kEn, "0.#", u"nan", ""}};
         for (const auto &[locale, pattern, said, meant] : rows) {
             const QString text = QString::fromUtf16(said);
-            const auto value = numberMeant(text, QString::fromUtf8(pattern), locale);
-            const QString is = value ? QString::number(*value, 'g', 12) : QString();
-            QVERIFY2(is == QLatin1String(meant), qPrintable(locale.name() + u' ' + text + u'=' + is));
+            const auto value = numberMeant(text, QString(pattern), locale);
+            tests::same(qPrintable(locale.name() + u' ' + text),
+                        value ? QString::number(*value, 'g', 12) : QString(), meant);
         }
     }
 
     void keysPassTheFilter()
     {
-        struct Row {
-            NumberInput input;
-            const char *before, *behind;
-            QChar key;
-            const char *typed;                  // empty = dropped
-            int lastKeyCode = 0;
-        };
         const NumberInput dot = decimals(kEn), comma = decimals(kHu);
-        const Row rows[] = {{whole(), "1", "2", u'0', "0"},
-                            {whole(), "", "", u'9', "9"}, {whole(), "1", "", u'a', ""},
-                            {whole(), "", "", u'+', ""}, {whole(), "", "", u'٣', ""},
-                            {whole(), "", "", u' ', ""}, {whole(), "1", "", u'.', ""},
-                            {whole(), "1", "", u',', ""}, {dot, "1", "", u'.', "."},
-                            {dot, "1", "", u',', "."}, {comma, "1", "", u'.', ","},
-                            {dot, "1.5", "", u'.', ""}, {dot, "", "1.5", u',', ""},
-                            {decimals(kEn, " 0 "), "1", "", u'.', ""},
-                            {decimals(kEn, ""), "1", "", u'.', "."},
-                            // Right after the keypad's decimal key any key is one.
-                            {dot, "1", "", u'5', ".", 110}, {dot, "1.2", "", u'5', "", 110},
-                            {comma, "", "", u'-', ",", 110}, {whole(), "1", "", u'5', "5", 110},
-                            {dot, "1", "", u'5', "5", 46}, {whole(-5), "", "12", u'-', "-"},
-                            {whole(-5), "1", "", u'-', ""}, {whole(), "", "", u'-', ""},
-                            {whole(-5), "", "-1", u'-', "-"}, {text(), "x", "y", u'a', "a"},
-                            {text(), "x", "", u'5', "5", 110}};
-        for (size_t i = 0; i < std::size(rows); ++i) {
-            const auto &[input, before, behind, key, typed, lastKeyCode] = rows[i];
-            const TypingPlace at{QString::fromUtf8(before), QString::fromUtf8(behind)};
-            const auto passed = keyTyped(input, at, key, lastKeyCode);
-            QVERIFY2((passed ? QString(*passed) : QString()) == QLatin1String(typed),
-                     qPrintable(QString::number(i)));
+        using Row = std::tuple<NumberInput, const char *, const char *, QChar, const char *>; // "" = dropped
+        const Row rows[] = {
+            {whole(), "1", "2", u'0', "0"}, {whole(), "", "", u'9', "9"}, {whole(), "1", "", u'a', ""},
+            {whole(), "", "", u'+', ""}, {whole(), "", "", u'٣', ""}, {whole(), "", "", u' ', ""},
+            {whole(), "1", "", u'.', ""}, {whole(), "1", "", u',', ""}, {dot, "1", "", u'.', "."},
+            {dot, "1", "", u',', "."}, {comma, "1", "", u'.', ","}, {dot, "1.5", "", u'.', ""},
+            {dot, "", "1.5", u',', ""}, {decimals(kEn, " 0 "), "1", "", u'.', ""},
+            {decimals(kEn, ""), "1", "", u'.', "."}, {whole(-5), "", "12", u'-', "-"},
+            {whole(-5), "1", "", u'-', ""}, {whole(), "", "", u'-', ""}, {whole(-5), "", "-1", u'-', "-"},
+            {text(), "x", "y", u'a', "a"}};
+        for (const auto &[input, before, behind, key, typed] : rows) {
+            const auto passed = keyTyped(input, {before, behind}, key, 0);
+            tests::same(before, passed ? QString(*passed) : QString(), typed);
+        }
+        // Right after the keypad's decimal key any key is one.
+        const std::tuple<NumberInput, const char *, QChar, const char *, int> keypad[] = {
+            {dot, "1", u'5', ".", 110}, {dot, "1.2", u'5', "", 110}, {comma, "", u'-', ",", 110},
+            {whole(), "1", u'5', "5", 110}, {text(), "x", u'5', "5", 110}, {dot, "1", u'5', "5", 46}};
+        for (const auto &[input, before, key, typed, lastKeyCode] : keypad) {
+            const auto passed = keyTyped(input, {before, ""}, key, lastKeyCode);
+            tests::same(before, passed ? QString(*passed) : QString(), typed);
         }
     }
 
@@ -135,12 +114,12 @@ private slots:
             const TypedText all = textTyped(input, {QLatin1String(before), {}}, QLatin1String(inserted));
             return all.dropped ? all.text + u'!' : all.text;
         };
-        QCOMPARE(typed(whole(), "a1b2.3\n"), QStringLiteral("123!"));
-        QCOMPARE(typed(comma, "-1.2.3-"), QStringLiteral("-1,23!"));
-        QCOMPARE(typed(comma, "1.5", "7,"), QStringLiteral("15!"));
-        QCOMPARE(typed(dot, "1,234.5"), QStringLiteral("1.2345!"));
-        QCOMPARE(typed(reading(dot), "1,234.5"), QStringLiteral("1234.5")); // stays the number it is
-        QCOMPARE(typed(reading(dot), "about 1,5"), QStringLiteral("1.5!"));
+        QCOMPARE(typed(whole(), "a1b2.3\n"), "123!");
+        QCOMPARE(typed(comma, "-1.2.3-"), "-1,23!");
+        QCOMPARE(typed(comma, "1.5", "7,"), "15!");
+        QCOMPARE(typed(dot, "1,234.5"), "1.2345!");
+        QCOMPARE(typed(reading(dot), "1,234.5"), "1234.5"); // stays the number it is
+        QCOMPARE(typed(reading(dot), "about 1,5"), "1.5!");
     }
 
     void valuesAreCheckedAgainstTheBounds()
@@ -159,28 +138,28 @@ private slots:
             {comma, "1,5", "1"}, {reading(comma), "1,5", "1.5"}};
         for (const auto &[input, said, answer] : rows) {
             const CheckedNumber checked = checkedNumber(input, QLatin1String(said));
-            QCOMPARE(checked.value ? QString::number(*checked.value)
-                                   : checked.refusal.title + u'|' + checked.refusal.text,
-                     QString::fromUtf8(answer));
-            if (!checked.value) QCOMPARE(checked.refusal.icon, Icon::Exclamation);
+            const auto &refusal = checked.refusal;
+            const QString told = refusal.title + u'|' + refusal.text;
+            tests::same(said, checked.value ? QString::number(*checked.value) : told, answer);
+            if (!checked.value) QCOMPARE(refusal.icon, Icon::Exclamation);
         }
         QVERIFY(!checkedNumber(dot, std::nan("")).value);
     }
 
     void aTextOfExactlyTheLimitDrawsTheMessageAndStaysWhole()
     {
-        QVERIFY(!checkedText(text(5), QStringLiteral("őőőő")).refusal);
-        const CheckedText full = checkedText(text(5), QStringLiteral("abcde"));
-        QCOMPARE(full.text, QStringLiteral("abcde"));
-        QCOMPARE(full.refusal.value().text, QStringLiteral("A megengedettnél (5) hosszabb szöveg!"));
-        QCOMPARE(checkedText(text(5), QStringLiteral("abcdefg")).text, QStringLiteral("abcde"));
-        QCOMPARE(checkedText(text(-1), QStringLiteral("a")).text, QString());
+        QVERIFY(!checkedText(text(5), "őőőő").refusal);
+        const CheckedText full = checkedText(text(5), "abcde");
+        QCOMPARE(full.text, "abcde");
+        QCOMPARE(full.refusal.value().text, "A megengedettnél (5) hosszabb szöveg!");
+        QCOMPARE(checkedText(text(5), "abcdefg").text, "abcde");
+        QCOMPARE(checkedText(text(-1), "a").text, QString());
     }
 
     void boundsAreCheckedAgainstEachOtherAndTheValue()
     {
-        const Message badMin{Icon::Exclamation, QStringLiteral("Hiba"), QStringLiteral("Hibás minimum!")};
-        const Message badMax{Icon::Exclamation, QStringLiteral("Hiba"), QStringLiteral("Hibás maximum!")};
+        const Message badMin{Icon::Exclamation, "Hiba", "Hibás minimum!"};
+        const Message badMax{Icon::Exclamation, "Hiba", "Hibás maximum!"};
         QVERIFY(!refusedMin(whole(), 3, 3) && !refusedMax(whole(), 3, 3));
         QCOMPARE(refusedMin(whole(), 4, 3), badMin);
         QCOMPARE(refusedMax(whole(), 2, 3), badMax);
@@ -190,10 +169,10 @@ private slots:
 
     void theHintSaysTheRange()
     {
-        QCOMPARE(rangeHint(decimals(kHu, "0.0")), QStringLiteral("-100,0 és 100,0 közé eső érték!"));
-        QCOMPARE(rangeHint(text()), QStringLiteral("Maximum 20 karakter"));
+        QCOMPARE(rangeHint(decimals(kHu, "0.0")), "-100,0 és 100,0 közé eső érték!");
+        QCOMPARE(rangeHint(text()), "Maximum 20 karakter");
         setLanguage(English, {});
-        QCOMPARE(rangeHint(whole()), QStringLiteral("0 and10 in range!")); // the text's blanks, to the letter
+        QCOMPARE(rangeHint(whole()), "0 and10 in range!"); // the text's blanks, to the letter
         setLanguage(Hungarian, {});
     }
 };

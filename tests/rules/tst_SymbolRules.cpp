@@ -3,8 +3,6 @@
 #include "facade/services/Language.h"
 #include "support/Registry.h"
 
-#include <QTest>
-
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using Numbers = std::vector<qint16>;
@@ -28,26 +26,25 @@ private slots:
 
     void aNewSymbolHasTheseDefaults()
     {
-        const tSid wanted{.GroupName = QStringLiteral("Fák"), .GroupId = 4, .Code = 33,
-                          .ShortName = QStringLiteral("Fa"), .FullName = QStringLiteral("Új jelkulcs ..."),
-                          .Align = 24, .Size_mm = 5, .YwFact = 1, .XwFact = 1,
-                          .Facename = QStringLiteral("ZolW_DAT1_M2"), .Weight = 16, .CharSet = 238,
-                          .DspZoom = 10, .LayId = 1};
-        QCOMPARE(newSymbol(QStringLiteral("Fa"), {4, QStringLiteral("Fák")}), wanted);
+        const tSid wanted{.GroupName = "Fák", .GroupId = 4, .Code = 33, .ShortName = "Fa",
+                          .FullName = "Új jelkulcs ...", .Align = 24, .Size_mm = 5, .YwFact = 1, .XwFact = 1,
+                          .Facename = "ZolW_DAT1_M2", .Weight = 16, .CharSet = 238, .DspZoom = 10,
+                          .LayId = 1};
+        QCOMPARE(newSymbol("Fa", {4, "Fák"}), wanted);
     }
 
     void loadedSymbolsGetNumbersAndTheGroup()
     {
         const auto named = [](const char *name, qint16 id) {
-            return tSid{.SidId = id, .ShortName = QString::fromUtf8(name)};
+            return tSid{.SidId = id, .ShortName = name};
         };
-        const std::vector<tSid> all{named("A", 32766)}, read{named("B", 1), named("A", 2), named("B", 3),
-                                                             named("C", 4)};
-        const LoadedSymbols out = loaded(read, {9, QStringLiteral("G")}, all);
+        const std::vector<tSid> all{named("A", 32766)},
+            read{named("B", 1), named("A", 2), named("B", 3), named("C", 4)};
+        const LoadedSymbols out = loaded(read, {9, "G"}, all);
         QCOMPARE(out.known, (QStringList{"A", "B"}));   // also what the file has twice
         QVERIFY(out.roomForAll && out.symbols.size() == 2);
         QCOMPARE((Numbers{out.symbols[0].SidId, out.symbols[1].SidId}), (Numbers{32767, 1}));
-        QVERIFY(out.symbols[1].GroupId == 9 && out.symbols[1].GroupName == QStringLiteral("G"));
+        QVERIFY(out.symbols[1].GroupId == 9 && out.symbols[1].GroupName == "G");
     }
 
     void thicknessIsKeptInHundredths()

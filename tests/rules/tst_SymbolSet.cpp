@@ -3,9 +3,6 @@
 #include "rules/recordset/RecordsetXml.h"
 #include "support/Registry.h"
 
-#include <QFile>
-#include <QTest>
-
 #include <cmath>
 
 using namespace QV_DOC_CONTROLS;
@@ -15,30 +12,11 @@ namespace {
 
 tSid symbol()
 {
-    return {.SidId = 7,
-            .GroupName = QStringLiteral("Növényzet"),
-            .GroupId = 2,
-            .Code = 97,
-            .ShortName = QStringLiteral("Lombos fa"),
-            .FullName = QStringLiteral("Lombos fa jele"),
-            .Align = 24,
-            .Size_mm = 3.3f,
-            .YwFact = 1.1f,
-            .XwFact = 0.75f,
-            .Facename = QStringLiteral("Arial"),
-            .Weight = 25,
-            .Italic = true,
-            .CharSet = 238,
-            .PitchAndFamily = 34,
-            .ProtXmm = 0.1,
-            .ProtYmm = -1 / 3.0,
-            .ProtType = 2,
-            .MoveXmm = -0.25f,
-            .MoveYmm = 1.5f,
-            .DspZoom = 10,
-            .LayId = 120,
-            .Type = 0,
-            .Checked = true};
+    return {.SidId = 7, .GroupName = "Növényzet", .GroupId = 2, .Code = 97, .ShortName = "Lombos fa",
+            .FullName = "Lombos fa jele", .Align = 24, .Size_mm = 3.3f, .YwFact = 1.1f, .XwFact = 0.75f,
+            .Facename = "Arial", .Weight = 25, .Italic = true, .CharSet = 238, .PitchAndFamily = 34,
+            .ProtXmm = 0.1, .ProtYmm = -1 / 3.0, .ProtType = 2, .MoveXmm = -0.25f, .MoveYmm = 1.5f,
+            .DspZoom = 10, .LayId = 120, .Type = 0, .Checked = true};
 }
 Recordset asRead(const Recordset &set) { return std::get<Recordset>(recordsetOf(bytesOf(set))); }
 
@@ -84,7 +62,7 @@ private slots:
         Recordset set(fields);
         const int row = set.addRow(Recordset::RowState::Unchanged);
         QVERIFY(set.setText(row, set.fieldNamed(u"ShortName"), u"Fa"));
-        tSid expected = newSymbol(QStringLiteral("Fa"), {});
+        tSid expected = newSymbol("Fa", {});
         expected.FullName.clear();
         QCOMPARE(symbolsIn(asRead(set)).records, std::vector<tSid>{expected});
         QCOMPARE(expected.YwFact, 1.0f);
@@ -95,28 +73,20 @@ private slots:
         s.Type = 1, s.XwFact = 2.5f;
         QCOMPARE(symbolsIn(std::get<Recordset>(symbolSetOf({&s, 1}))).records.front().XwFact, 1.0f);
     }
-    void whatDoesNotFitIsNamed_data()
-    {
-        QTest::addColumn<tSid>("symbol");
-        QTest::addColumn<QString>("field");
-        const auto row = [](const char *field, auto change) {
-            tSid s = symbol();
-            change(s);
-            QTest::newRow(field) << s << field;
-        };
-        row("Code", [](tSid &s) { s.Code = 65535; });
-        row("ShortName", [](tSid &s) { s.ShortName = QString(51, u'x'); });
-        row("FullName", [](tSid &s) { s.FullName = QString(301, u'x'); });
-        row("ProtXmm", [](tSid &s) { s.ProtXmm = qInf(); });
-    }
     void whatDoesNotFitIsNamed()
     {
-        QFETCH(tSid, symbol);
-        QFETCH(QString, field);
-        const tSid symbols[] = {::symbol(), symbol};
-        const auto written = symbolSetOf(symbols);
-        QVERIFY(std::holds_alternative<SetFault>(written));
-        QCOMPARE(std::get<SetFault>(written), (SetFault{1, field}));
+        const std::pair<const char *, void (*)(tSid &)> rows[] = {
+            {"Code", [](tSid &s) { s.Code = 65535; }},
+            {"ShortName", [](tSid &s) { s.ShortName = QString(51, u'x'); }},
+            {"FullName", [](tSid &s) { s.FullName = QString(301, u'x'); }},
+            {"ProtXmm", [](tSid &s) { s.ProtXmm = qInf(); }}};
+        for (const auto &[field, change] : rows) {
+            tSid symbols[] = {symbol(), symbol()};
+            change(symbols[1]);
+            const auto written = symbolSetOf(symbols);
+            QVERIFY2(std::holds_alternative<SetFault>(written), field);
+            QCOMPARE(std::get<SetFault>(written), (SetFault{1, field}));
+        }
     }
     void readingEndsAtAValueThatTheRecordCannotHold()
     {
@@ -125,19 +95,19 @@ private slots:
         set.setInteger(1, set.fieldNamed(u"align"), 256);
         const auto content = symbolsIn(set);
         QCOMPARE(content.records.size(), 1u);
-        QCOMPARE(content.fault, (SetFault{1, QStringLiteral("Align")}));
+        QCOMPARE(content.fault, (SetFault{1, "Align"}));
     }
     void aFileWithoutAColumnIsRefusedByItsName()
     {
         const auto content =
-            symbolsIn(Recordset::made({{QStringLiteral("code"), RecordsetField::Type::Int16}}));
+            symbolsIn(Recordset::made({{"code", RecordsetField::Type::Int16}}));
         QVERIFY(content.records.empty());
-        QCOMPARE(content.fault, (SetFault{{}, QStringLiteral("ShortName")}));
+        QCOMPARE(content.fault, (SetFault{{}, "ShortName"}));
     }
     void anEmptySetIsWrittenAsTheRuntimeDoes()
     {
         if (!qEnvironmentVariableIsSet("QVDC_SAMPLES")) QSKIP("no samples");
-        QFile file(qEnvironmentVariable("QVDC_SAMPLES") + QStringLiteral("/recordset/symbols_empty.rst"));
+        QFile file(qEnvironmentVariable("QVDC_SAMPLES") + "/recordset/symbols_empty.rst");
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(bytesOf(std::get<Recordset>(symbolSetOf({}))), file.readAll());
     }

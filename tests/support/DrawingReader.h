@@ -15,14 +15,14 @@ class DrawingReader {
 public:
     explicit DrawingReader(const QString &path)
     {
-        m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("reader"));
+        m_db = QSqlDatabase::addDatabase("QSQLITE", "reader");
         m_db.setDatabaseName(path);
         if (!m_db.open()) qFatal("%s", qPrintable(m_db.lastError().text()));
     }
     ~DrawingReader()
     {
         m_db = {};
-        QSqlDatabase::removeDatabase(QStringLiteral("reader"));
+        QSqlDatabase::removeDatabase("reader");
     }
     LayerModel layers()
     {

@@ -2,15 +2,16 @@
 
 #include "document/SqliteDoc.h"
 
-#include <initializer_list>
+#include <cstdlib>
+#include <vector>
 
 namespace tests {
 
 /// A document in memory that holds these layers and no others, in two groups: the system group with all of
 /// them and "Utak" with the even numbers.
-inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDoc::tLay> layers)
+inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const std::vector<ZolWDoc::tLay> &layers)
 {
-    auto doc = refhost::SqliteDoc::create(QStringLiteral(":memory:"));
+    auto doc = refhost::SqliteDoc::create(":memory:");
     ZolWDoc::LayerRole &role = doc->layers();
     const std::vector<ZolWDoc::tLay> before = role.readAll();
     std::vector<ZolWDoc::tLay> stored;
@@ -24,7 +25,7 @@ inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDo
     role.writeAll(stored);
 
     auto groups = role.groups();
-    groups.push_back({-1, QStringLiteral("Utak")});
+    groups.push_back({-1, "Utak"});
     role.writeGroups(groups);
     const qint16 roads = role.groups().back().GroupId;
     auto members = role.members();
@@ -34,12 +35,41 @@ inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDo
     return doc;
 }
 
+/// The same with layers as dump() writes them, an invisible one with '-' before it: "1 A, -2 B".
+inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const char *dumped)
+{
+    std::vector<ZolWDoc::tLay> layers;
+    for (const QString &each : QString::fromUtf8(dumped).split(QStringLiteral(", "))) {
+        const int number = each.section(u' ', 0, 0).toInt();
+        layers.push_back(
+            {.gNr = qint16(std::abs(number)), .Name = each.section(u' ', 1), .Visible = number > 0});
+    }
+    return layerDoc(layers);
+}
+/// The layers 1 A, like the first of their kind, 2 B, which is invisible, and 3 C with lines by layer.
+inline std::unique_ptr<refhost::SqliteDoc> threeLayers()
+{
+    return layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
+                     {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
+                     {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
+}
+/// The layers 1 to 4 named A to D, and a third group without any.
+inline std::unique_ptr<refhost::SqliteDoc> fourLayers()
+{
+    auto doc = layerDoc("1 A, 2 B, 3 C, 4 D");
+    auto groups = doc->layers().groups();
+    groups.push_back({-1, QStringLiteral("Üres")});
+    doc->layers().writeGroups(groups);
+    return doc;
+}
+inline constexpr char kFourLayers[] = "RENDSZER: 1 2 3 4 | Utak: 2 4 | Üres:"; ///< their groups
+
 /// "number name" of every layer, in table order.
 inline QString dump(ZolWDoc::ZOLW_Doc &doc)
 {
     QStringList rows;
     for (const ZolWDoc::tLay &l : doc.layers().readAll()) rows << QString::number(l.gNr) + u' ' + l.Name;
-    return rows.join(QStringLiteral(", "));
+    return rows.join(", ");
 }
 
 /// Every layer group with the numbers of its layers: "RENDSZER: 1 2 | Utak: 2".
@@ -54,7 +84,7 @@ inline QString dumpGroups(ZolWDoc::ZOLW_Doc &doc)
                 line += u' ' + QString::number(l.gNr);
         out << line;
     }
-    return out.join(QStringLiteral(" | "));
+    return out.join(" | ");
 }
 
 } // namespace tests

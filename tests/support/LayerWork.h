@@ -23,8 +23,7 @@ inline QStringList linesFor(std::string_view tool, const ZolWDoc::tLayArr &all)
         for (int nr = 32100; nr < 32200; ++nr) lines << QStringLiteral("%1 From a file %1").arg(nr);
     else
         for (size_t i = 0; i < all.size(); ++i)
-            lines << (tool == "cmdLays_FileRename"
-                          ? QStringLiteral("%1 Renamed %1").arg(all[i].gNr)
+            lines << (tool == "cmdLays_FileRename" ? QStringLiteral("%1 Renamed %1").arg(all[i].gNr)
                           : QStringLiteral("%1 %2").arg(all[i].gNr).arg(all[all.size() - 1 - i].gNr));
     return lines;
 }

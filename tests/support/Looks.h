@@ -52,12 +52,12 @@ inline QStringList flawsOf(const QDialog &d)
         if (!w->isVisible()) continue;
         const QString caption = captionOf(*w),
                       name = d.objectName() + u' ' + w->objectName() + u' ' + caption;
-        if (!hasRoom(*w)) flaws << QStringLiteral("cut off: ") + name;
-        if (w->objectName() == QLatin1String("qt_toolbar_ext_button"))
-            flaws << QStringLiteral("bar too short: ") + name;
+        if (!hasRoom(*w)) flaws << "cut off: " + name;
+        if (w->objectName() == "qt_toolbar_ext_button")
+            flaws << "bar too short: " + name;
         const QChar key = QV_DOC_CONTROLS::accessKeyOf(caption);
         if (key.isNull()) continue;
-        if (keys.contains(key)) flaws << QStringLiteral("access key twice: ") + name;
+        if (keys.contains(key)) flaws << "access key twice: " + name;
         keys += key;
     }
     return flaws;

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QApplication>
-#include <QTimer>
-#include <QWidget>
-#include <QTest>
+#include "support/QtClasses.h"
 
 namespace tests {
 

@@ -12,7 +12,7 @@ namespace tests {
 /// A drag with the pointer of an X server. Other platforms end a drag at once.
 class RealDrag {
 public:
-    static bool isPossible() { return QGuiApplication::platformName() == QStringLiteral("xcb"); }
+    static bool isPossible() { return QGuiApplication::platformName() == "xcb"; }
     static const char *hindrance()              ///< why there can be none here; null = there can
     {
         if (!isPossible()) return "needs an X server";
@@ -36,7 +36,7 @@ public:
     bool ended() { return m_hand.state() == QProcess::NotRunning || m_hand.waitForFinished(); }
 
 private:
-    static QString pointer() { return QStandardPaths::findExecutable(QStringLiteral("xdotool")); }
+    static QString pointer() { return QStandardPaths::findExecutable("xdotool"); }
     static QPoint onScreen(QV_DOC_CONTROLS::Grid &grid, int line)
     {
         const QAbstractItemView &view = *grid.activeView();

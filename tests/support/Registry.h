@@ -1,5 +1,8 @@
 #pragma once
 
+#include "support/QtClasses.h"
+#include "support/Same.h"
+
 #include <QObject>
 
 #include <functional>
@@ -7,8 +10,13 @@
 #include <utility>
 #include <vector>
 
-/// The test classes of one program; each is a test of its own for ctest: `tst_<room> tst_<Unit>`.
+namespace QV_DOC_CONTROLS {}
+
+/// What every test file needs. The test classes of one program; each is a test of its own for ctest:
+/// `tst_<room> tst_<Unit>`.
 namespace tests {
+
+using namespace QV_DOC_CONTROLS;
 
 using Maker = std::function<std::unique_ptr<QObject>()>;
 std::vector<std::pair<const char *, Maker>> &registry();

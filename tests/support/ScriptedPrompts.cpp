@@ -29,7 +29,7 @@ bool canBeAnswer(const NumberQuestion &q, const std::vector<double> &values)
 template <class Answer> std::optional<Answer> checked(const Answer &answer, bool canBe, const QString &title)
 {
     if (canBe) return answer;
-    QTest::qFail(qPrintable(QStringLiteral("no possible answer to ") + title), __FILE__, __LINE__);
+    QTest::qFail(qPrintable("no possible answer to " + title), __FILE__, __LINE__);
     return {};
 }
 
@@ -43,8 +43,7 @@ ScriptedPrompts::~ScriptedPrompts()
 {
     setPrompts(m_before);
     for (size_t i = size_t(m_next); i < m_steps.size(); ++i)
-        QTest::qFail(qPrintable(QStringLiteral("never asked: ") + m_steps[i].title + QStringLiteral(" / ") +
-                                m_steps[i].text),
+        QTest::qFail(qPrintable("never asked: " + m_steps[i].title + " / " + m_steps[i].text),
                      __FILE__, __LINE__);
 }
 
@@ -54,7 +53,7 @@ QVariant ScriptedPrompts::next(const char *kind, const QString &title, const QSt
     const Step step = left ? m_steps[size_t(m_next)] : Step{};
     if (!left || std::strcmp(step.kind, kind) != 0 || step.title != title || step.text != text ||
         step.icon != icon) {
-        const QString seen = QStringLiteral("unexpected %1 (icon %2): '%3' / '%4', expected '%5' / '%6'")
+        const QString seen = QString("unexpected %1 (icon %2): '%3' / '%4', expected '%5' / '%6'")
                                  .arg(QLatin1String(kind))
                                  .arg(int(icon))
                                  .arg(title, text, step.title, step.text);

@@ -15,8 +15,8 @@ struct StrokeFontHost final : ZolWDoc::HostServices, ZolWDoc::VectorFontProvider
         ++asked;
         return n == name() ? this : nullptr;
     }
-    QString name() const override { return QStringLiteral("Strokes"); }
-    std::vector<Entry> entries() const override { return {{'N', QStringLiteral("N")}}; }
+    QString name() const override { return "Strokes"; }
+    std::vector<Entry> entries() const override { return {{'N', "N"}}; }
     ZolWDoc::Glyph glyph(qint32 code) const override
     {
         if (code != 'N') return {};

@@ -3,13 +3,20 @@
 #include "kit/ask/ErrorRelay.h"
 #include "kit/grid/Grid.h"
 #include "kit/tools/Tool.h"
+#include "support/CallLog.h"
 
-#include <QTest>
-#include <QAbstractItemView>
+#include "support/QtClasses.h"
 
 #include <cstring>
 
 namespace tests {
+
+/// A row of test data for each of the cases, which have names.
+template <class Cases> void addCases(const Cases &cases)
+{
+    QTest::addColumn<int>("index");
+    for (size_t i = 0; i < cases.size(); ++i) QTest::newRow(cases[i].name) << int(i);
+}
 
 /// A form that stays hidden: both grids, the manager that runs them, and the error that reached the form.
 template <class Manager> struct TableForm {
@@ -30,6 +37,15 @@ template <class Manager> struct TableForm {
     }
     ~TableForm() { js.TearDown(); }
 
+    QString failed() const                      ///< the host's call whose error reached the form
+    {
+        if (!error) return {};
+        try {
+            std::rethrow_exception(error);
+        } catch (const HostError &e) {
+            return QString::fromStdString(e.what());
+        }
+    }
     /// Selects the listed records with these numbers, the first of which becomes current.
     void select(const std::vector<int> &numbers)
     {
@@ -53,7 +69,7 @@ template <class Manager> struct TableForm {
     {
         QStringList out;
         for (const int r : grid.selectedRows())
-            out << cellOf(r, 0) + (r == grid.currentRow() ? QStringLiteral("*") : QString());
+            out << cellOf(r, 0) + (r == grid.currentRow() ? "*" : QString());
         return out.join(u' ');
     }
     QString listed() const                      ///< numbers of the listed records: "1 2"
@@ -71,7 +87,7 @@ template <class Manager> struct TableForm {
             out << chosenGroup() + u':' + (listed().isEmpty() ? QString() : u' ' + listed());
         }
         groups.setCurrentRow(0);
-        return out.join(QStringLiteral(" | "));
+        return out.join(" | ");
     }
     QString chosenGroup() const
     {

@@ -105,9 +105,9 @@ int main(int argc, char **argv)
     QStringList arguments = app.arguments();
     if (only) arguments.removeAt(1);
 
-    const QString log = home.filePath(QStringLiteral("log.txt"));
-    arguments << QStringLiteral("-o") << QStringLiteral("-,txt") << QStringLiteral("-o")
-              << log + QStringLiteral(",txt");
+    const QString log = home.filePath("log.txt");
+    arguments << "-o" << "-,txt" << "-o"
+              << log + ",txt";
 
     int failed = 0, run = 0;
     for (const auto &[name, make] : tests::registry()) {

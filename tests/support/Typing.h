@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QTest>
+#include "support/QtClasses.h"
 
 namespace tests {
 

@@ -7,7 +7,7 @@ namespace tests {
 /// A user who says yes to everything, takes the last of several things and always types the same.
 struct WillingPrompts : QV_DOC_CONTROLS::Prompts {
     std::vector<double> typed = {1000};
-    QString written = QStringLiteral("X");
+    QString written = "X";
     QString path;
     QV_DOC_CONTROLS::Prompts *before = QV_DOC_CONTROLS::setPrompts(this);
     ~WillingPrompts() override { QV_DOC_CONTROLS::setPrompts(before); }

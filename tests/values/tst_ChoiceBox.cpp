@@ -3,11 +3,6 @@
 #include "support/Modal.h"
 #include "support/Registry.h"
 
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {
@@ -17,7 +12,7 @@ using Answer = std::optional<int>;
 
 Choice among(QStringList items, int preset = 1)
 {
-    Choice choice{QStringLiteral("Réteg azonosítás"), QStringLiteral("Mi alapján?")};
+    Choice choice{"Réteg azonosítás", "Mi alapján?"};
     choice.items = std::move(items);
     choice.preset = preset;
     return choice;
@@ -60,21 +55,14 @@ class tst_ChoiceBox : public QObject {
 private slots:
     void oneIsChosenByKeyOrMouse()
     {
-        struct Row {
-            QStringList items;
-            Act act;
-            Answer answer;
-            int preset = 1;
-        };
-        const Row rows[] = {{kTwo, pressed({Qt::Key_Return}), 1},
-                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0}, {kTwo, clicked("optItem0"), 0},
-                            {kTwo, pressed({Qt::Key_Up, Qt::Key_Escape}), {}},
-                            {kFour, pressed({Qt::Key_Return}), 1},
-                            {kFour, pressed({Qt::Key_S, Qt::Key_Return}), 3}, // by its first letter
-                            {kFour, doubleClickThird, 2},
-                            {kTwo, confirm, 0, -1},                           // the nearest to the proposal
-                            {kFour, confirm, 3, 9},
-                            {{}, confirm, {}, 0}};
+        const std::tuple<QStringList, Act, Answer, int> rows[] = { // the last is what is proposed
+            {kTwo, pressed({Qt::Key_Return}), 1, 1}, {kTwo, pressed({Qt::Key_Up, Qt::Key_Return}), 0, 1},
+            {kTwo, clicked("optItem0"), 0, 1}, {kTwo, pressed({Qt::Key_Up, Qt::Key_Escape}), {}, 1},
+            {kFour, pressed({Qt::Key_Return}), 1, 1},
+            {kFour, pressed({Qt::Key_S, Qt::Key_Return}), 3, 1}, // by its first letter
+            {kFour, doubleClickThird, 2, 1},
+            {kTwo, confirm, 0, -1}, {kFour, confirm, 3, 9},      // the nearest to the proposal
+            {{}, confirm, {}, 0}};
         for (const auto &[items, act, answer, preset] : rows) {
             const auto watch = whileModal<ChoiceBox>(act);
             QCOMPARE(prompts().choose(among(items, preset)), answer);

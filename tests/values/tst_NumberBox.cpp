@@ -6,12 +6,6 @@
 #include "support/Registry.h"
 #include "support/Typing.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 namespace {
@@ -21,19 +15,18 @@ using Answer = QList<double>;              // none = cancelled
 
 NumberQuestion renumbering()
 {
-    return {QStringLiteral("Átsorszámozás"),
-            QStringLiteral("A kiválasztott rétegek átsorszámozása"),
-            {{.label = QStringLiteral("Kezdő sorszám"), .preset = 101, .min = 1, .max = 32767},
-             {.label = QStringLiteral("Növekmény"), .preset = 1, .min = -10, .max = 10}}};
+    return {"Átsorszámozás", "A kiválasztott rétegek átsorszámozása",
+            {{.label = "Kezdő sorszám", .preset = 101, .min = 1, .max = 32767},
+             {.label = "Növekmény", .preset = 1, .min = -10, .max = 10}}};
 }
 
 NumberQuestion letterSize()
 {
-    NumberField size{.label = QStringLiteral("Nagyság="), .preset = 2.5, .min = 0.01, .max = 100};
+    NumberField size{.label = "Nagyság=", .preset = 2.5, .min = 0.01, .max = 100};
     size.decimals = 2;
-    size.unit = QStringLiteral("mm");
+    size.unit = "mm";
     size.presets = {1.8, 2.5, 3.5};
-    return {QStringLiteral("Betűnagyság"), QStringLiteral("Mekkora?"), {size}};
+    return {"Betűnagyság", "Mekkora?", {size}};
 }
 
 Answer answered(const NumberQuestion &question)
@@ -44,12 +37,12 @@ Answer answered(const NumberQuestion &question)
 
 Act typed(const char *keys)
 {
-    return [=](NumberBox &box) { type(box, QString::fromUtf8(keys)); };
+    return [=](NumberBox &box) { type(box, keys); };
 }
 
 QLineEdit &line(NumberBox &box, int field)
 {
-    return *box.findChildren<QComboBox *>(QStringLiteral("txtCombo")).at(field)->lineEdit();
+    return *box.findChildren<QComboBox *>("txtCombo").at(field)->lineEdit();
 }
 
 } // namespace
@@ -65,12 +58,12 @@ private slots:
             {typed("0\r5\r"), {5, 1}}, {typed("\b\r5\r"), {5, 1}}, // a refused number is typed again
             {typed("7\t99\r9\r"), {7, 9}}, {typed("0\t5\r3\r"), {3, 5}}, // Enter leads to it
             {[](NumberBox &box) {
-                 type(box, QStringLiteral("32 767"));
+                 type(box, "32 767");
                  child<QPushButton>(box, "cmdOk").click();
              }, {32767, 1}},
             {[](NumberBox &box) {
                  QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier); // the label's key
-                 type(box, QStringLiteral("4\r"));
+                 type(box, "4\r");
              }, {101, 4}}};
         for (const auto &[act, answer] : rows) {
             const auto watch = whileModal<NumberBox>(act);
@@ -80,22 +73,22 @@ private slots:
     void aRefusalStandsBesideItsNumberAndLosesNothing()
     {
         const auto watch = whileModal<NumberBox>([](NumberBox &box) {
-            type(box, QStringLiteral("70000\t2"));
-            const auto hints = box.findChildren<QLabel *>(QStringLiteral("lblHint"));
-            const QString refused = QStringLiteral("A szám túl nagy.\nMegengedett: 1\u00a0–\u00a032767");
+            type(box, "70000\t2");
+            const auto hints = box.findChildren<QLabel *>("lblHint");
+            const QString refused = "A szám túl nagy.\nMegengedett: 1\u00a0–\u00a032767";
             QCOMPARE(hints.at(0)->text(), refused);
-            QCOMPARE(hints.at(1)->text(), QStringLiteral("Megengedett: -10\u00a0–\u00a010"));
+            QCOMPARE(hints.at(1)->text(), "Megengedett: -10\u00a0–\u00a010");
             QCOMPARE(line(box, 0).accessibleDescription(), refused);
-            QCOMPARE(line(box, 0).accessibleName(), QStringLiteral("Kezdő sorszám"));
+            QCOMPARE(line(box, 0).accessibleName(), "Kezdő sorszám");
             QVERIFY(line(box, 0).actions().first()->isVisible());
             QVERIFY(!line(box, 1).actions().first()->isVisible());
             child<QPushButton>(box, "cmdOk").click();
             QVERIFY(box.isVisible());
             QCOMPARE(box.focusWidget(), line(box, 0).parentWidget());
-            QCOMPARE(line(box, 0).selectedText(), QStringLiteral("70000"));
-            QCOMPARE(line(box, 1).text(), QStringLiteral("2"));
-            type(box, QStringLiteral("7"));
-            QCOMPARE(hints.at(0)->text(), QStringLiteral("Megengedett: 1\u00a0–\u00a032767"));
+            QCOMPARE(line(box, 0).selectedText(), "70000");
+            QCOMPARE(line(box, 1).text(), "2");
+            type(box, "7");
+            QCOMPARE(hints.at(0)->text(), "Megengedett: 1\u00a0–\u00a032767");
             box.reject();
         });
         QVERIFY(!prompts().numbers(renumbering()));
@@ -105,7 +98,7 @@ private slots:
         const auto press = [](Qt::Key key) {
             return Act([=](NumberBox &box) {
                 QTest::keyClick(box.focusWidget(), key);
-                type(box, QStringLiteral("\r"));
+                type(box, "\r");
             });
         };
         const std::pair<Act, Answer> rows[] = {
@@ -118,34 +111,26 @@ private slots:
     }
     void aRefusalSaysWhyAndNamesTheBounds()
     {
-        struct Row {
-            const char *typed;
-            int decimals;
-            const char *why = "";               // empty = taken
-        };
-        for (const auto &[typed, decimals, why] : {Row{"-1,5", 2},
-                                                   {"100", 2}, {"-1,51", 2, "A szám túl kicsi."},
-                                                   {"100,01", 2, "A szám túl nagy."},
-                                                   {"0,125", 2, "A tizedesjegyek száma legfeljebb 2."},
-                                                   {"0,12", 2}, {"0,1200", 2},
-                                                   {"1,5", 0, "Egész számot írj be!"}, {"1,0", 0},
-                                                   {"x", 0, "Írj be egy számot!"}}) {
-            const NumberField field{
-                .min = -1.5, .max = 100, .decimals = decimals, .unit = QStringLiteral("mm")};
-            QString refusal = refusalFor(QLatin1String(typed), field);
+        const std::tuple<const char *, int, const char *> rows[] = { // decimals, and why; empty = taken
+            {"-1,5", 2, ""}, {"100", 2, ""}, {"0,12", 2, ""}, {"0,1200", 2, ""}, {"1,0", 0, ""},
+            {"-1,51", 2, "A szám túl kicsi."}, {"100,01", 2, "A szám túl nagy."},
+            {"0,125", 2, "A tizedesjegyek száma legfeljebb 2."}, {"1,5", 0, "Egész számot írj be!"},
+            {"x", 0, "Írj be egy számot!"}};
+        for (const auto &[typed, decimals, why] : rows) {
+            const NumberField field{.min = -1.5, .max = 100, .decimals = decimals, .unit = "mm"};
+            QString refusal = refusalFor(QString(typed), field);
             refusal.replace(QChar(0xa0), u' ');
-            const QString bounds = decimals ? QStringLiteral("-1,5 – 100 mm") : QStringLiteral("-2 – 100 mm");
-            QCOMPARE(refusal,
-                     *why ? QString::fromUtf8(why) + QStringLiteral("\nMegengedett: ") + bounds : QString());
+            const QString bounds = decimals ? "-1,5 – 100 mm" : "-2 – 100 mm";
+            same(typed, refusal, *why ? QString(why) + "\nMegengedett: " + bounds : QString());
         }
     }
     void aProposalOutOfBoundsIsShownAndRefused()
     {
         const auto watch = whileModal<NumberBox>([](NumberBox &box) {
-            QCOMPARE(line(box, 0).text(), QStringLiteral("32768"));
-            type(box, QStringLiteral("\r"));
+            QCOMPARE(line(box, 0).text(), "32768");
+            type(box, "\r");
             QVERIFY(box.isVisible());
-            type(box, QStringLiteral("32767\r"));
+            type(box, "32767\r");
         });
         NumberQuestion question = renumbering();
         question.fields.front().preset = 32768;

@@ -7,13 +7,8 @@
 #include "support/Registry.h"
 #include "support/Typing.h"
 
-#include <QAbstractButton>
-#include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 
-using namespace QV_DOC_CONTROLS;
 using namespace tests;
 
 class tst_ValuePrompts : public QObject {
@@ -39,10 +34,10 @@ private slots:
 
     void everyBoxIsTitledAskedPlainlyAndOwned()
     {
-        const QString title = QStringLiteral("Cím"), text = QStringLiteral("<b>Kő & Fa</b>?");
+        const QString title = "Cím", text = "<b>Kő & Fa</b>?";
         QWidget window;
         auto *const inside = new QWidget(&window);
-        const NumberField number{.label = QStringLiteral("Sorszám"), .preset = 1, .min = 1, .max = 9};
+        const NumberField number{.label = "Sorszám", .preset = 1, .min = 1, .max = 9};
         Prompts &p = prompts();
         const std::function<void()> all[] = {
             [&] { p.tell({Icon::Information, title, text}, inside); },
@@ -71,27 +66,20 @@ private slots:
 
     void theAnswerIsWhatStandsInTheLine()
     {
-        struct Row {
-            const char *typed;
-            QString answer;                     // null = cancelled
-            bool ofLine = true;                 // else of the drop-down only
-            int key = 0;                        // pressed first
-        };
-        const QString asked = QStringLiteral("A keresett érték:"), preset = QStringLiteral("Épület");
-        const QStringList items{"Gáz", "Épület", "Út"};
-        for (const auto &[typed, answer, ofLine, key] : {Row{"\r", preset},
-                                                         {"őrház\r", "őrház"}, {"é\r", "é"}, {"7\x1b", {}},
-                                                         {"\r", "", true, Qt::Key_Delete},
-                                                         {"\r", "Út", false, Qt::Key_Down},
-                                                         {"\r", "Gáz", false, Qt::Key_Up}})
-            for (const QStringList &offered : {QStringList(), items}) {
+        const QString asked = "A keresett érték:", preset = "Épület";
+        const std::tuple<int, const char *, QString, bool> rows[] = { // null = cancelled; also without a list
+            {0, "\r", preset, true}, {0, "őrház\r", "őrház", true}, {0, "é\r", "é", true},
+            {0, "7\x1b", {}, true}, {Qt::Key_Delete, "\r", "", true}, {Qt::Key_Down, "\r", "Út", false},
+            {Qt::Key_Up, "\r", "Gáz", false}};
+        for (const auto &[key, typed, answer, ofLine] : rows)
+            for (const QStringList &offered : {QStringList(), {"Gáz", "Épület", "Út"}}) {
                 if (offered.isEmpty() && !ofLine) continue;
                 const auto watch = whileModal<TextBox>([&, key = key, typed = typed](TextBox &box) {
                     QCOMPARE(child<QLineEdit>(box, "txtAnswer").accessibleName(), asked);
                     if (key) QTest::keyClick(box.focusWidget(), Qt::Key(key));
-                    type(box, QString::fromUtf8(typed));
+                    type(box, typed);
                 });
-                const auto given = prompts().text({QStringLiteral("Keresés"), asked, preset, offered});
+                const auto given = prompts().text({"Keresés", asked, preset, offered});
                 QCOMPARE(given.has_value(), !answer.isNull());
                 QCOMPARE(given.value_or(QString()), answer);
             }
@@ -103,14 +91,14 @@ private slots:
             auto &lines = child<QPlainTextEdit>(box, "txtLines");
             QTest::keyClick(&box, Qt::Key_Backtab, Qt::ShiftModifier);
             QCOMPARE(box.focusWidget(), &lines);
-            QTest::keyClicks(&lines, QStringLiteral("x"));
+            QTest::keyClicks(&lines, "x");
             QTest::keySequence(&lines, QKeySequence::SelectAll);
             QTest::keySequence(&lines, QKeySequence::Copy);
             QTest::keyClick(&lines, Qt::Key_Backtab, Qt::ShiftModifier);
             QTest::keyClick(box.focusWidget(), Qt::Key_Return);
         });
-        prompts().show({QStringLiteral("t"), QStringLiteral("2"), {"'a' ---> 'b'", "'c' ---> 'd'"}}, nullptr);
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("'a' ---> 'b'\n'c' ---> 'd'"));
+        prompts().show({"t", "2", {"'a' ---> 'b'", "'c' ---> 'd'"}}, nullptr);
+        QCOMPARE(QApplication::clipboard()->text(), "'a' ---> 'b'\n'c' ---> 'd'");
     }
 };
 QVDC_TEST(tst_ValuePrompts)

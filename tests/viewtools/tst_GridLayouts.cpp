@@ -8,9 +8,6 @@
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 
-#include <QHeaderView>
-#include <QTest>
-
 using namespace QV_DOC_CONTROLS;
 
 constexpr LayoutName kLayout{"jsTest"};
@@ -26,8 +23,7 @@ private slots:
         builtIn.setSource(&rows);
         grid.setSource(&rows);
         const GridState before = builtIn.state();
-        QVERIFY(!loadGridLayout(builtIn, kLayout));
-        QVERIFY(!builtIn.setState({{{"foreign"}}, {}, {}, 0}));
+        QVERIFY(!loadGridLayout(builtIn, kLayout) && !builtIn.setState({{{"foreign"}}, {}, {}, 0}));
         QCOMPARE(builtIn.state(), before);
 
         grid.setView(GridView::Card);

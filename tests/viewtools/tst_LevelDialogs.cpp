@@ -5,18 +5,10 @@
 #include "kit/grid/SampleRows.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QStandardItemModel>
 
-using namespace QV_DOC_CONTROLS;
-using tests::same;
-using tests::whileModal;
+using namespace tests;
 
 namespace {
 
@@ -81,22 +73,15 @@ struct Sorted {
         grid.setGroupLevels(keys(text));
     }
     int lines() const { return grid.table()->model()->rowCount(); }
-    /// Works on the sort dialog, and once more on the other one in both ways that it is opened.
-    template <class Work> bool sort(const Work &work)
+    /// Works on the dialog that the call opens.
+    template <class Dialog, class Work> bool work(bool (Dialog::*call)(AbstractGrid &), const Work &act)
     {
-        const auto open = whileModal<frmSort>(work);
-        return frmSort().SortGrid(grid);
+        const auto open = whileModal<Dialog>(act);
+        return (Dialog().*call)(grid);
     }
-    template <class Work> bool group(const Work &work)
-    {
-        const auto open = whileModal<frmGroupBy>(work);
-        return frmGroupBy().GroupGrid(grid);
-    }
-    template <class Work> bool group2(const Work &work)
-    {
-        const auto open = whileModal<frmGroupBy>(work);
-        return frmGroupBy().GroupGrid2(grid);
-    }
+    template <class Work> bool sort(const Work &act) { return work(&frmSort::SortGrid, act); }
+    template <class Work> bool group(const Work &act) { return work(&frmGroupBy::GroupGrid, act); }
+    template <class Work> bool group2(const Work &act) { return work(&frmGroupBy::GroupGrid2, act); }
 };
 
 } // namespace
@@ -126,29 +111,21 @@ private slots:
         for (const int state : {0, 1}) {                // expanded, collapsed
             Sorted s("+1");
             s.grid.setAllExpanded(state);
-            const auto work = [state](frmGroupBy &d) {
-                d.cboState->setCurrentIndex(state);
-                d.cmdOk->click();
-            };
-            QVERIFY(s.group(work));
+            QVERIFY(s.group([=](frmGroupBy &d) { d.cboState->setCurrentIndex(state), d.cmdOk->click(); }));
             QCOMPARE(s.lines(), state ? 6 : 12);
-            const auto other = [](frmGroupBy &d) {
+            QVERIFY(s.group2([](frmGroupBy &d) {
                 QVERIFY(d.cboState->isHidden() && d.lblState->isHidden());
                 d.cmdOk->click();
-            };
-            QVERIFY(s.group2(other));
+            }));
             QCOMPARE(s.lines(), state ? 6 : 12);        // left as it was
         }
-    }
-    void withoutColumnsThereIsNothingToChoose()
-    {
-        Sorted s;
-        s.grid.setSource(nullptr);
+        Sorted none;
+        none.grid.setSource(nullptr);
         const auto ok = [](LevelDialog &d) {
-            QCOMPARE(d.cboGroups[0]->count(), 1);
+            QCOMPARE(d.cboGroups[0]->count(), 1);       // nothing to choose
             d.cmdOk->click();
         };
-        QVERIFY(s.sort(ok) && s.group(ok) && s.group2(ok));
+        QVERIFY(none.sort(ok) && none.group(ok) && none.group2(ok));
     }
     void whateverIsNoOkLeavesTheGridAlone()
     {

@@ -3,14 +3,7 @@
 #include "kit/tools/ToolSet.h"
 #include "support/Registry.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QLineEdit>
-#include <QMenu>
 #include <QToolBar>
-#include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest/qtest.h>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -41,13 +34,10 @@ struct Window : QWidget {
 };
 
 constexpr ToolCommand<Window> kCommands[] = {
-    {"miSort", &Window::sort},
-    {"miCollapseAll", &Window::collapse, &Window::isGrouped},
-    {"miFind", &Window::fail},
-    {"miView_Table", &Window::table},
+    {"miSort", &Window::sort}, {"miCollapseAll", &Window::collapse, &Window::isGrouped},
+    {"miFind", &Window::fail}, {"miView_Table", &Window::table},
     {"miView_Card", &Window::paper, nullptr, &Window::showsCards},
-    {"miShowFields", &Window::paper},
-    {"miPrintPreview", &Window::paper},
+    {"miShowFields", &Window::paper}, {"miPrintPreview", &Window::paper},
 };
 
 Window::Window()

@@ -1,17 +1,13 @@
 #include "dialogs/viewtools/frmChooseList.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Same.h"
-
-#include <QListWidget>
-#include <QPushButton>
 
 using namespace QV_DOC_CONTROLS;
 
 namespace {
 struct Names final : EntrySource {
     QStringList names;
-    explicit Names(QStringList n) : names(std::move(n)) {}
+    explicit Names(const QStringList &n) : names(n) {}
     QStringList entries() const override { return names; }
 };
 } // namespace
@@ -34,14 +30,12 @@ private slots:
             QTest::mouseDClick(d.lstKh->viewport(), Qt::LeftButton, {}, at);
         };
         const std::tuple<const char *, QStringList, Act, int> rows[] = {
-            {"first at once", three, ok, 0},
-            {"by keys", three, byKeys, 1},
+            {"first at once", three, ok, 0}, {"by keys", three, byKeys, 1},
             {"double click", three, byMouse, 1},
-            {"last, the same text as another", three,
-             [=](frmChooseList &d) { d.lstKh->setCurrentRow(2), ok(d); }, 2},
-            {"cancel", three, [](frmChooseList &d) { d.cmdCancel->click(); }, -1},
-            {"escape", three, [](frmChooseList &d) { QTest::keyClick(&d, Qt::Key_Escape); }, -1},
-            {"nothing to choose from", {}, [=](frmChooseList &d) { ok(d), d.reject(); }, -1}};
+            {"last, the same text", three, [=](auto &d) { d.lstKh->setCurrentRow(2), ok(d); }, 2},
+            {"cancel", three, [](auto &d) { d.cmdCancel->click(); }, -1},
+            {"escape", three, [](auto &d) { QTest::keyClick(&d, Qt::Key_Escape); }, -1},
+            {"nothing to choose from", {}, [=](auto &d) { ok(d), d.reject(); }, -1}};
         for (const auto &[name, names, act, index] : rows) {
             qint32 chosen = 99;
             const auto watch = tests::whileModal<frmChooseList>(act);

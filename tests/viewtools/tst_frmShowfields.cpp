@@ -4,11 +4,6 @@
 #include "kit/grid/SampleRows.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
-#include "support/Same.h"
-
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -115,20 +110,13 @@ private slots:
     }
     void cancelSaysSoAndLeavesTheGridAlone()
     {
-        Columns columns;
+        Columns columns, none;
         columns.confirmed = true;
-        QCOMPARE(columns.after([](F &d) {
-            d.cmdRemove->click();
-            QTest::keyClick(d.focusWidget(), Qt::Key_Escape);
-        }),
-                 "DAC");
+        const Act escape = [](F &d) { QTest::keyClick(d.focusWidget(), Qt::Key_Escape); };
+        QCOMPARE(columns.after([&](F &d) { d.cmdRemove->click(), escape(d); }), "DAC");
         QVERIFY(!columns.confirmed);
-    }
-    void withoutColumnsNothingCanBeMoved()
-    {
-        Columns none;
         none.grid.setSource(nullptr);
-        none.after([](F &d) {
+        none.after([](F &d) {                   // nothing can be moved
             for (const QPushButton *b : {d.cmdAdd, d.cmdRemove, d.cmdUp, d.cmdDown}) QVERIFY(!b->isEnabled());
             d.cmdOk->click();
         });

@@ -42,19 +42,13 @@ struct SampleRows : GridSource {
     QVariant value(int row, int column) const override
     {
         const Record &r = at(row);
-        switch (column) {
-        case Nr: return r.nr;
-        case Name: return r.name;
-        case Visible: return r.visible;
-        case Kind: return r.kind;
-        case Color: return r.color;
-        default: return {};
-        }
+        const QVariant cells[] = {r.nr, r.name, r.visible, r.kind, r.color, {}};
+        return cells[column];
     }
     QString text(int row, int column) const override
     {
         if (column == Visible) return {};
-        if (column == Sample) return QStringLiteral("minta");
+        if (column == Sample) return "minta";
         return column == Kind ? kinds.value(at(row).kind) : value(row, column).toString();
     }
     RowStyles styles(int row) const override
@@ -113,11 +107,8 @@ struct SampleRows : GridSource {
     }
     void drop(const QMimeData &mime, const DropTarget &t) override
     {
-        log << QStringLiteral("drop %1 row %2 band %3/%4")
-                   .arg(mime.text())
-                   .arg(t.row)
-                   .arg(t.bandColumn)
-                   .arg(t.bandRow);
+        const QString place = QString(" row %1 band %2/%3").arg(t.row).arg(t.bandColumn).arg(t.bandRow);
+        log << "drop " + mime.text() + place;
     }
     const Record &at(int row) const { return all[size_t(row)]; }
     mutable int painted = 0;

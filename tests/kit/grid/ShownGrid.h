@@ -6,10 +6,7 @@
 #include "kit/grid/GridTable.h"
 #include "kit/grid/GroupBox.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QTest>
-#include <QVBoxLayout>
+#include "support/QtClasses.h"
 
 namespace tests {
 
@@ -48,6 +45,10 @@ struct Shown {
     {
         const QHeaderView &h = *table.header();
         return {h.sectionViewportPosition(column) + h.sectionSize(column) / 2, h.height() / 2};
+    }
+    void clickHeader(int column, Qt::KeyboardModifiers m = {})
+    {
+        QTest::mouseClick(table.header()->viewport(), Qt::LeftButton, m, header(column));
     }
     /// Drags with the mouse only, from one widget to a place on another.
     static void drag(QWidget &from, QPoint start, QWidget &to, QPoint end)

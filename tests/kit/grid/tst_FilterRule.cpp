@@ -1,5 +1,4 @@
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include "kit/grid/FilterRule.h"
 #include "kit/grid/RowFilter.h"

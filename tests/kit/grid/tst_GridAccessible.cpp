@@ -1,14 +1,9 @@
 #include "kit/grid/SampleRows.h"
 #include "support/Registry.h"
-#include "support/Same.h"
 
 #include "kit/grid/FilterLine.h"
 #include "kit/grid/Grid.h"
 #include "kit/grid/GroupBox.h"
-
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QLineEdit>
 
 using namespace tests;
 

@@ -3,14 +3,7 @@
 #include "support/ScriptedPrompts.h"
 #include "support/Typing.h"
 
-#include <QComboBox>
-#include <QDropEvent>
-#include <QHeaderView>
-#include <QLineEdit>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
-#include <QWheelEvent>
 
 using namespace tests;
 
@@ -20,13 +13,12 @@ private slots:
     void headerClicksSort()
     {
         Shown s;
-        QWidget &header = *s.table.header()->viewport();
-        QTest::mouseClick(&header, Qt::LeftButton, {}, s.header(SampleRows::Name));
+        s.clickHeader(SampleRows::Name);
         QCOMPARE(s.lines(), "alma alma 9 alma 10 barack körte szilva");
-        QTest::mouseClick(&header, Qt::LeftButton, {}, s.header(SampleRows::Name));
+        s.clickHeader(SampleRows::Name);
         QCOMPARE(s.lines(), "szilva körte barack alma 10 alma 9 alma");
-        QTest::mouseClick(&header, Qt::LeftButton, {}, s.header(SampleRows::Visible));
-        QTest::mouseClick(&header, Qt::LeftButton, Qt::ShiftModifier, s.header(SampleRows::Name));
+        s.clickHeader(SampleRows::Visible);
+        s.clickHeader(SampleRows::Name, Qt::ShiftModifier);
         QCOMPARE(s.grid.sortKeys().size(), 2u);
         QCOMPARE(s.lines(), "alma alma 10 barack alma 9 körte szilva");
     }
@@ -63,8 +55,7 @@ private slots:
         s.key(Qt::Key_Delete);
         QCOMPARE(s.grid.groupLevels(), (std::vector<SortKey>{{SampleRows::Visible}}));
         s.key(Qt::Key_Delete);
-        QVERIFY(s.grid.groupLevels().empty());
-        QVERIFY(s.grid.isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(s.grid.groupLevels().empty() && s.grid.isAncestorOf(QApplication::focusWidget()));
     }
 
     void bandsOpenAndCloseByKeysAndMouse()
@@ -78,13 +69,14 @@ private slots:
         s.key(Qt::Key_Left);                                // to the band over it
         QCOMPARE(s.table.currentIndex().row(), 0);
         s.key(Qt::Key_Left);
-        QVERIFY(s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
+        const QString closed = "[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott";
+        QVERIFY(s.lines().startsWith(closed));
         s.key(Qt::Key_Right);
         QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {},
                           s.table.visualRect(s.cell(0, 0)).topLeft() + QPoint(4, 4));
-        QVERIFY(s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
+        QVERIFY(s.lines().startsWith(closed));
         QTest::mouseDClick(s.table.viewport(), Qt::LeftButton, {}, s.table.visualRect(s.cell(0, 0)).center());
-        QVERIFY(!s.lines().startsWith("[Vonaltípus: folytonos (2)] [Vonaltípus: pontozott"));
+        QVERIFY(!s.lines().startsWith(closed));
         QVERIFY(current.isEmpty());                         // no record became current
         s.goTo(0, 0);
         s.key(Qt::Key_Return);
@@ -228,12 +220,11 @@ private slots:
         s.goTo(0, 0);
         s.key(Qt::Key_S);
         QCOMPARE(s.grid.currentRow(), 3);
-        QVERIFY(s.grid.find(SampleRows::Name, "ALMA"));     // the exact value before a beginning nearer by
-        QCOMPARE(s.grid.currentRow(), 0);
-        QVERIFY(s.grid.find(SampleRows::Name, "alma 1"));
-        QCOMPARE(s.grid.currentRow(), 4);
-        QVERIFY(s.grid.find(SampleRows::Name, "rac"));
-        QCOMPARE(s.grid.currentRow(), 2);
+        for (const auto &[text, row] : {std::pair("ALMA", 0), // the exact value before a beginning nearer by
+                                        {"alma 1", 4}, {"rac", 2}}) {
+            QVERIFY2(s.grid.find(SampleRows::Name, text), text);
+            QCOMPARE(s.grid.currentRow(), row);
+        }
         s.group({{SampleRows::Kind}});
         s.grid.setAllExpanded(false);
         QVERIFY(s.grid.find(SampleRows::Kind, "szagg"));    // opens its band

@@ -6,8 +6,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QCollator>
-#include <QTest>
-#include <QAbstractItemView>
 
 #include <random>
 #include <set>
@@ -85,7 +83,7 @@ struct PlainGrid {
                     const auto count =
                         std::ranges::count_if(all, [&](int r) { return path(r, level) == at; });
                     const QString value = shown(row, groups[level - 1].column);
-                    out << QStringLiteral("[%1: %2 (%3)]")
+                    out << QString("[%1: %2 (%3)]")
                                .arg(rows.cols[size_t(groups[level - 1].column)].caption,
                                     value.isEmpty() ? "(üres)" : value)
                                .arg(count);
@@ -134,8 +132,7 @@ private:
             grid.table()->model()->setData(at, below(2) ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
         else
             grid.table()->model()->setData(at, column == 0   ? QVariant(now.nr)
-                                               : column == 1 ? QVariant(now.name)
-                                                             : QVariant(now.kind));
+                                               : column == 1 ? QVariant(now.name) : QVariant(now.kind));
         rows.refuses = false;
     }
     void refill(Grid &grid, SampleRows &rows, PlainGrid &plain)
