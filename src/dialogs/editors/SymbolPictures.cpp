@@ -4,6 +4,7 @@
 #include "kit/ask/ErrorRelay.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 namespace QV_DOC_CONTROLS {
 namespace {
