@@ -7,8 +7,14 @@
 
 namespace benchmarks {
 
-/// Milliseconds from the call of `open` to the first picture of the dialog, which is rejected then.
-template <class Dialog, class Open> double untilFirstPaint(Open open)
+/// Milliseconds of a dialog.
+struct Showing {
+    double opening = 0; ///< from the call to the first picture
+    double closing = 0; ///< from Cancel to the end of the call
+};
+
+/// Opens the dialog by the call of `open` and rejects it once it was painted.
+template <class Dialog, class Open> Showing showingOf(Open open)
 {
     struct Watch final : QObject {
         Clock::time_point painted;
@@ -29,7 +35,12 @@ template <class Dialog, class Open> double untilFirstPaint(Open open)
     const auto start = Clock::now();
     open();
     qApp->removeEventFilter(&watch);
-    return std::chrono::duration<double, std::milli>(watch.painted - start).count();
+    return {std::chrono::duration<double, std::milli>(watch.painted - start).count(),
+            nanosecondsSince(watch.painted) / 1e6};
+}
+template <class Dialog, class Open> double untilFirstPaint(Open open)
+{
+    return showingOf<Dialog>(open).opening;
 }
 
 } // namespace benchmarks

@@ -35,13 +35,16 @@ double opening()
 {
     return untilFirstPaint<frmSetup>([] { clsDocDlgs().bEdit_Sids(stored()); });
 }
-double openingManager()
+Showing showManager()
 {
-    return untilFirstPaint<frmSupSid>([] {
+    frmSupSid form;
+    return showingOf<frmSupSid>([&] {
         qint16 id = kSymbols;
-        frmSupSid().bDoModal(stored(), MODE_SELECT, id);
+        form.bDoModal(stored(), MODE_SELECT, id);
     });
 }
+double openingManager() { return showManager().opening; }
+double closingManager() { return showManager().closing; }
 /// What the document takes to answer the calls of one opening.
 double reading()
 {
@@ -59,6 +62,9 @@ double reading()
 const bool s_entered =
     figure("symbols.page.32000.open", "ms", unbounded(), [] { return medianOf(&opening); }) &&
     figure("symbols.manager.32000.open", "ms", unbounded(), [] { return medianOf(&openingManager); }) &&
+    figure("symbols.manager.32000.close", "ms", unbounded(), [] { return medianOf(&closingManager); }) &&
+    figure("symbols.manager.32000.open.page", "x", atMost(1.3),
+           [] { return medianOf([] { return openingManager() / opening(); }); }) &&
     figure("symbols.page.32000.reading", "ms", unbounded(), [] { return medianOf(&reading); });
 
 } // namespace

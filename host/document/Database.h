@@ -8,6 +8,7 @@
 #include <QSqlQuery>
 
 #include <array>
+#include <exception>
 #include <memory>
 
 namespace refhost {
@@ -112,6 +113,17 @@ private:
     Database &m_db;
     bool m_kept = false;
 };
+
+/// The error of the document that ended `body`; null = it came to its end.
+template <class Body> std::exception_ptr refusalIn(Body body)
+{
+    try {
+        body();
+    } catch (const DocumentError &) {
+        return std::current_exception();
+    }
+    return {};
+}
 
 /// The first number of an answer, or `fallback` without one.
 template <class... A> int numberOf(Database &db, const QString &sql, int fallback, const A &...arguments)

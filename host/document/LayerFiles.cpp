@@ -94,8 +94,10 @@ void Layers::addFromFile(const QString &path)
         layer.LayId = -1, layer.gNr = line.number, layer.Name = line.rest, layer.Visible = true;
         all.push_back(layer);
     }
+    Write whole(m_db);                          // all of the file or nothing, also when the table is full
     std::vector<qint16> ids;
     addAll(all, ids);
+    whole.keep();
 }
 
 } // namespace refhost

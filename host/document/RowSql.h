@@ -47,6 +47,24 @@ template <class Rec, class Act> void named(const TableFacts<Rec> &facts, const R
     }
 }
 
+/// Stores new records under the identifiers that they carry.
+template <class Rec> class RowInsert {
+public:
+    RowInsert(Database &db, const TableFacts<Rec> &facts, const QString &sql)
+        : m_facts(facts), m_statement(db, sql)
+    {}
+    void write(const Rec &r)
+    {
+        int place = 0;
+        for (const Field<Rec> &field : m_facts.fields)
+            if (field.type) m_statement.bind(place++, field.get(r));
+        named(m_facts, r, [this] { m_statement.exec(); });
+    }
+private:
+    const TableFacts<Rec> &m_facts;
+    Statement m_statement;
+};
+
 /// Writes the columns of records that differ from what is stored; most updates change one of many.
 template <class Rec> class RowUpdate {
 public:

@@ -9,7 +9,7 @@
 namespace refhost {
 
 /// The common role over one table. Every write call is one transaction: when it throws, nothing of it was
-/// written.
+/// written, but for the rows of addAll before the one that was refused.
 template <class Rec, class Role> class SqlTable : public Role {
 public:
     explicit SqlTable(Database &db) : m_db(db), m_facts(factsOf<Rec>()), m_sql(m_facts) {}
@@ -45,18 +45,14 @@ public:
         std::vector<qint16> given;
         Write write(m_db);
         Identifiers numbers(m_db, table());
-        Statement insertion(m_db, m_sql.insert);
-        for (const Rec &r : rows) {
-            Rec stored = completed(r);
-            stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
-            insert(insertion, stored);
-            given.push_back(stored.*m_facts.id);
-        }
+        const std::exception_ptr refusal = refusalIn([&] { insertAll(rows, numbers, given); });
+        if (refusal && given.empty()) std::rethrow_exception(refusal);
         numbers.keep();
         added(given);
         changed();
         write.keep();
         ids = std::move(given);
+        if (refusal) std::rethrow_exception(refusal);
     }
     void update(const Rec &r) override
     {
@@ -102,8 +98,7 @@ public:
     {
         if (r.*m_facts.id <= 0) failUnknown(r.*m_facts.id);
         Write write(m_db);
-        Statement insertion(m_db, m_sql.insert);
-        insert(insertion, completed(r));
+        RowInsert(m_db, m_facts, m_sql.insert).write(completed(r));
         Identifiers::note(m_db, table(), r.*m_facts.id);
         added(std::vector<qint16>{r.*m_facts.id});
         changed();
@@ -138,12 +133,15 @@ private:
         for (const Field<Rec> &field : m_facts.fields) field.put(r, s.value(column++));
         return r;
     }
-    void insert(Statement &s, const Rec &r)
+    void insertAll(std::span<const Rec> rows, Identifiers &numbers, std::vector<qint16> &given)
     {
-        int place = 0;
-        for (const Field<Rec> &field : m_facts.fields)
-            if (field.type) s.bind(place++, field.get(r));
-        named(m_facts, r, [&] { s.exec(); });
+        RowInsert<Rec> insertion(m_db, m_facts, m_sql.insert);
+        for (const Rec &r : rows) {
+            Rec stored = completed(r);
+            stored.*m_facts.id = m_facts.numbered ? numbers.wanted(r.*m_facts.id) : numbers.next();
+            insertion.write(stored);
+            given.push_back(stored.*m_facts.id);
+        }
     }
     /// What is stored under the identifiers of the rows, in the order of identifiers.
     std::vector<Rec> storedFor(std::span<const Rec> rows) const

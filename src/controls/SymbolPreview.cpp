@@ -96,7 +96,7 @@ void SymbolPreview::LetSidRec(const tSid &tNew_SidRec)
 void SymbolPreview::take(std::optional<tSid> record)
 {
     m_surface->drawing.record.reset();
-    m_surface->drawing.glyph = record ? vectorGlyphOf(*record, m_doc) : ZolWDoc::Glyph();
+    m_surface->drawing.glyph = record ? vectorGlyphOf(*record, m_doc) : std::nullopt;
     m_surface->drawing.record = m_record = std::move(record);
     describe();
     redraw();

@@ -49,7 +49,7 @@ void SymbolDrawing::paint(QPainter &painter, QSize surface) const
     painter.save();
     painter.setClipRect(QRect({}, surface), Qt::IntersectClip);
     painter.fillRect(QRect({}, surface), background);
-    if (record) {
+    if (isComplete()) {
         if (grid) paintGrid(painter, surface);
         if (record->Type == kTrueType) paintTrueType(painter, surface);
         if (record->Type == kVector) paintStrokes(painter, surface);
@@ -62,6 +62,8 @@ void SymbolDrawing::paint(QPainter &painter, QSize surface) const
     }
     painter.restore();
 }
+
+bool SymbolDrawing::isComplete() const { return record && (record->Type != kVector || glyph); }
 
 QPixmap SymbolDrawing::picture(QSize surface, double ratio) const
 {
@@ -108,7 +110,7 @@ void SymbolDrawing::paintStrokes(QPainter &painter, QSize surface) const
 {
     const OnPixels lines(painter);
     const QPointF shift(double(record->MoveXmm), -double(record->MoveYmm));
-    drawGlyph(painter, glyph, {.origin = middlePixel(surface) + shift * scale(),
+    drawGlyph(painter, *glyph, {.origin = middlePixel(surface) + shift * scale(),
                                .height = double(record->Size_mm) * scale(),
                                .penWidth = rounded(record->Weight / 100.0 * scale()),
                                .color = color});
@@ -134,11 +136,11 @@ void SymbolDrawing::paintMarker(QPainter &painter, QSize surface) const
     }
 }
 
-ZolWDoc::Glyph vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc)
+std::optional<ZolWDoc::Glyph> vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc)
 {
     if (symbol.Type != kVector) return {};
     const ZolWDoc::VectorFont *const font = vectorFont(doc, symbol.Facename);
-    return font ? font->glyph(symbol.Code) : ZolWDoc::Glyph();
+    return font ? std::optional(font->glyph(symbol.Code)) : std::nullopt;
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -21,7 +21,8 @@ namespace QV_DOC_CONTROLS {
 /// rounded to the nearest, halves to even.
 struct SymbolDrawing {
     std::optional<ZolWDoc::tSid> record;        ///< nothing = the surface is left cleared
-    ZolWDoc::Glyph glyph;                       ///< of the record's vector font; see vectorGlyphOf()
+    /// Of a record of a vector font, by vectorGlyphOf(); nothing = no such font, the surface is left cleared.
+    std::optional<ZolWDoc::Glyph> glyph;
     double zoom = 3;                            ///< millimetres on the screen for one of the symbol's
     double pixelsPerMm = screenPixelsPerMm();
     QColor background = Qt::black, color = Qt::white;
@@ -34,14 +35,15 @@ struct SymbolDrawing {
 
 private:
     double scale() const { return pixelsPerMm * zoom; }
+    bool isComplete() const;
     void paintGrid(QPainter &painter, QSize surface) const;
     void paintTrueType(QPainter &painter, QSize surface) const;
     void paintStrokes(QPainter &painter, QSize surface) const;
     void paintMarker(QPainter &painter, QSize surface) const;
 };
 
-/// The strokes of a symbol's character from the vector fonts of the document; none when it is of another kind
-/// or there is no such font. Throws the host's error.
-ZolWDoc::Glyph vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc);
+/// The strokes of a symbol's character from the vector fonts of the document; nothing when it is of another
+/// kind or there is no such font. Throws the host's error.
+std::optional<ZolWDoc::Glyph> vectorGlyphOf(const ZolWDoc::tSid &symbol, const ZolWDoc::ZOLW_Doc *doc);
 
 } // namespace QV_DOC_CONTROLS

@@ -27,7 +27,7 @@ struct LayerTable {
     using Names = LayerNames;
     static Names namesOf(ZolWDoc::ZOLW_Doc &doc);
 
-    static constexpr const char *layout = "jsLayer";
+    static constexpr LayoutName layout{"jsLayer"};
     static constexpr Text cardCaption{3309, u"Réteg:|/"}, groupCaption{2834, u"Név"};
     static constexpr int numberColumn = 0, nameColumn = 1;
     static constexpr Column<Record, Names> columns[] = {

@@ -16,6 +16,7 @@ inline QString layerName(const ZolWDoc::tSid &s, const SymbolNames &n) { return 
 inline std::vector<GridChoice> layerChoices(const SymbolNames &n) { return n.layers.choices(); }
 QString fontTypeName(const ZolWDoc::tSid &s, const SymbolNames &); ///< the number when there is no such type
 std::vector<GridChoice> fontTypeChoices(const SymbolNames &);
+inline bool canRenumber(ZolWDoc::ZOLW_Doc &doc) { return doc.symbolRenumber() != nullptr; }
 template <auto M> constexpr auto symbolField(const char *key, Text caption)
 {
     return field<M, SymbolNames>(key, caption);
@@ -27,13 +28,15 @@ struct SymbolTable {
     using Names = SymbolNames;
     static Names namesOf(ZolWDoc::ZOLW_Doc &doc);
 
-    static constexpr const char *layout = "jsSid";
+    static constexpr LayoutName layout{"jsSid", {3387, u"-hun"}};
     static constexpr Text cardCaption{3238, u"Jelkulcstípus:|/"}, groupCaption{3368, u"Jelkulcscsoport név"};
+    static constexpr Text bandCaption = cardCaption;    ///< before group bands
     static constexpr int numberColumn = 0, nameColumn = 2;
     static constexpr Column<Record, Names> columns[] = {
         symbolField<&Record::SidId>("SidId", {3224, u"Ssz"})
             .with({2920, u"Sorszám"})
             .within(1, 32767)
+            .where(&canRenumber)
             .unique({Icon::Information, {2920, u"Sorszám"}, {3357, u"Létező sorszám !"}}),
         symbolField<&Record::ShortName>("SidSample", {3167, u"Minta"}).picture(),
         symbolField<&Record::ShortName>("Name", {2834, u"Név"})

@@ -4,12 +4,6 @@ namespace QV_DOC_CONTROLS {
 
 using namespace ZolWDoc;
 
-namespace {
-
-constexpr Text kFixedNumbers{22344, u"Ebben a rajzban a jelkulcsok sorszáma nem módosítható."};
-
-} // namespace
-
 clsJS_Sid::clsJS_Sid() : GroupedManager("clsJS_Sid")
 {
     groupRows().setDrags(groupDrags());
@@ -55,10 +49,6 @@ void clsJS_Sid::storeEdit(const tSid &now, const tSid &edited)
 
 bool clsJS_Sid::edit(int row, int column, const QVariant &value)
 {
-    if (column == SymbolTable::numberColumn && isOpen() && !document()->symbolRenumber()) {
-        guarded([this] { tell({Icon::Information, txt(Text{2920, u"Sorszám"}), txt(kFixedNumbers)}); });
-        return false;
-    }
     const bool stored = GroupedManager::edit(row, column, value);
     if (stored) emit RefreshSample(recordAt(row));
     return stored;
@@ -89,9 +79,11 @@ GroupDrags clsJS_Sid::groupDrags()
 
 bool clsJS_Sid::renameInPlace(qint16 group, const QString &name)
 {
-    bool renamed = false;
-    guarded([&] { renamed = m_groups.renameInPlace(group, name); });
-    return renamed;
+    return guardedOr(false, [&] {
+        if (!m_groups.renameInPlace(group, name)) return false;
+        groupRenamed(group, name);
+        return true;
+    });
 }
 
 void clsJS_Sid::raiseSelection(int count)

@@ -8,9 +8,7 @@ clsJs_Layer::clsJs_Layer() : GroupedManager("clsJs_Layer")
 {
     groupRows().setDrags(groupDrags());
     groupRows().setRenaming([this](qint16 group, const QString &name) {
-        bool renamed = false;
-        guarded([&] { renamed = m_groups.renameInPlace(group, name); });
-        return renamed;
+        return guardedOr(false, [&] { return m_groups.renameInPlace(group, name); });
     });
     groupRows().setRemoval([this] { deleteGroup(); });
 }

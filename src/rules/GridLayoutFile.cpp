@@ -1,7 +1,6 @@
 #include "rules/GridLayoutFile.h"
 
 #include "facade/services/Services.h"
-#include "facade/services/Text.h"
 #include "rules/WholeFile.h"
 
 #include <QFile>
@@ -135,9 +134,9 @@ std::optional<GridState> layoutFrom(const QByteArray &bytes, const QString &tabl
     return state;
 }
 
-QString layoutFileName(const QString &layout)
+QString layoutFileName(const LayoutName &layout)
 {
-    return settingsFolder() + u'/' + layout + txt(Text{3427, u"-hun"}) + QLatin1String(".jgl");
+    return settingsFolder() + u'/' + QLatin1String(layout.table) + txt(layout.suffix) + QLatin1String(".jgl");
 }
 
 void saveLayout(const QString &path, const QString &table, const GridState &state)

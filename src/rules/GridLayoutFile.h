@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facade/services/Text.h"
 #include "rules/GridState.h"
 
 #include <QByteArray>
@@ -19,8 +20,13 @@ QByteArray layoutBytes(const QString &table, const GridState &state);
 std::optional<GridState> layoutFrom(const QByteArray &bytes, const QString &table,
                                     std::span<const GridState::Column> builtIn);
 
+/// What a table calls its layout, and the text that ends the file's name in each language.
+struct LayoutName {
+    const char *table;
+    Text suffix{3427, u"-hun"};
+};
 /// Path of a table's layout in the current language; each language has a file of its own.
-QString layoutFileName(const QString &layout);
+QString layoutFileName(const LayoutName &layout);
 
 /// Replaces the file by one with this state. The old file goes only when the new one is whole on the disk;
 /// errors are swallowed.

@@ -37,7 +37,7 @@ void saveListViewColumns(ZolWDoc::SettingsStore &store, const QString &applicati
     if (application.isEmpty()) return;
     const int before =
         numberFrom(store.read(application, kSection, countKey(key), {}), kMostColumns).value_or(0);
-    for (int n = 1; n <= before; ++n) {
+    for (int n = int(list.columns.size()) + 1; n <= before; ++n) { // the others are written over
         store.remove(application, kSection, widthKey(key, n));
         store.remove(application, kSection, captionKey(key, n));
     }

@@ -91,9 +91,7 @@ protected:
     void begin()
     {
         setLanguage(Hungarian, {});
-        m_doc = layerDoc({{.gNr = 1, .Name = "A"}, {.gNr = 2, .Name = "B", .Visible = false},
-                          {.gNr = 3, .Name = "C"}, {.gNr = 4, .Name = "D"},
-                          {.gNr = 7, .Name = "E", .Visible = false}});
+        m_doc = layerDoc("1 A, -2 B, 3 C, 4 D, -7 E");
         m_doc->layers().makeCurrent(layer(3));
     }
     static void end()

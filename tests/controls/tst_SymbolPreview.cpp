@@ -76,6 +76,8 @@ private slots:
             c->setSidId(f.symbol.SidId);
             QVERIFY(!f.blank(c) && c->GetSidRec().FullName == f.symbol.FullName);
             c->LetSidRec(other);
+            c->setVisibleGrid(true);
+            c->setVisibleProt(true);
             QVERIFY(f.blank(c));                // no such font
             c->LetSidRec(f.symbol);
             c->TearDown();

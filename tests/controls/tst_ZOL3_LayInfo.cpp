@@ -102,15 +102,14 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc(
-            {{.gNr = 10, .Name = "Telekhatár"}, {.gNr = 12, .Name = "Út"}, {.gNr = 21, .Name = "Épület"}});
+        m_doc = tests::layerDoc("10 Telekhatár, 12 Út, 21 Épület");
         m_doc->layers().makeCurrent(layer(10));
     }
     void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a control was not released"); }
 
     void layersAreGivenTypedAndShown() // table
     {
-        const auto other = tests::layerDoc({{.gNr = 1, .Name = "A"}});
+        const auto other = tests::layerDoc("1 A");
         using Row = std::tuple<const char *, Act, const char *, const char *, int>; // raised, shown, current
         const Row rows[] = {
             {"by number", [](Form &f) { f.control->LetLayNr(12, 7); }, "7: 12", "12 Út", 12},

@@ -71,7 +71,7 @@ private slots:
     void init()
     {
         storePageSetup(pageLayoutOf(QPageSize::A4, QPageLayout::Landscape, {15, 15, 15, 15}));
-        m_doc = tests::layerDoc({});
+        m_doc = tests::layerDoc(ZolWDoc::tLayArr());
         const char *const names[] = {"Út széle", "Țărm",     "Đường đồng mức",
                                      "Kerítés",  "Ống nước", "Lakóépület"};
         for (qint16 i = 0; i < 60; ++i)

@@ -1,8 +1,5 @@
-#include "facade/clsDocDlgs.h"
 #include "support/RealDrawings.h"
 #include "support/Registry.h"
-
-#include <QTest>
 
 #include <numeric>
 
@@ -286,9 +283,7 @@ private slots:
     void everyCommandDoesItsWorkOnADrawing_data() { tests::addDrawingRows(); }
     void everyCommandDoesItsWorkOnADrawing()
     {
-        QFETCH(QString, path);
-        clsDocDlgs dialogs;
-        tests::workThrough<Session>(path, kActs, [&](auto &doc) { return dialogs.bEdit_Layers(doc); });
+        tests::workThrough<Session>(kActs, &clsDocDlgs::bEdit_Layers);
     }
 };
 

@@ -1,14 +1,18 @@
 #include "dialogs/select/frmSetup.h"
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "grids/layer/LayerCommands.h"
+#include "support/Documents.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/OwnStore.h"
 #include "support/Registry.h"
+#include "support/ScriptedPrompts.h"
 #include "support/WillingPrompts.h"
 
 #include <QAction>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
@@ -35,9 +39,7 @@ private slots:
         const QTemporaryDir folder;
         tests::WillingPrompts user;
         user.path = folder.filePath(QStringLiteral("layers"));
-        const auto real = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-A")},
-                                           {.gNr = 2, .Name = QStringLiteral("2-B")},
-                                           {.gNr = 3, .Name = QStringLiteral("C")}});
+        const auto real = tests::layerDoc("1 1-A, 2 2-B, 3 C");
         tests::FaultyDoc faulty(*real);
         frmSetup dialog;
         const auto watch = tests::whileModal<frmSetup>([&](frmSetup &d) {
@@ -51,6 +53,24 @@ private slots:
             QVERIFY(!d.isVisible());
         });
         QVERIFY_EXCEPTION_THROWN(dialog.bDoShow(faulty, 0), tests::HostError);
+    }
+
+    void theOneOfAllDocumentsThatFailsIsNamed()
+    {
+        setLanguage(Hungarian, {});
+        const auto first = tests::layerDoc("-12 A"), second = tests::layerDoc("12 A"),
+                   third = tests::layerDoc("12 A");
+        tests::FaultyDoc faulty(*second);
+        tests::Documents list({{first.get(), "a.qvd"}, {&faulty, "b.qvd"}, {third.get(), "c.qvd"}});
+        faulty.log.failNext = QStringLiteral("layers.update");
+        tests::ScriptedPrompts user({tests::warned(
+            appTitle(), "Nem sikerült átvinni a rétegek tulajdonságait ebbe a rajzba: b.qvd\n"
+                        "layers.update\nA sorrendben utána következő rajzok nem változtak.")});
+        frmSetup dialog;
+        dialog.setoDocList(&list);
+        const auto watch = tests::whileModal<frmSetup>([](frmSetup &d) { d.cmdOkAllDocument->click(); });
+        QVERIFY_THROWS_EXCEPTION(tests::HostError, dialog.bDoShow(*first, 0));
+        QVERIFY(third->layers().findByNumber(12)->Visible);
     }
 };
 

@@ -13,10 +13,13 @@
 #include "support/OwnStore.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
+#include "support/StrokeFont.h"
 #include "support/SymbolForm.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QFile>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
@@ -27,15 +30,37 @@ using tests::child;
 using tests::symbol;
 using tests::whileModal;
 
-Q_DECLARE_METATYPE(std::function<void(QV_DOC_CONTROLS::frmSelect &)>)
-using Act = std::function<void(frmSelect &)>;
-
 namespace {
 
 constexpr int kSampleColumn = 1;
 QAction &tool(QWidget &of, const char *name) { return child<QAction>(of, name); }
 Grid &items(QWidget &of) { return child<Grid>(of, "gridItems"); }
 void chooseRow(QWidget &of, qint16 number) { items(of).setCurrentRow(items(of).rowWithId(number)); }
+QMenu *askedFor(QWidget &over, QPoint at)       ///< by a right click
+{
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, over.mapToGlobal(at));
+    QApplication::sendEvent(&over, &event);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+/// Goes down a menu by what can be seen and used there, chooses the last one and closes the menu.
+void choose(QMenu *menu, const std::vector<const char *> &names)
+{
+    for (const char *name : names) {
+        QVERIFY2(menu, name);
+        const auto actions = menu->actions();
+        const auto found = std::ranges::find(actions, QLatin1String(name), &QAction::objectName);
+        QVERIFY2(found != actions.end() && (*found)->isVisible() && (*found)->isEnabled(), name);
+        menu = (*found)->menu();
+        if (!menu) (*found)->trigger();
+    }
+    while (QWidget *const open = QApplication::activePopupWidget()) open->close();
+}
+/// A host with a vector font and settings of its own.
+struct FontHost : tests::OwnStore {
+    tests::StrokeFontHost fonts;
+    FontHost() { setHostServices(this); }
+    VectorFontProvider *vectorFonts(const ZOLW_Doc *) override { return &fonts; }
+};
 /// What a sample shows: the pixels that are not its ground.
 int inkOf(clsJS_Sid &js, qint16 number, Grid &grid)
 {
@@ -107,27 +132,19 @@ private slots:
         QVERIFY(chosen == m_doc->symbols().find(3));
     }
 
-    void whateverIsNoOkLeavesTheRecord_data()
-    {
-        QTest::addColumn<Act>("act");
-        QTest::newRow("cancel") << Act([](frmSelect &d) {
-            chooseRow(d, 3);
-            child<QPushButton>(d, "cmdCancel").click();
-        });
-        QTest::newRow("close box") << Act([](frmSelect &d) { d.close(); });
-        QTest::newRow("ok, nothing is listed") << Act([](frmSelect &d) {
-            items(d).setFilterText(QStringLiteral("nincs ilyen"));
-            child<QPushButton>(d, "cmdOk").click();
-        });
-    }
     void whateverIsNoOkLeavesTheRecord()
     {
-        QFETCH(Act, act);
-        tSid chosen{.SidId = 2, .ShortName = QStringLiteral("mine")};
-        const tSid before = chosen;
-        const auto watch = whileModal<frmSelect>(act);
-        QVERIFY(!m_dialogs.bSelect_Sid(*m_doc, chosen));
-        QVERIFY(chosen == before);
+        const tSid before{.SidId = 2, .ShortName = QStringLiteral("mine")};
+        tSid chosen = before;
+        for (const bool cancelled : {true, false}) {
+            const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
+                chooseRow(d, 3);
+                if (!cancelled) items(d).setFilterText(QStringLiteral("nincs ilyen"));
+                child<QPushButton>(d, cancelled ? "cmdCancel" : "cmdOk").click(); // OK, but nothing is listed
+            });
+            QVERIFY(!m_dialogs.bSelect_Sid(*m_doc, chosen));
+            QVERIFY(chosen == before);
+        }
     }
 
     void samplesAndPreviewAreZoomedByTheirTools()
@@ -141,15 +158,62 @@ private slots:
             tool(d, "cmdSid_ViewZoomIn").trigger();
             QCOMPARE(inkOf(*d.jsSid, 1, items(d)), before);
             auto &preview = child<usSiInfo>(d, "usSiInfo1");
-            tool(d, "cmdSid_ZoomIn").trigger();         // makes it smaller, as published
-            QCOMPARE(preview.Zoom(), 9.5);              // the symbol's own is 10
-            tool(d, "cmdSid_ZoomOut").trigger();
-            QCOMPARE(preview.Zoom(), 10.0);
-            tool(d, "miSiInfo").trigger();
+            choose(askedFor(preview, {9, 9}), {"cmdSid_ZoomIn"}); // makes it smaller, as published
+            QCOMPARE(preview.Zoom(), 9.5); // the symbol's own is 10
+            QWidget &cells = *items(d).table()->viewport();
+            const QPoint below = cells.rect().bottomLeft() + QPoint(9, -9);
+            for (const QPoint at : {QPoint(9, 9), below})       // on a row, and where there is none
+                choose(askedFor(cells, at), {"mnuSiZoom", "cmdSid_ZoomOut"});
+            QCOMPARE(preview.Zoom(), 10.5);
+            choose(askedFor(cells, below), {"miSiInfo"});
             QVERIFY(!preview.isVisible());
+            QVERIFY(!tool(d, "cmdSid_ZoomIn").isEnabled());
             d.reject();
         });
         m_dialogs.bSelect_Sid(*m_doc, chosen);
+    }
+
+    void everyRefreshGetsTheSamplesReady()
+    {
+        m_store.reset();
+        const FontHost host;
+        const auto makeVector = [this, &host](qint16 id) {
+            tSid s = *m_doc->symbols().find(id);
+            s.Type = kVectorFont, s.Facename = host.fonts.name(), s.Code = 'N';
+            m_doc->symbols().update(s);
+        };
+        for (const qint16 id : {1, 2}) makeVector(id);
+        const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+            QVERIFY(inkOf(*d.jsSid, 2, items(d)) > 0);
+            std::vector<std::vector<tSid>> fills;
+            connect(d.jsSid, &clsJS_Sid::FillSample, &d, [&](qint32 &count, std::vector<tSid> &symbols) {
+                if (count == qint32(symbols.size())) fills.push_back(symbols);
+            });
+            d.jsSid->Refresh();
+            makeVector(3);
+            d.jsSid->Refresh();
+            QCOMPARE(fills.size(), 2u);
+            QCOMPARE(fills.back(), m_doc->symbols().readAll());
+            QCOMPARE(inkOf(*d.jsSid, 3, items(d)), inkOf(*d.jsSid, 2, items(d)));
+            d.reject();
+        });
+        m_dialogs.bEdit_Sids(*m_doc);
+    }
+
+    void theLayoutOfThePageIsKept()
+    {
+        const QString path = settingsFolder() + QStringLiteral("/jsSid-hun.jgl");
+        QFile::remove(path);
+        for (const GridView before : {GridView::Table, GridView::Card}) {
+            const auto watch = whileModal<frmSetup>([before](frmSetup &d) {
+                QCOMPARE(items(d).view(), before);
+                tool(d, "miView_Card").trigger();
+                d.reject();
+            });
+            m_dialogs.bEdit_Sids(*m_doc);
+            QVERIFY(QFile::exists(path));
+        }
+        QFile::remove(path);
     }
 
     void aSampleFollowsAnEdit()
@@ -177,11 +241,13 @@ private slots:
     void everyPresetSizeIsChosenByKeysAndByMouse()
     {
         const float presets[] = {1, 1.5f, 2, 2.5f, 3, 3.5f, 4, 5, 7, 10};
+        const QStringList shown = QStringLiteral("1,0 1,5 2,0 2,5 3,0 3,5 4,0 5,0 7,0 10,0").split(u' ');
         const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
             items(d).selectAll();
             for (const bool byMouse : {false, true})
                 for (int i = 0; i < 10; ++i) {
                     const auto user = whileModal<NumberBox>([&](NumberBox &box) {
+                        QCOMPARE(box.findChild<QComboBox *>()->itemText(i), shown[i]);
                         choose(*box.findChild<QComboBox *>(), i, byMouse);
                         QTest::keyClick(box.focusWidget(), Qt::Key_Return);
                     });

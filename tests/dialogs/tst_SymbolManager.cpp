@@ -2,8 +2,8 @@
 #include "dialogs/editors/frmEditSid.h"
 #include "dialogs/viewtools/frmChooseList.h"
 #include "dialogs/viewtools/frmSort.h"
-#include "facade/contract/FontPicker.h"
 #include "support/FaultyDoc.h"
+#include "support/FixedFonts.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
@@ -21,32 +21,10 @@ using tests::kSizeAsked;
 using tests::run;
 using tests::ScriptedPrompts;
 using tests::select;
+using tests::told;
 using tests::whileModal;
 using Act = tests::ManagerAct;
 using Steps = tests::PromptSteps;
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Steps)
-
-namespace {
-
-struct OneFace final : FontPicker {
-    FontPicker *before = setFontPicker(this);
-    ~OneFace() override { setFontPicker(before); }
-    std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override
-    {
-        return ScriptedFace{QStringLiteral("DejaVu Sans"), 204};
-    }
-    std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override
-    {
-        return QStringLiteral("Strokes");
-    }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &, QObject *) override
-    {
-        return {};
-    }
-};
-
-} // namespace
 
 /// The commands that the symbol manager has or words in its own way.
 class tst_SymbolManager : public QObject {
@@ -69,30 +47,28 @@ private slots:
         };
         const Icon info = Icon::Information, stop = Icon::Critical;
         const QString number = QStringLiteral("Sorszám módosítás"), group = QStringLiteral("Csoport törlése");
-        const auto asksNumber = [&](int answer, int proposed = 1) {
+        const auto asksNumber = [&](const QVariant &answer, int proposed = 1) {
             return ScriptedPrompts::Step{"numbers", number,
                                          QStringLiteral("A művelet rögzíti az eddigi változtatásokat is.\n"
                                                         "A(z) 'A' jelkulcs új sorszáma|Új sorszám:|%1")
                                              .arg(proposed),
-                                         QVariantList{double(answer)}};
+                                         answer.isNull() ? answer : QVariantList{answer.toDouble()}};
         };
-        row(
-            "renumbered: what was changed before cannot be dropped",
-            [](frmSupSid &f) {
-                select(f, 1);
-                run(f, "cmdSid_Size"), run(f, "cmdSid_Nr");
-                click(f, "cmdCancel");
-            },
-            {kSizeAsked,
-             asksNumber(30),
-             {"tell", QStringLiteral("Egyedi sorszám"), QStringLiteral("Létező sorszám !"), {}, info},
-             asksNumber(77, 30)},
+        const Act renumberAndCancel = [](frmSupSid &f) {
+            select(f, 1);
+            run(f, "cmdSid_Size"), run(f, "cmdSid_Nr");
+            click(f, "cmdCancel");
+        };
+        row("renumbered: what was changed before cannot be dropped", renumberAndCancel,
+            {kSizeAsked, asksNumber(30), told("Egyedi sorszám", "Létező sorszám !"), asksNumber(77, 30)},
             "2 B Egy 5 16 0, 30 C Kettő 5 16 0, 77 A Egy 7 16 0", "Egy Kettő");
+        row("renumbering given up: nor then", renumberAndCancel, {kSizeAsked, asksNumber({})},
+            "1 A Egy 7 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
         row(
             "sorted by keys alone",
             [](frmSupSid &f) {
                 const auto user = whileModal<frmSort>([](frmSort &s) {
-                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return})
+                    for (const Qt::Key key : {Qt::Key_N, Qt::Key_Tab, Qt::Key_Right, Qt::Key_Return})
                         QTest::keyClick(s.focusWidget(), key); // by name, downward
                 });
                 select(f, 2);
@@ -111,11 +87,7 @@ private slots:
                 QTest::keyClick(f.lvSids->report(), Qt::Key_Delete);
                 click(f, "cmdOk");
             },
-            {{"tell",
-              QStringLiteral("Jelkulcs típus törlése"),
-              QStringLiteral("Az utolsó jelkulcs nem törölhető!"),
-              {},
-              info}},
+            {told("Jelkulcs típus törlése", "Az utolsó jelkulcs nem törölhető!")},
             "30 C Kettő 5 16 0", "Egy Kettő");
         const auto inUse = [&](const char *name, bool goOn) {
             return ScriptedPrompts::Step{"yesNo", group,
@@ -172,7 +144,7 @@ private slots:
         QFETCH(QString, symbols);
         QFETCH(QString, groups);
         const tests::StrokeFontHost host;
-        const OneFace picker;
+        const tests::FixedFonts picker;
         ScriptedPrompts user(asked);
         m_form->open(MODE_EDIT, act, 1);
         QCOMPARE(m_form->symbols(), symbols);
@@ -210,6 +182,10 @@ private slots:
             QCOMPARE(mime ? mime->text() : QString(), QStringLiteral("FromZol3GridSid 1 2"));
             mime->setText(text);
             counted.log.calls.clear();
+            const QAbstractItemModel &groups = *f.lvGroups->model();
+            const bool isOwn = text != QStringLiteral("1 2");
+            QCOMPARE(groups.canDropMimeData(mime.get(), Qt::MoveAction, -1, -1, groups.index(onto, 0)),
+                     isOwn && onto >= 0);
             tests::drop(*mime, *f.lvGroups, onto);
             QCOMPARE(counted.log.writes().size(), moves ? 2 : 0);
             click(f, "cmdCancel");
@@ -223,11 +199,7 @@ private slots:
     void theLastGroupStays()
     {
         for (const tSid &s : m_form->doc->symbols().readAll()) m_form->doc->symbols().remove(s.SidId);
-        ScriptedPrompts user{{{"tell",
-                               QStringLiteral("Csoport törlése"),
-                               QStringLiteral("Az utolsó csoport nem törölhető!"),
-                               {},
-                               Icon::Critical}}};
+        ScriptedPrompts user({told("Csoport törlése", "Az utolsó csoport nem törölhető!", Icon::Critical)});
         m_form->open(
             MODE_EDIT,
             [](frmSupSid &f) {
@@ -277,7 +249,7 @@ private slots:
     void everyCallOfEveryCommandMayFail()
     {
         QFETCH(QByteArray, tool);
-        const OneFace picker;
+        const tests::FixedFonts picker;
         QTemporaryDir folder;
         for (int failAt = -1, calls = 1; failAt < calls; ++failAt) {
             init();

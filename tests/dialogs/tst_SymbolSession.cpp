@@ -1,8 +1,5 @@
-#include "facade/clsDocDlgs.h"
 #include "support/RealDrawings.h"
 #include "support/Registry.h"
-
-#include <QTest>
 
 using namespace QV_DOC_CONTROLS;
 
@@ -123,7 +120,13 @@ struct Session {
         rows[made].size = 7.25;
         intoCell(made, 3, QStringLiteral("7,25"));
     }
-    void sizeOutOfBounds() { intoCell(made, 3, QStringLiteral("5000")); }
+    /// It is said, and what was typed waits in its cell to be typed over.
+    void sizeOutOfBounds()
+    {
+        rows[made].size = 8.25;
+        user.answers << QStringLiteral("\r");
+        intoCell(made, 3, QStringLiteral("5000\r8,25"));
+    }
     void weightInCell()
     {
         rows[third].weight = 25;
@@ -227,9 +230,7 @@ private slots:
     void everyCommandDoesItsWorkOnADrawing_data() { tests::addDrawingRows(); }
     void everyCommandDoesItsWorkOnADrawing()
     {
-        QFETCH(QString, path);
-        clsDocDlgs dialogs;
-        tests::workThrough<Session>(path, kActs, [&](auto &doc) { return dialogs.bEdit_Sids(doc); });
+        tests::workThrough<Session>(kActs, &clsDocDlgs::bEdit_Sids);
     }
 };
 

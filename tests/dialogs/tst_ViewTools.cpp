@@ -54,9 +54,7 @@ private slots:
         setLanguage(Hungarian, {});
         setAppTitle(QStringLiteral("ZOLDocDlgs"));
         QDir(settingsFolder()).removeRecursively();
-        m_doc = tests::layerDoc({{.gNr = 10, .Name = QStringLiteral("Telek")},
-                                 {.gNr = 9, .Name = QStringLiteral("Út"), .Visible = false},
-                                 {.gNr = 21, .Name = QStringLiteral("Épület")}});
+        m_doc = tests::layerDoc("10 Telek, -9 Út, 21 Épület");
     }
 
     void viewsAreSwitchedAndShown()

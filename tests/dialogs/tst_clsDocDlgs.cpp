@@ -10,6 +10,7 @@
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
+#include "support/Same.h"
 
 #include <QFile>
 #include <QPushButton>
@@ -82,7 +83,7 @@ private slots:
         QFETCH(QString, button);
         QFETCH(QString, failing);
         QFETCH(QStringList, marks);
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         tests::FaultyDoc faulty(*doc);
         faulty.log.failNext = failing;
         clsDocDlgs dialogs;
@@ -108,8 +109,7 @@ private slots:
         using ZolWDoc::TableKind;
         ResourcePicker *const picker = resourcePicker();
         QVERIFY(picker && picker->canPick(TableKind::Symbols) && !picker->canPick(TableKind::TextTypes));
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                          {.gNr = 2, .Name = QStringLiteral("B")}});
+        const auto doc = tests::layerDoc("1 A, 2 B");
         const qint16 second = doc->layers().findByNumber(2)->LayId;
         const auto pickBy = [&](const char *button) {
             const auto watch = tests::whileModal<frmSelect>(
@@ -121,32 +121,27 @@ private slots:
     }
 
     /// Any of the calls that open a dialog, cancelled.
-    void everyCallIsTraced_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char *name : {"bSelect_LayArr", "bEdit_Layers", "bSetupEx", "bSetup"})
-            QTest::newRow(name) << QString::fromLatin1(name);
-    }
     void everyCallIsTraced()
     {
-        QFETCH(QString, name);
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         clsDocDlgs dialogs;
         ZolWDoc::tLayArr layers;
-        const QHash<QString, std::function<bool()>> calls{
-            {QStringLiteral("bSelect_LayArr"), [&] { return dialogs.bSelect_LayArr(*doc, layers); }},
-            {QStringLiteral("bEdit_Layers"), [&] { return dialogs.bEdit_Layers(*doc); }},
-            {QStringLiteral("bSetupEx"), [&] { return dialogs.bSetupEx(*doc, 0, true); }},
-            {QStringLiteral("bSetup"), [&] { return dialogs.bSetup(*doc, 0); }}};
-        const auto watch = tests::whileModal<QDialog>([](QDialog &d) { d.reject(); });
-        QStringList expected;
-        for (const char *mark : {">>", "1", "2", "<<"})
-            expected << QStringLiteral("clsDocDlgs.%1 %2").arg(name, QLatin1String(mark));
-        QCOMPARE(traced([&] { QVERIFY(!calls[name]()); }), expected);
+        const std::pair<QString, std::function<bool()>> calls[] = {
+            {"bSelect_LayArr", [&] { return dialogs.bSelect_LayArr(*doc, layers); }},
+            {"bEdit_Layers", [&] { return dialogs.bEdit_Layers(*doc); }},
+            {"bSetupEx", [&] { return dialogs.bSetupEx(*doc, 0, true); }},
+            {"bSetup", [&] { return dialogs.bSetup(*doc, 0); }}};
+        for (const auto &[name, call] : calls) {
+            const auto watch = tests::whileModal<QDialog>([](QDialog &d) { d.reject(); });
+            QStringList expected;
+            for (const char *mark : {">>", "1", "2", "<<"})
+                expected << QStringLiteral("clsDocDlgs.%1 %2").arg(name, QLatin1String(mark));
+            QCOMPARE(traced([&, &call = call] { QVERIFY(!call()); }), expected);
+        }
     }
     void whatTheSetupDialogIsTold()
     {
-        const auto doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")}});
+        const auto doc = tests::layerDoc("1 A");
         clsDocDlgs dialogs;
         tests::Documents list({{doc.get(), QStringLiteral("a")}});
         dialogs.setWarnInvisibleCurrentLayer(true);
@@ -179,26 +174,25 @@ private slots:
         second.TearDown();
         QCOMPARE(second.sAppTitle(), QStringLiteral("Rajz"));
     }
-    void theHostsLanguageIsTakenAtConstruction_data()
-    {
-        QTest::addColumn<int>("current");
-        QTest::addColumn<int>("component");
-        QTest::addColumn<int>("taken");
-        QTest::newRow("the program's") << int(English) << 0 << int(English);
-        QTest::newRow("the component's own goes first") << int(English) << int(Romanian) << int(Romanian);
-        QTest::newRow("undecided keeps what was set") << 0 << 0 << int(Hungarian);
-        QTest::newRow("unknown is hungarian") << 1031 << 0 << int(Hungarian);
-    }
     void theHostsLanguageIsTakenAtConstruction()
     {
-        QFETCH(int, current);
-        QFETCH(int, component);
-        QFETCH(int, taken);
-        Host host;
-        host.runtime.language = current, host.runtime.component = component;
-        setHostServices(&host);
-        clsDocDlgs dialogs;
-        QCOMPARE(currentLanguage(), taken);
+        struct Row {
+            const char *name;
+            int current, component, taken;
+        };
+        for (const auto &[name, current, component, taken] :
+             {Row{"the program's", English, 0, English},
+              {"the component's own goes first", English, Romanian, Romanian},
+              {"undecided keeps what was set", 0, 0, Hungarian},
+              {"unknown is hungarian", 1031, 0, Hungarian}}) {
+            Host host;
+            host.runtime.language = current, host.runtime.component = component;
+            setLanguage(Hungarian, {});
+            setHostServices(&host);
+            const clsDocDlgs dialogs;
+            tests::same(name, currentLanguage(), taken);
+            setHostServices(nullptr);
+        }
     }
 };
 

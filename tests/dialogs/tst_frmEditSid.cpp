@@ -5,11 +5,11 @@
 #include "controls/usSiInfo.h"
 #include "controls/usTxAlign.h"
 #include "dialogs/editors/OptionBox.h"
-#include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
 #include "facade/services/Language.h"
 #include "fonts/FontCatalogue.h"
-#include "support/FaultyDoc.h"
+#include "support/EachCall.h"
+#include "support/FixedFonts.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
@@ -27,6 +27,8 @@
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
+using tests::told;
+using tests::warned;
 using tests::whileModal;
 
 using Act = std::function<void(frmEditSid &)>;
@@ -49,20 +51,6 @@ Act typed(const char *control, const char *text)
 {
     return [=](frmEditSid &f) { typeInto(tests::child<QWidget>(f, control), QString::fromUtf8(text)); };
 }
-
-struct ChosenCharacter final : FontPicker {
-    FontPicker *before = setFontPicker(this);
-    FontCharacter asked, answer;
-    ~ChosenCharacter() override { setFontPicker(before); }
-    std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override { return {}; }
-    std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override { return {}; }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
-                                               QObject *) override
-    {
-        asked = first;
-        return answer;
-    }
-};
 
 } // namespace
 
@@ -304,7 +292,7 @@ private slots:
         QFETCH(Act, act);
         QFETCH(QString, title);
         QFETCH(QString, text);
-        ScriptedPrompts user{{{"tell", title, text, {}, Icon::Exclamation}}};
+        ScriptedPrompts user({warned(title, text)});
         const tSid after = edited(
             symbol(),
             [&](frmEditSid &f) {
@@ -320,8 +308,8 @@ private slots:
 
     void aCharacterComesFromTheViewer()
     {
-        ChosenCharacter picker;
-        picker.answer = {FontKind::TrueType, trueTypeFaces()[1], 204, 200};
+        tests::FixedFonts picker;
+        picker.character = {FontKind::TrueType, trueTypeFaces()[1], 204, 200};
         tSid wanted = symbol();
         wanted.Facename = trueTypeFaces()[1], wanted.CharSet = 204, wanted.Code = 200;
         QVERIFY(edited(symbol(), [](frmEditSid &f) { f.cmdChooseChar->click(); }) == wanted);
@@ -331,11 +319,7 @@ private slots:
     void missingVectorFontsAreTold()
     {
         m_host.reset(); // a host without any
-        ScriptedPrompts user{{{"tell",
-                               {},
-                               QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"),
-                               {},
-                               Icon::Information}}};
+        ScriptedPrompts user({told({}, QStringLiteral("Hiányoznak a vektor fontok tulajdonságai!"))});
         tSid wanted = symbol();
         wanted.Type = 1;
         QVERIFY(edited(symbol(), [](frmEditSid &f) {
@@ -346,31 +330,16 @@ private slots:
     /// The road of the commands: read, edited, written at once; and every call of it may fail.
     void theEditorOfTheLibraryWritesOrThrows()
     {
-        for (int failAt = -1, calls = 1; failAt < calls; ++failAt) {
-            init();
-            tests::FaultyDoc faulty(*m_doc);
-            faulty.log.failAt = failAt;
-            const auto confirm = [](frmEditSid &f) {
-                typeInto(*f.usLayInfo1, QStringLiteral("12"));
-                typeInto(*f.txtShortName, QStringLiteral("Akna"));
-                if (f.isVisible()) f.cmdOk->click();
-            };
-            const auto edit = [&] { return recordEditors()->edit(TableKind::Symbols, faulty, 7, nullptr); };
-            if (failAt < 0) {
-                const auto user = whileModal<frmEditSid>(confirm);
-                QVERIFY(edit());
-                calls = int(faulty.log.calls.size());
-                QVERIFY(symbol().ShortName == QStringLiteral("Akna") && symbol().LayId == s_road);
-                continue;
-            }
-            QTimer user;
-            user.callOnTimeout([&] {
-                if (auto *const f = qobject_cast<frmEditSid *>(QApplication::activeModalWidget()))
-                    confirm(*f);
-            });
-            user.start(0);
-            QVERIFY_THROWS_EXCEPTION(tests::HostError, edit());
-        }
+        const auto confirm = [](frmEditSid &f) {
+            typeInto(*f.usLayInfo1, QStringLiteral("12"));
+            typeInto(*f.txtShortName, QStringLiteral("Akna"));
+            if (f.isVisible()) f.cmdOk->click();
+        };
+        const auto edit = [](ZOLW_Doc &doc) {
+            return recordEditors()->edit(TableKind::Symbols, doc, 7, nullptr);
+        };
+        QVERIFY(tests::failEachCall<frmEditSid>(*m_doc, edit, confirm, [] {}) > 4);
+        QVERIFY(symbol().ShortName == QStringLiteral("Akna") && symbol().LayId == s_road);
     }
 };
 

@@ -3,7 +3,7 @@
 #include "facade/services/Language.h"
 #include "facade/services/Services.h"
 #include "grids/clsJs_Layer.h"
-#include "support/FaultyDoc.h"
+#include "support/EachCall.h"
 #include "support/LayerDoc.h"
 #include "support/Modal.h"
 #include "support/Registry.h"
@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTest>
-#include <QTimer>
 #include <QAbstractItemView>
 
 using namespace QV_DOC_CONTROLS;
@@ -23,6 +22,17 @@ using tests::whileModal;
 
 Q_DECLARE_METATYPE(std::function<void(QV_DOC_CONTROLS::frmSelect &)>)
 using Act = std::function<void(frmSelect &)>;
+
+namespace {
+
+ScriptedPrompts::Step hiddenAsked(bool answer, std::function<void()> meanwhile = {})
+{
+    return {"yesNo", QStringLiteral("ZOLDocDlgs"),
+            QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), answer, Icon::Question,
+            std::move(meanwhile)};
+}
+
+} // namespace
 
 class tst_frmSelect : public QObject {
     Q_OBJECT
@@ -48,9 +58,7 @@ private slots:
     {
         setLanguage(Hungarian, {});
         m_dialogs.setWarnInvisibleCurrentLayer(false);
-        m_doc = tests::layerDoc({{.gNr = 10, .Name = QStringLiteral("Telekhatár")},
-                                 {.gNr = 12, .Name = QStringLiteral("Út"), .Visible = false},
-                                 {.gNr = 21, .Name = QStringLiteral("Épület")}});
+        m_doc = tests::layerDoc("10 Telekhatár, -12 Út, 21 Épület");
         m_doc->layers().makeCurrent(layer(10));
     }
     void cleanup() { QVERIFY2(traceObjects().entries().empty(), "a form or manager was not released"); }
@@ -78,11 +86,14 @@ private slots:
     void whateverIsNoOkLeavesRecordAndDocument()
     {
         QFETCH(Act, act);
-        const tLay before = layer(12);
-        tLay lay = before;
-        const auto watch = whileModal<frmSelect>(act);
-        QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
-        QCOMPARE(lay, before);
+        tLay lay = layer(12);
+        tLayArr several{layer(21), layer(12)};
+        for (const bool one : {true, false}) {
+            const auto watch = whileModal<frmSelect>(act);
+            QVERIFY(!(one ? m_dialogs.bSelect_Lay(*m_doc, lay) : m_dialogs.bSelect_LayArr(*m_doc, several)));
+        }
+        QCOMPARE(lay, layer(12));
+        QCOMPARE(several, (tLayArr{layer(21), layer(12)}));
         QCOMPARE(m_doc->layers().currentId(), layer(10).LayId);
     }
 
@@ -131,25 +142,6 @@ private slots:
         QCOMPARE(chosen, (tLayArr{layer(10), layer(21)}));
     }
 
-    void severalLayersAreLeftAlone_data()
-    {
-        QTest::addColumn<Act>("act");
-        QTest::newRow("cancel") << Act([](frmSelect &d) { child<QPushButton>(d, "cmdCancel").click(); });
-        QTest::newRow("ok without a selected row") << Act([](frmSelect &d) {
-            child<Grid>(d, "gridItems").selectRows({});
-            child<QPushButton>(d, "cmdOk").click();
-        });
-    }
-    void severalLayersAreLeftAlone()
-    {
-        QFETCH(Act, act);
-        const tLayArr before{layer(21), layer(12)};
-        tLayArr chosen = before;
-        const auto watch = whileModal<frmSelect>(act);
-        QVERIFY(!m_dialogs.bSelect_LayArr(*m_doc, chosen));
-        QCOMPARE(chosen, before);
-    }
-
     void anInvisibleLayerIsTakenWithoutAQuestionUnlessWanted()
     {
         ScriptedPrompts nobody;
@@ -161,60 +153,33 @@ private slots:
     void noToTheInvisibleLayerKeepsTheDialogOpen()
     {
         m_dialogs.setWarnInvisibleCurrentLayer(true);
-        const QString question = QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?");
-        ScriptedPrompts user({{"yesNo", QStringLiteral("ZOLDocDlgs"), question, false, Icon::Question},
-                              {"yesNo", QStringLiteral("ZOLDocDlgs"), question, true, Icon::Question}});
-        tLay lay = layer(10);
-        const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
-            pick(12, "cmdOk")(d);
-            QVERIFY(d.isVisible());
-            QCOMPARE(user.asked(), 1);
-            child<QPushButton>(d, "cmdOk").click();
-        });
-        QVERIFY(m_dialogs.bSelect_Lay(*m_doc, lay));
-        QCOMPARE(lay, layer(12));
-    }
-    void noThenCancelIsACancel()
-    {
-        m_dialogs.setWarnInvisibleCurrentLayer(true);
-        ScriptedPrompts user(
-            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
-              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), false, Icon::Question}});
-        tLay lay = layer(10);
-        const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
-            pick(12, "cmdOk")(d);
-            child<QPushButton>(d, "cmdCancel").click();
-        });
-        QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
-        QCOMPARE(lay, layer(10));
+        for (const bool givenUp : {true, false}) {
+            std::vector<ScriptedPrompts::Step> asked{hiddenAsked(false)};
+            if (!givenUp) asked.push_back(hiddenAsked(true));
+            ScriptedPrompts user(asked);
+            tLay lay = layer(10);
+            const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
+                pick(12, "cmdOk")(d);
+                QVERIFY(d.isVisible());
+                QCOMPARE(user.asked(), 1);
+                child<QPushButton>(d, givenUp ? "cmdCancel" : "cmdOk").click();
+            });
+            QCOMPARE(m_dialogs.bSelect_Lay(*m_doc, lay), !givenUp);
+            QCOMPARE(lay, layer(givenUp ? 10 : 12));
+        }
     }
 
-    /// Each host call of the whole road fails once; the caller gets the host's own exception and nothing has
-    /// changed.
     void everyErrorOfTheHostReachesTheCaller()
     {
-        int failed = 0;
-        for (bool confirmed = false; !confirmed; ++failed) {
-            tests::FaultyDoc faulty(*m_doc);
-            faulty.log.failAt = failed;
-            tLay lay = layer(10);
-            QTimer ok; // the dialog opens only once every call before it succeeds
-            connect(&ok, &QTimer::timeout, &ok, [&] {
-                auto *const d = qobject_cast<frmSelect *>(QApplication::activeModalWidget());
-                if (d) ok.stop(), pick(21, "cmdOk")(*d);
-            });
-            ok.start(0);
-            try {
-                confirmed = m_dialogs.bSelect_Lay(faulty, lay);
-            } catch (const tests::HostError &e) {
-                QCOMPARE(QString::fromUtf8(e.what()), faulty.log.calls.last());
-                QCOMPARE(lay, layer(10));
-                QCOMPARE(m_doc->layers().currentId(), layer(10).LayId);
-            }
-            QVERIFY(!QApplication::activeModalWidget());
+        const tLay before = layer(10);
+        tLay lay = before;
+        const auto unchanged = [&] {
+            QCOMPARE(lay, before);
+            QCOMPARE(m_doc->layers().currentId(), before.LayId);
             QVERIFY(traceObjects().entries().empty());
-        }
-        QVERIFY2(failed > 7, qPrintable(QString::number(failed)));
+        };
+        const auto select = [&](ZOLW_Doc &doc) { return m_dialogs.bSelect_Lay(doc, lay); };
+        QVERIFY(tests::failEachCall<frmSelect>(*m_doc, select, pick(21, "cmdOk"), unchanged) > 7);
     }
     /// A command of the dialog fails while a message box stands above it: both close, and nothing is asked
     /// again.
@@ -223,14 +188,12 @@ private slots:
         m_dialogs.setWarnInvisibleCurrentLayer(true);
         tests::FaultyDoc faulty(*m_doc);
         frmSelect *open = nullptr;
-        ScriptedPrompts user(
-            {{"yesNo", QStringLiteral("ZOLDocDlgs"),
-              QStringLiteral("12 Kikapcsolt réteget választott!\nMegerősíti?"), true, Icon::Question, [&] {
-                  faulty.log.failNext = QStringLiteral("layers.update");
-                  open->jsLayer->setAllowEdit(true);
-                  QAbstractItemView &table = *child<Grid>(*open, "gridItems").table();
-                  table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
-              }}});
+        ScriptedPrompts user({hiddenAsked(true, [&] {
+            faulty.log.failNext = QStringLiteral("layers.update");
+            open->jsLayer->setAllowEdit(true);
+            QAbstractItemView &table = *child<Grid>(*open, "gridItems").table();
+            table.model()->setData(table.model()->index(1, 1), QStringLiteral("Más"));
+        })});
         tLay lay = layer(10);
         const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
             open = &d;
@@ -241,30 +204,24 @@ private slots:
         QVERIFY(!faulty.log.calls.contains(QStringLiteral("layers.makeCurrent")));
     }
 
-    void aLanguageChangeReachesTheOpenDialog_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("english") << int(English) << QStringLiteral("Layer selector");
-        QTest::newRow("unknown is hungarian") << 1031 << QStringLiteral("Rétegválasztó");
-    }
     void aLanguageChangeReachesTheOpenDialog()
     {
-        QFETCH(int, language);
-        QFETCH(QString, title);
-        setLanguage(language == English ? Hungarian : English, {});
-        tLay lay = layer(10);
-        const auto watch = whileModal<frmSelect>([&](frmSelect &d) {
-            const QString before = d.windowTitle();
-            setLanguage(language, {});
-            emit LanguageHub::instance().LanguageChanged();
-            QCOMPARE(d.windowTitle(), title);
-            QVERIFY(d.windowTitle() != before);
-            const QAbstractItemView &table = *child<Grid>(d, "gridItems").table();
-            QCOMPARE(table.model()->headerData(1, Qt::Horizontal).toString(), txt(Text{3299, u"Rétegnév"}));
-            d.reject();
-        });
-        QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
+        const std::pair<int, const char *> rows[] = {{English, "Layer selector"},
+                                                     {1031, "Rétegválasztó"}}; // unknown is Hungarian
+        for (const auto &[language, title] : rows) {
+            setLanguage(language == English ? Hungarian : English, {});
+            tLay lay = layer(10);
+            const auto watch = whileModal<frmSelect>([&, language = language, title = title](frmSelect &d) {
+                setLanguage(language, {});
+                emit LanguageHub::instance().LanguageChanged();
+                QCOMPARE(d.windowTitle(), QString::fromUtf8(title));
+                const QAbstractItemView &table = *child<Grid>(d, "gridItems").table();
+                QCOMPARE(table.model()->headerData(1, Qt::Horizontal).toString(),
+                         txt(Text{3299, u"Rétegnév"}));
+                d.reject();
+            });
+            QVERIFY(!m_dialogs.bSelect_Lay(*m_doc, lay));
+        }
     }
 
     void theSplitterKeepsFromBothEdges()

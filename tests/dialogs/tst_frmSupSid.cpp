@@ -18,11 +18,11 @@ using tests::kSizeAsked;
 using tests::run;
 using tests::ScriptedPrompts;
 using tests::select;
+using tests::told;
+using tests::warned;
 using tests::whileModal;
 using Act = tests::ManagerAct;
 using Steps = tests::PromptSteps;
-Q_DECLARE_METATYPE(Act)
-Q_DECLARE_METATYPE(Steps)
 
 namespace {
 
@@ -88,7 +88,8 @@ private slots:
             {}, "1 2 5 5 5");
         row("edited", MODE_EDIT, then(resize, "cmdOk"), {kSizeAsked}, "1 2 5 7 5");
         row("closed, kept", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keepAsked(true)}, "1 2 5 7 5");
-        row("closed, dropped", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keepAsked(false)}, "0 30 5 5 5");
+        row("closed, dropped", MODE_EDIT, then(resize, "cmdCancel"), {kSizeAsked, keepAsked(false)},
+            "0 30 5 5 5");
         row("nothing changed", MODE_EDIT, then(two, "cmdCancel"), {}, "0 30 5 5 5");
         row("mode left, dropped", MODE_EDIT, then(resize, "cmdEditMode"), {kSizeAsked, keepAsked(false)},
             "0 30 5 5 5");
@@ -119,11 +120,7 @@ private slots:
                 QVERIFY(!f.isEditMode() && !child<QAction>(f, "cmdEditMode").isChecked());
                 click(f, "cmdCancel");
             },
-            {{"tell",
-              appTitle(),
-              QStringLiteral("A szerkesztő mód nem választható !"),
-              {},
-              Icon::Exclamation}},
+            {warned(appTitle(), QStringLiteral("A szerkesztő mód nem választható !"))},
             "0 30 5 5 5");
     }
     void changesAreKeptOrDropped()
@@ -259,6 +256,11 @@ private slots:
             };
             m_form->open(mode, again, 2);
         }
+        const Act look = [](frmSupSid &f) { click(f, "cmdCancel"); };
+        m_form->open(MODE_SELECT, look, 2);
+        const int written = m_form->store.kept.written;
+        m_form->open(MODE_SELECT, look, 2);
+        QCOMPARE(m_form->store.kept.written, written); // as it was: the disk is left alone
         setLanguage(English, {});
         const auto translated = [&](frmSupSid &f) {
             QCOMPARE(f.width(), 700);
@@ -273,11 +275,7 @@ private slots:
         const QString title = QStringLiteral("Sorszám");
         const QString text = QStringLiteral("Egyedi sorszám|Jelkulcstípus száma|%1");
         ScriptedPrompts user{{{"numbers", title, text.arg(1), QVariantList{2.0}},
-                              {"tell",
-                               QStringLiteral("Egyedi sorszám"),
-                               QStringLiteral("Létező sorszám !"),
-                               {},
-                               Icon::Information},
+                              told("Egyedi sorszám", "Létező sorszám !"),
                               {"numbers", title, text.arg(2), QVariantList{5.0}},
                               {"numbers", title, text.arg(5)}}};
         m_form->open(

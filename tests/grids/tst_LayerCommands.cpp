@@ -1,5 +1,6 @@
 #include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
 #include "support/LayerDoc.h"
 #include "support/LayerForm.h"
@@ -52,9 +53,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
+        m_doc = tests::threeLayers();
     }
 
     void flagsOfAllSelectedRows_data()
@@ -189,7 +188,7 @@ private slots:
         tests::FaultyDoc slow(*m_doc);
         tests::LayerForm form(slow);
         form.select({1});
-        const ScriptedPrompts::Step refusal = {"tell", QStringLiteral("ZOL"),
+        const ScriptedPrompts::Step refusal = {"tell", appTitle(),
                               QStringLiteral("Frissítés van folyamatban, kérem várakozzék!"), {},
                               Icon::Exclamation};
         ScriptedPrompts user({refusal, refusal, refusal});

@@ -15,7 +15,6 @@ namespace {
 
 using Shown = tests::ShownForm<tests::LayerForm>;
 constexpr int kAll = 0, kRoads = 2, kEmpty = 3; // lines of the group list
-constexpr char kBefore[] = "RENDSZER: 1 2 3 4 | Utak: 2 4 | Üres:";
 
 } // namespace
 
@@ -30,13 +29,7 @@ private slots:
         const bool byPointer = std::strcmp(QTest::currentTestFunction(), "thePointerDragsBothWays") == 0;
         if (!byPointer && tests::RealDrag::isPossible()) QSKIP("a drag would wait for the pointer");
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                 {.gNr = 2, .Name = QStringLiteral("B")},
-                                 {.gNr = 3, .Name = QStringLiteral("C")},
-                                 {.gNr = 4, .Name = QStringLiteral("D")}});
-        auto groups = m_doc->layers().groups();
-        groups.push_back({-1, QStringLiteral("Üres")});
-        m_doc->layers().writeGroups(groups);
+        m_doc = tests::fourLayers();
     }
 
     void layersJoinTheGroupTheyAreDroppedOn()
@@ -80,7 +73,7 @@ private slots:
             QCOMPARE(form.listed(), QStringLiteral("2 4"));
             QCOMPARE(form.js.selectedLayers().size(), size_t(2));
         }
-        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(kBefore));
+        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(tests::kFourLayers));
     }
 
     void whatMeansNothingIsRefused()
@@ -116,7 +109,7 @@ private slots:
         QVERIFY(!form.grid.activeView()->dragEnabled() && !form.groups.activeView()->dragEnabled());
         form.js.setAllowEdit(true);
         QVERIFY(form.grid.activeView()->dragEnabled() && form.groups.activeView()->dragEnabled());
-        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(kBefore));
+        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(tests::kFourLayers));
     }
 
     void thePointerDragsBothWays()
@@ -127,7 +120,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&form.window));
         form.select({1, 2, 3});
         tests::RealDrag toGroup(form.grid, 0, form.groups, kEmpty);
-        QTRY_COMPARE_WITH_TIMEOUT(tests::dumpGroups(*m_doc), QString::fromUtf8(kBefore) + " 1 2 3", 15000);
+        QTRY_COMPARE_WITH_TIMEOUT(tests::dumpGroups(*m_doc), QString::fromUtf8(tests::kFourLayers) + " 1 2 3",
+                                  15000);
         QVERIFY(toGroup.ended());
         tests::RealDrag toLayers(form.groups, kRoads, form.grid, 0);
         QTRY_COMPARE_WITH_TIMEOUT(form.listed(), QStringLiteral("2 4"), 15000);
@@ -146,7 +140,8 @@ private slots:
             Shown::drop(*mime, form.groups, kEmpty);
             QVERIFY2(form.error, call);
             const bool written = std::strcmp(call, "scopes.end") == 0;
-            QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(kBefore) + (written ? " 1" : ""));
+            QCOMPARE(tests::dumpGroups(*m_doc),
+                     QString::fromUtf8(tests::kFourLayers) + (written ? " 1" : ""));
             form.groups.setCurrentRow(kEmpty);
             QCOMPARE(form.listed(), written ? QStringLiteral("1") : QString());
         }

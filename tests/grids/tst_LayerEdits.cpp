@@ -8,6 +8,7 @@
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
+using tests::told;
 using Step = ScriptedPrompts::Step;
 
 namespace {
@@ -16,7 +17,6 @@ const QVariant kAll = QVariant::fromValue(AllYesNo::All), kYes = QVariant::fromV
                kNo = QVariant::fromValue(AllYesNo::No);
 
 // What the commands say, to the letter.
-Step told(const char *title, const char *text) { return {"tell", title, text, {}, Icon::Information}; }
 Step toldByProduct(const char *text) { return told("ZOL", text); }
 Step copyAsked(int preset, const QVariant &growth)
 {
@@ -141,18 +141,12 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
+        m_doc = tests::threeLayers();
         const std::vector<refhost::Element> lines{{.layId = layer(2).LayId}, {.layId = layer(3).LayId}};
         m_doc->addElements(lines);
     }
 
-    void commandsAskTellAndWrite_data()
-    {
-        QTest::addColumn<int>("index");
-        for (size_t i = 0; i < kCases.size(); ++i) QTest::newRow(kCases[i].name) << int(i);
-    }
+    void commandsAskTellAndWrite_data() { tests::addCases(kCases); }
     void commandsAskTellAndWrite()
     {
         QFETCH(int, index);
@@ -224,9 +218,9 @@ private slots:
         last.gNr = 32767;
         m_doc->layers().update(last);
         tests::LayerForm form(*m_doc);
-        ScriptedPrompts user({{"tell", QStringLiteral("Új réteg"),
-                               QStringLiteral("A legnagyobb rétegsorszám már 32767, ezért nem készíthető új "
-                                              "réteg. Számozza át a rétegeket!"), {}, Icon::Exclamation}});
+        ScriptedPrompts user(
+            {tests::warned("Új réteg", "A legnagyobb rétegsorszám már 32767, ezért nem készíthető "
+                                       "új réteg. Számozza át a rétegeket!")});
         form.run("miAddNew");
         QCOMPARE(m_doc->layers().count(), 3);
     }
@@ -246,8 +240,7 @@ private slots:
 
     void copiesOfOneCommandDoNotShareAName()
     {
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A_11")},
-                                 {.gNr = 10, .Name = QStringLiteral("A")}});
+        m_doc = tests::layerDoc("1 A_11, 10 A");
         tests::LayerForm form(*m_doc);
         form.select({1, 10});
         ScriptedPrompts user({copyAsked(1, 1)});

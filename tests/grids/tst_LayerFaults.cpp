@@ -34,10 +34,7 @@ struct Picking final : tests::WillingPrompts {
 
 /// Runs a tool on the first three of four layers, the host failing at one call of it; counts the calls.
 struct Run {
-    std::unique_ptr<refhost::SqliteDoc> doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-A")},
-                                                               {.gNr = 2, .Name = QStringLiteral("2-B")},
-                                                               {.gNr = 3, .Name = QStringLiteral("3-C")},
-                                                               {.gNr = 4, .Name = QStringLiteral("D")}});
+    std::unique_ptr<refhost::SqliteDoc> doc = tests::layerDoc("1 1-A, 2 2-B, 3 3-C, 4 D");
     QTemporaryDir folder;
     tests::FaultyDoc faulty{*doc};
     tests::LayerForm form{faulty};
@@ -63,15 +60,6 @@ struct Run {
         cells.setData(cells.index(1, LayerTable::nameColumn), QStringLiteral("Út"));
     }
     int calls() const { return int(faulty.log.calls.size()); }
-    QString failed() const
-    {
-        if (!form.error) return {};
-        try {
-            std::rethrow_exception(form.error);
-        } catch (const tests::HostError &e) {
-            return QString::fromStdString(e.what());
-        }
-    }
 };
 
 } // namespace
@@ -99,7 +87,7 @@ private slots:
         for (int at = 0; at < undisturbed.calls(); ++at) {
             Run run(tool.constData(), at);
             const QString call = run.faulty.log.calls.value(at);
-            QVERIFY2(run.failed() == call, qPrintable(call));
+            QVERIFY2(run.form.failed() == call, qPrintable(call));
             QVERIFY2(run.form.rows() == run.doc->layers().readAll(), qPrintable(call));
             run.form.js.setbShowVisibleItems(false);
             QVERIFY2(run.form.groupsListed() == tests::dumpGroups(*run.doc), qPrintable(call));
@@ -118,7 +106,7 @@ private slots:
                 run.faulty.log.failNext = call;
         };
         run.form.run("cmdLays_Copy");
-        QCOMPARE(run.failed(), QStringLiteral("layers.add"));
+        QCOMPARE(run.form.failed(), QStringLiteral("layers.add"));
         QVERIFY(run.doc->layers().findByNumber(2001) && !run.doc->layers().findByNumber(2002));
         QCOMPARE(run.faulty.log.calls.count(QStringLiteral("layers.add")), 2); // the rest was not tried
         QCOMPARE(run.form.rows(), run.doc->layers().readAll());

@@ -4,21 +4,19 @@
 #include "import/DxfImport.h"
 #include "rules/LayerFile.h"
 #include "support/FaultyDoc.h"
+#include "support/FileDesk.h"
 #include "support/FullDisk.h"
-#include "support/LayerDoc.h"
 #include "support/LayerForm.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/NotingPrompts.h"
-#include "support/OwnStore.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 
 namespace {
@@ -32,10 +30,6 @@ Step matchAsked(const QVariant &answer)
 {
     return {"choose", QStringLiteral("Réteg azonosítás"),
             QStringLiteral("A réteg azonosítás történhet sorszám, vagy név alapján"), answer};
-}
-Step refused(const QString &title, const QString &text)
-{
-    return {"tell", title, text, {}, Icon::Exclamation};
 }
 const QString kForeign = QStringLiteral("A(z) '%1' fájl sérült, vagy nem rétegmentés. Mentsd el újra a "
                                         "rétegeket, vagy válassz másik fájlt!");
@@ -52,20 +46,9 @@ QByteArray contentOf(const QString &path)
 
 } // namespace
 
-class tst_LayerFiles : public QObject {
+class tst_LayerFiles : public QObject, private tests::FileDesk {
     Q_OBJECT
 private:
-    std::unique_ptr<refhost::SqliteDoc> m_doc;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<tests::OwnStore> m_store;
-
-    QString at(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    QString written(const char *name, const QByteArray &bytes) const
-    {
-        QFile file(at(name));
-        if (file.open(QIODevice::WriteOnly)) file.write(bytes);
-        return file.fileName();
-    }
     QString visible() const
     {
         QStringList out;
@@ -84,11 +67,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_unique<tests::OwnStore>();
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("Út")},
-                                 {.gNr = 2, .Name = QStringLiteral("Erdő"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("Árok")}});
+        layOut();
     }
     void cleanup()
     {
@@ -174,7 +153,7 @@ private slots:
         setLayerFileCodePage(page);
         written("a.z3l", "before");
         tests::LayerForm form(*m_doc);
-        ScriptedPrompts user({saveAsked(at("a.z3l")), refused(kSave, message), refused(kSave, message)});
+        ScriptedPrompts user({saveAsked(at("a.z3l")), warned(kSave, message), warned(kSave, message)});
         form.run("cmdLays_Save");
         QVERIFY(!form.js.OpLay_Save2File(at("a.z3l")) && !form.error);
         QCOMPARE(contentOf(at("a.z3l")), QByteArray("before"));
@@ -240,7 +219,7 @@ private slots:
                               QStringLiteral("Nem használható!\nHibás verziószámú mentés!"), {},
                               Icon::Information};
         ScriptedPrompts user({loadAsked(path), message.isEmpty() ? version
-                                                                 : refused(kLoad, message.arg(path))});
+                                                                 : warned(kLoad, message.arg(path))});
         form.run("cmdLays_VisibleUseFile");
         QVERIFY(counted.log.writes().isEmpty() && !form.error);
         QCOMPARE(form.selection(), QStringLiteral("2* 3"));
@@ -280,7 +259,7 @@ private slots:
         QCOMPARE(form.selection(), QStringLiteral("2* 33"));
         QCOMPARE(form.rows(), m_doc->layers().readAll());
         setLayerFileCodePage(QStringLiteral("windows-9"));
-        const Step unknown = refused(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be "
+        const Step unknown = warned(kLoad, QStringLiteral("A(z) 'windows-9' kódlap ismeretlen. Állíts be "
                                                            "másik kódlapot, például: windows-1250"));
         ScriptedPrompts user({loadAsked(path), unknown});
         form.run("cmdLays_VisibleUseFile");

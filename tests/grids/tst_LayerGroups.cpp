@@ -9,12 +9,12 @@
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
+using tests::told;
 using Step = ScriptedPrompts::Step;
 
 namespace {
 
 // What the commands say, to the letter.
-Step told(const char *title, const QString &text) { return {"tell", title, text, {}, Icon::Information}; }
 Step nameAsked(const char *preset, const QVariant &answer)
 {
     return {"text", QStringLiteral("Rétegcsoport átnevezés"),
@@ -46,7 +46,6 @@ struct Case {
     std::vector<Step> script;
     const char *after;                          ///< null = as before
 };
-constexpr char kBefore[] = "RENDSZER: 1 2 3 4 | Utak: 2 4 | Üres:";
 
 const std::vector<Case> &cases()
 {
@@ -103,26 +102,15 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                 {.gNr = 2, .Name = QStringLiteral("B")},
-                                 {.gNr = 3, .Name = QStringLiteral("C")},
-                                 {.gNr = 4, .Name = QStringLiteral("D")}});
-        auto groups = m_doc->layers().groups();
-        groups.push_back({-1, QStringLiteral("Üres")});
-        m_doc->layers().writeGroups(groups);
-        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(kBefore));
+        m_doc = tests::fourLayers();
     }
     void cleanup() { setLanguage(Hungarian, {}); }
 
-    void commandsOnGroups_data()
-    {
-        QTest::addColumn<int>("row");
-        for (size_t i = 0; i < cases().size(); ++i) QTest::newRow(cases()[i].name) << int(i);
-    }
+    void commandsOnGroups_data() { tests::addCases(cases()); }
     void commandsOnGroups()
     {
-        QFETCH(int, row);
-        const Case &c = cases()[size_t(row)];
+        QFETCH(int, index);
+        const Case &c = cases()[size_t(index)];
         tests::FaultyDoc counted(*m_doc);
         tests::LayerForm form(counted);
         form.chooseGroup(QString::fromUtf8(c.group));
@@ -134,7 +122,7 @@ private slots:
             form.run(c.tool);
         }
         QVERIFY(!form.error);
-        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(c.after ? c.after : kBefore));
+        QCOMPARE(tests::dumpGroups(*m_doc), QString::fromUtf8(c.after ? c.after : tests::kFourLayers));
         const qsizetype commands = counted.log.calls.count(QStringLiteral("scopes.begin")),
                         fills = counted.log.calls.count(QStringLiteral("textTypes.readAll"));
         QCOMPARE(commands, c.after ? 1 : 0);            // and the table is read again once
@@ -167,6 +155,10 @@ private slots:
         form.run("cmdLay_GroupAllLay");
         QCOMPARE(form.chosenGroup(), QStringLiteral("MIND"));
         QCOMPARE(form.listed(), QStringLiteral("1 2 3 4"));
+        for (const auto &[tool, shown] : {std::pair("cmdLay_HideGroups", false), {"cmdLay_ShowGroups", true}}) {
+            form.run(tool);
+            QVERIFY(form.js.bShowGroups() == shown && form.groups.isHidden() != shown);
+        }
     }
 
     void aGroupWithALayerOfItsOwnStays()
@@ -266,15 +258,6 @@ private slots:
         QVERIFY(!form.js.canCollapseGroup());
         form.run("miGroupCollapse");
         QCOMPARE(lines(form), 10);
-    }
-
-    void theGroupListComesAndGoes()
-    {
-        tests::LayerForm form(*m_doc);
-        form.run("cmdLay_HideGroups");
-        QVERIFY(!form.js.bShowGroups() && form.groups.isHidden());
-        form.run("cmdLay_ShowGroups");
-        QVERIFY(form.js.bShowGroups() && !form.groups.isHidden());
     }
 
     void anEmptyGroupIsWhatAFailedRemovalLeaves()

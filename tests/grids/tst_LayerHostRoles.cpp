@@ -1,14 +1,10 @@
 #include "facade/services/Language.h"
 #include "support/FaultyDoc.h"
-#include "support/LayerDoc.h"
+#include "support/FileDesk.h"
 #include "support/LayerForm.h"
-#include "support/OwnStore.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/WillingPrompts.h"
-
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
@@ -25,29 +21,13 @@ Step textFileAsked(const QString &title, const QString &path)
 } // namespace
 
 /// Commands that are the host's in the end: text files, and what stands on layers.
-class tst_LayerHostRoles : public QObject {
+class tst_LayerHostRoles : public QObject, private tests::FileDesk {
     Q_OBJECT
-private:
-    std::unique_ptr<refhost::SqliteDoc> m_doc;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<tests::OwnStore> m_store;
-
-    QString written(const char *name, const QByteArray &bytes) const
-    {
-        QFile file(m_folder->filePath(QLatin1String(name)));
-        if (file.open(QIODevice::WriteOnly)) file.write(bytes);
-        return file.fileName();
-    }
-
 private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_store = std::make_unique<tests::OwnStore>();
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("Út")},
-                                 {.gNr = 2, .Name = QStringLiteral("Erdő"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("Árok")}});
+        layOut();
     }
     void cleanup() { m_store.reset(); }                 // before there is another
 

@@ -69,11 +69,7 @@ private:
         form.select(numbers);
     }
     std::unique_ptr<refhost::SqliteDoc> m_doc =
-        tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("1-Út")},
-                         {.gNr = 2, .Name = QStringLiteral("2-Út")},
-                         {.gNr = 3, .Name = QStringLiteral("A-1-Kút")},
-                         {.gNr = 14, .Name = QStringLiteral("Kerítés")},
-                         {.gNr = 20, .Name = QStringLiteral("x- ")}});
+        tests::layerDoc("1 1-Út, 2 2-Út, 3 A-1-Kút, 14 Kerítés, 20 x- ");
     QRandomGenerator m_random;
     Model m_model;
     Model::Places m_chosen;

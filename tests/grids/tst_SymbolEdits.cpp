@@ -1,18 +1,18 @@
 #include "facade/services/Language.h"
+#include "facade/services/Services.h"
 #include "support/FaultyDoc.h"
-#include "support/Modal.h"
 #include "support/Registry.h"
 #include "support/ScriptedPrompts.h"
 #include "support/ShownForm.h"
 #include "support/SymbolForm.h"
-
-#include <QComboBox>
-#include <QDialog>
+#include "support/WillingPrompts.h"
 
 using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
+using tests::told;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 using Steps = std::vector<Step>;
 using Shown = tests::ShownForm<tests::SymbolForm>;
@@ -24,13 +24,12 @@ constexpr char kDeleteKey[] = "the delete key", kMoveTo2[] = "2cmdSid_GroupMove"
 const QVariant kAll = QVariant::fromValue(AllYesNo::All), kYes = QVariant::fromValue(AllYesNo::Yes);
 
 // What the commands say, to the letter.
-Step told(Icon icon, const char *title, const char *text) { return {"tell", title, text, {}, icon}; }
 Step newAsked(const char *preset, const QVariant &name)
 {
     return {"text", QStringLiteral("Jelkulcs típus"),
             QStringLiteral("Az új jelkulcs típus megnevezése|") + QString::fromUtf8(preset), name};
 }
-Step nameTaken() { return told(Icon::Exclamation, "Egyedi név", "Létező jelkulcs név!"); }
+Step nameTaken() { return warned("Egyedi név", "Létező jelkulcs név!"); }
 Step sizeAsked(double answer)
 {
     return {"numbers", QStringLiteral("Betűnagyság"),
@@ -47,14 +46,13 @@ Step groupAsked(const char *title, const char *text, const QVariant &name)
 {
     return {"text", QString::fromUtf8(title), QString::fromUtf8(text), name};
 }
-Step groupTaken() { return told(Icon::Exclamation, "Egyedi csoportnév", "Létező csoportnév !"); }
+Step groupTaken() { return warned("Egyedi csoportnév", "Létező csoportnév !"); }
 Step refused(const char *name)
 {
-    return {"tell", QStringLiteral("Jelkulcs törlése"),
-            QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)), {},
-            Icon::Exclamation};
+    return warned("Jelkulcs törlése",
+                  QStringLiteral("A(z) '%1' nevű jelkulcs nem törölhető!").arg(QLatin1String(name)));
 }
-Step lastOne() { return told(Icon::Information, "Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
+Step lastOne() { return told("Jelkulcs törlése", "Az utolsó jelkulcs nem törölhető!"); }
 Step keyAsked(const char *question, bool answer)
 {
     return {"yesNo", QStringLiteral("Jelkulcstípus törlés"), QString::fromUtf8(question), answer,
@@ -62,8 +60,7 @@ Step keyAsked(const char *question, bool answer)
 }
 Step keyDoesNothing()
 {
-    return told(Icon::None, "ZOL",
-                "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)");
+    return told("Próba", "FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)", Icon::None);
 }
 Step groupGone()
 {
@@ -112,8 +109,9 @@ const std::vector<Case> kCases = {
       groupAsked("Csoport átnevezés", "Új csoportnév|MIND", "Más")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Más 5 16 0", "Egy, Más"},
     {"a group that holds symbols stays", "miGroupRemove", "Kettő", {},
-     {groupGone(), told(Icon::Critical, "Csoport törlése",
-                        "A(z) Kettő csoport használatban van, ezért nem törölhető!")}, nullptr, "Egy, Kettő"},
+     {groupGone(),
+      told("Csoport törlése", "A(z) Kettő csoport használatban van, ezért nem törölhető!", Icon::Critical)},
+     nullptr, "Egy, Kettő"},
     {"move to a group", kMoveTo2, "MIND", {1, 3}, {},
      "1 A Kettő 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0"},
 };
@@ -136,16 +134,13 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
+        setAppTitle(QStringLiteral("Próba"));
         m_doc = tests::symbolDoc({symbol(1, "A"), symbol(2, "B"), symbol(3, "C", "Kettő")});
         const std::vector<refhost::Element> used{{.kind = refhost::ElementKind::Symbol, .sidId = 2}};
         m_doc->addElements(used);
     }
 
-    void commandsAskTellAndWrite_data()
-    {
-        QTest::addColumn<int>("index");
-        for (size_t i = 0; i < kCases.size(); ++i) QTest::newRow(kCases[i].name) << int(i);
-    }
+    void commandsAskTellAndWrite_data() { tests::addCases(kCases); }
     void commandsAskTellAndWrite()
     {
         QFETCH(int, index);
@@ -172,7 +167,7 @@ private slots:
         m_doc = tests::symbolDoc({symbol(7, "A")});
         tests::SymbolForm form(*m_doc);
         form.select({7});
-        ScriptedPrompts user({lastOne(), told(Icon::Information, "Jelkulcstípus törlés",
+        ScriptedPrompts user({lastOne(), told("Jelkulcstípus törlés",
                                               "Az utolsó típust nem lehet törölni!")});
         form.run("miRemove");
         bool ask = true;
@@ -221,18 +216,13 @@ private slots:
             QTest::newRow(name) << QByteArray(column) << typed << QString::fromUtf8(after) << asked;
         };
         const auto notTaken = [](const char *column, const char *typed, const char *why) {
-            return Steps{told(Icon::Exclamation, column, (QByteArray("Jelkulcstípus: 1/A\nNem fogadható el: ")
+            return Steps{warned(column, (QByteArray("Jelkulcstípus: 1/A\nNem fogadható el: ")
                                                           + typed + "\n\n" + why).constData())};
         };
-        const char kNumbers[] = "\nMegengedett: 1\u00a0–\u00a032767";
         row("a free number", "SidId", "9", "9 A Egy 5 16 0");
-        row("a number in use", "SidId", "2", "", {told(Icon::Information, "Sorszám", "Létező sorszám !")});
-        row("too small a number", "SidId", "0", "",
-            notTaken("Sorszám", "0", QByteArray("A szám túl kicsi.").append(kNumbers)));
-        row("no number", "SidId", "1x", "",
-            notTaken("Sorszám", "1x", QByteArray("Írj be egy számot!").append(kNumbers)));
-        row("beyond all numbers", "SidId", "40000", "",
-            notTaken("Sorszám", "40000", QByteArray("A szám túl nagy.").append(kNumbers)));
+        row("a number in use", "SidId", "2", "", {told("Sorszám", "Létező sorszám !")});
+        row("no number", "SidId", "0", "",
+            notTaken("Sorszám", "0", "A szám túl kicsi.\nMegengedett: 1\u00a0–\u00a032767"));
         row("emptied", "SidId", " ", "");
         row("a name", "Name", "Új", "1 Új Egy 5 16 0");
         row("a name in use", "Name", "C", "", {nameTaken()});
@@ -275,17 +265,10 @@ private slots:
     void millimetresAndHundredthsAreSaid()
     {
         tests::SymbolForm form(*m_doc);
-        form.select({1});
-        QCOMPARE(form.grid.table()->model()->headerData(4, Qt::Horizontal, Qt::ToolTipRole).toString(),
-                 QStringLiteral("Vastagság (század mm)"));
-        QStringList offered;
-        const auto user = tests::whileModal<QDialog>([&](QDialog &box) {
-            const auto &list = tests::child<QComboBox>(box, "txtCombo");
-            for (int i = 0; i < list.count(); ++i) offered << list.itemText(i);
-            box.reject();
-        });
-        form.run("cmdSid_Size");
-        QCOMPARE(offered.join(u' '), QStringLiteral("1,0 1,5 2,0 2,5 3,0 3,5 4,0 5,0 7,0 10,0"));
+        QStringList tips;
+        for (const int c : {3, 4})
+            tips << form.grid.table()->model()->headerData(c, Qt::Horizontal, Qt::ToolTipRole).toString();
+        QCOMPARE(tips, (QStringList{"Méret (mm)", "Vastagság (század mm)"}));
     }
 
     void aRenumberedSymbolTakesItsElementsAlong()
@@ -295,18 +278,74 @@ private slots:
         QCOMPARE(m_doc->elements().front().sidId, qint16(20));
     }
 
+    void numbersAreFixedWhereTheDocumentCannotRenumber()
+    {
+        tests::FaultyDoc fixed(*m_doc);
+        fixed.symbols().renumberer = nullptr;
+        tests::SymbolForm form(fixed);
+        QString editable;
+        const QAbstractItemModel &cells = *form.grid.table()->model();
+        for (int c = 0; c < cells.columnCount(); ++c)
+            editable += cells.flags(cells.index(0, c)) & Qt::ItemIsEditable ? u'e' : u'-';
+        QCOMPARE(editable, QStringLiteral("--eeee-e"));
+        QVERIFY(!form.edit(1, SymbolTable::numberColumn, QStringLiteral("9")));
+    }
+
+    void numbersAreAskedForWithinTheirBounds()
+    {
+        struct : tests::WillingPrompts {
+            std::vector<NumberField> asked;
+            std::optional<std::vector<double>> numbers(const NumberQuestion &q, QObject *) override
+            {
+                asked.push_back(q.fields.front());
+                return {};
+            }
+        } user;
+        tests::SymbolForm form(*m_doc);
+        form.select({1});
+        form.run("cmdSid_Size");
+        form.run("cmdSid_Width");
+        const NumberField &size = user.asked.at(0), &width = user.asked.at(1);
+        QCOMPARE(size.presets, (std::vector{1.0, 1.5, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 7.0, 10.0}));
+        QCOMPARE(size.unit + width.unit, QStringLiteral("mmmm"));
+        QCOMPARE((std::vector{size.min, size.max}), (std::vector{0.1, 1000.0}));
+        QCOMPARE((std::vector{width.min, width.max}), (std::vector{0.0, 3.0}));
+    }
+
+    void bandsSayWhatTheyAreBandsOf()
+    {
+        tests::SymbolForm form(*m_doc);
+        form.grid.setGroupLevels(std::vector{SortKey{columnOf<SymbolTable>("Weight")}});
+        const auto band = [&form] {
+            const QModelIndex first = form.grid.table()->model()->index(0, 0);
+            return first.data().toString() + u'|' + first.data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(band(), QStringLiteral("Jelkulcstípus: Vast.: 16 (3)|"
+                                        "csoport Jelkulcstípus: Vast.: 16, 3 sor, kibontva"));
+        setLanguage(English, {});
+        emit LanguageHub::instance().LanguageChanged();
+        QVERIFY2(band().startsWith(QStringLiteral("Symbol type: ")), qPrintable(band()));
+    }
+
     void groupsInTheList()
     {
         tests::SymbolForm form(*m_doc);
         QAbstractItemModel &list = *form.groups.table()->model();
+        form.select({1});
+        QStringList heard;
+        connect(&form.js, &clsJS_Sid::CurrentChanced, &form.window, [&](tSid &s) { heard << s.GroupName; });
         {
-            ScriptedPrompts user({told(Icon::Exclamation, "Egyedi jelkulcscsoport név",
+            ScriptedPrompts user({warned("Egyedi jelkulcscsoport név",
                                        "Létező jelkulcscsoportnév: Kettő")});
             QVERIFY(!list.setData(list.index(1, 0), QStringLiteral("Kettő")));
         }
         QVERIFY(!list.setData(list.index(0, 0), QStringLiteral("X")));  // "MIND" is no group
+        QVERIFY(list.setData(list.index(2, 0), QStringLiteral("Más")));
+        QVERIFY(list.setData(list.index(2, 0), QStringLiteral("Kettő")));
         QVERIFY(list.setData(list.index(1, 0), QStringLiteral("Első")));
         QCOMPARE(groups(), QStringLiteral("Első, Kettő"));
+        QCOMPARE(heard, QStringList{"Első"});           // by who keeps the current record
+        QCOMPARE(form.rows(), m_doc->symbols().readAll());
         QCOMPARE(list.index(1, 0).data().toString(), QStringLiteral("Első"));
         form.chooseGroup(QStringLiteral("Kettő"));
         QCOMPARE(form.listed(), QStringLiteral("3"));

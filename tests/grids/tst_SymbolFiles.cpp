@@ -1,6 +1,7 @@
 #include "facade/services/Language.h"
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetXml.h"
+#include "support/FaultyDoc.h"
 #include "support/FullDisk.h"
 #include "support/NotingPrompts.h"
 #include "support/OwnStore.h"
@@ -16,6 +17,7 @@ using namespace QV_DOC_CONTROLS;
 using namespace ZolWDoc;
 using tests::ScriptedPrompts;
 using tests::symbol;
+using tests::warned;
 using Step = ScriptedPrompts::Step;
 
 namespace {
@@ -29,10 +31,6 @@ Step known(const char *name)
 {
     return {"tell", QStringLiteral("Létező jelkulcstípus név"),
             QString::fromUtf8(name) + QStringLiteral(" nevű jelkulcstípus már van!"), {}, Icon::Information};
-}
-Step refused(const QString &title, const QString &text)
-{
-    return {"tell", title, text, {}, Icon::Exclamation};
 }
 
 } // namespace
@@ -79,21 +77,16 @@ private slots:
     }
     void cleanup() { m_store.reset(); }
 
-    void theSelectedAreSaved_data()
-    {
-        QTest::addColumn<QByteArray>("tool");
-        QTest::addColumn<QList<int>>("selected");
-        QTest::newRow("two") << QByteArray("miSave2XML") << QList<int>{1, 3};
-        QTest::newRow("none: the columns only") << QByteArray("miSaveXML") << QList<int>{};
-    }
     void theSelectedAreSaved()
     {
-        QFETCH(QByteArray, tool);
-        QFETCH(QList<int>, selected);
-        run(tool.constData(), {selected.begin(), selected.end()}, {saveAsked(path())});
-        std::vector<tSid> expected;
-        for (const int n : selected) expected.push_back(*m_doc->symbols().find(qint16(n)));
-        QCOMPARE(content(), bytesOf(std::get<Recordset>(symbolSetOf(expected))));
+        const std::pair<const char *, std::vector<int>> rows[] = {{"miSave2XML", {1, 3}},
+                                                                  {"miSaveXML", {}}}; // the columns only
+        for (const auto &[tool, selected] : rows) {
+            run(tool, selected, {saveAsked(path())});
+            std::vector<tSid> expected;
+            for (const int n : selected) expected.push_back(*m_doc->symbols().find(qint16(n)));
+            QCOMPARE(content(), bytesOf(std::get<Recordset>(symbolSetOf(expected))));
+        }
         QVERIFY(m_store->kept.values.values().contains(m_folder.path())); // proposed the next time
     }
 
@@ -105,7 +98,7 @@ private slots:
         write(QByteArray("old"));
         run("miSave2XML", {1, 3},
             {saveAsked(path()),
-             refused(kSave,
+             warned(kSave,
                      QStringLiteral("A(z) 'C' jelkulcs nem fér a készletfájlba, ezért semmi sem lett "
                                     "elmentve. Túl hosszú vagy túl nagy az adata, javítsd ki: Code"))});
         QCOMPARE(content(), QByteArray("old"));
@@ -122,7 +115,8 @@ private slots:
         QFETCH(int, symbols);
         if (!tests::FullDisk::isPossible) QSKIP("needs a limit on the size of files");
         std::vector<tSid> all;
-        for (int n = 1; n <= symbols; ++n) all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
+        for (int n = 1; n <= symbols; ++n)
+            all.push_back(symbol(qint16(n), QByteArray::number(n).constData()));
         m_doc = tests::symbolDoc(all);
         write(QByteArray("old"));
         tests::SymbolForm form(*m_doc);
@@ -166,12 +160,12 @@ private slots:
         m_doc->symbols().addAll(all, ids);
         write({symbol(1, "V"), symbol(2, "W")});
         run("moLoadXML", {},
-            {loadAsked(path()), refused(kLoad, QStringLiteral("Nincs hely több jelkulcs számára."))});
+            {loadAsked(path()), warned(kLoad, QStringLiteral("Nincs hely több jelkulcs számára."))});
         QCOMPARE(m_doc->symbols().find(32767)->ShortName, QStringLiteral("V"));
         run("miAddNew", {},
             {{"text", QStringLiteral("Jelkulcs típus"), QStringLiteral("Az új jelkulcs típus megnevezése|"),
               QStringLiteral("W")},
-             refused(QStringLiteral("Jelkulcs típus"), QStringLiteral("Nincs hely több jelkulcs számára."))});
+             warned(QStringLiteral("Jelkulcs típus"), QStringLiteral("Nincs hely több jelkulcs számára."))});
         QCOMPARE(m_doc->symbols().count(), 32767);
     }
 
@@ -181,6 +175,7 @@ private slots:
         QTest::addColumn<QByteArray>("to");
         QTest::addColumn<QString>("says");
         QTest::addColumn<int>("added");
+        QTest::newRow("not there") << QByteArray() << QByteArray() << "' fájl nem olvasható" << 0;
         QTest::newRow("no markup") << QByteArray("<") << QByteArray("x") << "készletként. " << 0;
         QTest::newRow("a field is missing") << QByteArray("ShortName") << QByteArray("Shortname2")
                                             << "Hiányzó mező: ShortName" << 0;
@@ -198,7 +193,8 @@ private slots:
         write({symbol(1, "V"), second});
         QByteArray bytes = content();
         QVERIFY(bytes.contains(from));
-        write(bytes.replace(from, to));
+        if (from.isEmpty()) QVERIFY(QFile::remove(path()));
+        else write(bytes.replace(from, to));
         tests::SymbolForm form(*m_doc);
         tests::NotingPrompts user;
         user.path = path();
@@ -207,13 +203,24 @@ private slots:
         QCOMPARE(m_doc->symbols().count(), 3 + added);
     }
 
-    void aFileThatIsNotThere()
+    void whatTheDocumentRefusesStopsTheLoading()
     {
-        tests::SymbolForm form(*m_doc);
+        write({symbol(1, "V"), symbol(2, "W"), symbol(3, "X")});
+        tests::FaultyDoc doc(*m_doc);
+        tests::SymbolForm form(doc);
         tests::NotingPrompts user;
         user.path = path();
+        const QString add = QStringLiteral("symbols.add");
+        doc.log.meanwhile = [&](const QString &) {
+            if (doc.log.calls.count(add) == 2) doc.log.failNext = add;
+        };
+        doc.log.calls.clear();
         form.run("moLoadXML");
-        QVERIFY(user.told.size() == 1 && user.told.front().contains(QStringLiteral("' fájl nem olvasható")));
+        QVERIFY_THROWS_EXCEPTION(tests::HostError, std::rethrow_exception(form.error));
+        QCOMPARE(m_doc->symbols().readAll().back().ShortName, QStringLiteral("V"));
+        QCOMPARE(form.rows(), m_doc->symbols().readAll());
+        QCOMPARE(doc.log.calls.filter(QStringLiteral("scopes")),        // one step back for the user
+                 (QStringList{"scopes.begin", "scopes.end"}));
     }
 };
 

@@ -1,8 +1,8 @@
-#include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
 #include "facade/contract/ResourcePicker.h"
 #include "facade/services/Language.h"
 #include "support/FaultyDoc.h"
+#include "support/FixedFonts.h"
 #include "support/NotingPrompts.h"
 #include "support/OwnStore.h"
 #include "support/Registry.h"
@@ -26,15 +26,13 @@ struct TwoLetters final : VectorFont {
     Glyph glyph(qint32) const override { return {}; }
 };
 /// Every dialog beyond the table: each says yes at once, after it has read something.
-struct Beyond final : tests::OwnStore, ResourcePicker, FontPicker, RecordEditors, VectorFontProvider {
+struct Beyond final : tests::OwnStore, ResourcePicker, RecordEditors, VectorFontProvider {
     TwoLetters font;
+    tests::FixedFonts fonts;
     ResourcePicker *resources = setResourcePicker(this);
-    FontPicker *fonts = setFontPicker(this);
     RecordEditors *editors = setRecordEditors(this);
-    ~Beyond() override
-    {
-        setResourcePicker(resources), setFontPicker(fonts), setRecordEditors(editors);
-    }
+    Beyond() { fonts.strokes = font.name(); }
+    ~Beyond() override { setResourcePicker(resources), setRecordEditors(editors); }
     VectorFontProvider *vectorFonts(const ZOLW_Doc *) override { return this; }
     QStringList names() const override { return {font.name()}; }
     const VectorFont *find(const QString &) const override { return &font; }
@@ -43,19 +41,6 @@ struct Beyond final : tests::OwnStore, ResourcePicker, FontPicker, RecordEditors
     {
         doc.layers().count();
         return kPicked;
-    }
-    std::optional<ScriptedFace> pickTrueType(const ScriptedFace &, QObject *) override
-    {
-        return ScriptedFace{QStringLiteral("DejaVu Sans"), 204};
-    }
-    std::optional<QString> pickVector(const ZOLW_Doc *, const QString &, QObject *) override
-    {
-        return font.name();
-    }
-    std::optional<FontCharacter> pickCharacter(const ZOLW_Doc *, const FontCharacter &first,
-                                               QObject *) override
-    {
-        return first;
     }
     bool canEdit(TableKind kind) const override { return kind == TableKind::Symbols; }
     bool edit(TableKind, ZOLW_Doc &doc, qint16 id, QObject *) override
@@ -101,15 +86,6 @@ struct Run {
         run(form, tool);
         faulty.log.failAt = -1;
         form.groups.setCurrentRow(0);
-    }
-    QString failed() const
-    {
-        if (!form.error) return {};
-        try {
-            std::rethrow_exception(form.error);
-        } catch (const tests::HostError &e) {
-            return QString::fromStdString(e.what());
-        }
     }
 };
 
@@ -161,7 +137,7 @@ private slots:
         for (int at = 0; at < calls; ++at) {
             Run run(tool.constData(), at);
             const QString call = run.faulty.log.calls.value(at);
-            QVERIFY2(run.failed() == call, qPrintable(call));
+            QVERIFY2(run.form.failed() == call, qPrintable(call));
             QVERIFY2(run.form.rows() == run.doc->symbols().readAll(), qPrintable(call));
             QVERIFY(!run.form.js.isBusy());
         }

@@ -32,9 +32,7 @@ private slots:
     void init()
     {
         setLanguage(Hungarian, {});
-        m_doc = tests::layerDoc({{.gNr = 1, .Name = QStringLiteral("A")},
-                                 {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
-                                 {.gNr = 3, .Name = QStringLiteral("C")}});
+        m_doc = tests::layerDoc("1 A, -2 B, 3 C");
     }
 
     void editsAreCheckedThenWritten_data()
@@ -95,18 +93,6 @@ private slots:
         QVERIFY(!type(grid, 0, "Name", QStringLiteral("X")));
         QCOMPARE(tests::dump(*m_doc), QStringLiteral("1 A, 2 B, 3 C"));
     }
-    void anEditThatTheHostRefusesIsToldOnAFormWithoutADialog()
-    {
-        tests::FaultyDoc faulty(*m_doc);
-        ScriptedPrompts user({{"tell", appTitle(), QStringLiteral("layers.update"), {}, Icon::Exclamation}});
-        Grid grid;
-        clsJs_Layer js;
-        js.setAllowEdit(true);
-        js.init(faulty, grid, nullptr, true);
-        faulty.log.failNext = QStringLiteral("layers.update");
-        QVERIFY(!type(grid, 0, "Name", QStringLiteral("X")));
-        QCOMPARE(grid.table()->model()->index(0, 1).data().toString(), QStringLiteral("A"));
-    }
 
     void previousLayerFollowsUntilItIsDeleted()
     {
@@ -151,48 +137,19 @@ private slots:
         QCOMPARE(LayerTable::styles(layer(1)).cells, (QHash<int, QString>{{4, "7ColorId"}, {5, "0ColorId"}}));
     }
 
-    void pensAreChosenByTheirColour_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("caption");
-        for (const auto &[key, caption] : {std::pair("ScrColor", "Képernyő szín"),
-                                           {"PrnColor", "Nyomtatási szín"}, {"PenColorId", "Toll"}})
-            QTest::newRow(key) << key << caption;
-    }
     void pensAreChosenByTheirColour()
     {
-        QFETCH(QString, key);
-        QFETCH(QString, caption);
         tests::LayerForm form(*m_doc);
         form.select({1});
-        int c = 0;
-        while (LayerTable::columns[c].key != key) ++c;
         QAbstractItemView &table = *form.grid.table();
-        table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
-        const QString now = form.cellOf(form.grid.currentRow(), c);
-        ScriptedPrompts user({{"colorIndex", caption, QStringLiteral("Válassz tollat! Réteg: 1/A|") + now, 9}});
-        QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
-        QCOMPARE(LayerTable::columns[c].get(m_doc->layers().find(layer(1).LayId).value()).toInt(), 9);
-    }
-
-    void theGroupListNarrowsTheGrid()
-    {
-        Grid grid, groups;
-        clsJs_Layer js;
-        js.init(*m_doc, grid, &groups, false);
-        const auto shown = [&] {
-            QStringList names;
-            for (int r = 0; r < grid.table()->model()->rowCount(); ++r)
-                names << grid.table()->model()->index(r, 1).data().toString();
-            return names.join(u' ');
-        };
-        QCOMPARE(groups.table()->model()->index(0, 0).data().toString(), QStringLiteral("MIND"));
-        groups.setCurrentRow(2);                        // "Utak": even numbers
-        QCOMPARE(shown(), QStringLiteral("B"));
-        groups.setCurrentRow(0);
-        QCOMPARE(shown(), QStringLiteral("A B C"));
-        js.setbShowVisibleItems(true);
-        QCOMPARE(shown(), QStringLiteral("A C"));
+        for (const int c : {columnOf<LayerTable>("ScrColor"), columnOf<LayerTable>("PrnColor"),
+                            columnOf<LayerTable>("PenColorId")}) {
+            table.setCurrentIndex(table.currentIndex().siblingAtColumn(c));
+            const QString asked = QStringLiteral("Válassz tollat! Réteg: 1/A|") + form.cellOf(0, c);
+            ScriptedPrompts user({{"colorIndex", txt(LayerTable::columns[c].caption), asked, 9}});
+            QTest::keyClick(&table, Qt::Key_Down, Qt::AltModifier);
+            QCOMPARE(LayerTable::columns[c].get(layer(1)).toInt(), 9);
+        }
     }
 
     void aLayerThatItsGroupLeavesOutIsNotReplaced()

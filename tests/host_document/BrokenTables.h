@@ -2,6 +2,8 @@
 
 #include "support/FaultyTables.h"
 
+#include <QSet>
+
 /// Tables with one fault between them and their caller.
 namespace broken {
 
@@ -62,6 +64,11 @@ struct Symbols : tests::FaultySymbols {
     int uses(qint16 id) const override { return is("uses is always 0") ? 0 : real.uses(id); }
     void addAll(std::span<const tSid> rows, std::vector<qint16> &ids) override
     {
+        if (is("a failed addAll takes all back")) {
+            QSet<QString> names;
+            for (const tSid &r : rows) names.insert(r.ShortName);
+            if (names.size() < int(rows.size())) throw std::runtime_error("a name in use");
+        }
         real.addAll(rows, ids);
         if (is("addAll loses an identifier")) ids.pop_back();
     }

@@ -8,8 +8,11 @@
 #include "grids/clsJs_Layer.h"
 #include "kit/grid/GridHeader.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QTimer>
 
 using namespace QV_DOC_CONTROLS;
@@ -26,7 +29,7 @@ struct State {
     const char *name;
     void (*make)(frmSelect &);
 };
-constexpr int kVisible = 2, kLineType = 3, kName = 1;
+constexpr int kVisible = 2, kLineType = 3, kName = 1, kScreenColor = 4, kThickness = 4;
 const State kStates[] = {
     {"table", [](frmSelect &d) { itemsOf(d).setCurrentRow(5); }},
     {"sorted",
@@ -74,6 +77,40 @@ void takeStates(frmSelect &d, tests::Sheet &sheet)
     d.reject();
 }
 
+void press(QWidget &into, int key, const QString &text = {}, Qt::KeyboardModifiers held = {})
+{
+    QKeyEvent event(QEvent::KeyPress, key, held, text);
+    QApplication::sendEvent(&into, &event);
+}
+
+/// A cell of the fourth row that is open, the box that `act` brings up over it, and the cell after that.
+void takeCell(frmSetup &d, tests::Sheet &sheet, int column, void (*act)(QLineEdit &))
+{
+    d.resize(kDialog);
+    Grid &grid = *d.findChild<Grid *>(QStringLiteral("gridItems"));
+    grid.setCurrentRow(3);
+    QAbstractItemView &table = *grid.table();
+    table.setFocus();
+    table.setCurrentIndex(table.currentIndex().siblingAtColumn(column));
+    press(table, Qt::Key_F2);
+    sheet.take(d);
+    QTimer::singleShot(0, &d, [&sheet] {
+        auto *const box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        sheet.take(*box);
+        box->reject();
+    });
+    act(*table.findChild<QLineEdit *>());
+    sheet.take(d);
+    d.reject();
+}
+
+/// Runs `take` on the dialog once it is open.
+void whenOpen(std::function<void(frmSetup &)> take)
+{
+    QTimer::singleShot(0, qApp,
+                       [take] { take(*qobject_cast<frmSetup *>(QApplication::activeModalWidget())); });
+}
+
 } // namespace
 
 /// Takes the open dialog and closes it.
@@ -92,8 +129,18 @@ void tests::takeSelection(ZolWDoc::ZOLW_Doc &doc, Sheet &sheet)
     takeOpen<frmSelect>(sheet);
     ZolWDoc::tSid symbol{.SidId = 3};
     clsDocDlgs().bSelect_Sid(doc, symbol);
-    takeOpen<frmSetup>(sheet);
+    whenOpen([&](frmSetup &d) {
+        takeCell(d, sheet, kThickness, [](QLineEdit &cell) {
+            cell.setText(QStringLiteral("0,25"));
+            press(cell, Qt::Key_Return);
+        });
+    });
     clsDocDlgs().bEdit_Sids(doc);
+    whenOpen([&](frmSetup &d) {
+        takeCell(d, sheet, kScreenColor,
+                 [](QLineEdit &cell) { press(cell, Qt::Key_Down, {}, Qt::AltModifier); });
+    });
+    clsDocDlgs().bEdit_Layers(doc);
     QTimer::singleShot(0, qApp, [&] {
         takeStates(*qobject_cast<frmSelect *>(QApplication::activeModalWidget()), sheet);
     });

@@ -119,8 +119,10 @@ private slots:
                                              {English, "/jsLayer-en.jgl"},
                                              {Hungarian, "/jsLayer-hun.jgl"}}) {
             setLanguage(language, {});
-            QCOMPARE(layoutFileName(kTable), settingsFolder() + name);
+            QCOMPARE(layoutFileName({"jsLayer"}), settingsFolder() + name);
         }
+        const LayoutName own{"jsX", {2802, u"OK"}};     // a text of the table's own ends the name
+        QCOMPARE(layoutFileName(own), settingsFolder() + "/jsXOK.jgl");
     }
 
     void savingReplacesTheOldFileWholeOrFailsInSilence()

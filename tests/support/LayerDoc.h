@@ -2,13 +2,14 @@
 
 #include "document/SqliteDoc.h"
 
-#include <initializer_list>
+#include <cstdlib>
+#include <vector>
 
 namespace tests {
 
 /// A document in memory that holds these layers and no others, in two groups: the system group with all of
 /// them and "Utak" with the even numbers.
-inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDoc::tLay> layers)
+inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const std::vector<ZolWDoc::tLay> &layers)
 {
     auto doc = refhost::SqliteDoc::create(":memory:");
     ZolWDoc::LayerRole &role = doc->layers();
@@ -33,6 +34,35 @@ inline std::unique_ptr<refhost::SqliteDoc> layerDoc(std::initializer_list<ZolWDo
     role.writeMembers(members);
     return doc;
 }
+
+/// The same with layers as dump() writes them, an invisible one with '-' before it: "1 A, -2 B".
+inline std::unique_ptr<refhost::SqliteDoc> layerDoc(const char *dumped)
+{
+    std::vector<ZolWDoc::tLay> layers;
+    for (const QString &each : QString::fromUtf8(dumped).split(QStringLiteral(", "))) {
+        const int number = each.section(u' ', 0, 0).toInt();
+        layers.push_back(
+            {.gNr = qint16(std::abs(number)), .Name = each.section(u' ', 1), .Visible = number > 0});
+    }
+    return layerDoc(layers);
+}
+/// The layers 1 A, like the first of their kind, 2 B, which is invisible, and 3 C with lines by layer.
+inline std::unique_ptr<refhost::SqliteDoc> threeLayers()
+{
+    return layerDoc({{.gNr = 1, .Name = QStringLiteral("A"), .PenStyleId = 1, .TxdId = 1},
+                     {.gNr = 2, .Name = QStringLiteral("B"), .Visible = false},
+                     {.gNr = 3, .Name = QStringLiteral("C"), .ElByLayer = true}});
+}
+/// The layers 1 to 4 named A to D, and a third group without any.
+inline std::unique_ptr<refhost::SqliteDoc> fourLayers()
+{
+    auto doc = layerDoc("1 A, 2 B, 3 C, 4 D");
+    auto groups = doc->layers().groups();
+    groups.push_back({-1, QStringLiteral("Üres")});
+    doc->layers().writeGroups(groups);
+    return doc;
+}
+inline constexpr char kFourLayers[] = "RENDSZER: 1 2 3 4 | Utak: 2 4 | Üres:"; ///< their groups
 
 /// "number name" of every layer, in table order.
 inline QString dump(ZolWDoc::ZOLW_Doc &doc)

@@ -81,3 +81,6 @@ struct ManagerForm {
 };
 
 } // namespace tests
+
+Q_DECLARE_METATYPE(tests::ManagerAct)
+Q_DECLARE_METATYPE(tests::PromptSteps)

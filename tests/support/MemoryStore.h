@@ -9,6 +9,7 @@ namespace tests {
 /// A settings store in memory, its content as "application/section/key" -> value.
 struct MemoryStore final : ZolWDoc::SettingsStore {
     QMap<QString, QString> values;
+    int written = 0;                            ///< how often
     static QString place(const QString &a, const QString &s, const QString &k)
     {
         return a + u'/' + s + u'/' + k;
@@ -19,7 +20,7 @@ struct MemoryStore final : ZolWDoc::SettingsStore {
     }
     void write(const QString &a, const QString &s, const QString &k, const QString &v) override
     {
-        values[place(a, s, k)] = v;
+        ++written, values[place(a, s, k)] = v;
     }
     void remove(const QString &a, const QString &s, const QString &k) override
     {

@@ -26,7 +26,7 @@ inline bool chooseInMenu(QMenuBar &bar, const char *tool)
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(way.first()).center());
     for (qsizetype i = 1; i < way.size(); ++i) {
         QMenu *const open = way[i - 1]->menu();
-        if (!QTest::qWaitFor([open] { return open->isVisible(); })) return false;
+        if (!open->isVisible()) return false;
         for (auto n = open->actions().size(); n > 0 && open->activeAction() != way[i]; --n)
             QTest::keyClick(open, Qt::Key_Down); // a long menu does not fit the screen
         QTest::keyClick(open, Qt::Key_Return);

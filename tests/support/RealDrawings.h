@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facade/clsDocDlgs.h"
 #include "facade/services/Language.h"
 #include "import/DxfImport.h"
 #include "support/DrawingReader.h"
@@ -22,11 +23,12 @@ inline void addDrawingRows()
     for (const QFileInfo &f : files) QTest::newRow(qPrintable(f.baseName())) << f.filePath();
 }
 
-/// Imports the drawing, opens the setup dialog by `call` and does every act there. After each of them the
-/// session's found() must be its expected(): lines of text.
-template <class Session, class Acts, class Call>
-void workThrough(const QString &path, const Acts &acts, Call call)
+/// Imports the drawing of the row, opens the setup dialog by `call` and does every act there. After each of
+/// them the session's found() must be its expected(): lines of text.
+template <class Session, class Acts>
+void workThrough(const Acts &acts, bool (QV_DOC_CONTROLS::clsDocDlgs::*call)(ZolWDoc::ZOLW_Doc &))
 {
+    QFETCH(QString, path);
     QV_DOC_CONTROLS::setLanguage(QV_DOC_CONTROLS::Hungarian, {});
     const QTemporaryDir folder;
     const OwnStore store;
@@ -50,7 +52,8 @@ void workThrough(const QString &path, const Acts &acts, Call call)
         QCOMPARE(child<QV_DOC_CONTROLS::Grid>(d, "gridItems").table()->model()->rowCount(), session.count());
         d.reject();
     });
-    QVERIFY(!call(*doc));
+    QV_DOC_CONTROLS::clsDocDlgs dialogs;
+    QVERIFY(!(dialogs.*call)(*doc));
 }
 
 } // namespace tests

@@ -51,4 +51,15 @@ private:
     QV_DOC_CONTROLS::Prompts *m_before;
 };
 
+/// A message with one button.
+inline ScriptedPrompts::Step told(const QString &title, const QString &text,
+                                  QV_DOC_CONTROLS::Icon icon = QV_DOC_CONTROLS::Icon::Information)
+{
+    return {"tell", title, text, {}, icon};
+}
+inline ScriptedPrompts::Step warned(const QString &title, const QString &text)
+{
+    return told(title, text, QV_DOC_CONTROLS::Icon::Exclamation);
+}
+
 } // namespace tests

@@ -3,12 +3,20 @@
 #include "kit/ask/ErrorRelay.h"
 #include "kit/grid/Grid.h"
 #include "kit/tools/Tool.h"
+#include "support/CallLog.h"
 
 #include "support/QtClasses.h"
 
 #include <cstring>
 
 namespace tests {
+
+/// A row of test data for each of the cases, which have names.
+template <class Cases> void addCases(const Cases &cases)
+{
+    QTest::addColumn<int>("index");
+    for (size_t i = 0; i < cases.size(); ++i) QTest::newRow(cases[i].name) << int(i);
+}
 
 /// A form that stays hidden: both grids, the manager that runs them, and the error that reached the form.
 template <class Manager> struct TableForm {
@@ -29,6 +37,15 @@ template <class Manager> struct TableForm {
     }
     ~TableForm() { js.TearDown(); }
 
+    QString failed() const                      ///< the host's call whose error reached the form
+    {
+        if (!error) return {};
+        try {
+            std::rethrow_exception(error);
+        } catch (const HostError &e) {
+            return QString::fromStdString(e.what());
+        }
+    }
     /// Selects the listed records with these numbers, the first of which becomes current.
     void select(const std::vector<int> &numbers)
     {

@@ -11,8 +11,8 @@
 
 namespace tests {
 
-/// Drags the current row, with the selected ones if it is one of them; what the drag carries, null = there was
-/// none. Where no pointer drags, Qt ends a drag at once and leaves its data behind.
+/// Drags the current row, with the selected ones if it is one of them; what the drag carries, null = there
+/// was none. Where no pointer drags, Qt ends a drag at once and leaves its data behind.
 inline std::unique_ptr<QMimeData> dragged(QAbstractItemView &view)
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the drag before

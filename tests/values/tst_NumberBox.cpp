@@ -1,5 +1,5 @@
 #include "dialogs/values/NumberBox.h"
-#include "kit/ask/NumberWording.h"
+#include "rules/NumberWording.h"
 
 #include "facade/services/Language.h"
 #include "support/Modal.h"

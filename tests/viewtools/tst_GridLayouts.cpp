@@ -10,6 +10,8 @@
 
 using namespace QV_DOC_CONTROLS;
 
+constexpr LayoutName kLayout{"jsTest"};
+
 class tst_GridLayouts : public QObject {
     Q_OBJECT
 private slots:
@@ -21,7 +23,7 @@ private slots:
         builtIn.setSource(&rows);
         grid.setSource(&rows);
         const GridState before = builtIn.state();
-        QVERIFY(!loadGridLayout(builtIn, "jsTest") && !builtIn.setState({{{"foreign"}}, {}, {}, 0}));
+        QVERIFY(!loadGridLayout(builtIn, kLayout) && !builtIn.setState({{{"foreign"}}, {}, {}, 0}));
         QCOMPARE(builtIn.state(), before);
 
         grid.setView(GridView::Card);
@@ -29,11 +31,11 @@ private slots:
         grid.findChild<GridTable *>()->header()->resizeSection(1, 123);
         grid.setSortKeys(std::vector{SortKey{1, SortOrder::Descending}});
         grid.setGroupLevels(std::vector{SortKey{0}});
-        saveGridLayout(grid, "jsTest");
+        saveGridLayout(grid, kLayout);
         setLanguage(English, {});
-        QVERIFY(!loadGridLayout(builtIn, "jsTest"));
+        QVERIFY(!loadGridLayout(builtIn, kLayout));
         setLanguage(Hungarian, {});
-        QVERIFY(loadGridLayout(builtIn, "jsTest"));
+        QVERIFY(loadGridLayout(builtIn, kLayout));
         QCOMPARE(builtIn.state(), grid.state());
         QCOMPARE(builtIn.shownColumns(), (std::vector{3, 1}));
         QVERIFY(builtIn.state() != before);

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPixmap>
 
+#include <optional>
 #include <span>
 
 class QWidget;
@@ -26,7 +27,7 @@ public:
     void zoomBy(double step);
 
 private:
-    QHash<std::pair<QString, qint32>, ZolWDoc::Glyph> m_glyphs; ///< by face and code
+    QHash<std::pair<QString, qint32>, std::optional<ZolWDoc::Glyph>> m_glyphs; ///< by face and code
     double m_zoom = 1;
 };
 

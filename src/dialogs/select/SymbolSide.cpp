@@ -7,6 +7,7 @@
 #include "rules/SymbolRules.h"
 
 #include <QEvent>
+#include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -58,17 +59,22 @@ void SymbolSide::TearDown()
 void SymbolSide::connectTools(clsJS_Sid &manager)
 {
     ToolSet &tools = *m_page.ab1;
-    const auto on = [&](const char *name, std::function<void()> run) {
-        if (tools.tool(name)) tools.on(name, {std::move(run), {}, {}, &manager});
+    const auto on = [&](const char *name, std::function<void()> run, std::function<bool()> enabled = {}) {
+        if (tools.tool(name)) tools.on(name, {std::move(run), std::move(enabled), {}, &manager});
     };
-    on("cmdSid_ZoomIn", [this] { m_preview->cmdZoomIn->click(); });
-    on("cmdSid_ZoomOut", [this] { m_preview->cmdZoomOut->click(); });
+    const auto isShown = [&tools] { return tools.tool("miSiInfo")->isChecked(); };
+    on("cmdSid_ZoomIn", [this] { m_preview->cmdZoomIn->click(); }, isShown);
+    on("cmdSid_ZoomOut", [this] { m_preview->cmdZoomOut->click(); }, isShown);
+    m_preview->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_preview, &QWidget::customContextMenuRequested, this, [this, &tools](QPoint at) {
+        tools.popUp("bndSid")->popup(m_preview->mapToGlobal(at));
+    });
     for (const char *larger : {"cmdSid_ViewIn", "cmdSid_ViewZoomIn"})
         on(larger, [this] { zoomSamples(SymbolSamples::kStep); });
     for (const char *smaller : {"cmdSid_ViewOut", "cmdSid_ViewZoomOut"})
         on(smaller, [this] { zoomSamples(-SymbolSamples::kStep); });
     tools.setChecked("miSiInfo", true);
-    on("miSiInfo", [this, &tools] { setVisible(tools.tool("miSiInfo")->isChecked()); });
+    on("miSiInfo", [this, isShown] { setVisible(isShown()); });
 }
 
 /// One entry for each group, with its place and its command number.

@@ -6,8 +6,8 @@ namespace QV_DOC_CONTROLS {
 
 /// The pop-ups of the symbol table: "bndPopUp_SidsSelected" over selected rows, "bndPopUp_Table" over the
 /// empty part of the grid, "bndGroups" over a group, "mnuSidGroups" with all that there is for groups and
-/// "bndGroups2" with the groups that selected symbols can move to. Names are published, but for the menus'
-/// "mnu...".
+/// "bndGroups2" with the groups that selected symbols can move to; "bndSid" is the menu of the preview. Names
+/// are published, but for the menus' "mnu...".
 inline constexpr Tool kSymbolTools[] = {
     {"bndPopUp_SidsSelected", "miAddNew", {22327, u"Új jelkulcs..."}, "new", "Ctrl+N"},
     {"bndPopUp_SidsSelected", "cmdSid_Edit", {22316, u"Szerkesztés..."}, "edit", "Ctrl+E"},
@@ -30,6 +30,7 @@ inline constexpr Tool kSymbolTools[] = {
     {"bndPopUp_SidsSelected", "miSave2XML", {22318, u"Kijelölt jelkulcsok mentése..."}, "save", "Ctrl+S"},
     {"bndPopUp_SidsSelected", "miRemove", {22317, u"Kijelölt jelkulcsok törlése"}, "delete"},
     {"bndPopUp_SidsSelected", kToolLine},
+    {"bndPopUp_SidsSelected", "mnuSiZoom", {22350, u"Nagyítás az előnézetben"}, "", "", Check::No, "bndSid"},
     {"bndPopUp_SidsSelected", "mnuView"},
 
     {"bndPopUp_Table", "miAddNew"},
@@ -43,6 +44,7 @@ inline constexpr Tool kSymbolTools[] = {
     {"bndPopUp_Table", "miLoadFont25", {22320, u"Jelkulcsok vektoros készletből..."}, "vectorFont"},
     {"bndPopUp_Table", kToolLine},
     {"bndPopUp_Table", "miSiInfo", {22325, u"Előnézet"}, "preview", "F6", Check::Toggle},
+    {"bndPopUp_Table", "mnuSiZoom"},
     {"bndPopUp_Table", "mnuView", {21859, u"Megjelenítés"}, "", "", Check::No, "bndPopUp_View"},
 
     {"mnuSidGroups", "miAddNewGroup", {22328, u"Új csoport..."}, "groupNew"},

@@ -1,7 +1,7 @@
 #include "dialogs/values/NumberEntry.h"
 
 #include "controls/usInputBox.h"
-#include "kit/ask/NumberWording.h"
+#include "rules/NumberWording.h"
 #include "facade/services/InterfaceLocale.h"
 #include "kit/forms/Twips.h"
 #include "kit/forms/WindowSize.h"

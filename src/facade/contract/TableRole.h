@@ -25,8 +25,9 @@ template <class Rec> struct TableRole {
     virtual bool remove(qint16 id) = 0;   ///< false = refused because of references, or not there
     virtual int uses(qint16 id) const = 0;                ///< references that forbid removal; 0 = free
 
-    virtual void addAll(std::span<const Rec> rows,
-                        std::vector<qint16> &ids) ///< ids: one for each row written
+    /// ids: one for each row written. When a row is refused, those before it are written and stay: what was
+    /// read from a file up to a wrong row is not lost.
+    virtual void addAll(std::span<const Rec> rows, std::vector<qint16> &ids)
     {
         ids.clear();
         for (const Rec &r : rows) ids.push_back(add(r));

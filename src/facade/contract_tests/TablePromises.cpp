@@ -121,6 +121,25 @@ template <class Rec> void addAllStores(ZOLW_Doc &doc)
     same(sample<Rec>().table(doc).count(), count + 40, "count");
 }
 
+/// Where a value stays unique, a second record with it is refused; what stands before it is there.
+template <class Rec> void failedAddAllKeeps(ZOLW_Doc &doc)
+{
+    const Sample<Rec> &s = sample<Rec>();
+    if (s.unique.empty()) return;
+    const int count = s.table(doc).count();
+    std::vector<Rec> rows;
+    for (int i = 1; i <= 5; ++i) rows.push_back(s.make(doc, i));
+    s.unique.front().copy(rows[3], rows[0]);
+    std::vector<qint16> ids{5};
+    mustThrow([&] { s.table(doc).addAll(rows, ids); }, "addAll of a value that another row has");
+    same(int(ids.size()), 3, "identifiers given before the refusal");
+    for (size_t i = 0; i < ids.size(); ++i) {
+        rows[i].*s.id = ids[i];
+        requireStored(doc, rows[i], "before the refused row");
+    }
+    same(s.table(doc).count(), count + 3, "count");
+}
+
 /// The rows before `written` are as wanted, those after it as they were.
 template <class Rec> void requireWritten(ZOLW_Doc &doc, const std::vector<Rec> &before,
                                          const std::vector<Rec> &wanted, int written)
@@ -285,6 +304,7 @@ template <class Rec> void append(Promises &all)
     add("update of an unknown identifier throws", unknownUpdateThrows<Rec>);
     add("remove takes exactly that record and answers whether it did", removeTakesOne<Rec>);
     add("addAll is a loop of add", addAllStores<Rec>);
+    add("a failed addAll keeps the rows before the refused one", failedAddAllKeeps<Rec>);
     add("updateAll is a loop of update", updateAllStores<Rec>);
     add("a failed updateAll says what it has written", failedUpdateAllTells<Rec>);
     add("removeAll is a loop of remove", removeAllTakes<Rec>);

@@ -44,7 +44,8 @@ struct IniStore final : ZolWDoc::SettingsStore {
     }
 };
 
-/// The host's store, whose errors are swallowed: a lost window size must not end a dialog.
+/// The host's store, whose errors are swallowed: a lost window size must not end a dialog. What stands there
+/// already is not written again, for writing may cost a trip to the disk.
 struct QuietStore final : ZolWDoc::SettingsStore {
     ZolWDoc::SettingsStore *own = nullptr;
     QString read(const QString &application, const QString &section, const QString &key,
@@ -60,6 +61,7 @@ struct QuietStore final : ZolWDoc::SettingsStore {
                const QString &value) override
     {
         try {
+            if (own->read(application, section, key, value + u'?') == value) return;
             own->write(application, section, key, value);
         } catch (...) {
         }

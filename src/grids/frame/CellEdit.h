@@ -2,6 +2,7 @@
 
 #include "facade/services/Prompts.h"
 #include "grids/frame/Column.h"
+#include "kit/ask/ErrorRelay.h"
 
 #include <algorithm>
 #include <span>
@@ -45,6 +46,21 @@ typename Table::Record asStored(ZolWDoc::ZOLW_Doc &doc, const typename Table::Re
 {
     const auto found = Table::role(doc).find(Table::id(before));
     return found ? *found : Table::role(doc).find(Table::id(edited)).value_or(before);
+}
+
+/// Lets `write` store what an edit in a column made of the shown record. When it throws, the record is what
+/// the document has now, an error of its own apart.
+template <class Table, class Write>
+void storeCell(ZolWDoc::ZOLW_Doc &doc, int c, typename Table::Record &shown,
+               const typename Table::Record &edited, Write write)
+{
+    try {
+        ZolWDoc::inCommand(doc, txt(Table::columns[c].caption), write);
+    } catch (...) {
+        ErrorRelay::tryQuietly([&] { shown = asStored<Table>(doc, shown, edited); });
+        throw;
+    }
+    shown = edited;
 }
 
 inline Message messageOf(const Refusal &r) { return {r.icon, txt(r.title), txt(r.text)}; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facade/contract/ZOLW_Doc.h"
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Prompts.h"
 #include "facade/services/Text.h"
@@ -41,6 +42,7 @@ template <class Rec, class Names> struct Column {
     bool isPen = false;                                 ///< a pen's number: picked by its colour as well
     bool (*proper)(const QVariant &) = nullptr;         ///< set: other values are dropped
     void (*follow)(Rec &) = nullptr;                    ///< set: what an edit of the column changes too
+    bool (*allowed)(ZolWDoc::ZOLW_Doc &) = nullptr;     ///< set: whether the host lets it be edited at all
 
     constexpr Column within(double from, double to) const
     {
@@ -67,6 +69,12 @@ template <class Rec, class Names> struct Column {
         return {.min = least, .max = most, .decimals = decimals, .unit = unit.id ? txt(unit) : QString()};
     }
     constexpr Column with(Text longer) const { auto c = *this; c.longCaption = longer; return c; }
+    constexpr Column where(bool (*by)(ZolWDoc::ZOLW_Doc &)) const
+    {
+        auto c = *this;
+        c.allowed = by;
+        return c;
+    }
     constexpr Column editable() const { auto c = *this; c.canEdit = true; return c; }
     constexpr Column unique(Refusal r) const { auto c = editable(); c.taken = r; return c; }
     constexpr Column alsoSets(void (*what)(Rec &)) const { auto c = *this; c.follow = what; return c; }
@@ -152,8 +160,8 @@ template <class Table> consteval int columnOf(std::string_view key)
     return c;
 }
 
-/// The columns of a table as a grid shows them, captions in the current language.
-template <class Table> std::vector<GridColumn> gridColumnsOf()
+/// The columns of a table as a grid shows them, captions in the current language; `doc` is the one it is of.
+template <class Table> std::vector<GridColumn> gridColumnsOf(ZolWDoc::ZOLW_Doc *doc)
 {
     std::vector<GridColumn> columns;
     for (const auto &c : Table::columns)
@@ -161,7 +169,7 @@ template <class Table> std::vector<GridColumn> gridColumnsOf()
                            .caption = txt(c.caption),
                            .longCaption = c.longCaption.id ? txt(c.longCaption) : QString(),
                            .kind = c.kind,
-                           .editable = c.canEdit,
+                           .editable = c.canEdit && (!c.allowed || (doc && c.allowed(*doc))),
                            .unit = c.unit.id ? txt(c.unit) : QString(),
                            .asks = c.isPen});
     return columns;

@@ -1,18 +1,17 @@
 #include "grids/frame/GridLayouts.h"
 
 #include "kit/grid/Grid.h"
-#include "rules/GridLayoutFile.h"
 
 namespace QV_DOC_CONTROLS {
 
-void saveGridLayout(const Grid &grid, const QString &layout)
+void saveGridLayout(const Grid &grid, const LayoutName &layout)
 {
-    saveLayout(layoutFileName(layout), layout, grid.state());
+    saveLayout(layoutFileName(layout), QLatin1String(layout.table), grid.state());
 }
 
-bool loadGridLayout(Grid &grid, const QString &layout)
+bool loadGridLayout(Grid &grid, const LayoutName &layout)
 {
-    const auto state = loadLayout(layoutFileName(layout), layout, grid.state().columns);
+    const auto state = loadLayout(layoutFileName(layout), QLatin1String(layout.table), grid.state().columns);
     return state && grid.setState(*state);
 }
 

@@ -14,7 +14,7 @@ namespace QV_DOC_CONTROLS {
 bool GridManager::refusesNow() const
 {
     if (m_busy)
-        prompts().tell({Icon::Exclamation, productName(),
+        prompts().tell({Icon::Exclamation, appTitle(),
                         txt(Text{3146, u"Frissítés van folyamatban, kérem várakozzék!"})});
     return m_busy;
 }
@@ -52,7 +52,7 @@ void GridManager::unfollow(Grid &grid)
     disconnect(&LanguageHub::instance(), nullptr, this, nullptr);
 }
 
-void GridManager::loadLayout(Grid &grid, const QString &layout)
+void GridManager::loadLayout(Grid &grid, const LayoutName &layout)
 {
     const QScopedValueRollback loading(m_loading, true);
     loadGridLayout(grid, layout);

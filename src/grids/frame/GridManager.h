@@ -5,6 +5,7 @@
 #include "kit/ask/ErrorRelay.h"
 #include "kit/ask/StepRun.h"
 #include "kit/grid/SheetSource.h"
+#include "rules/GridLayoutFile.h"
 
 #include <QObject>
 #include <QStringList>
@@ -66,6 +67,12 @@ protected:
             if (!refusesNow()) body();
         });
     }
+    /// What `body` answers, guarded; `otherwise` when it does not come to an answer.
+    template <class Answer, class Body> Answer guardedOr(Answer otherwise, Body &&body)
+    {
+        guarded([&] { otherwise = body(); });
+        return otherwise;
+    }
     /// Runs `body`, which writes, then fills; after an error too, so that the grid agrees with what had been
     /// written by then.
     void runAndFill(const std::function<void()> &body);
@@ -80,7 +87,7 @@ protected:
     static void readTooltips(Grid &grid);                    ///< shown or not, as the user's setting says
     void followView(Grid &grid);                             ///< raises both, and follows the language
     void unfollow(Grid &grid);                               ///< hears nothing of either any more
-    void loadLayout(Grid &grid, const QString &layout);      ///< of the language, if there is one
+    void loadLayout(Grid &grid, const LayoutName &layout); ///< of the language, if there is one
     explicit GridManager(const char *type) : m_identity(type) {}
     ErrorRelay &relay() const { return *m_relay; }
 

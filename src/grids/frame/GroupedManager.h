@@ -100,6 +100,15 @@ protected:
     }
     /// The groups that records name though they are not among those read.
     virtual std::vector<qint16> strayGroups(const std::vector<ZolWDoc::tGroup> &) const { return {}; }
+    /// Of a table whose records name their group: in the list, which is not read again.
+    void groupRenamed(qint16 group, const QString &name)
+    {
+        const auto before = this->currentRecord();
+        RecordRows<Table>::patchAll([&](auto &record) {
+            if (record.GroupId == group) record.GroupName = name;
+        });
+        if (const auto now = this->currentRecord(); now && now != before) this->raiseCurrent(*now);
+    }
     virtual void groupChosen() {}                       ///< chosenGroup() may be another one now
     Qt::DropAction dragAction() const override { return Qt::CopyAction; }
 

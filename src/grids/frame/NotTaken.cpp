@@ -1,7 +1,7 @@
 #include "grids/frame/NotTaken.h"
 
 #include "facade/services/Text.h"
-#include "kit/ask/NumberWording.h"
+#include "rules/NumberWording.h"
 
 namespace QV_DOC_CONTROLS {
 

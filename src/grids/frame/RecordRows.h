@@ -6,6 +6,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace QV_DOC_CONTROLS {
 
 /// The records of a table as last read, seen by a grid: those that fit are its rows.
@@ -25,7 +27,20 @@ protected:
     }
     virtual bool fits(const Record &) const { return true; } ///< whether the record is listed
 
-    void readCaptions() { m_columns = gridColumnsOf<Table>(); }
+    std::vector<Record> recordsAt(std::span<const int> rows) const
+    {
+        std::vector<Record> out;
+        for (const int row : rows) out.push_back(recordAt(row));
+        return out;
+    }
+    std::vector<qint16> idsAt(std::span<const int> rows) const
+    {
+        std::vector<qint16> out;
+        for (const int row : rows) out.push_back(Table::id(recordAt(row)));
+        return out;
+    }
+    void readCaptions(ZolWDoc::ZOLW_Doc *doc) { m_columns = gridColumnsOf<Table>(doc); }
+    template <class Change> void patchAll(Change patch) { std::ranges::for_each(m_all, patch); }
     void setRecords(std::vector<Record> all, typename Table::Names names) ///< none of them is listed yet
     {
         m_all = std::move(all), m_names = std::move(names);

@@ -5,7 +5,9 @@
 #include "grids/frame/Desk.h"
 #include "grids/frame/GridLayouts.h"
 #include "grids/frame/GridManager.h"
+#include "grids/frame/PenChoice.h"
 #include "grids/frame/RecordRows.h"
+#include "grids/frame/RowCaptions.h"
 #include "kit/grid/Grid.h"
 
 namespace QV_DOC_CONTROLS {
@@ -17,7 +19,7 @@ class TableManager : public GridManager, protected RecordRows<Table>, protected 
 public:
     using Record = typename Table::Record;
 
-    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(); }
+    explicit TableManager(const char *type) : GridManager(type) { Rows::readCaptions(nullptr); }
     void setAllowEdit(bool on) override
     {
         GridManager::setAllowEdit(on);
@@ -33,9 +35,9 @@ public:
     }
     void ml_RuntimeSupport_LanguageChanged() override
     {
-        Rows::readCaptions();
+        Rows::readCaptions(m_doc);
         if (!m_grid) return;
-        m_grid->setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows<Table>(*m_grid);
         m_grid->captionsChanged();
         loadLayout(*m_grid, Table::layout); // of the new language, which a later save goes to as well
     }
@@ -82,10 +84,7 @@ public:
     }
     std::vector<Record> selected() const override ///< in grid order
     {
-        std::vector<Record> out;
-        if (m_grid)
-            for (int r : m_grid->selectedRows()) out.push_back(Rows::recordAt(r));
-        return out;
+        return m_grid ? Rows::recordsAt(m_grid->selectedRows()) : std::vector<Record>{};
     }
     std::optional<Record> currentRecord() const override
     {
@@ -106,12 +105,13 @@ protected:
         auto names = Table::namesOf(doc);
         readBeside(doc, all); // an error leaves nothing attached, and no layout to save
         m_doc = &doc, m_grid = &grid;
+        Rows::readCaptions(m_doc);
         Rows::setRecords(std::move(all), std::move(names));
         grid.setAllowEdit(AllowEdit());
         readTooltips(grid);
         Rows::showWhatFits();
         grid.setSource(this);
-        grid.setCardCaption(txt(Table::cardCaption), Table::numberColumn, Table::nameColumn);
+        captionRows<Table>(grid);
         followView(grid);
         loadLayout(grid, Table::layout);
         connect(&grid, &Grid::currentRowMoved, this, [this] { raiseCurrentRow(); });
@@ -154,23 +154,14 @@ protected:
 
     bool edit(int row, int c, const QVariant &value) override
     {
-        bool stored = false;
-        guarded([&] { stored = tryEdit(row, c, value); });
-        return stored;
+        return guardedOr(false, [&] { return tryEdit(row, c, value); });
     }
 
     std::optional<QVariant> choose(int row, int c) override
     {
-        std::optional<QVariant> chosen;
-        guarded([&] {
-            const ColorIndexQuestion question{txt(Table::columns[c].caption),
-                                              join(Text{22343, u"Válassz tollat! "}, Rows::rowName(row)),
-                                              Rows::value(row, c).toInt(), screenColorsOfPens(*m_doc)};
-            const auto pen = prompts().colorIndex(question, asker());
-            relay().checkpoint();
-            if (pen) chosen = *pen;
+        return guardedOr(std::optional<QVariant>(), [&] {
+            return choosePen(*this, txt(Table::columns[c].caption), Rows::rowName(row), Rows::value(row, c));
         });
-        return chosen;
     }
 
 private:
@@ -179,12 +170,7 @@ private:
         m_selectionTold = true;
         raiseSelection(m_grid->selectedCount());
     }
-    std::vector<qint16> selectedIds() const
-    {
-        std::vector<qint16> ids;
-        for (const Record &r : selected()) ids.push_back(Table::id(r));
-        return ids;
-    }
+    std::vector<qint16> selectedIds() const { return Rows::idsAt(m_grid->selectedRows()); }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
@@ -195,14 +181,7 @@ private:
         Record &shown = Rows::recordAt(row);
         if (const Refusal *const why = refusalOf<Table>(shown, *edited, c, Rows::all()))
             return this->tell(messageOf(*why)), false;
-        try {
-            ZolWDoc::inCommand(*m_doc, txt(Table::columns[c].caption),
-                               [&] { storeEdit(shown, *edited); });
-        } catch (...) { // what the document has now, an error of its own apart
-            relay().tryQuietly([&] { shown = asStored<Table>(*m_doc, shown, *edited); });
-            throw;
-        }
-        shown = *edited;
+        storeCell<Table>(*m_doc, c, shown, *edited, [&] { storeEdit(shown, *edited); });
         if (row == m_grid->currentRow()) raiseCurrent(*edited);
         return true;
     }

@@ -66,7 +66,7 @@ void SymbolRemoval::askOnly()
                                  Text{3236, u". jelkulcsot?"});
     if (!m_desk.yesNo({Icon::Question, txt(kOne), question}) || selectedNow(m_desk).empty()) return;
     // Nothing is removed, on purpose, and the text is the same in every language.
-    m_desk.tell({Icon::None, productName(),
+    m_desk.tell({Icon::None, appTitle(),
                  QStringLiteral("FOLYTKOV Call OpSid_Delete(tSid, needConfirm:=True, useMsgBox:=True)")});
 }
 

@@ -227,6 +227,12 @@ void Grid::setCardCaption(const QString &caption, int numberColumn, int nameColu
     m_model->setCard(caption, numberColumn, nameColumn);
 }
 
+void Grid::setBandCaption(const QString &caption)
+{
+    m_model->setBandCaption(caption);
+    for (LineView *view : views()) view->viewport()->update();
+}
+
 void Grid::setPictureSize(QSize size)
 {
     m_pictureSize = size;

@@ -78,6 +78,7 @@ public:
     void setTooltips(bool on);
     void setDragOut(bool on);                       ///< rows can be dragged, if the source has data for them
     void setCardCaption(const QString &caption, int numberColumn, int nameColumn); ///< e.g. "Réteg:|/"
+    void setBandCaption(const QString &caption);    ///< up to its "|" before the text of every band
     void picturesChanged();                         ///< the source has other pictures now; same values
     void setPictureSize(QSize size);                ///< of pictures in cells, device-independent pixels
     int columnWidth(int column) const;              ///< pixels; of a hidden column the one it had

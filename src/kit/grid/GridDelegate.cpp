@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -252,7 +253,8 @@ QLineEdit *GridDelegate::lineEditor(QWidget *parent, int column) const
     line->setFrame(false);
     if (!m_model.column(column)->asks) return line;
     QAction *const more = line->addAction(toolIcon("penColor"), QLineEdit::TrailingPosition);
-    more->setText(GridModel::chooseHint());
+    more->setToolTip(GridModel::chooseHint());
+    if (auto *const button = line->findChild<QToolButton *>()) button->setAccessibleName(more->toolTip());
     auto *const self = const_cast<GridDelegate *>(this);
     connect(more, &QAction::triggered, self, [self, line] { self->askInstead(*line); });
     return line;

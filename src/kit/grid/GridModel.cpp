@@ -209,12 +209,18 @@ QString GridModel::cellText(int row, int c) const
                                               : m_source->text(row, c);
 }
 
+void GridModel::setBandCaption(const QString &caption)
+{
+    m_beforeBands = caption.isEmpty() ? QString() : caption.section(u'|', 0, 0) + u' ';
+}
+
 QString GridModel::bandText(int b) const
 {
     const RowEngine::Band &band = m_engine.band(b);
     const int c = m_engine.groupLevels()[size_t(band.level)].column;
     const QString value = cellText(m_engine.firstRowOf(b), c);
-    return column(c)->caption + QStringLiteral(": ") + (value.isEmpty() ? txt(Text{21002, u"(üres)"}) : value)
+    return m_beforeBands + column(c)->caption + QStringLiteral(": ")
+        + (value.isEmpty() ? txt(Text{21002, u"(üres)"}) : value)
         + QStringLiteral(" (") + interfaceLocale().toString(band.count) + u')';
 }
 
@@ -222,7 +228,7 @@ QString GridModel::accessibleBand(int b) const
 {
     const RowEngine::Band &band = m_engine.band(b);
     const int c = m_engine.groupLevels()[size_t(band.level)].column;
-    return join(Text{21003, u"csoport "}, column(c)->caption, QStringLiteral(": "),
+    return join(Text{21003, u"csoport "}, m_beforeBands, column(c)->caption, QStringLiteral(": "),
                 cellText(m_engine.firstRowOf(b), c), QStringLiteral(", "), band.count,
                 band.count == 1 ? Text{21004, u" sor"} : Text{21005, u" sor"}, QStringLiteral(", "),
                 band.expanded ? Text{21006, u"kibontva"} : Text{21007, u"összecsukva"});
@@ -272,8 +278,9 @@ QVariant GridModel::accessibleText(int row, int c) const
 QString GridModel::described(int c) const
 {
     const GridColumn &col = *column(c);
-    return col.asks && m_flags[size_t(c)] & Qt::ItemIsEditable ? col.caption + QStringLiteral(", ") + chooseHint()
-                                                              : col.caption;
+    return col.asks && m_flags[size_t(c)] & Qt::ItemIsEditable
+               ? col.caption + QStringLiteral(", ") + chooseHint()
+               : col.caption;
 }
 
 QVariant GridModel::cellData(int row, int c, int role) const
@@ -371,7 +378,8 @@ void GridModel::choose(const QModelIndex &cell)
     const int row = sourceRow(cell), c = cell.column();
     if (row < 0 || !column(c)->asks || !(flags(cell) & Qt::ItemIsEditable)) return;
     const qint64 id = m_source->rowId(row);
-    if (const auto chosen = m_source->choose(row, c)) setData(indexOf(rowWithId(id), c), *chosen, Qt::EditRole);
+    if (const auto chosen = m_source->choose(row, c))
+        setData(indexOf(rowWithId(id), c), *chosen, Qt::EditRole);
 }
 
 } // namespace QV_DOC_CONTROLS

@@ -59,7 +59,8 @@ public:
         return m_source ? m_source->choices(c) : std::vector<GridChoice>{};
     }
     QString cellText(int sourceRow, int column) const;  ///< as said: "igen" for a check box that is on
-    QString bandText(int band) const;           ///< "caption: value (count)"
+    QString bandText(int band) const;           ///< "caption: value (count)", with what stands before it
+    void setBandCaption(const QString &caption);
     QString cardCaption(int sourceRow) const;
     void setCard(const QString &caption, int numberColumn, int nameColumn);
     int cardNameColumn() const { return m_nameColumn; }
@@ -98,7 +99,7 @@ private:
     RowFilter m_filter;
     FilterRule m_rule;
     GridStyles m_styles;
-    QString m_cardCaption;
+    QString m_cardCaption, m_beforeBands;
     int m_numberColumn = -1, m_nameColumn = -1;
     mutable int m_styledRow = -1; ///< the row that m_rowStyles are of: cells are painted row by row
     mutable RowStyles m_rowStyles;

@@ -1,4 +1,4 @@
-#include "kit/ask/NumberWording.h"
+#include "rules/NumberWording.h"
 
 #include "facade/services/InterfaceLocale.h"
 #include "facade/services/Text.h"
