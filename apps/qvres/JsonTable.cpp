@@ -5,9 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include <QHash>
-#include <QSet>
 
-#include <functional>
+#include <utility>
 
 namespace qvres {
 
@@ -32,56 +31,82 @@ Json jsonOf(const Cell &cell)
     return cell.text.toDouble();
 }
 
-Cell cellOf(const Json &value)
-{
-    if (value.is_null()) return {};
-    if (value.is_boolean()) return Cell::ofBoolean(value.get<bool>());
-    if (value.is_string()) return Cell::ofText(QString::fromStdString(value.get<std::string>()));
-    return Cell::ofNumber(QString::fromStdString(value.dump()));
-}
-
-Failure noRows() { return Failure(txt(Text{31107, u"A JSON-fájl nem sorok tömbje."})); }
-
-/// Refuses what no table holds when it begins, before its depth costs anything: one array of objects, whose
-/// values are plain and whose keys differ.
-class Shape {
+/// Makes the rows of one array of objects as they are read. What no table holds is refused where it begins,
+/// so that it costs nothing, however deep or wide it is.
+class Rows final : public nlohmann::json_sax<Json> {
 public:
-    bool operator()(int depth, Json::parse_event_t event, const Json &parsed)
+    Table table;
+
+    bool null() override { return take({}); }
+    bool boolean(bool value) override { return take(Cell::ofBoolean(value)); }
+    bool number_integer(std::int64_t value) override { return take(Cell::ofNumber(QString::number(value))); }
+    bool number_unsigned(std::uint64_t value) override
     {
-        using Event = Json::parse_event_t;
-        const bool isObject = event == Event::object_start, isArray = event == Event::array_start;
-        if (isObject) m_keys.clear();
-        if (event == Event::key) checkKey(QString::fromStdString(parsed.get<std::string>()));
-        if (!isObject && !isArray) return true;
-        if (depth > 1)
-            throw Failure(
-                join(Text{31105, u"A táblázat egy értéke sem szöveg, sem szám, sem igaz vagy hamis: "},
-                     isObject ? QStringLiteral("{...}") : QStringLiteral("[...]")));
-        if (depth == 0 ? isObject : isArray) throw noRows();
+        return take(Cell::ofNumber(QString::number(value)));
+    }
+    bool number_float(double value, const std::string &digits) override
+    {
+        const QString text = QString::fromStdString(digits); // too many digits would make a text of it
+        return take(Cell::ofNumber(isNumber(text) ? text : QString::fromStdString(Json(value).dump())));
+    }
+    bool string(std::string &value) override { return take(Cell::ofText(QString::fromStdString(value))); }
+    bool binary(Json::binary_t &) override { return false; } // not in JSON texts
+    bool start_object(size_t) override
+    {
+        begin(1, "{...}");
+        table.rows.emplace_back().reserve(size_t(table.columns.size()));
         return true;
+    }
+    bool start_array(size_t) override { return begin(0, "[...]"); }
+    bool end_object() override { return --m_depth, true; }
+    bool end_array() override { return --m_depth, true; }
+    bool key(std::string &name) override;
+    bool parse_error(size_t at, const std::string &, const nlohmann::detail::exception &e) override
+    {
+        if (dynamic_cast<const Json::out_of_range *>(&e)) // names the number in quotes
+            throw Failure(join(Text{31129, u"A JSON-fájl egy száma túl nagy: "},
+                               QString::fromUtf8(e.what()).section(u'\'', 1, 1)));
+        throw Failure(join(Text{31106, u"Hibás JSON. Hely (bájt): "}, int(at)));
     }
 
 private:
-    void checkKey(const QString &key)
+    static Failure noRows() { return Failure(txt(Text{31107, u"A JSON-fájl nem sorok tömbje."})); }
+    bool begin(int depth, const char *shown)
     {
-        if (m_keys.contains(key))
-            throw Failure(join(Text{31126, u"Egy oszlopnév többször szerepel: "}, key));
-        m_keys.insert(key);
+        if (m_depth == 2)
+            throw Failure(
+                join(Text{31105, u"A táblázat egy értéke sem szöveg, sem szám, sem igaz vagy hamis: "},
+                     QLatin1String(shown)));
+        if (m_depth++ != depth) throw noRows();
+        return true;
     }
-    QSet<QString> m_keys; ///< of the object that is being read
+    bool take(const Cell &cell)
+    {
+        if (m_depth != 2) throw noRows();
+        table.rows.back()[m_column] = cell;
+        return true;
+    }
+    int m_depth = 0;                 ///< 1 = in the array, 2 = in a row
+    size_t m_column = 0;             ///< of the next value
+    QHash<QString, size_t> m_places; ///< of the columns
+    std::vector<size_t> m_lastRow;   ///< by column, from 1: which had it last
 };
 
-Json parsed(const QByteArray &json)
+bool Rows::key(std::string &name)
 {
-    try {
-        Shape shape;
-        return Json::parse(json.begin(), json.end(), std::ref(shape));
-    } catch (const Json::out_of_range &e) { // names the number in quotes
-        throw Failure(join(Text{31129, u"A JSON-fájl egy száma túl nagy: "},
-                           QString::fromUtf8(e.what()).section(u'\'', 1, 1)));
-    } catch (const Json::parse_error &e) {
-        throw Failure(join(Text{31106, u"Hibás JSON. Hely (bájt): "}, int(e.byte)));
+    const QString column = QString::fromStdString(name);
+    m_column = m_places.value(column, m_lastRow.size());
+    if (m_column == m_lastRow.size()) {
+        m_places.insert(column, m_column);
+        m_lastRow.push_back(0);
+        table.columns << column;
+        checkSize(table.rows.size(), m_lastRow.size());
     }
+    if (std::exchange(m_lastRow[m_column], table.rows.size()) == table.rows.size())
+        throw Failure(join(Text{31126, u"Egy oszlopnév többször szerepel: "}, column));
+    auto &row = table.rows.back();
+    if (row.size() <= m_column) row.resize(m_column + 1);
+    return true;
 }
 
 } // namespace
@@ -92,10 +117,10 @@ QByteArray jsonOf(const std::vector<Table> &tables)
     for (const Table &table : tables) {
         checkNames(table.columns);
         for (const auto &cells : table.rows) {
-            Json row = Json::object();
-            if (!table.name.isEmpty()) row["table"] = table.name.toStdString();
+            Json::object_t row; // names differ: looking for each would cost the square of their number
+            if (!table.name.isEmpty()) row.push_back({"table", table.name.toStdString()});
             for (size_t c = 0; c < cells.size(); ++c)
-                row[table.columns[qsizetype(c)].toStdString()] = jsonOf(cells[c]);
+                row.push_back({table.columns[qsizetype(c)].toStdString(), jsonOf(cells[c])});
             all.push_back(std::move(row));
         }
     }
@@ -104,26 +129,14 @@ QByteArray jsonOf(const std::vector<Table> &tables)
 
 Table tableOfJson(const QByteArray &json)
 {
-    const Json all = parsed(json);
-    if (!all.is_array()) throw noRows();
-    Table table;
-    QHash<QString, size_t> places;
-    for (const Json &object : all) {
-        if (!object.is_object()) throw noRows();
-        auto &row = table.rows.emplace_back();
-        for (const auto &[key, value] : object.items()) {
-            const QString column = QString::fromStdString(key);
-            if (!places.contains(column)) {
-                places.insert(column, size_t(table.columns.size()));
-                table.columns << column;
-                checkSize(table.rows.size(), size_t(table.columns.size()));
-            }
-            row.resize(std::max(row.size(), places.value(column) + 1));
-            row[places.value(column)] = cellOf(value);
-        }
-    }
+    Rows rows;
+    Json::sax_parse(json.begin(), json.end(), &rows);
+    Table table = std::move(rows.table);
     checkSize(table.rows.size(), size_t(table.columns.size()));
-    for (auto &row : table.rows) row.resize(size_t(table.columns.size()));
+    for (auto &row : table.rows) {
+        row.reserve(size_t(table.columns.size())); // no more than that
+        row.resize(size_t(table.columns.size()));
+    }
     return table;
 }
 
