@@ -54,7 +54,7 @@ public:
     bool start_object(size_t) override
     {
         begin(1, "{...}");
-        table.rows.emplace_back().reserve(size_t(table.columns.size()));
+        table.rows.emplace_back();
         return true;
     }
     bool start_array(size_t) override { return begin(0, "[...]"); }
@@ -96,7 +96,10 @@ bool Rows::key(std::string &name)
 {
     const QString column = QString::fromStdString(name);
     m_column = m_places.value(column, m_lastRow.size());
-    if (m_column == m_lastRow.size()) {
+    auto &row = table.rows.back();
+    if (m_column < m_lastRow.size()) {
+        row.reserve(m_lastRow.size()); // likely as long as the rows before it
+    } else {
         m_places.insert(column, m_column);
         m_lastRow.push_back(0);
         table.columns << column;
@@ -104,7 +107,6 @@ bool Rows::key(std::string &name)
     }
     if (std::exchange(m_lastRow[m_column], table.rows.size()) == table.rows.size())
         throw Failure(join(Text{31126, u"Egy oszlopnév többször szerepel: "}, column));
-    auto &row = table.rows.back();
     if (row.size() <= m_column) row.resize(m_column + 1);
     return true;
 }

@@ -24,7 +24,7 @@ bool Cell::same(const Cell &other) const
 
 void checkSize(size_t rows, size_t columns)
 {
-    constexpr size_t kMostValues = 10'000'000; // they take up some 300 MB
+    constexpr size_t kMostValues = 10'000'000; // half a gigabyte or so
     if (rows && columns > kMostValues / rows)
         throw Failure(join(Text{31131, u"A táblázat túl nagy; a sorok és az oszlopok számának szorzata "
                                        u"legfeljebb ennyi lehet: "},
