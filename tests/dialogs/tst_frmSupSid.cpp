@@ -1,8 +1,10 @@
 #include "controls/usSiInfo.h"
 #include "facade/clsDocDlgs.h"
+#include "facade/contract/ResourcePicker.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
+#include "support/WillingPrompts.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -315,11 +317,23 @@ private slots:
             QVERIFY(dialogs.bSelect_Sid(*m_form->doc, picked));
         }
         QVERIFY(picked == *m_form->doc->symbols().find(1));
+        for (const bool renumbers : {false, true}) {    // which Cancel cannot take back
+            const tests::WillingPrompts willing;        // answers 1000
+            const auto user = whileModal<frmSupSid>([&](frmSupSid &f) {
+                QVERIFY(f.isEditMode());
+                select(f, 1);
+                if (renumbers) run(f, "cmdSid_Nr");
+                click(f, "cmdCancel");
+            });
+            QCOMPARE(dialogs.bEdit_Sids(*m_form->doc), renumbers);
+        }
         const auto user = whileModal<frmSupSid>([](frmSupSid &f) {
-            QVERIFY(f.isEditMode());
+            const ScriptedPrompts refusal{
+                {tests::warned(appTitle(), QStringLiteral("A szerkesztő mód nem választható !"))}};
+            run(f, "cmdEditMode");
             click(f, "cmdCancel");
         });
-        QVERIFY(!dialogs.bEdit_Sids(*m_form->doc));
+        QVERIFY(!resourcePicker()->pick(TableKind::Symbols, *m_form->doc, 1, nullptr));
     }
 };
 
