@@ -24,7 +24,6 @@ using namespace ZolWDoc;
 using tests::child;
 using tests::ScriptedPrompts;
 using tests::whileModal;
-
 Q_DECLARE_METATYPE(std::function<void(QV_DOC_CONTROLS::frmSetup &)>)
 using Act = std::function<void(frmSetup &)>;
 
