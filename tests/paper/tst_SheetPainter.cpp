@@ -3,6 +3,7 @@
 #include "kit/paper/Ink.h"
 #include "kit/paper/SheetOutput.h"
 #include "paper/SamplePaper.h"
+#include "support/FullDisk.h"
 #include "support/Looks.h"
 #include "support/Registry.h"
 
@@ -101,6 +102,15 @@ private slots:
             return o.start() && o.printNext() ? OutputResult::Stopped : OutputResult::Failed;
         };
         QCOMPARE(savePdf(painter, path, error, stop), OutputResult::Stopped);
+        if (tests::FullDisk::isPossible) {
+            const tests::FullDisk full;
+            QCOMPARE(savePdf(painter, path, error), OutputResult::Failed);
+        }
+        const auto writable = QFile::permissions(path);
+        QFile::setPermissions(path, QFile::ReadOwner);
+        QCOMPARE(savePdf(painter, path, error), OutputResult::Failed);
+        QCOMPARE(error, "a fájl írásvédett");
+        QFile::setPermissions(path, writable);
         QCOMPARE(contentOf(path), "older");
         QCOMPARE(savePdf(painter, path, error), OutputResult::Done);
         QVERIFY(contentOf(path).startsWith("%PDF-"));

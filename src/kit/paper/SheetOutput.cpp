@@ -1,6 +1,7 @@
 #include "kit/paper/SheetOutput.h"
 
 #include "kit/paper/SheetPainter.h"
+#include "rules/WholeFile.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -48,6 +49,7 @@ OutputResult runAll(SheetOutput &output)
 
 OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &error, const OutputRun &run)
 {
+    if (const auto why = whyKept(path)) return error = *why, OutputResult::Failed;
     QSaveFile file(path);
     OutputResult result = OutputResult::Failed;
     if (file.open(QIODevice::WriteOnly)) {
@@ -57,8 +59,8 @@ OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &er
         SheetOutput output(sheet, writer, 0, sheet.pageCount() - 1);
         result = run(output);
     }
-    // otherwise it is dropped
-    if (result == OutputResult::Done && !file.commit()) result = OutputResult::Failed;
+    // otherwise it is dropped; the flush of commit() says nothing of a full disk
+    if (result == OutputResult::Done && !(file.flush() && file.commit())) result = OutputResult::Failed;
     error = result == OutputResult::Failed ? file.errorString() : QString();
     return result;
 }
