@@ -1,7 +1,6 @@
 #include "kit/paper/SheetOutput.h"
 
 #include "kit/paper/SheetPainter.h"
-#include "rules/WholeFile.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -49,7 +48,6 @@ OutputResult runAll(SheetOutput &output)
 
 OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &error, const OutputRun &run)
 {
-    if (const auto why = whyKept(path)) return error = *why, OutputResult::Failed;
     QSaveFile file(path);
     OutputResult result = OutputResult::Failed;
     if (file.open(QIODevice::WriteOnly)) {
