@@ -193,6 +193,7 @@ private slots:
         for (int i = 100; i < 3100; ++i) {
             many.push_back(tests::symbol(qint16(i), QByteArray::number(i).constData()));
             many.back().Type = 1, many.back().Facename = host.name(), many.back().Code = 'N';
+            many.back().Size_mm = float(i) / 100; // what looks alike is drawn once
         }
         m_form->doc = tests::symbolDoc(many);
         m_form->open(

@@ -136,6 +136,8 @@ private slots:
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(list, &wheel);
         QCOMPARE(list->currentIndex(), 0);
+        s.dialog.activateWindow();
+        list->setFocus();
         s.key(Qt::Key_Down);                                // walks, and can go on
         s.key(Qt::Key_Down);
         s.key(Qt::Key_Escape);
@@ -149,7 +151,6 @@ private slots:
         QTest::keyClick(open, Qt::Key_Down);
         QTest::keyClick(open, Qt::Key_Return);
         QTRY_COMPARE(s.rows.log.last(), "edit 100.Kind=2");
-        QVERIFY(s.dialog.isVisible());
     }
 
     void whatIsRefusedStaysInItsOpenCell()
