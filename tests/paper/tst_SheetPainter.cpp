@@ -102,13 +102,13 @@ private slots:
             return o.start() && o.printNext() ? OutputResult::Stopped : OutputResult::Failed;
         };
         QCOMPARE(savePdf(painter, path, error, stop), OutputResult::Stopped);
-        if (tests::FullDisk::isPossible) {
-            const tests::FullDisk full;
-            QCOMPARE(savePdf(painter, path, error), OutputResult::Failed);
-        }
         QCOMPARE(contentOf(path), "older");
         QCOMPARE(savePdf(painter, path, error), OutputResult::Done);
         QVERIFY(contentOf(path).startsWith("%PDF-"));
+        if (FullDisk::isPossible) { // the last letters are those that are kept back until the end
+            const FullDisk full(QFileInfo(path).size() - 100);
+            QCOMPARE(savePdf(painter, path, error), OutputResult::Failed);
+        }
         QCOMPARE(pagesIn(contentOf(path)), 3);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("a.pdf"));
         QCOMPARE(savePdf(painter, folder.filePath("no/such/a.pdf"), error), OutputResult::Failed);
