@@ -19,7 +19,8 @@ Cell bareCell(const QString &text)
     if (text.isEmpty()) return {};
     if (text.compare(u"true", Qt::CaseInsensitive) == 0) return Cell::ofBoolean(true);
     if (text.compare(u"false", Qt::CaseInsensitive) == 0) return Cell::ofBoolean(false);
-    return isNumber(text) ? Cell::ofNumber(text) : Cell::ofText(text);
+    const QString trimmed = text.trimmed();
+    return isNumber(trimmed) ? Cell::ofNumber(trimmed) : Cell::ofText(text);
 }
 
 /// Takes fields off the front of the text.

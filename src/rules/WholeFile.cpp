@@ -14,9 +14,9 @@ QString about(const QString &path, const Text &what, const QString &details)
     return join(Text{3425, u"A(z) '"}, QDir::toNativeSeparators(path), what, details);
 }
 
-/// Why the new file must not take the place: it would put a device or a pipe away, or a file that nobody may
-/// write, whatever rights the user has. A link counts for what it leads to.
-std::optional<Text> objectionTo(const QString &path)
+} // namespace
+
+std::optional<QString> whyKept(const QString &path)
 {
     constexpr int kMostLinks = 40; // as systems have it
     constexpr QFile::Permissions kAnyone = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -24,16 +24,14 @@ std::optional<Text> objectionTo(const QString &path)
     for (int links = 0; there.isSymLink() && links < kMostLinks; ++links)
         there.setFile(there.symLinkTarget());
     if (there.isSymLink() || (there.exists() && !there.isFile()))
-        return Text{21772, u"ezen a helyen nem közönséges fájl van"};
-    if (there.exists() && !(there.permissions() & kAnyone)) return Text{21773, u"a fájl írásvédett"};
+        return txt(Text{21772, u"ezen a helyen nem közönséges fájl van"});
+    if (there.exists() && !(there.permissions() & kAnyone)) return txt(Text{21773, u"a fájl írásvédett"});
     return {};
 }
 
-} // namespace
-
 std::optional<QString> writeWhole(const QString &path, const QByteArray &bytes)
 {
-    if (const auto objection = objectionTo(path)) return txt(*objection);
+    if (auto why = whyKept(path)) return why;
     QSaveFile file(path);
     // On a full disk a part may be written without an error, and the flush of commit() says nothing of it.
     const bool isOnDisk =

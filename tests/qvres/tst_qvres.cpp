@@ -169,10 +169,18 @@ private slots:
     }
     void numbersKeepWhatTheirWritingSays()
     {
-        put("codes.csv", "a,b,c,d,e\n007,3.50,+5,18446744073709551615,123456789012345678901\n");
+        put("codes.csv", "a,b,c,d,e\n007, 3.50,+5,18446744073709551615,123456789012345678901\n");
         const QByteArray shown = run({"show", "codes.csv", "--json"}).out.simplified();
         QCOMPARE(shown, QByteArray(R"([ { "a": "007", "b": 3.5, "c": "+5", "d": 18446744073709551615, )"
                                    R"("e": "123456789012345678901" } ])"));
+    }
+    void aLinkIsWrittenThrough()
+    {
+        put("far.csv", "");
+        const QString link = m_folder.filePath("near.csv");
+        QVERIFY(QFile::link("far.csv", link));
+        QCOMPARE(run({"convert", "set.rst", "near.csv"}).err, QByteArray());
+        QVERIFY(QFileInfo(link).isSymLink() && get("far.csv").contains("ShortName"));
     }
     void aClosedOutputIsAnError()
     {
