@@ -50,7 +50,7 @@ void clsJS_Sid::storeEdit(const tSid &now, const tSid &edited)
 bool clsJS_Sid::edit(int row, int column, const QVariant &value)
 {
     const bool stored = GroupedManager::edit(row, column, value);
-    if (stored) emit RefreshSample(recordAt(row));
+    if (stored && row < rowCount()) emit RefreshSample(recordAt(row)); // the host may have refilled
     return stored;
 }
 

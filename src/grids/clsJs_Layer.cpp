@@ -57,7 +57,7 @@ void clsJs_Layer::drop(const QMimeData &mime, const DropTarget &)
 {
     command([&] {
         showGroup(*m_drag.groupIn(mime));
-        grid()->selectAll();
+        if (grid()) grid()->selectAll();        // a handler may have torn the manager down
     });
 }
 

@@ -1,4 +1,5 @@
 #include "controls/usSiInfo.h"
+#include "dialogs/editors/frmSupSid.h"
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
 #include "dialogs/values/frmValue.h"
@@ -291,6 +292,29 @@ private slots:
             tool(d, "cmdSid_Width").trigger();
         });
         QVERIFY_THROWS_EXCEPTION(tests::HostError, m_dialogs.bEdit_Sids(faulty));
+    }
+
+    /// Each of the dialogs is closed and its call returns.
+    void theOwnerMayGoMeanwhile()
+    {
+        tSid chosen{.SidId = 2};
+        QWidget *owner = nullptr;
+        const std::pair<const char *, std::function<bool()>> calls[] = {
+            {"select", [&] { return m_dialogs.bSelect_Sid(*m_doc, chosen); }},
+            {"setup", [&] { return m_dialogs.bEdit_Sids(*m_doc); }},
+            {"manager", [&] { qint16 id = 2; return frmSupSid(owner).bDoModal(*m_doc, MODE_EDIT, id); }},
+            {"editor", [&] { return recordEditors()->edit(TableKind::Symbols, *m_doc, 2, owner); }},
+            {"font", [&] { return fontPicker()->pickTrueType({}, owner).has_value(); }}};
+        for (const auto &[name, call] : calls) {
+            owner = new QWidget;
+            owner->show(), owner->activateWindow();
+            QVERIFY2(QTest::qWaitForWindowActive(owner), name);
+            const auto watch = whileModal<QDialog>([&](QDialog &d) {
+                QVERIFY(d.parentWidget() == owner);
+                delete owner;
+            });
+            QVERIFY2(!call(), name);
+        }
     }
 
     void whatNobodyOffersIsDisabled()

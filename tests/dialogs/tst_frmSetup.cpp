@@ -294,6 +294,30 @@ private slots:
         QVERIFY(!layer(10).Visible);
     }
 
+    void theHostMayTearItDownInAnyCall()
+    {
+        for (const char *name : {"cmdLays_MakeCurrent", "cmdLays_SetVisibleOff", "a cell"})
+            for (int at = 0, calls = 1; at < calls; ++at) {
+                m_doc->layers().makeCurrent(layer(21));
+                tests::FaultyDoc doc(*m_doc);
+                const auto watch = whileModal<frmSetup>([&](frmSetup &d) {
+                    goTo(d, kPlot);
+                    doc.log.calls.clear();
+                    doc.log.meanwhile = [&](const QString &) {
+                        if (doc.log.calls.size() == at + 1) d.TearDown();
+                    };
+                    QAbstractItemModel &cells = *child<Grid>(d, "gridItems").table()->model();
+                    if (QAction *const action = d.findChild<QAction *>(QLatin1String(name)))
+                        action->trigger();
+                    else cells.setData(cells.index(0, 1), QString::number(at));
+                    calls = int(doc.log.calls.size());
+                    QVERIFY(calls > at && !d.jsLayer && !tool(d, "miAddNew").isEnabled());
+                    d.reject();
+                });
+                QVERIFY(!m_dialogs.bEdit_Layers(doc));
+            }
+    }
+
     void aLanguageChangeReachesTheOpenDialog()
     {
         inSetup([](frmSetup &d) {

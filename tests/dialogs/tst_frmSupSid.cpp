@@ -1,6 +1,7 @@
 #include "controls/usSiInfo.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/contract/ResourcePicker.h"
+#include "support/FaultyDoc.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
@@ -143,6 +144,46 @@ private slots:
         for (const tSid &s : m_form->doc->symbols().readAll()) got << QString::number(s.Size_mm);
         QCOMPARE(got.join(u' '), result);
         QVERIFY(!m_form->isSpanOpen());
+    }
+
+    void whatWasRefusedIsNeverCommitted()
+    {
+        ScriptedPrompts user({kSizeAsked, keepAsked(false)});
+        tests::FaultyDoc faulty(*m_form->doc);
+        const Act act = [&](frmSupSid &f) {
+            run(f, "cmdByGroups"), select(f, 2), run(f, "cmdSid_Size");
+            faulty.log.failNext = QStringLiteral("changes.discard");
+            click(f, "cmdCancel");
+        };
+        qint16 id = 1;
+        QVERIFY_THROWS_EXCEPTION(tests::HostError, m_form->open(faulty, MODE_EDIT, act, id));
+        QVERIFY(!faulty.log.calls.contains(QStringLiteral("changes.commit")) && m_form->isSpanOpen());
+    }
+
+    void withoutDocumentItJustCloses()
+    {
+        for (const char *last : {"cmdOk", "cmdCancel", "cmdEditMode"})
+            for (const bool behindQuestion : {false, true}) {
+                init();
+                frmSupSid *form = nullptr;
+                std::vector<ScriptedPrompts::Step> steps{kSizeAsked};
+                if (behindQuestion) {
+                    steps.push_back(keepAsked(false));
+                    steps.back().meanwhile = [&] { form->TearDown(); };
+                }
+                ScriptedPrompts user(steps);
+                const Act act = [&](frmSupSid &f) {
+                    form = &f;
+                    run(f, "cmdByGroups"), select(f, 2), run(f, "cmdSid_Size");
+                    if (behindQuestion) run(f, "cmdEditMode");
+                    else f.TearDown();
+                    m_form->doc.reset();
+                    if (qstrcmp(last, "cmdEditMode") == 0) run(f, last);
+                    click(f, qstrcmp(last, "cmdOk") == 0 ? last : "cmdCancel");
+                };
+                qint16 id = 1;
+                QVERIFY(!m_form->open(MODE_EDIT, act, id));
+            }
     }
 
     /// Pictures, looks and words.

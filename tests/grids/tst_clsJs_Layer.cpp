@@ -234,6 +234,15 @@ private slots:
         QVERIFY(model.setData(model.index(1, 2), Qt::Unchecked, Qt::CheckStateRole));
         QVERIFY(lines() != before);
     }
+    void aHandlerMayTearItDown()
+    {
+        Grid grid;
+        clsJs_Layer js;
+        js.init(*m_doc, grid, nullptr, false);
+        connect(&js, &clsJs_Layer::SelectedChanched, &js, &clsJs_Layer::TearDown);
+        grid.selectAll();
+        QCOMPARE(grid.table()->model()->rowCount(), 0);
+    }
     void afterTearDownItIsInert()
     {
         Grid grid;

@@ -2,6 +2,8 @@
 
 #include "kit/ask/ErrorRelay.h"
 
+#include <utility>
+
 namespace QV_DOC_CONTROLS {
 
 ChangeSpan::~ChangeSpan()
@@ -26,8 +28,9 @@ void ChangeSpan::commit()
 
 void ChangeSpan::discard()
 {
-    if (m_open) m_doc.changeScopes()->discardChanges(m_kind);
-    m_open = m_changed = false;
+    m_changed = false;
+    if (std::exchange(m_open, false))
+        m_doc.changeScopes()->discardChanges(m_kind); // refused for good, even if it fails
 }
 
 } // namespace QV_DOC_CONTROLS

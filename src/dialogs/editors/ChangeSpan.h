@@ -7,7 +7,8 @@ namespace QV_DOC_CONTROLS {
 /// What the user of a manager has changed in one table since the last commit. It can be dropped when the
 /// document offers change scopes and nobody else has one open; otherwise every change stays at once.
 ///
-/// What is still open when it goes is kept.
+/// What is still open when it goes is kept, also after a commit that failed. What the user refused is never
+/// committed: when the document fails to drop it, its span stays open there.
 class ChangeSpan {
 public:
     ChangeSpan(ZolWDoc::ZOLW_Doc &doc, ZolWDoc::TableKind kind) : m_doc(doc), m_kind(kind) {}

@@ -193,12 +193,14 @@ void frmSupSid::toggleMode()
 
 void frmSupSid::settleChanges()
 {
-    const bool asks = m_span->isChanged() && m_span->canDiscard();
+    const bool asks = m_span && m_span->isChanged() && m_span->canDiscard();
     const Message question{Icon::Question, txt(Text{20087, u"Változások rögzítése"}),
                            txt(Text{20086, u"Akarod rögzíteni a változtatásokat ?"})};
-    if (!asks || yesNo(question)) return m_span->commit();
+    const bool keeps = !asks || yesNo(question);
+    if (!m_span) return;                        // let go of, perhaps while the question stood
+    if (keeps) return m_span->commit();
     m_span->discard();
-    fill();
+    if (m_doc) fill();
 }
 
 /// The form is as wide as its user left it in that mode.
@@ -222,6 +224,7 @@ void frmSupSid::showMode()
 void frmSupSid::accept()
 {
     m_relay.guard([this] {
+        if (!m_doc) return QDialog::reject();   // nothing to choose from any more
         const auto current = currentRecord();
         if (!m_toEdit && !current) return;      // opened to choose, in whatever mode it is now
         if (m_edit) m_span->commit();
@@ -235,7 +238,7 @@ void frmSupSid::reject()
 {
     m_relay.guard([this] {
         if (m_edit) settleChanges();
-        m_ok = m_toEdit && m_span->isKept(); // who was to choose has not
+        m_ok = m_toEdit && m_span && m_span->isKept(); // who was to choose has not
         if (const auto current = currentRecord()) m_chosen = current->SidId;
         QDialog::reject();
     });

@@ -92,10 +92,14 @@ GridPage::~GridPage() { TearDown(); }
 
 void GridPage::TearDown()
 {
-    if (!m_manager) return;
+    if (!manager()) return;
     m_manager->TearDown();
-    m_manager.reset();
-    ab1->refresh();
+    ab1->release(*m_manager);
+}
+
+GridManager *GridPage::manager() const
+{
+    return m_manager && m_manager->isOpen() ? m_manager.get() : nullptr;
 }
 
 void GridPage::addBeside(QWidget *side)
@@ -115,8 +119,8 @@ void GridPage::connectTools()
     ab1->on("miUnselectAll",
             {[this] { gridItems->selectRows({}); }, [this] { return gridItems->hasSelection(); }});
     if (!ab1->tool("miShowGroups")) return;
-    const auto isShown = [this] { return m_manager && m_manager->bShowGroups(); };
-    const auto isHidden = [this] { return m_manager && !m_manager->bShowGroups(); };
+    const auto isShown = [this] { return manager() && m_manager->bShowGroups(); };
+    const auto isHidden = [this] { return manager() && !m_manager->bShowGroups(); };
     ab1->on("miShowGroups", {[this] { m_manager->setbShowGroups(true); }, isHidden});
     ab1->on("miHideGroups", {[this] { m_manager->setbShowGroups(false); }, isShown});
 }
@@ -172,12 +176,12 @@ void GridPage::find()
                        : current.isValid() ? current.column()
                        : shown.empty()     ? -1
                                            : shown[0];
-    if (m_manager) findInColumn(*gridItems, column, m_relay);
+    if (manager()) findInColumn(*gridItems, column, m_relay);
 }
 
 void GridPage::print()
 {
-    if (!m_manager) return;
+    if (!manager()) return;
     const PaperSheet sheet(*gridItems, *m_manager);
     frmPreview().showPages(sheet, [this] { return m_manager->paper().titles; }, this);
 }

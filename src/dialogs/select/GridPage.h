@@ -49,8 +49,9 @@ public:
     }
     void addBeside(QWidget *side);              ///< right of the grid; the page's from then on
     void follow();                              ///< once the manager has its grids: the tools follow them
-    GridManager *manager() const { return m_manager.get(); } ///< null before open() and after TearDown()
-    void TearDown();                            ///< tears the manager down and drops it
+    GridManager *manager() const;               ///< null before its init() and after TearDown()
+    /// Tears the manager down, which goes with the page only: a command of it may be the one that runs.
+    void TearDown();
     void retranslate();
     void showView(qint16 view);                 ///< checks the view tool that matches
 

@@ -161,6 +161,7 @@ void frmSelect::accept()
 {
     m_relay.guard([this] {
         if (isBusy()) return;
+        if (!m_page->manager()) return reject(); // torn down: there is nothing to choose any more
         (this->*m_confirm)();
     });
 }
@@ -181,8 +182,8 @@ void frmSelect::confirmLayer()
     if (m_warnInvisible && !first.Visible) {
         const bool confirmed = isInvisibleMeant(QString::number(first.gNr) + u' ', this);
         m_relay.checkpoint();
-        m_ok = confirmed;
-        if (!confirmed) return;
+        m_ok = confirmed && jsLayer;
+        if (!m_ok) return;
     }
     m_lay = first;
     jsLayer->setCurrentLayer(first.LayId);

@@ -234,13 +234,15 @@ void frmSetup::makeCurrent()
     if (m_warnInvisible && !lay.Visible) {
         const bool confirmed = isInvisibleMeant({}, this);
         m_relay.checkpoint();
+        if (!jsLayer) return;                   // torn down meanwhile
         if (!confirmed) {
             jsLayer->selectById(jsLayer->currentLayer());
             return;
         }
     }
-    inCommand(*m_doc, txt(Text{21820, u"Legyen aktuális"}), [&] { m_doc->layers().makeCurrent(lay); });
-    jsLayer->setCurrentLayer(lay.LayId);
+    ZOLW_Doc &doc = *m_doc;
+    inCommand(doc, txt(Text{21820, u"Legyen aktuális"}), [&] { doc.layers().makeCurrent(lay); });
+    if (jsLayer) jsLayer->setCurrentLayer(lay.LayId);
 }
 
 void frmSetup::showCurrentLayer()

@@ -4,6 +4,7 @@
 #include "facade/services/Prompts.h"
 #include "facade/services/Services.h"
 #include "kit/ask/PrinterChoice.h"
+#include "kit/ask/runModal.h"
 #include "kit/forms/QuietWheel.h"
 #include "kit/forms/WindowSize.h"
 #include "kit/paper/PageSetup.h"
@@ -181,7 +182,7 @@ void frmPreview::showPages(const SheetSource &grid, Titles titles, QWidget *owne
     restoreSize(*this, kForm, sizeOfLetters(*this, kUsualLetters.width(), kUsualLetters.height()));
     layOutSheet();
     grPrev->setFocus();
-    exec();
+    runModal(*this);
     keepSizeOf(*this, kForm);
     TearDown();
 }
@@ -218,7 +219,7 @@ bool frmPreview::hasPreviousPage() const { return grPrev->currentPage() > 0; }
 void frmPreview::pageSetup()
 {
     PageSetupDialog dialog(m_paper, this);
-    if (dialog.exec() != QDialog::Accepted) return;
+    if (runModal(dialog) != QDialog::Accepted) return;
     m_paper = dialog.page();
     layOutSheet();
 }

@@ -24,8 +24,9 @@ struct Paper {
 /// The members that every grid manager has, whatever its table.
 ///
 /// Owned by the form that shows the grid; usable between init() of the concrete manager and TearDown(), inert
-/// after. Host errors of edits and commands go to the relay; those of init(), fill() and other direct calls
-/// to the caller.
+/// after. A handler of its signals, and the host in a call of it, may tear it down, but delete it only by
+/// deleteLater(). Host errors of edits and commands go to the relay; those of init(), fill() and other direct
+/// calls to the caller.
 class GridManager : public QObject {
 public:
     qint32 lDebugId() const { return m_identity; }

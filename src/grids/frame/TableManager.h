@@ -10,6 +10,8 @@
 #include "grids/frame/RowCaptions.h"
 #include "kit/grid/Grid.h"
 
+#include <QScopeGuard>
+
 namespace QV_DOC_CONTROLS {
 
 /// The records of one table behind a grid, typed by its table.
@@ -123,7 +125,7 @@ protected:
     virtual void readBeside(ZolWDoc::ZOLW_Doc &, std::vector<Record> &) {}
     virtual void showBeside() {} ///< shows what was read, before the rows that fit are listed
     /// Writes what a cell edit made of a record; there may be more to it.
-    virtual void storeEdit(const Record &, const Record &edited) { Table::role(*m_doc).update(edited); }
+    virtual void storeEdit(const Record &, const Record &edited) { Table::role(this->doc()).update(edited); }
 
     // --- the desk of the commands
     ZolWDoc::ZOLW_Doc *document() const override { return m_doc; }
@@ -170,20 +172,31 @@ private:
         m_selectionTold = true;
         raiseSelection(m_grid->selectedCount());
     }
-    std::vector<qint16> selectedIds() const { return Rows::idsAt(m_grid->selectedRows()); }
+    std::vector<qint16> selectedIds() const
+    {
+        return m_grid ? Rows::idsAt(m_grid->selectedRows()) : std::vector<qint16>();
+    }
     void raiseCurrentRow() { if (const auto now = currentRecord()) raiseCurrent(*now); }
+    bool lists(int row, const Record &record) const
+    {
+        return row < Rows::rowCount() && Table::id(Rows::recordAt(row)) == Table::id(record);
+    }
     /// Refuses with the column's message, or writes to the host.
     bool tryEdit(int row, int c, const QVariant &value)
     {
         if (const auto why = Rows::refusal(row, c, value.toString())) return this->tell(*why), false;
         const auto edited = withValue<Table>(Rows::recordAt(row), c, value);
         if (!edited) return false;
-        Record &shown = Rows::recordAt(row);
-        if (const Refusal *const why = refusalOf<Table>(shown, *edited, c, Rows::all()))
+        const Record before = Rows::recordAt(row);
+        if (const Refusal *const why = refusalOf<Table>(before, *edited, c, Rows::all()))
             return this->tell(messageOf(*why)), false;
-        storeCell<Table>(*m_doc, c, shown, *edited, [&] { storeEdit(shown, *edited); });
-        if (row == m_grid->currentRow()) raiseCurrent(*edited);
-        return true;
+        {
+            Record now = before;                        // the host may refill or tear down while it writes
+            const auto showing = qScopeGuard([&] { if (lists(row, before)) Rows::recordAt(row) = now; });
+            storeCell<Table>(*m_doc, c, now, *edited, [&] { storeEdit(before, *edited); });
+        }
+        if (m_grid && row == m_grid->currentRow()) raiseCurrent(*edited);
+        return isOpen();
     }
 
     ZolWDoc::ZOLW_Doc *m_doc = nullptr;                 ///< the host's, until TearDown()

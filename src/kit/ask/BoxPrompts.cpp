@@ -1,6 +1,7 @@
 #include "kit/ask/BoxPrompts.h"
 
 #include "facade/services/Text.h"
+#include "kit/ask/runModal.h"
 #include "kit/forms/AccessKeys.h"
 
 #include <QApplication>
@@ -62,7 +63,7 @@ size_t answerTo(Box &box, std::span<const Answer> answers, size_t byDefault)
         if (i == byDefault) box.setDefaultButton(button);
     }
     box.setEscapeButton(buttons.back());
-    box.exec();
+    runModal(box);
     const auto clicked = std::ranges::find(buttons, box.clickedButton());
     return clicked == buttons.end() ? answers.size() - 1 : size_t(clicked - buttons.begin());
 }
@@ -138,7 +139,7 @@ void BoxPrompts::tell(const Message &m, QObject *asker)
 {
     Box box(m, windowOf(asker));
     box.setDefaultButton(box.addButton(txt(Text{2802, u"OK"}), QMessageBox::AcceptRole));
-    box.exec();
+    runModal(box);
 }
 
 void BoxPrompts::alert() { QApplication::beep(); }

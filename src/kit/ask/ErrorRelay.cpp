@@ -3,32 +3,22 @@
 #include "facade/services/Prompts.h"
 #include "facade/services/Services.h"
 #include "facade/services/Text.h"
+#include "kit/ask/runModal.h"
 
-#include <QApplication>
 #include <QDialog>
 
 #include <utility>
 
 namespace QV_DOC_CONTROLS {
-namespace {
-
-/// Closes the modal windows from the innermost to `last`, message boxes included.
-void closeDownTo(QDialog *last)
-{
-    while (last && last->isVisible()) {
-        auto *const inner = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        QDialog *const victim = inner ? inner : last;
-        victim->QDialog::done(QDialog::Rejected); // not through an override that could ask or refuse
-        if (victim == last) break;
-    }
-}
-
-} // namespace
 
 int ErrorRelay::exec(QDialog &dialog)
 {
-    m_dialog = &dialog;
-    const int result = failed() ? int(QDialog::Rejected) : dialog.exec();
+    int result = QDialog::Rejected;
+    if (!failed())
+        result = runModal(dialog, [&] {
+            m_dialog = &dialog;
+            if (failed()) closeDownTo(dialog);
+        });
     m_dialog = nullptr;
     if (m_error) std::rethrow_exception(std::exchange(m_error, {}));
     return result;
@@ -38,7 +28,7 @@ void ErrorRelay::keep(std::exception_ptr error) noexcept
 {
     if (m_sink) return m_sink(error);
     m_error = error;
-    closeDownTo(m_dialog);
+    if (m_dialog) closeDownTo(*m_dialog);
 }
 
 ErrorRelay &ErrorRelay::reporting()

@@ -57,7 +57,7 @@ private:
     void keep(std::exception_ptr error) noexcept;
     Sink m_sink;
     std::exception_ptr m_error;
-    QDialog *m_dialog = nullptr;                ///< while exec() runs
+    QDialog *m_dialog = nullptr;                ///< while exec() waits; being shown, it cannot be closed yet
 };
 
 QString messageOf(std::exception_ptr error);    ///< what() as UTF-8, or a general text

@@ -1,5 +1,7 @@
 #include "kit/ask/StepRun.h"
 
+#include "kit/ask/runModal.h"
+
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
@@ -45,7 +47,7 @@ bool StepProgress::run()
 {
     m_shown.start();
     m_timer.start(0);
-    const bool through = exec() == QDialog::Accepted;
+    const bool through = runModal(*this) == QDialog::Accepted;
     m_timer.stop();
     if (m_error) std::rethrow_exception(m_error);
     return through;

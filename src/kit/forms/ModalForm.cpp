@@ -2,6 +2,7 @@
 
 #include "facade/services/Language.h"
 #include "kit/ask/ErrorRelay.h"
+#include "kit/ask/runModal.h"
 #include "kit/forms/Buttons.h"
 #include "kit/forms/WindowSize.h"
 
@@ -40,7 +41,7 @@ bool ModalForm::run(ErrorRelay *relay)
     ensurePolished();
     putButtonsLast();
     restoreSize(*this, objectName(), sizeHint());
-    const bool confirmed = (relay ? relay->exec(*this) : exec()) == Accepted;
+    const bool confirmed = (relay ? relay->exec(*this) : runModal(*this)) == Accepted;
     keepSizeOf(*this, objectName());
     return confirmed;
 }

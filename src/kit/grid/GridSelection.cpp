@@ -113,7 +113,8 @@ void GridSelection::select(const QItemSelection &selection, SelectionFlags comma
     QItemSelectionModel::select(selection, command);
     if (!(command & Select)) return;
     const RowEngine &engine = m_model.engine();
-    for (const QItemSelectionRange &range : selection)
+    for (const QItemSelectionRange &range : selection) {
+        if (!range.isValid()) return;           // whoever was told of it has shown other rows
         for (int line = range.top(); line <= range.bottom(); ++line) {
             const int b = engine.bandAt(line);
             if (b < 0 || engine.band(b).expanded) continue;
@@ -121,6 +122,7 @@ void GridSelection::select(const QItemSelection &selection, SelectionFlags comma
                                   .subspan(size_t(engine.band(b).begin), size_t(engine.band(b).count));
             m_spanned.insert(m_spanned.end(), rows.begin(), rows.end());
         }
+    }
     for (int row : m_spanned) setAway(row, true);
 }
 

@@ -1,6 +1,7 @@
 #include "kit/paper/OutputProgress.h"
 
 #include "facade/services/Text.h"
+#include "kit/ask/runModal.h"
 
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
@@ -49,7 +50,7 @@ OutputProgress::OutputProgress(SheetOutput &output, QWidget *parent)
 OutputResult OutputProgress::run()
 {
     m_timer.start(0);
-    const bool through = exec() == QDialog::Accepted;
+    const bool through = runModal(*this) == QDialog::Accepted;
     if (m_failed) return OutputResult::Failed;
     return through ? OutputResult::Done : OutputResult::Stopped;
 }

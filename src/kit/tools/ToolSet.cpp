@@ -122,6 +122,16 @@ void ToolSet::on(const char *name, Behaviour behaviour)
     m_bound.push_back({action, std::move(behaviour), user});
 }
 
+void ToolSet::release(const QObject &user)
+{
+    for (Bound &b : m_bound) {
+        if (b.user != &user) continue;
+        disconnect(b.tool, nullptr, b.user, nullptr);
+        b.user.clear();
+    }
+    refresh();
+}
+
 void ToolSet::list(const char *band, std::function<std::vector<Entry>()> entries,
                    std::function<void(int)> run)
 {

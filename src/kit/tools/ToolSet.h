@@ -44,6 +44,7 @@ public:
         QObject *user = nullptr;                ///< the tool is disabled once it is gone; null = never
     };
     void on(const char *name, Behaviour behaviour);     ///< the name must have a row
+    void release(const QObject &user);          ///< as when it goes
     /// An entry of a list that a pop-up shows; `name` is the action's, `id` its data.
     struct Entry {
         QString name, caption;
