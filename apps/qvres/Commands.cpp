@@ -21,6 +21,12 @@ Content readBy(const QString &path, const QCommandLineParser &options)
     return read(path, options.value(QStringLiteral("code-page")));
 }
 
+std::vector<Table> tablesBy(const QString &path, const QCommandLineParser &options)
+{
+    Content content = readBy(path, options);
+    return about(path, [&] { return tablesOf(std::move(content)); });
+}
+
 void print(const QString &text) { QTextStream(stdout) << text << '\n'; }
 
 /// Columns as wide as their widest value, numbers to the right.
@@ -47,9 +53,9 @@ void printTable(const Table &table)
 
 int show(const QStringList &files, const QCommandLineParser &options)
 {
-    const std::vector<Table> tables = tablesOf(readBy(files[0], options));
+    const std::vector<Table> tables = tablesBy(files[0], options);
     if (options.isSet(QStringLiteral("json"))) {
-        QTextStream(stdout) << QString::fromUtf8(jsonOf(tables));
+        QTextStream(stdout) << QString::fromUtf8(about(files[0], [&] { return jsonOf(tables); }));
         return 0;
     }
     for (const Table &table : tables) printTable(table);
@@ -167,7 +173,7 @@ bool differs(const Table &a, const Table &b)
 
 int diff(const QStringList &files, const QCommandLineParser &options)
 {
-    const std::vector<Table> a = tablesOf(readBy(files[0], options)), b = tablesOf(readBy(files[1], options));
+    const std::vector<Table> a = tablesBy(files[0], options), b = tablesBy(files[1], options);
     if (a.size() != b.size())
         throw Failure(txt(Text{31118, u"A két fájl nem ugyanannyi táblázatot tartalmaz."}));
     bool any = false;

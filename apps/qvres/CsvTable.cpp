@@ -19,9 +19,8 @@ Cell bareCell(const QString &text)
     if (text.isEmpty()) return {};
     if (text.compare(u"true", Qt::CaseInsensitive) == 0) return Cell::ofBoolean(true);
     if (text.compare(u"false", Qt::CaseInsensitive) == 0) return Cell::ofBoolean(false);
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    return isNumber && std::isfinite(number) ? Cell::ofNumber(text) : Cell::ofText(text);
+    const QString trimmed = text.trimmed();
+    return isNumber(trimmed) ? Cell::ofNumber(trimmed) : Cell::ofText(text);
 }
 
 /// Takes fields off the front of the text.
@@ -86,6 +85,7 @@ private:
 
 QByteArray csvOf(const Table &table)
 {
+    checkNames(table.columns);
     QStringList lines, head;
     for (const QString &column : table.columns) head << quoted(column);
     lines << head.join(u',');
@@ -105,7 +105,9 @@ Table tableOfCsv(const QByteArray &csv)
     Table table;
     if (fields.atEnd()) return table;
     for (const Cell &c : fields.row()) table.columns << c.text;
+    checkNames(table.columns);
     while (!fields.atEnd()) {
+        checkSize(table.rows.size() + 1, size_t(table.columns.size()));
         auto row = fields.row();
         if (row.size() != size_t(table.columns.size()))
             throw Failure(

@@ -6,8 +6,10 @@
 #include "rules/SymbolSet.h"
 #include "rules/recordset/RecordsetValues.h"
 
+#include <QHash>
+#include <QSet>
+
 #include <cmath>
-#include <tuple>
 
 namespace qvres {
 
@@ -179,6 +181,17 @@ bool isSymbolSet(const Table &table, const Recordset &symbols)
            std::ranges::all_of(table.columns, [&](const QString &c) { return symbols.fieldNamed(c) >= 0; });
 }
 
+/// Where the set has the columns; -1 = nowhere.
+std::vector<int> placesIn(const Recordset &set, const QStringList &columns)
+{
+    QHash<QString, int> known;
+    for (int i = int(set.fields().size()); i-- > 0;) // the first of a name
+        known.insert(set.fields()[size_t(i)].name.toCaseFolded(), i);
+    std::vector<int> places;
+    for (const QString &column : columns) places.push_back(known.value(column.toCaseFolded(), -1));
+    return places;
+}
+
 /// A column may be null only where the table is; so a set without nulls gets the columns it always has.
 Recordset columnsFor(const Table &table, const Recordset *like)
 {
@@ -190,11 +203,29 @@ Recordset columnsFor(const Table &table, const Recordset *like)
         set = Recordset::made(columns);
     }
     std::vector<RecordsetField> fields = set.fields();
+    const std::vector<int> places = placesIn(set, table.columns);
     for (qsizetype c = 0; c < table.columns.size(); ++c) {
-        RecordsetField &f = fields[size_t(set.fieldNamed(table.columns[c]))];
+        RecordsetField &f = fields[size_t(places[size_t(c)])];
         if (lacksValues(table, c)) f = nullable(f);
     }
     return Recordset(std::move(fields));
+}
+
+/// A set's columns have names, which differ without regard to case.
+void checkColumns(const QStringList &columns)
+{
+    QSet<QString> taken;
+    for (const QString &column : columns) {
+        if (column.isEmpty())
+            throw Failure(join(Text{31128, u"Egy jelkulcskészletben minden oszlopnak neve van; adj nevet "
+                                           u"ennek is. Oszlop: "},
+                               int(taken.size()) + 1));
+        if (taken.contains(column.toCaseFolded()))
+            throw Failure(join(Text{31127, u"Egy jelkulcskészletben a kis- és nagybetű egyre megy, ezért ez "
+                                           u"az oszlopnév többször szerepelne: "},
+                               column));
+        taken.insert(column.toCaseFolded());
+    }
 }
 
 bool put(Recordset &set, int row, int field, const Cell &value)
@@ -221,14 +252,12 @@ QString shownOf(const Cell &value)
     return value.kind == Cell::Kind::Null ? txt(Text{31125, u"(üres)"}) : value.text;
 }
 
-/// A number as it stands, unless only set files write it so ("1,000.5", "&H10").
+/// A number as it stands, unless only set files write it so ("1,000.5", "&H10", "+.5").
 QString digitsOf(const Recordset &set, int row, int field)
 {
-    const QStringView source = set.text(row, field).trimmed();
-    bool isPlain = false;
-    std::ignore = source.toDouble(&isPlain);
+    const QString source = set.text(row, field).trimmed().toString();
     const bool isSingle = set.fields()[size_t(field)].type == Type::Single;
-    return isPlain ? source.toString() : realText(set.real(row, field), isSingle);
+    return isNumber(source) ? source : realText(set.real(row, field), isSingle);
 }
 
 Cell cellOf(const Recordset &set, int row, int field)
@@ -247,6 +276,7 @@ Table tableOf(const Recordset &set)
 {
     Table table;
     for (const RecordsetField &f : set.fields()) table.columns << f.name;
+    checkSize(size_t(set.rowCount()), set.fields().size());
     for (int r = 0; r < set.rowCount(); ++r) {
         auto &row = table.rows.emplace_back();
         for (int f = 0; f < int(set.fields().size()); ++f) row.push_back(cellOf(set, r, f));
@@ -276,13 +306,12 @@ std::vector<Table> tablesOf(ZOLW_Doc &doc)
 
 Recordset setFor(const Table &table, const Recordset *like)
 {
+    checkColumns(table.columns);
     Recordset set = columnsFor(table, like);
-    std::vector<int> places;
-    for (const QString &column : table.columns) {
-        places.push_back(set.fieldNamed(column));
-        if (places.back() < 0)
-            throw Failure(join(Text{31101, u"A mintafájlban nincs ilyen oszlop: "}, column));
-    }
+    const std::vector<int> places = placesIn(set, table.columns);
+    if (const auto none = std::ranges::find(places, -1); none != places.end())
+        throw Failure(join(Text{31101, u"A mintafájlban nincs ilyen oszlop: "},
+                           table.columns[none - places.begin()]));
     for (const auto &cells : table.rows) {
         const int row = set.addRow(Recordset::RowState::Inserted);
         for (size_t c = 0; c < cells.size(); ++c)

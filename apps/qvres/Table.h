@@ -34,4 +34,11 @@ struct Table {
     std::vector<std::vector<Cell>> rows; ///< as long as there are columns
 };
 
+/// Throws Failure when there would be more values than a table may hold; before they take up memory.
+void checkSize(size_t rows, size_t columns);
+/// Throws Failure with the first name that is there twice, by letter.
+void checkNames(const QStringList &columns);
+/// The writing of a number, as JSON has it; "007" and "+5" are codes, whose letters count.
+bool isNumber(const QString &text);
+
 } // namespace qvres

@@ -17,12 +17,12 @@ namespace qvres {
 
 using namespace QV_DOC_CONTROLS;
 
-namespace {
-
 Failure failureOf(const QString &path, const QString &why)
 {
     return Failure(path + QStringLiteral(": ") + why);
 }
+
+namespace {
 
 QByteArray bytesIn(const QString &path)
 {
@@ -30,16 +30,6 @@ QByteArray bytesIn(const QString &path)
     if (!file.open(QIODevice::ReadOnly)) throw failureOf(path, file.errorString());
     return file.readAll();
 }
-/// Errors of `body` name the file.
-template <class Body> auto about(const QString &path, Body body)
-{
-    try {
-        return body();
-    } catch (const Failure &e) {
-        throw failureOf(path, QString::fromUtf8(e.what()));
-    }
-}
-
 Recordset setIn(const QString &path)
 {
     auto read = recordsetOf(bytesIn(path));
@@ -74,20 +64,18 @@ Table onlyTable(const Content &content)
     return std::move(tables.front());
 }
 
-QByteArray setBytes(const Content &content, const QString &like)
+QByteArray setBytes(const Content &content, const Recordset *like)
 {
-    if (content.set && like.isEmpty()) return bytesOf(*content.set); // its values as they stand
-    if (like.isEmpty()) return bytesOf(setFor(onlyTable(content), nullptr));
-    const Recordset model = setIn(like);
-    return bytesOf(setFor(onlyTable(content), &model));
+    if (content.set && !like) return bytesOf(*content.set); // its values as they stand
+    return bytesOf(setFor(onlyTable(content), like));
 }
-QByteArray jsonBytes(const Content &content, const QString &) { return jsonOf(tablesOf(content)); }
-QByteArray csvBytes(const Content &content, const QString &) { return csvOf(onlyTable(content)); }
+QByteArray jsonBytes(const Content &content, const Recordset *) { return jsonOf(tablesOf(content)); }
+QByteArray csvBytes(const Content &content, const Recordset *) { return csvOf(onlyTable(content)); }
 
 struct FileKind {
     const char *ending;
     Content (*read)(const QString &path, const QString &codePage);
-    QByteArray (*bytes)(const Content &, const QString &like); ///< null = cannot be written
+    QByteArray (*bytes)(const Content &, const Recordset *like); ///< null = cannot be written
 };
 constexpr FileKind kKinds[] = {
     {"rst", readSet, setBytes},
@@ -120,7 +108,8 @@ void write(const QString &path, const Content &content, const QString &like)
     const FileKind &kind = kindOf(path);
     if (!kind.bytes)
         throw failureOf(path, txt(Text{31114, u"Ilyen fájlba nem lehet írni. Írható: .rst, .json, .csv."}));
-    const QByteArray bytes = about(path, [&] { return kind.bytes(content, like); });
+    const auto model = like.isEmpty() ? std::nullopt : std::optional(setIn(like)); // a missing one is told
+    const QByteArray bytes = about(path, [&] { return kind.bytes(content, model ? &*model : nullptr); });
     if (const auto why = writeWhole(path, bytes)) throw failureOf(path, *why);
 }
 

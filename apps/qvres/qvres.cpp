@@ -57,6 +57,22 @@ int run(const QCommandLineParser &parser)
     return command->run(words.sliced(1), parser);
 }
 
+int runOrHelp(const QCommandLineParser &parser)
+{
+    if (parser.isSet(QStringLiteral("help"))) return std::fputs(qPrintable(parser.helpText()), stdout), 0;
+    if (!parser.isSet(QStringLiteral("version"))) return run(parser);
+    std::puts("qvres " QVDC_VERSION);
+    return 0;
+}
+
+/// On a full disk or a closed output the last letters fail only here.
+void finishOutput()
+{
+    if (std::fflush(stdout) != 0 || std::ferror(stdout))
+        throw qvres::Failure(txt(Text{31130, u"Az eredményt nem lehetett teljesen kiírni. Ellenőrizd a "
+                                             u"kimenetet és a szabad helyet!"}));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -70,9 +86,9 @@ int main(int argc, char **argv)
     describe(parser);
     try {
         if (!parser.parse(QCoreApplication::arguments())) throw qvres::Failure(parser.errorText());
-        if (parser.isSet(QStringLiteral("help"))) parser.showHelp();
-        if (parser.isSet(QStringLiteral("version"))) parser.showVersion();
-        return run(parser);
+        const int code = runOrHelp(parser);
+        finishOutput();
+        return code;
     } catch (const std::exception &e) {
         std::fprintf(stderr, "qvres: %s\n", e.what());
         return 2;

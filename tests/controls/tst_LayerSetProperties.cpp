@@ -31,7 +31,10 @@ private slots:
             {{{"sLays", "1"}, {"CollectionLays", fourth()}}, "[4] 4 (Felsorolt rétegek)"}};
         for (const auto &[kept, look] : rows) {
             DocForm f;
-            f.control->setPropertyBag(kept);
+            for (const QVariantMap &bag : {kept, QVariantMap(), kept}) {
+                f.control->setPropertyBag(bag);
+                QCOMPARE(f.control->propertyBag(), bag);
+            }
             f.leave();                          // passing through changes nothing
             f.arrives(*m_doc);
             QCOMPARE(f.look(), look);

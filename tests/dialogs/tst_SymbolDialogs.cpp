@@ -2,7 +2,7 @@
 #include "dialogs/editors/frmSupSid.h"
 #include "dialogs/select/frmSelect.h"
 #include "dialogs/select/frmSetup.h"
-#include "dialogs/values/NumberBox.h"
+#include "dialogs/values/frmValue.h"
 #include "facade/clsDocDlgs.h"
 #include "facade/contract/FontPicker.h"
 #include "facade/contract/RecordEditors.h"
@@ -247,7 +247,7 @@ private slots:
             items(d).selectAll();
             for (const bool byMouse : {false, true})
                 for (int i = 0; i < 10; ++i) {
-                    const auto user = whileModal<NumberBox>([&](NumberBox &box) {
+                    const auto user = whileModal<frmValue>([&](frmValue &box) {
                         QCOMPARE(box.findChild<QComboBox *>()->itemText(i), shown[i]);
                         choose(*box.findChild<QComboBox *>(), i, byMouse);
                         QTest::keyClick(box.focusWidget(), Qt::Key_Return);

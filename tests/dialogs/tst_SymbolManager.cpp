@@ -45,7 +45,7 @@ private slots:
         const auto row = [](const char *name, Act act, Steps asked, const char *symbols, const char *groups) {
             QTest::newRow(name) << act << asked << QString::fromUtf8(symbols) << QString::fromUtf8(groups);
         };
-        const Icon info = Icon::Information, stop = Icon::Critical;
+        const Icon stop = Icon::Critical;
         const QString number = QStringLiteral("Sorszám módosítás"), group = QStringLiteral("Csoport törlése");
         const auto asksNumber = [&](const QVariant &answer, int proposed = 1) {
             return ScriptedPrompts::Step{"numbers", number,

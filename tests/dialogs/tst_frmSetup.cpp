@@ -24,7 +24,6 @@ using namespace ZolWDoc;
 using tests::child;
 using tests::ScriptedPrompts;
 using tests::whileModal;
-
 Q_DECLARE_METATYPE(std::function<void(QV_DOC_CONTROLS::frmSetup &)>)
 using Act = std::function<void(frmSetup &)>;
 
@@ -168,8 +167,8 @@ private slots:
         const auto row = [](const char *name, int current, Act act) {
             QTest::newRow(name) << act << current;
         };
-        const auto key = [](Qt::Key key, Qt::KeyboardModifiers held) -> Act {
-            return [=](frmSetup &d) { goTo(d, kPlot), QTest::keyClick(items(d).table(), key, held); };
+        const auto key = [](Qt::Key pressed, Qt::KeyboardModifiers held) -> Act {
+            return [=](frmSetup &d) { goTo(d, kPlot), QTest::keyClick(items(d).table(), pressed, held); };
         };
         row("double click", 10, [](frmSetup &d) { doubleClickAt(d, cellOf(d, kPlot, 1)); });
         row("beside the check mark", 10, [](frmSetup &d) {

@@ -1,9 +1,11 @@
 #include "controls/usSiInfo.h"
 #include "facade/clsDocDlgs.h"
+#include "facade/contract/ResourcePicker.h"
 #include "support/FaultyDoc.h"
 #include "support/ManagerForm.h"
 #include "support/Registry.h"
 #include "support/StrokeFont.h"
+#include "support/WillingPrompts.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -234,6 +236,7 @@ private slots:
         for (int i = 100; i < 3100; ++i) {
             many.push_back(tests::symbol(qint16(i), QByteArray::number(i).constData()));
             many.back().Type = 1, many.back().Facename = host.name(), many.back().Code = 'N';
+            many.back().Size_mm = float(i) / 100; // what looks alike is drawn once
         }
         m_form->doc = tests::symbolDoc(many);
         m_form->open(
@@ -297,18 +300,28 @@ private slots:
             };
             m_form->open(mode, again, 2);
         }
+    }
+
+    void whatIsAsItWasIsNotWrittenAgain()
+    {
         const Act look = [](frmSupSid &f) { click(f, "cmdCancel"); };
-        m_form->open(MODE_SELECT, look, 2);
-        const int written = m_form->store.kept.written;
-        m_form->open(MODE_SELECT, look, 2);
-        QCOMPARE(m_form->store.kept.written, written); // as it was: the disk is left alone
-        setLanguage(English, {});
-        const auto translated = [&](frmSupSid &f) {
-            QCOMPARE(f.width(), 700);
-            QVERIFY(widths(f)[1] != left[0][1] && widths(f)[2] != left[0][2]);
+        const Act widen = [](frmSupSid &f) {
+            f.lvSids->report()->header()->resizeSection(1, 333);
             click(f, "cmdCancel");
         };
-        m_form->open(MODE_SELECT, translated, 2);
+        const auto writes = [&](const Act &act) {
+            const int before = m_form->store.kept.written;
+            m_form->open(MODE_SELECT, act, 2);
+            return m_form->store.kept.written - before;
+        };
+        writes(look);
+        QCOMPARE(writes(look), 0);
+        QCOMPARE(writes(widen), 1);
+        setLanguage(English, {}); // the columns are called otherwise: they have widths of their own
+        writes([](frmSupSid &f) {
+            QVERIFY(f.lvSids->report()->header()->sectionSize(1) != 333);
+            click(f, "cmdCancel");
+        });
     }
 
     void aFreeNumberIsAskedFor()
@@ -345,11 +358,23 @@ private slots:
             QVERIFY(dialogs.bSelect_Sid(*m_form->doc, picked));
         }
         QVERIFY(picked == *m_form->doc->symbols().find(1));
+        for (const bool renumbers : {false, true}) {    // which Cancel cannot take back
+            const tests::WillingPrompts willing;        // answers 1000
+            const auto user = whileModal<frmSupSid>([&](frmSupSid &f) {
+                QVERIFY(f.isEditMode());
+                select(f, 1);
+                if (renumbers) run(f, "cmdSid_Nr");
+                click(f, "cmdCancel");
+            });
+            QCOMPARE(dialogs.bEdit_Sids(*m_form->doc), renumbers);
+        }
         const auto user = whileModal<frmSupSid>([](frmSupSid &f) {
-            QVERIFY(f.isEditMode());
+            const ScriptedPrompts refusal{
+                {tests::warned(appTitle(), QStringLiteral("A szerkesztő mód nem választható !"))}};
+            run(f, "cmdEditMode");
             click(f, "cmdCancel");
         });
-        QVERIFY(!dialogs.bEdit_Sids(*m_form->doc));
+        QVERIFY(!resourcePicker()->pick(TableKind::Symbols, *m_form->doc, 1, nullptr));
     }
 };
 

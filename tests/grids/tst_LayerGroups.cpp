@@ -155,8 +155,8 @@ private slots:
         form.run("cmdLay_GroupAllLay");
         QCOMPARE(form.chosenGroup(), QStringLiteral("MIND"));
         QCOMPARE(form.listed(), QStringLiteral("1 2 3 4"));
-        for (const auto &[tool, shown] : {std::pair("cmdLay_HideGroups", false), {"cmdLay_ShowGroups", true}}) {
-            form.run(tool);
+        for (const bool shown : {false, true}) {
+            form.run(shown ? "cmdLay_ShowGroups" : "cmdLay_HideGroups");
             QVERIFY(form.js.bShowGroups() == shown && form.groups.isHidden() != shown);
         }
     }

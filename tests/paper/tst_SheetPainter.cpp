@@ -3,6 +3,7 @@
 #include "kit/paper/Ink.h"
 #include "kit/paper/SheetOutput.h"
 #include "paper/SamplePaper.h"
+#include "support/FullDisk.h"
 #include "support/Looks.h"
 #include "support/Registry.h"
 
@@ -104,6 +105,10 @@ private slots:
         QCOMPARE(contentOf(path), "older");
         QCOMPARE(savePdf(painter, path, error), OutputResult::Done);
         QVERIFY(contentOf(path).startsWith("%PDF-"));
+        if (FullDisk::isPossible) { // the last letters are those that are kept back until the end
+            const FullDisk full(QFileInfo(path).size() - 100);
+            QCOMPARE(savePdf(painter, path, error), OutputResult::Failed);
+        }
         QCOMPARE(pagesIn(contentOf(path)), 3);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("a.pdf"));
         QCOMPARE(savePdf(painter, folder.filePath("no/such/a.pdf"), error), OutputResult::Failed);

@@ -117,11 +117,19 @@ private slots:
         });
         QVERIFY(QFile::exists(path));
     }
+    void anUnwritableFileIsNamed_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no folder") << "/proc/no/such/folder/out.pdf" << "No such file or directory";
+        QTest::newRow("no file") << "/" << "ezen a helyen nem közönséges fájl van";
+    }
     void anUnwritableFileIsNamed()
     {
-        const QString path = "/proc/no/such/folder/out.pdf";
-        const QString why = "A PDF-fájl nem írható: /proc/no/such/folder/out.pdf\nNo such file or directory\n"
-                            "Válasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt.";
+        QFETCH(QString, path);
+        QFETCH(QString, reason);
+        const QString why = "A PDF-fájl nem írható: " + path + "\n" + reason +
+                            "\nVálasszon másik mappát vagy fájlnevet! A korábbi fájl változatlan maradt.";
         ScriptedPrompts user({savesTo(path), {"tell", {}, why, {}, Icon::Exclamation}});
         preview([](frmPreview &f) { child<QAction>(f, "cmdSavePdf").trigger(); });
     }

@@ -44,20 +44,18 @@ void addLayerSets(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
     array.SetLayArr(doc.layers().readAll());
 }
 
-ZOL3_LayInfo &picker(QDialog &form, ZolWDoc::ZOLW_Doc &doc, qint16 number)
-{
-    auto &layer = on<ZOL3_LayInfo>(form);
-    layer.setoDoc(&doc);
-    layer.LetLayNr(number, 0);
-    return layer;
-}
-
 void addLayerPickers(QDialog &form, ZolWDoc::ZOLW_Doc &doc)
 {
-    picker(form, doc, 101);
-    picker(form, doc, 105).setVisibleIcon(true);
-    picker(form, doc, 107).setInfoMode(true);
-    picker(form, doc, 102).setEnabled(false);
+    const std::pair<qint16, void (*)(ZOL3_LayInfo &)> all[] = {
+        {101, [](auto &) {}}, {105, [](auto &layer) { layer.setVisibleIcon(true); }},
+        {107, [](auto &layer) { layer.setInfoMode(true); }},
+        {102, [](auto &layer) { layer.setEnabled(false); }}};
+    for (const auto &[number, make] : all) {
+        auto &layer = on<ZOL3_LayInfo>(form);
+        make(layer);
+        layer.setoDoc(&doc);
+        layer.LetLayNr(number, 0);
+    }
 }
 
 usInputBox &number(QDialog &form, const char *caption)

@@ -47,6 +47,31 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    void putWhatIsRefused()
+    {
+        put("deep.json", "[{\"a\":" + QByteArray(300000, '['));
+        put("huge.json", R"([{"a": 1e999}])");
+        put("twice.json", R"([{"a": 1, "a": 2}])");
+        put("twice.csv", "b,a,b\n1,2,3\n");
+        put("capitals.json", R"([{"a": 1, "A": 2}])");
+        put("nameless.json", R"([{"a": 1, "": 2}])");
+        QByteArray spread;
+        for (int n = 0; n < 4000; ++n) spread += (n ? ",{\"" : "[{\"") + QByteArray::number(n) + "\":1}";
+        put("spread.json", spread + ']');
+        std::vector<Recordset::Column> columns;
+        for (int n = 0; n < 4000; ++n) columns.push_back({u'k' + QString::number(n), {}, 1});
+        std::vector<RecordsetField> fields = Recordset::made(columns).fields();
+        std::ranges::transform(fields, fields.begin(), nullable);
+        Recordset wide(std::move(fields));
+        for (int n = 0; n < 4000; ++n) wide.addRow(Recordset::RowState::Unchanged);
+        put("wide.rst", bytesOf(wide));
+        if (QFileInfo::exists(m_folder.filePath("kept.csv"))) return;
+        put("kept.csv", "");
+        QFile::setPermissions(m_folder.filePath("kept.csv"), QFile::ReadOwner);
+        QFile::link("loop.csv", m_folder.filePath("loop.csv"));
+        QCOMPARE(run({"pipe.csv"}, "mkfifo").code, 0);
+    }
+
 private slots:
     void init()
     {
@@ -133,6 +158,38 @@ private slots:
         QCOMPARE(narrow.code, 2);
         QVERIFY(narrow.err.contains("column: t") && narrow.err.contains("more.rst"));
     }
+    void namesThatAreNoXmlNamesComeBack()
+    {
+        put("names.json", R"([{"a:b": 1, "c0": 2, "x y": 3, "<&>": "q", "a/b": 5, " x": null, "é": 7,
+                              "rs:forcenull": 8, "xmlns": 9, "1a": 10, "Név": 11, "a-b": 12}])");
+        QCOMPARE(run({"convert", "names.json", "names.rst"}).err, QByteArray());
+        const Run same = run({"diff", "names.json", "names.rst"});
+        QVERIFY2(same.code == 0 && same.out.isEmpty() && same.err.isEmpty(), same.out + same.err);
+        QCOMPARE(get("names.rst").count(" rs:name='"), 10);
+    }
+    void numbersKeepWhatTheirWritingSays()
+    {
+        put("codes.csv", "a,b,c,d,e\n007, 3.50,+5,18446744073709551615,123456789012345678901\n");
+        const QByteArray shown = run({"show", "codes.csv", "--json"}).out.simplified();
+        QCOMPARE(shown, QByteArray(R"([ { "a": "007", "b": 3.5, "c": "+5", "d": 18446744073709551615, )"
+                                   R"("e": "123456789012345678901" } ])"));
+    }
+    void aLinkIsWrittenThrough()
+    {
+        put("far.csv", "");
+        const QString link = m_folder.filePath("near.csv");
+        QVERIFY(QFile::link("far.csv", link));
+        QCOMPARE(run({"convert", "set.rst", "near.csv"}).err, QByteArray());
+        QVERIFY(QFileInfo(link).isSymLink() && get("far.csv").contains("ShortName"));
+    }
+    void aClosedOutputIsAnError()
+    {
+        for (const char *words :
+             {"--version", "--help", "show set.rst", "show set.rst --json", "check set.rst"}) {
+            const Run closed = run({"-c", QStringLiteral("'%1' %2 >&-").arg(QVRES, words)}, "sh");
+            QVERIFY2(closed.code == 2 && closed.err.contains("could not be written out"), words);
+        }
+    }
     void differencesAreNamedAndCounted()
     {
         QCOMPARE(run({"convert", "set.rst", "a.csv"}).code, 0);
@@ -197,12 +254,27 @@ private slots:
         row("too few files", {"diff", "set.rst"}, "--help");
         row("unknown option", {"show", "set.rst", "--what"}, "what");
         row("not a drawing", {"show", "all.qvd"}, "all.qvd");
+        row("nested deep", {"show", "deep.json"}, "deep.json: A value of the table");
+        row("number too large", {"show", "huge.json"},
+            "huge.json: A number of the JSON file is too large: 1e999");
+        row("key twice", {"show", "twice.json"}, "more than once: a");
+        row("column twice", {"show", "twice.csv"}, "twice.csv: A column name is there more than once: b");
+        row("but for capitals", {"convert", "capitals.json", "x.rst"}, "more than once: A");
+        row("without a name", {"convert", "nameless.json", "x.rst"}, "Column: 2");
+        row("too large JSON", {"check", "spread.json"}, "at most: 10000000");
+        row("too large set", {"show", "wide.rst"}, "wide.rst: The table is too large");
+        row("no model", {"convert", "set.rst", "x.csv", "--like", "none.rst"}, "none.rst: No such file");
+        row("onto a pipe", {"convert", "set.rst", "pipe.csv"}, "pipe.csv: what is there is not an ordinary");
+        row("onto a link to itself", {"convert", "set.rst", "loop.csv"}, "loop.csv: what is there");
+        row("onto a protected file", {"convert", "set.rst", "kept.csv"},
+            "kept.csv: the file is write-protected");
     }
     void errorsGoToStandardErrorWithCodeTwo()
     {
         QFETCH(QStringList, words);
         QFETCH(QByteArray, said);
         put("all.qvd", "not a drawing");
+        putWhatIsRefused();
         const Run failed = run(words);
         QCOMPARE(failed.code, 2);
         QCOMPARE(failed.out, QByteArray());

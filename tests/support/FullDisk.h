@@ -9,16 +9,16 @@
 
 namespace tests {
 
-/// While it stands no file grows beyond a few bytes, as on a full disk.
+/// While it stands no file grows beyond these bytes, as on a full disk.
 class FullDisk {
 #ifdef Q_OS_UNIX
 public:
     static constexpr bool isPossible = true;
-    FullDisk()
+    explicit FullDisk(qint64 bytes = 100)
     {
         std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit few{100, m_before.rlim_max};
+        const rlimit few{rlim_t(bytes), m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &few);
     }
     ~FullDisk()
@@ -32,7 +32,7 @@ private:
 #else
 public:
     static constexpr bool isPossible = false;
-    FullDisk() {}
+    explicit FullDisk(qint64 = 0) {}
 #endif
 };
 

@@ -74,7 +74,7 @@ struct Sorted {
     }
     int lines() const { return grid.table()->model()->rowCount(); }
     /// Works on the dialog that the call opens.
-    template <class Dialog, class Work> bool work(bool (Dialog::*call)(AbstractGrid &), const Work &act)
+    template <class Dialog, class Rows, class Work> bool work(bool (Dialog::*call)(Rows &), const Work &act)
     {
         const auto open = whileModal<Dialog>(act);
         return (Dialog().*call)(grid);

@@ -12,8 +12,8 @@ class ErrorRelay;
 class usSiInfo;
 
 /// The pictures of symbols in a list, drawn by a hidden preview: those that are looked at, after the painting
-/// that asked for them, because drawing may ask the host for strokes. Made again when a symbol or the look
-/// has changed; until then the old picture is shown.
+/// that asked for them, because drawing may ask the host for strokes. Made again when the look has changed;
+/// until then the old picture is shown.
 class SymbolPictures final : public QObject {
     Q_OBJECT
 public:
@@ -28,15 +28,14 @@ signals:
 
 private:
     struct Picture {
-        ZolWDoc::tSid symbol;
         QPixmap pixmap;
         int look = 0;
     };
     void draw();
     usSiInfo &m_preview;
     ErrorRelay &m_relay;
-    QHash<qint16, Picture> m_pictures;
-    QHash<qint16, ZolWDoc::tSid> m_wanted;
+    QHash<QByteArray, Picture> m_pictures; ///< by what is drawn: symbols that look alike share one
+    QHash<QByteArray, ZolWDoc::tSid> m_wanted;
     QPixmap m_blank; ///< as large as the pictures
     int m_look = 1;  ///< counts the changes of it
 };

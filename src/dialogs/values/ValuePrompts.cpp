@@ -2,9 +2,9 @@
 
 #include "dialogs/values/ChoiceBox.h"
 #include "dialogs/values/ColorBox.h"
-#include "dialogs/values/NumberBox.h"
 #include "dialogs/values/ReportBox.h"
 #include "dialogs/values/TextBox.h"
+#include "dialogs/values/frmValue.h"
 #include "kit/ask/runModal.h"
 
 namespace QV_DOC_CONTROLS {
@@ -39,7 +39,7 @@ std::optional<QString> ValuePrompts::text(const TextQuestion &q, QObject *asker)
 
 std::optional<std::vector<double>> ValuePrompts::numbers(const NumberQuestion &q, QObject *asker)
 {
-    NumberBox box(q, windowOf(asker));
+    frmValue box(q, windowOf(asker));
     return runModal(box) == QDialog::Accepted ? std::optional(box.numbers()) : std::nullopt;
 }
 

@@ -11,6 +11,7 @@
 #include "kit/paper/PageSetupDialog.h"
 #include "kit/paper/SheetOutput.h"
 #include "kit/paper/SheetPreview.h"
+#include "rules/WholeFile.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -286,10 +287,11 @@ void frmPreview::askPdf()
 void frmPreview::writePdf(const SheetPainter &sheet, const QString &path)
 {
     const QString shown = QDir::toNativeSeparators(path);
-    QString error;
+    QString error = whyKept(path).value_or(QString());
+    OutputResult result = OutputResult::Failed;
     m_note->clear();
-    const OutputResult result =
-        savePdf(sheet, path, error, [this](SheetOutput &output) { return runShown(output, this); });
+    if (error.isEmpty())
+        result = savePdf(sheet, path, error, [this](SheetOutput &output) { return runShown(output, this); });
     if (result == OutputResult::Done) m_note->setText(join(Text{21409, u"Elkészült: "}, shown));
     if (result != OutputResult::Failed) return;
     prompts().tell(

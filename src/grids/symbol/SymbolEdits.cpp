@@ -5,6 +5,7 @@
 #include "fonts/VectorFonts.h"
 #include "rules/FreeNumbers.h"
 
+#include <QHash>
 #include <QSet>
 
 namespace QV_DOC_CONTROLS {
@@ -18,13 +19,29 @@ constexpr Text kFont{20062, u"Karakterkészlet..."};
 constexpr Text kFromFont{22306, u"Jelkulcsok vektoros készletből"};
 const std::vector<double> kSizes{1.0, 1.5, 2.0, 2.5, 3.0, 3.5, 4.0, 5.0, 7.0, 10.0}; // offered, millimetres
 
-QString freeName(const QString &wanted, QSet<QString> &taken)
-{
-    QString name = wanted;
-    for (int n = 2; taken.contains(name); ++n) name = wanted + u'_' + QString::number(n);
-    taken.insert(name);
-    return name;
-}
+/// Gives names out that no symbol has. A name is tried on from the number it came to: a whole font may have
+/// one name for all its characters.
+class FreeNames {
+public:
+    explicit FreeNames(const std::vector<tSid> &symbols)
+    {
+        for (const tSid &s : symbols) m_taken.insert(s.ShortName);
+    }
+    QString take(const QString &wanted)
+    {
+        QString name = wanted;
+        for (int &n = m_lastNumber[wanted]; m_taken.contains(name);) {
+            n = std::max(n + 1, 2);
+            name = wanted + u'_' + QString::number(n);
+        }
+        m_taken.insert(name);
+        return name;
+    }
+
+private:
+    QSet<QString> m_taken;
+    QHash<QString, int> m_lastNumber; ///< of a wanted name; 0 = none yet
+};
 
 QString fontCommand() { return txt(kFont).remove(QStringLiteral("...")); }
 
@@ -70,13 +87,12 @@ void SymbolEdits::addFromVectorFont(const CharacterChoice &choose)
     const auto entries = choose ? choose(*font) : allOf(*font);
     m_desk.relay().checkpoint();
     if (entries.empty()) return;
-    QSet<QString> taken;
-    for (const tSid &s : m_desk.doc().symbols().readAll()) taken.insert(s.ShortName);
+    FreeNames names(m_desk.doc().symbols().readAll());
     const tGroup group = m_groups.groupForNew().value_or(tGroup());
     std::vector<tSid> symbols;
     for (const VectorFont::Entry &e : entries) {
         const QString name = e.name.trimmed().isEmpty() ? *face + u'_' + QString::number(e.code) : e.name;
-        tSid s = newSymbol(freeName(name, taken), group);
+        tSid s = newSymbol(names.take(name), group);
         s.Code = e.code, s.Facename = *face, s.Type = kVectorFont;
         symbols.push_back(std::move(s));
     }

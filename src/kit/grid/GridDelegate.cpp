@@ -329,15 +329,27 @@ bool GridDelegate::isKeyTaken(QLineEdit &editor, const QKeyEvent &event)
     return true;
 }
 
+/// Keys walk in a closed list, as far as one likes; Enter, Tab or a pick from the open list writes.
+bool GridDelegate::isKeyTaken(QComboBox &closedList, QKeyEvent &event)
+{
+    constexpr int leaving[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape};
+    if (std::ranges::count(leaving, event.key()) > 0) return false;
+    const QSignalBlocker quiet(closedList);
+    closedList.event(&event);
+    return true;
+}
+
 /// The wheel edits nothing: over a closed list it goes on to the view. Who looks at another window, the one
 /// with the refusal for one, finds the cell as it was.
 bool GridDelegate::eventFilter(QObject *editor, QEvent *event)
 {
     auto *const line = qobject_cast<QLineEdit *>(editor);
+    auto *const list = qobject_cast<QComboBox *>(editor);
     switch (event->type()) {
     case QEvent::Wheel: return event->ignore(), true;
     case QEvent::KeyPress:
         if (line && isKeyTaken(*line, static_cast<const QKeyEvent &>(*event))) return true;
+        if (list && isKeyTaken(*list, static_cast<QKeyEvent &>(*event))) return true;
         break;
     case QEvent::FocusOut:
         if (line && static_cast<const QFocusEvent &>(*event).reason() == Qt::ActiveWindowFocusReason &&

@@ -7,6 +7,7 @@
 #include <QStaticText>
 #include <QStyledItemDelegate>
 
+class QComboBox;
 class QKeyEvent;
 class QLineEdit;
 
@@ -55,6 +56,7 @@ private:
     void askInstead(QLineEdit &editor);
     std::optional<Message> refusalOf(const QLineEdit &editor) const;
     bool isKeyTaken(QLineEdit &editor, const QKeyEvent &event);
+    bool isKeyTaken(QComboBox &closedList, QKeyEvent &event);
     void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,
                    bool right) const;
     void paintBold(QPainter *painter, const QStyleOptionViewItem &option, const QString &text,

@@ -57,8 +57,8 @@ OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &er
         SheetOutput output(sheet, writer, 0, sheet.pageCount() - 1);
         result = run(output);
     }
-    // otherwise it is dropped
-    if (result == OutputResult::Done && !file.commit()) result = OutputResult::Failed;
+    // otherwise it is dropped; the flush of commit() says nothing of a full disk
+    if (result == OutputResult::Done && !(file.flush() && file.commit())) result = OutputResult::Failed;
     error = result == OutputResult::Failed ? file.errorString() : QString();
     return result;
 }

@@ -43,7 +43,7 @@ OutputResult runShown(SheetOutput &output, QWidget *window);
 
 using OutputRun = std::function<OutputResult(SheetOutput &)>;
 /// Writes all pages into a PDF file. An older file of that name is replaced when the new one is whole, and
-/// not before. `error` says why it failed, in the system's words.
+/// not before. `error` says why it failed.
 OutputResult savePdf(const SheetPainter &sheet, const QString &path, QString &error,
                      const OutputRun &run = &runAll);
 

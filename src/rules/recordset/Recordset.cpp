@@ -19,6 +19,20 @@ constexpr TypeRow kMadeTypes[] = {
     {Type::Double, "float", 8}, {Type::Boolean, "boolean", 2}, {Type::Text, "string", 0},
 };
 
+/// One that every reader takes as it stands. A dash is none, as in the programs that write these files; what
+/// is called like a place ("c7") is none either, so that it cannot meet the column there.
+bool isXmlName(QStringView name)
+{
+    const auto isLetter = [](QChar c) {
+        return c == u'_' || (c.isLetter() && (c.unicode() < 0x80 || c.unicode() >= 0xC0));
+    };
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    if (name.isEmpty() || !isLetter(name[0]) || name.startsWith(u"xml", Qt::CaseInsensitive)) return false;
+    const QStringView rest = name.sliced(1);
+    if (name[0].toLower() == u'c' && !rest.isEmpty() && std::ranges::all_of(rest, isDigit)) return false;
+    return std::ranges::all_of(rest, [&](QChar c) { return isLetter(c) || isDigit(c); });
+}
+
 RecordsetField made(const Recordset::Column &column, int number)
 {
     const auto row = std::ranges::find(kMadeTypes, column.type, &TypeRow::type);
@@ -26,9 +40,13 @@ RecordsetField made(const Recordset::Column &column, int number)
     const auto attribute = [](const char *name, const QString &value) {
         return RecordsetAttribute{QLatin1String(name), value};
     };
-    RecordsetField f{column.name, column.name, column.type, -1, true, {}, {}};
-    f.column = {attribute("name", column.name), attribute("rs:number", QString::number(number)),
-                attribute("rs:write", QStringLiteral("true"))};
+    const QString xmlName =
+        isXmlName(column.name) ? column.name : u'c' + QString::number(number - 1); // by its place
+    RecordsetField f{column.name, xmlName, column.type, -1, true, {}, {}};
+    f.column = {attribute("name", xmlName)};
+    if (xmlName != column.name) f.column.push_back(attribute("rs:name", column.name));
+    f.column.push_back(attribute("rs:number", QString::number(number)));
+    f.column.push_back(attribute("rs:write", QStringLiteral("true")));
     f.datatype = {attribute("dt:type", QLatin1String(row->dtType)),
                   attribute("dt:maxLength", QString::number(row->bytes ? row->bytes : column.length)),
                   attribute("rs:precision", QStringLiteral("0"))};

@@ -49,8 +49,8 @@ class Recordset {
 public:
     enum class RowState : quint8 { Unchanged, Inserted };
 
-    /// The columns of a new, disconnected set: `length` counts for texts only, in UTF-16 units. A column's
-    /// name is an XML name.
+    /// The columns of a new, disconnected set: `length` counts for texts only, in UTF-16 units. Names are not
+    /// empty and differ without regard to case; for one that is no XML name the file says another beside it.
     struct Column {
         QString name;
         RecordsetField::Type type;

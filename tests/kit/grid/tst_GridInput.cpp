@@ -136,9 +136,21 @@ private slots:
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(list, &wheel);
         QCOMPARE(list->currentIndex(), 0);
-        list->setCurrentIndex(2);
-        emit list->activated(2);
-        QCOMPARE(s.rows.log, QStringList{"edit 100.Kind=2"});
+        s.dialog.activateWindow();
+        list->setFocus();
+        s.key(Qt::Key_Down);                                // walks, and can go on
+        s.key(Qt::Key_Down);
+        s.key(Qt::Key_Escape);
+        QVERIFY(s.dialog.isVisible() && s.rows.log.isEmpty());
+        s.key(Qt::Key_F2);
+        s.key(Qt::Key_Down);
+        s.key(Qt::Key_Return);
+        QTRY_COMPARE(s.rows.log, QStringList{"edit 100.Kind=1"});
+        s.key(Qt::Key_Down, Qt::AltModifier);
+        auto *const open = s.table.findChildren<QComboBox *>().last()->view();
+        QTest::keyClick(open, Qt::Key_Down);
+        QTest::keyClick(open, Qt::Key_Return);
+        QTRY_COMPARE(s.rows.log.last(), "edit 100.Kind=2");
     }
 
     void whatIsRefusedStaysInItsOpenCell()

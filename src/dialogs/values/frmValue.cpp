@@ -1,4 +1,4 @@
-#include "dialogs/values/NumberBox.h"
+#include "dialogs/values/frmValue.h"
 
 #include "dialogs/values/NumberEntry.h"
 #include "kit/forms/AccessKeys.h"
@@ -11,7 +11,7 @@
 
 namespace QV_DOC_CONTROLS {
 
-NumberBox::NumberBox(const NumberQuestion &q, QWidget *owner) : ValueBox(q.title, q.text, owner)
+frmValue::frmValue(const NumberQuestion &q, QWidget *owner) : ValueBox(q.title, q.text, owner)
 {
     auto *const form = new QFormLayout;
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
@@ -31,14 +31,14 @@ NumberBox::NumberBox(const NumberQuestion &q, QWidget *owner) : ValueBox(q.title
     m_entries.front()->takeFocus();
 }
 
-std::vector<double> NumberBox::numbers() const
+std::vector<double> frmValue::numbers() const
 {
     std::vector<double> out;
     for (const NumberEntry *entry : m_entries) out.push_back(entry->number().value_or(0));
     return out;
 }
 
-void NumberBox::accept()
+void frmValue::accept()
 {
     const auto refused = std::ranges::find_if(m_entries, [](const NumberEntry *e) { return !e->number(); });
     if (refused == m_entries.end()) QDialog::accept();

@@ -1,4 +1,4 @@
-#include "dialogs/values/NumberBox.h"
+#include "dialogs/values/frmValue.h"
 #include "rules/NumberWording.h"
 
 #include "facade/services/Language.h"
@@ -10,7 +10,7 @@ using namespace tests;
 
 namespace {
 
-using Act = std::function<void(NumberBox &)>;
+using Act = std::function<void(frmValue &)>;
 using Answer = QList<double>;              // none = cancelled
 
 NumberQuestion renumbering()
@@ -37,17 +37,17 @@ Answer answered(const NumberQuestion &question)
 
 Act typed(const char *keys)
 {
-    return [=](NumberBox &box) { type(box, keys); };
+    return [=](frmValue &box) { type(box, keys); };
 }
 
-QLineEdit &line(NumberBox &box, int field)
+QLineEdit &line(frmValue &box, int field)
 {
     return *box.findChildren<QComboBox *>("txtCombo").at(field)->lineEdit();
 }
 
 } // namespace
 
-class tst_NumberBox : public QObject {
+class tst_frmValue : public QObject {
     Q_OBJECT
 private slots:
     void init() { setLanguage(Hungarian, {}); }
@@ -57,22 +57,22 @@ private slots:
             {typed("\r"), {101, 1}}, {typed("7\t-3\r"), {7, -3}}, {typed("7\t3\x1b"), {}},
             {typed("0\r5\r"), {5, 1}}, {typed("\b\r5\r"), {5, 1}}, // a refused number is typed again
             {typed("7\t99\r9\r"), {7, 9}}, {typed("0\t5\r3\r"), {3, 5}}, // Enter leads to it
-            {[](NumberBox &box) {
+            {[](frmValue &box) {
                  type(box, "32 767");
                  child<QPushButton>(box, "cmdOk").click();
              }, {32767, 1}},
-            {[](NumberBox &box) {
+            {[](frmValue &box) {
                  QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier); // the label's key
                  type(box, "4\r");
              }, {101, 4}}};
         for (const auto &[act, answer] : rows) {
-            const auto watch = whileModal<NumberBox>(act);
+            const auto watch = whileModal<frmValue>(act);
             QCOMPARE(answered(renumbering()), answer);
         }
     }
     void aRefusalStandsBesideItsNumberAndLosesNothing()
     {
-        const auto watch = whileModal<NumberBox>([](NumberBox &box) {
+        const auto watch = whileModal<frmValue>([](frmValue &box) {
             type(box, "70000\t2");
             const auto hints = box.findChildren<QLabel *>("lblHint");
             const QString refused = "A szám túl nagy.\nMegengedett: 1\u00a0–\u00a032767";
@@ -96,7 +96,7 @@ private slots:
     void presetsAreOfferedBesideTyping()
     {
         const auto press = [](Qt::Key key) {
-            return Act([=](NumberBox &box) {
+            return Act([=](frmValue &box) {
                 QTest::keyClick(box.focusWidget(), key);
                 type(box, "\r");
             });
@@ -105,7 +105,7 @@ private slots:
             {typed("\r"), {2.5}}, {press(Qt::Key_Down), {3.5}}, {press(Qt::Key_Up), {1.8}},
             {typed("2,75\r"), {2.75}}, {typed("2.75 mm\r"), {2.75}}, {typed("3\r"), {3}}};
         for (const auto &[act, answer] : rows) {
-            const auto watch = whileModal<NumberBox>(act);
+            const auto watch = whileModal<frmValue>(act);
             QCOMPARE(answered(letterSize()), answer);
         }
     }
@@ -126,7 +126,7 @@ private slots:
     }
     void aProposalOutOfBoundsIsShownAndRefused()
     {
-        const auto watch = whileModal<NumberBox>([](NumberBox &box) {
+        const auto watch = whileModal<frmValue>([](frmValue &box) {
             QCOMPARE(line(box, 0).text(), "32768");
             type(box, "\r");
             QVERIFY(box.isVisible());
@@ -137,5 +137,5 @@ private slots:
         QCOMPARE(answered(question), Answer({32767, 1}));
     }
 };
-QVDC_TEST(tst_NumberBox)
-#include "tst_NumberBox.moc"
+QVDC_TEST(tst_frmValue)
+#include "tst_frmValue.moc"

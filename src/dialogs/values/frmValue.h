@@ -8,10 +8,10 @@ namespace QV_DOC_CONTROLS {
 class NumberEntry;
 
 /// One or two numbers, each with its label, bounds and unit; confirmed only when all can be taken.
-class NumberBox final : public ValueBox {
+class frmValue final : public ValueBox {
     Q_OBJECT
 public:
-    NumberBox(const NumberQuestion &, QWidget *owner);
+    frmValue(const NumberQuestion &, QWidget *owner);
     std::vector<double> numbers() const;        ///< as typed; valid once confirmed
     void accept() override;
 
