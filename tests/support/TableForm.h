@@ -7,6 +7,8 @@
 
 #include "support/QtClasses.h"
 
+#include <QAbstractItemView>
+
 #include <cstring>
 
 namespace tests {
