@@ -136,6 +136,16 @@ private slots:
                 click(f, "cmdOk");
             },
             {}, "1 A Egy 5 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0, 31 N Egy 5 16 1", "Egy Kettő");
+        row(
+            "what an element uses stays, and the rest goes",
+            [=](frmSupSid &f) {
+                m_form->doc->addElements({{{.kind = refhost::ElementKind::Symbol, .sidId = 1}}});
+                f.lvSids->report()->selectAll();
+                QTest::keyClick(f.lvSids->report(), Qt::Key_Delete);
+                click(f, "cmdOk");
+            },
+            {tests::warned("Jelkulcs típus törlése", "A(z) 'A' nevű jelkulcs típus nem törölhető!")},
+            "1 A Egy 5 16 0, 30 C Kettő 5 16 0", "Egy Kettő");
     }
     void commandsOfTheManager()
     {
@@ -150,6 +160,42 @@ private slots:
         QCOMPARE(m_form->symbols(), symbols);
         QCOMPARE(m_form->groups(), groups);
         QVERIFY(!m_form->isSpanOpen());
+    }
+
+    void allCharactersOfAFontBecomeSymbols()
+    {
+        const tests::StrokeFontHost host;
+        const tests::FixedFonts picker;
+        m_form->open(
+            MODE_EDIT,
+            [](frmSupSid &f) {
+                const auto user = whileModal<frmChooseList>([](frmChooseList &c) {
+                    QVERIFY(c.lstKh->item(0)->text().startsWith(QStringLiteral("Minden karakter")));
+                    c.lstKh->setCurrentRow(0);
+                    c.cmdOk->click();
+                });
+                run(f, "cmdSid_OpenFont25");
+                click(f, "cmdOk");
+            },
+            1);
+        const tSid added = m_form->doc->symbols().readAll().back();
+        QVERIFY(added.ShortName == QStringLiteral("N") && added.Code == 'N' && added.Facename == host.name());
+        QVERIFY(added.Align == 24 && added.DspZoom == 10 && added.YwFact == 1 && added.XwFact == 1);
+    }
+
+    void groupsStayWhenTheirSymbolsCannotBeRead()
+    {
+        tests::FaultyDoc faulty(*m_form->doc);
+        const ScriptedPrompts user{{told(
+            "Csoport törlése", "Nem  sikerült lekérdezni a jelkulcs típusokat!", Icon::Critical)}};
+        const Act act = [&](frmSupSid &f) {
+            faulty.log.failNext = QStringLiteral("symbols.readAll");
+            run(f, "cmdGroup_Remove");
+            click(f, "cmdOk");
+        };
+        qint16 id = 1;
+        m_form->open(faulty, MODE_EDIT, act, id);
+        QCOMPARE(m_form->groups(), QStringLiteral("Egy Kettő"));
     }
 
     void symbolsAreDraggedToAGroup_data()

@@ -198,11 +198,16 @@ private slots:
                 QCOMPARE(hint.text(), QStringLiteral(" Válassz jelkulcsot! "));
                 QVERIFY(!child<QPushButton>(f, "cmdOk").isEnabled());
                 QHeaderView &header = *f.lvSids->report()->header();
-                const QPointF name(header.sectionViewportPosition(2) + 4, 4);
-                QMouseEvent over(QEvent::MouseMove, name, header.viewport()->mapToGlobal(name), Qt::NoButton,
-                                 Qt::NoButton, {});
-                QApplication::sendEvent(header.viewport(), &over);
-                QCOMPARE(hint.text(), QStringLiteral(" Nagyság "));
+                QStringList hints;
+                for (int c = 0; c < header.count(); ++c) {
+                    const QPointF over(header.sectionViewportPosition(c) + 4, 4);
+                    QMouseEvent move(QEvent::MouseMove, over, header.viewport()->mapToGlobal(over),
+                                     Qt::NoButton, Qt::NoButton, {});
+                    QApplication::sendEvent(header.viewport(), &move);
+                    hints << hint.text();
+                }
+                QCOMPARE(hints, (QStringList{" Sorszám ", " Név ", " Nagyság ", " Vonalvastagság ",
+                                             " TrueType/ZOL-2.5 font ", " Karakterkészlet ", " Cél réteg "}));
                 run(f, "cmdByGroups");
                 select(f, 2);
                 for (const char *order : {"A B C", "C B A"}) {
