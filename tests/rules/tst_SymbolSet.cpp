@@ -79,6 +79,7 @@ private slots:
             {"Code", [](tSid &s) { s.Code = 65535; }},
             {"ShortName", [](tSid &s) { s.ShortName = QString(51, u'x'); }},
             {"FullName", [](tSid &s) { s.FullName = QString(301, u'x'); }},
+            {"Facename", [](tSid &s) { s.Facename = QChar(0xd800); }}, // half a letter
             {"ProtXmm", [](tSid &s) { s.ProtXmm = qInf(); }}};
         for (const auto &[field, change] : rows) {
             tSid symbols[] = {symbol(), symbol()};

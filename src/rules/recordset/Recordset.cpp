@@ -173,6 +173,7 @@ bool Recordset::setText(int row, int field, QStringView value)
 {
     const RecordsetField &f = m_fields[size_t(field)];
     if ((f.maxLength >= 0 && value.size() > f.maxLength) || !hasRoomFor(value.size())) return false;
+    if (!value.isValidUtf16()) return false;
     keepSource(row, field, value);
     return true;
 }

@@ -82,7 +82,8 @@ public:
     Recordset withoutRows() const;              ///< the same columns
     int addRow(RowState state);       ///< without values; returns its index
     void setNull(int row, int field); ///< said explicitly, as an edited value is
-    // Each false = the column cannot hold it (too long, out of range, not finite); nothing changes then.
+    // Each false = the column cannot hold it (too long, half a letter, out of range, not finite); nothing
+    // changes then.
     bool setText(int row, int field, QStringView value);
     bool setInteger(int row, int field, qint64 value);
     bool setReal(int row, int field, double value);
