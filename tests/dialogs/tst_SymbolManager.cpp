@@ -138,7 +138,7 @@ private slots:
             {}, "1 A Egy 5 16 0, 2 B Egy 5 16 0, 30 C Kettő 5 16 0, 31 N Egy 5 16 1", "Egy Kettő");
         row(
             "what an element uses stays, and the rest goes",
-            [=](frmSupSid &f) {
+            [this](frmSupSid &f) {
                 m_form->doc->addElements({{{.kind = refhost::ElementKind::Symbol, .sidId = 1}}});
                 f.lvSids->report()->selectAll();
                 QTest::keyClick(f.lvSids->report(), Qt::Key_Delete);

@@ -30,17 +30,9 @@ Step newAsked(const char *preset, const QVariant &name)
             QStringLiteral("Az új jelkulcs típus megnevezése|") + QString::fromUtf8(preset), name};
 }
 Step nameTaken() { return warned("Egyedi név", "Létező jelkulcs név!"); }
-Step sizeAsked(double answer)
+Step numberAsked(const char *title, const char *text, double answer)
 {
-    return {"numbers", QStringLiteral("Betűnagyság"),
-            QStringLiteral("A jelkulcstípus betűnagysága mm-ben|Nagyság=|5"), QVariantList{answer}};
-}
-Step widthAsked(double answer)
-{
-    return {"numbers", QStringLiteral("Vastagság"),
-            QStringLiteral("A jelkulcstípus vonalvastagsága (csak az ZOL-2.5 jelkulcsokra érvényes)"
-                           "|Vastagság=|0.16"),
-            QVariantList{answer}};
+    return {"numbers", QString::fromUtf8(title), QString::fromUtf8(text), QVariantList{answer}};
 }
 Step groupAsked(const char *title, const char *text, const QVariant &name)
 {
@@ -84,9 +76,12 @@ const std::vector<Case> kCases = {
      {newAsked("", "B"), nameTaken(), newAsked("B", "D")},
      "1 A Egy 5 16 0, 2 B Egy 5 16 0, 3 C Kettő 5 16 0, 4 D Kettő 5 16 0"},
     {"new without a name", "miAddNew", "MIND", {}, {newAsked("", " ")}, nullptr},
-    {"size", "cmdSid_Size", "MIND", {1, 3}, {sizeAsked(2.25)},
+    {"size", "cmdSid_Size", "MIND", {1, 3},
+     {numberAsked("Betűnagyság", "A jelkulcstípus betűnagysága mm-ben|Nagyság=|5", 2.25)},
      "1 A Egy 2.25 16 0, 2 B Egy 5 16 0, 3 C Kettő 2.25 16 0"},
-    {"thickness", "cmdSid_Width", "MIND", {2}, {widthAsked(0.29)},
+    {"thickness", "cmdSid_Width", "MIND", {2},
+     {numberAsked("Vastagság", "A jelkulcstípus vonalvastagsága (csak az ZOL-2.5 jelkulcsokra érvényes)"
+                  "|Vastagság=|0.16", 0.29)},
      "1 A Egy 5 16 0, 2 B Egy 5 29 0, 3 C Kettő 5 16 0"},
     {"rename", "cmdSid_Name", "MIND", {1},
      {groupAsked("Jelkulcs típus", "A jelkulcs típus megnevezése|A", "X")},

@@ -89,8 +89,8 @@ public:
     QString filterText() const;
     void setFilterText(const QString &text);
     void focusFilter();
-    void
-    goToFirst(); ///< unless a row is current, makes the first shown one so; many selected hidden rows stay
+    /// Unless a row is current, makes the first shown one so; many selected hidden rows stay.
+    void goToFirst();
     void toggleBandOf(int row); ///< the outermost closed band over the row, else the innermost
     void collapseBandOf(int row); ///< the innermost open band over the row; asked again, the one over that
     bool canCollapseBandOf(int row) const { return openBandOf(row) >= 0; }

@@ -39,6 +39,8 @@ QColor between(QColor a, QColor b, double share)
     return {mixed(a.red(), b.red()), mixed(a.green(), b.green()), mixed(a.blue(), b.blue())};
 }
 
+constexpr int kWriting[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab}; ///< the open cell
+
 /// What an editor begins with: numbers as they are shown, in the user's writing.
 QString textToEdit(const QModelIndex &cell)
 {
@@ -317,9 +319,7 @@ bool GridDelegate::isKeyTaken(QLineEdit &editor, const QKeyEvent &event)
     const bool chooses = key == Qt::Key_Down && event.modifiers() & Qt::AltModifier;
     if (chooses && m_edited.isValid() && m_model.column(m_edited.column())->asks)
         return askInstead(editor), true;
-    const bool leaves = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab ||
-                        key == Qt::Key_Backtab;
-    const auto why = leaves ? refusalOf(editor) : std::nullopt;
+    const auto why = std::ranges::count(kWriting, key) > 0 ? refusalOf(editor) : std::nullopt;
     if (!why) return false;
     const QPointer alive(&editor);
     prompts().tell(*why, &editor);
@@ -332,8 +332,7 @@ bool GridDelegate::isKeyTaken(QLineEdit &editor, const QKeyEvent &event)
 /// Keys walk in a closed list, as far as one likes; Enter, Tab or a pick from the open list writes.
 bool GridDelegate::isKeyTaken(QComboBox &closedList, QKeyEvent &event)
 {
-    constexpr int leaving[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape};
-    if (std::ranges::count(leaving, event.key()) > 0) return false;
+    if (event.key() == Qt::Key_Escape || std::ranges::count(kWriting, event.key()) > 0) return false;
     const QSignalBlocker quiet(closedList);
     closedList.event(&event);
     return true;

@@ -22,10 +22,7 @@ class GridDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 public:
     explicit GridDelegate(const GridModel &model, QObject *parent);
-    void setPictureSize(QSize size)
-    {
-        m_pictureSize = size;
-    } ///< device-independent pixels; empty = a line's height
+    void setPictureSize(QSize size) { m_pictureSize = size; } ///< device-independent; empty = a line's height
     int pictureRoom() const { return m_pictureSize.height() + 3; } ///< height of a cell: a line and an edge
     static int padding(const QFontMetrics &letters) { return letters.horizontalAdvance(u' '); }
     int lineHeight(const QStyleOptionViewItem &option) const;
